@@ -1,0 +1,13 @@
+# Every library that the program links, found once.
+find_package(Qt5 5.15 REQUIRED COMPONENTS Core Gui Widgets Xml Svg X11Extras Multimedia Network LinguistTools)
+if(BUILD_TESTING)
+    find_package(Qt5 5.15 REQUIRED COMPONENTS Test)
+endif()
+find_package(PkgConfig REQUIRED)
+pkg_check_modules(LibConfig REQUIRED IMPORTED_TARGET libconfig)
+pkg_check_modules(FontConfig REQUIRED IMPORTED_TARGET fontconfig)
+pkg_check_modules(FreeType REQUIRED IMPORTED_TARGET freetype2)
+pkg_check_modules(XCursor REQUIRED IMPORTED_TARGET xcursor)
+pkg_check_modules(XFixes REQUIRED IMPORTED_TARGET xfixes)
+pkg_check_modules(X11 REQUIRED IMPORTED_TARGET x11)
+find_path(SIMPLEINI_INCLUDE_DIR SimpleIni.h PATH_SUFFIXES simpleini REQUIRED)

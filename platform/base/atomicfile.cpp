@@ -1,0 +1,232 @@
+#include "platform/base/atomicfile.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QFileInfo>
+#include <QThread>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <sys/xattr.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr int linkLimit = 40; // what the kernel follows, too
+
+QString systemError(int number)
+{
+    return QString::fromLocal8Bit(std::strerror(number));
+}
+
+class Descriptor
+{
+public:
+    explicit Descriptor(int descriptor)
+        : m_descriptor(descriptor)
+    {}
+    ~Descriptor() { close(); }
+    Descriptor(const Descriptor &) = delete;
+    Descriptor &operator=(const Descriptor &) = delete;
+
+    bool isOpen() const { return m_descriptor >= 0; }
+    int get() const { return m_descriptor; }
+    bool close()
+    {
+        const int descriptor = m_descriptor;
+        m_descriptor = -1;
+        return descriptor < 0 || ::close(descriptor) == 0;
+    }
+
+private:
+    int m_descriptor;
+};
+
+bool writeAll(int descriptor, const QByteArray &content)
+{
+    const char *data = content.constData();
+    for (qint64 left = content.size(); left > 0;) {
+        const ssize_t written = ::write(descriptor, data, size_t(left));
+        if (written < 0 && errno == EINTR)
+            continue;
+        if (written < 0)
+            return false;
+        data += written;
+        left -= written;
+    }
+    return true;
+}
+
+void copyExtendedAttributes(int from, int to)
+{
+    const ssize_t size = ::flistxattr(from, nullptr, 0);
+    if (size <= 0)
+        return;
+    QByteArray names(int(size), '\0');
+    names.truncate(int(qMax<ssize_t>(0, ::flistxattr(from, names.data(), size_t(names.size())))));
+    for (const QByteArray &name : names.split('\0')) {
+        const ssize_t length = name.isEmpty() ? -1 : ::fgetxattr(from, name.constData(), nullptr, 0);
+        if (length < 0)
+            continue;
+        QByteArray value(int(length), '\0');
+        if (::fgetxattr(from, name.constData(), value.data(), size_t(length)) == length)
+            ::fsetxattr(to, name.constData(), value.constData(), size_t(length), 0);
+    }
+}
+
+mode_t processUmask()
+{
+    const mode_t mask = ::umask(0);
+    ::umask(mask);
+    return mask;
+}
+
+/// Gives the new file what the old one had. Fails (errno) when the old owner can't be kept.
+bool takeOverAttributes(int newFile, const QByteArray &oldPath, mode_t newFileMode)
+{
+    const Descriptor old(::open(oldPath.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    struct stat status = {};
+    if (!old.isOpen() || ::fstat(old.get(), &status) != 0)
+        return errno == ENOENT && ::fchmod(newFile, newFileMode & ~processUmask()) == 0;
+    copyExtendedAttributes(old.get(), newFile);
+    if (::fchown(newFile, status.st_uid, status.st_gid) != 0
+        && (status.st_uid != ::geteuid() || ::fchown(newFile, uid_t(-1), status.st_gid) != 0)
+        && status.st_uid != ::geteuid())
+        return false;
+    return ::fchmod(newFile, status.st_mode & 07777) == 0;
+}
+
+bool isReplaceable(const QByteArray &path, QString *error)
+{
+    struct stat status = {};
+    if (::stat(path.constData(), &status) != 0) {
+        if (errno == ENOENT)
+            return true;
+        *error = systemError(errno);
+        return false;
+    }
+    if (!S_ISREG(status.st_mode)) {
+        *error = S_ISDIR(status.st_mode) ? systemError(EISDIR) : QStringLiteral("Not a regular file");
+        return false;
+    }
+    // A rename would replace a write-protected file as well; its protection is the user's word.
+    if (::access(path.constData(), W_OK) != 0) {
+        *error = systemError(errno);
+        return false;
+    }
+    return true;
+}
+
+} // namespace
+
+FileContent readRegularFile(const QString &path)
+{
+    FileContent result;
+    const QByteArray name = QFile::encodeName(path);
+    const Descriptor file(::open(name.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
+    struct stat status = {};
+    if (!file.isOpen() && (errno == ENOENT || errno == ENOTDIR))
+        return result;
+    result.state = FileState::Unreadable;
+    if (!file.isOpen() || ::fstat(file.get(), &status) != 0) {
+        result.error = systemError(errno);
+        return result;
+    }
+    if (!S_ISREG(status.st_mode)) {
+        result.error = S_ISDIR(status.st_mode) ? systemError(EISDIR) : QStringLiteral("Not a regular file");
+        return result;
+    }
+    QFile reader;
+    if (!reader.open(file.get(), QIODevice::ReadOnly | QIODevice::Unbuffered)) {
+        result.error = reader.errorString();
+        return result;
+    }
+    result.content = reader.readAll();
+    if (reader.error() != QFileDevice::NoError) {
+        result.error = reader.errorString();
+        result.content.clear();
+        return result;
+    }
+    result.state = FileState::Regular;
+    return result;
+}
+
+QString linkTarget(const QString &path)
+{
+    QString target = path;
+    for (int hops = 0; hops < linkLimit; ++hops) {
+        const QFileInfo info(target);
+        if (!info.isSymLink())
+            return target;
+        target = info.symLinkTarget();
+    }
+    return {};
+}
+
+bool replaceFile(const QString &path, const QByteArray &content, QString *error, unsigned newFileMode)
+{
+    const QString target = linkTarget(path);
+    if (target.isEmpty()) {
+        *error = systemError(ELOOP);
+        return false;
+    }
+    const QByteArray name = QFile::encodeName(target);
+    if (!isReplaceable(name, error))
+        return false;
+    const QString directory = QFileInfo(target).path();
+    if (!QDir().mkpath(directory)) {
+        *error = QStringLiteral("Can't create directory %1").arg(directory);
+        return false;
+    }
+
+    QByteArray temporary = QFile::encodeName(directory) + "/.qaz-XXXXXX";
+    Descriptor file(::mkostemp(temporary.data(), O_CLOEXEC));
+    if (!file.isOpen()) {
+        *error = systemError(errno);
+        return false;
+    }
+    const bool written = writeAll(file.get(), content) && takeOverAttributes(file.get(), name, newFileMode)
+                         && ::fsync(file.get()) == 0 && file.close()
+                         && ::rename(temporary.constData(), name.constData()) == 0;
+    if (!written) {
+        *error = systemError(errno);
+        ::unlink(temporary.constData());
+        return false;
+    }
+    const Descriptor parent(::open(QFile::encodeName(directory).constData(), O_RDONLY | O_CLOEXEC));
+    if (parent.isOpen())
+        ::fsync(parent.get());
+    return true;
+}
+
+DirectoryLock::DirectoryLock(const QString &filePath, int timeoutMs)
+    : m_descriptor(::open(QFile::encodeName(QFileInfo(filePath).path()).constData(),
+                          O_RDONLY | O_DIRECTORY | O_CLOEXEC))
+{
+    if (m_descriptor < 0) {
+        m_error = systemError(errno);
+        return;
+    }
+    QElapsedTimer timer;
+    timer.start();
+    while (::flock(m_descriptor, LOCK_EX | LOCK_NB) != 0) {
+        if ((errno != EWOULDBLOCK && errno != EINTR) || timer.hasExpired(timeoutMs)) {
+            m_error = systemError(errno);
+            return;
+        }
+        QThread::msleep(10);
+    }
+    m_held = true;
+}
+
+DirectoryLock::~DirectoryLock()
+{
+    if (m_descriptor >= 0)
+        ::close(m_descriptor);
+}

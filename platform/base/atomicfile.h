@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+enum class FileState {
+    Missing, ///< nothing stands at the path (or a dangling link does)
+    Regular, ///< a regular file, read completely
+    Unreadable ///< something that is not a regular file, or one that can't be read
+};
+
+/// What stands in a file: the content is only filled for FileState::Regular, the reason only for Unreadable.
+struct FileContent {
+    FileState state = FileState::Missing;
+    QByteArray content;
+    QString error;
+};
+
+/// Reads the whole regular file at \a path. Never blocks on a FIFO or a device.
+FileContent readRegularFile(const QString &path);
+
+/// Replaces \a path by \a content in one step: a temporary file beside it is synced and renamed over it.
+/// A symbolic link is followed, mode, ownership and extended attributes stay, missing directories are made;
+/// a new file gets \a newFileMode less the umask. On failure the old file stands whole, \a error says why.
+[[nodiscard]] bool replaceFile(const QString &path, const QByteArray &content, QString *error,
+                               unsigned newFileMode = 0666);
+
+/// \a path with every symbolic link of its last component followed, also to a file that doesn't exist yet;
+/// empty for a loop of links.
+QString linkTarget(const QString &path);
+
+/// Holds an advisory lock on the directory of a file: programs that read, change and replace files there
+/// take turns. It leaves no lock file behind and ends with the process.
+class DirectoryLock
+{
+public:
+    /// Waits up to \a timeoutMs for the lock on the directory of \a filePath.
+    explicit DirectoryLock(const QString &filePath, int timeoutMs = 10000);
+    ~DirectoryLock();
+    DirectoryLock(const DirectoryLock &) = delete;
+    DirectoryLock &operator=(const DirectoryLock &) = delete;
+
+    /// False when the directory can't be opened or another program kept the lock too long; see error().
+    bool isHeld() const { return m_held; }
+    QString error() const { return m_error; }
+
+private:
+    int m_descriptor = -1;
+    bool m_held = false;
+    QString m_error;
+};

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QString>
+
+/// Copies the file or directory tree at \a path byte for byte to `$XDG_STATE_HOME/qaz/backup/`
+/// (`~/.local/state` when unset), before it is deleted or rewritten in a way that can lose something. The copy
+/// is named by UTC time and file name; `manifest` there has a line for each copy with the original path. The
+/// newest ten copies of each original are kept. Symbolic links inside a tree are copied as links.
+///
+/// Returns the path of the copy, or an empty text when there was nothing to copy or the copy failed. A
+/// failure is one line on standard error; the caller goes on regardless.
+QString backUp(const QString &path);

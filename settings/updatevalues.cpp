@@ -1,0 +1,38 @@
+#include "settings/updatevalues.h"
+
+#include "platform/qazsettings.h"
+#include "settings/textvalues.h"
+#include "settings/wmcommands.h"
+
+namespace {
+
+QString storedText(const QazSettings *store, const QString &key, const QString &defaultText)
+{
+    return store->value(key, defaultText).toString();
+}
+
+bool storeAndAnnounce(QazSettings *store, const QString &key, const QString &text)
+{
+    store->setValue(key, text);
+    sendToWindowManager(updateCommand(key, text));
+    return true;
+}
+
+} // namespace
+
+bool updateBoolValue(QazSettings *store, const QString &key, const QString &defaultText, bool value)
+{
+    return countsAsTrue(storedText(store, key, defaultText)) != value
+           && storeAndAnnounce(store, key, boolText(value));
+}
+
+bool updateIntValue(QazSettings *store, const QString &key, const QString &defaultText, int value)
+{
+    return storedText(store, key, defaultText).toInt() != value
+           && storeAndAnnounce(store, key, QString::number(value));
+}
+
+bool updateStringValue(QazSettings *store, const QString &key, const QString &defaultText, const QString &value)
+{
+    return storedText(store, key, defaultText) != value && storeAndAnnounce(store, key, value);
+}

@@ -1,0 +1,101 @@
+#include "tests/support/temporaryhome.h"
+
+#include <QCryptographicHash>
+#include <QDateTime>
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QFileInfo>
+#include <QSettings>
+
+namespace {
+
+struct Variable {
+    const char *name;
+    const char *place; // below the home; nullptr: unset
+};
+
+constexpr Variable variables[] = {{"HOME", ""},
+                                  {"XDG_CONFIG_HOME", "/.config"},
+                                  {"XDG_DATA_HOME", "/.local/share"},
+                                  {"XDG_CACHE_HOME", "/.cache"},
+                                  {"XDG_STATE_HOME", "/.local/state"},
+                                  {"XDG_DATA_DIRS", "/system/share"},
+                                  {"XDG_CONFIG_DIRS", "/system/xdg"},
+                                  {"QAZ_SESSION", nullptr}};
+
+} // namespace
+
+TemporaryHome::TemporaryHome()
+{
+    if (!m_directory.isValid())
+        qFatal("No temporary home: %s", qPrintable(m_directory.errorString()));
+    for (const Variable &variable : variables) {
+        const QByteArray value = variable.place ? QFile::encodeName(m_directory.path()) + variable.place
+                                                : QByteArray();
+        m_environment.push_back(std::make_unique<ScopedEnvironment>(variable.name, value));
+    }
+    // Qt computes these once per process; a second home must not see the first one's.
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, path(QStringLiteral(".config")));
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, path(QStringLiteral(".config")));
+}
+
+TemporaryHome::~TemporaryHome() = default;
+
+QString TemporaryHome::path(const QString &relative) const
+{
+    return relative.isEmpty() ? m_directory.path() : m_directory.path() + QLatin1Char('/') + relative;
+}
+
+QString TemporaryHome::write(const QString &relative, const QByteArray &content) const
+{
+    const QString name = path(relative);
+    QDir().mkpath(QFileInfo(name).path());
+    QFile file(name);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+        qFatal("Can't write %s", qPrintable(name));
+    return name;
+}
+
+QByteArray TemporaryHome::read(const QString &relative) const
+{
+    QFile file(path(relative));
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    const QByteArray content = file.readAll();
+    return content.isNull() ? QByteArray("") : content;
+}
+
+bool TemporaryHome::exists(const QString &relative) const
+{
+    return QFileInfo::exists(path(relative));
+}
+
+bool TemporaryHome::makeDirectory(const QString &relative) const
+{
+    return QDir().mkpath(path(relative));
+}
+
+QString TemporaryHome::fingerprint() const
+{
+    QStringList lines;
+    QDirIterator files(m_directory.path(), QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
+                       QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        const QFileInfo info(files.next());
+        QString line = info.filePath();
+        if (info.isSymLink())
+            line += QLatin1String(" -> ") + info.symLinkTarget();
+        else if (info.isFile()) {
+            QFile file(info.filePath());
+            QCryptographicHash hash(QCryptographicHash::Sha1);
+            if (file.open(QIODevice::ReadOnly))
+                hash.addData(&file);
+            line += QLatin1Char(' ') + QString::fromLatin1(hash.result().toHex()) + QLatin1Char(' ')
+                    + info.lastModified().toString(Qt::ISODateWithMs);
+        }
+        lines.append(line);
+    }
+    lines.sort();
+    return lines.join(QLatin1Char('\n'));
+}

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QObject>
+#include <QStringList>
+
+#include <memory>
+
+class CommandReceiver;
+struct _XDisplay;
+
+/// The window manager's ears: a real X client, on a connection of its own, that receives commands from the
+/// root window. Construct it before the program sends.
+class WmListener : public QObject
+{
+    Q_OBJECT
+public:
+    explicit WmListener(QObject *parent = nullptr);
+    ~WmListener() override;
+
+    /// All commands that have arrived so far, each with its final newline cut off.
+    QStringList commands();
+    /// The commands that arrived since the last call. Asks the server first, so that every command sent
+    /// before this call by this process, or by one that has ended, is among them.
+    QStringList take();
+
+signals:
+    void commandArrived(const QString &command);
+
+private:
+    void readEvents();
+
+    _XDisplay *m_display;
+    std::unique_ptr<CommandReceiver> m_receiver;
+    QStringList m_commands;
+    int m_taken = 0;
+};
