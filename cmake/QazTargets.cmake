@@ -73,7 +73,7 @@ function(qaz_add_test name)
     add_test(NAME ${name}
         COMMAND ${PROJECT_SOURCE_DIR}/tests/support/with-xvfb $<TARGET_FILE:${name}>)
     set_tests_properties(${name} PROPERTIES TIMEOUT 240 ENVIRONMENT
-        "QAZ_DATA_DIR=${PROJECT_SOURCE_DIR}/data;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/lsan.supp;${arg_EXTRA_ENVIRONMENT}")
+        "QAZ_DATA_DIR=${PROJECT_BINARY_DIR}/share/qaz;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/lsan.supp;${arg_EXTRA_ENVIRONMENT}")
 endfunction()
 
 # qaz_add_benchmark(<name> SOURCES ... DEPENDS ...)

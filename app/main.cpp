@@ -1,0 +1,73 @@
+#include "app/configdialog.h"
+#include "app/myapplication.h"
+#include "app/shutdown.h"
+#include "app/themefile.h"
+#include "platform/qazinit.h"
+#include "resources/registerresources.h"
+
+#include <cstdio>
+#include <cstring>
+
+namespace {
+
+constexpr char version[] = "2.2.5-12";
+constexpr char title[] = "Qaz theme editor";
+constexpr int messageTimeoutMs = 5000;
+
+constexpr Qt::WindowFlags windowFlags = Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint
+                                        | Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint
+                                        | Qt::WindowMaximizeButtonHint | Qt::WindowCloseButtonHint;
+
+/// Qt's X11 plugin would load the GL stack, which this program never uses: half the start-up time.
+void avoidGl()
+{
+    if (!qEnvironmentVariableIsSet("QT_XCB_GL_INTEGRATION"))
+        qputenv("QT_XCB_GL_INTEGRATION", "none");
+}
+
+bool asksForHelp(int argc, char **argv)
+{
+    return argc > 1 && (std::strcmp(argv[1], "--help") == 0 || std::strcmp(argv[1], "-h") == 0);
+}
+
+/// Everything after the check for a running instance; returns the exit status.
+int runEditor(int argc, char **argv)
+{
+    registerResources();
+    qazInit(version, title);
+    if (asksForHelp(argc, argv)) {
+        // Only a catalogue has the whole line: the call's comment is its source.
+        std::puts(
+            qPrintable(QObject::tr("Qaz", "Usage: qaz-admin-theme themefile - open and edit theme file\n")));
+        return 1;
+    }
+    dlg = new ConfigDialog(chooseThemeFile(argc, argv), nullptr, windowFlags);
+    dlg->show();
+    handleTermination();
+    handleLostDisplay();
+    QObject::connect(myApp, &MyApplication::messageReceived, dlg, &ConfigDialog::messageReceived);
+    QObject::connect(myApp, &MyApplication::lastWindowClosed, myApp, &MyApplication::quit);
+    const int result = MyApplication::exec();
+    delete dlg;
+    dlg = nullptr;
+    return result;
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    avoidGl();
+    // Each display has an instance of its own.
+    const QString id = QString::fromLocal8Bit(qgetenv("DISPLAY")) + QLatin1String("qaz-admin-theme");
+    myApp = new MyApplication(id, argc, argv);
+    int result = 0;
+    if (myApp->isRunning())
+        myApp->sendMessage(QStringLiteral("show"), messageTimeoutMs);
+    else
+        result = runEditor(argc, argv);
+    MyApplication *application = myApp;
+    myApp = nullptr;
+    delete application;
+    return result;
+}

@@ -1,0 +1,5 @@
+#include "app/myapplication.h"
+
+MyApplication::MyApplication(const QString &id, int &argc, char **argv)
+    : QtSingleApplication(id, argc, argv)
+{}

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "platform/qtsingleapplication.h"
+
+/// The application object: one running instance for each id.
+class MyApplication : public QtSingleApplication
+{
+    Q_OBJECT
+public:
+    MyApplication(const QString &id, int &argc, char **argv);
+};

@@ -1,0 +1,3 @@
+#include "app/configdialog.h"
+
+void ConfigDialog::restoreSlot() {}

@@ -1,0 +1,30 @@
+#include "app/themefile.h"
+
+#include "platform/qazinit.h"
+#include "settings/directories.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <memory>
+
+namespace {
+
+QString defaultThemeFile()
+{
+    const std::unique_ptr<char[]> suffix(qazSessionConfigSuffix(0));
+    return directoryPath(DirectoryKind::ThemeFile) + QLatin1String("/current.themerc")
+           + QString::fromLocal8Bit(suffix.get());
+}
+
+} // namespace
+
+QString chooseThemeFile(int argc, char **argv)
+{
+    if (argc == 2) {
+        const QFileInfo named(QFile::decodeName(argv[1]));
+        if (named.isFile())
+            return named.absoluteFilePath();
+    }
+    return defaultThemeFile();
+}

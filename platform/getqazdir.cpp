@@ -1,0 +1,81 @@
+#include "platform/getqazdir.h"
+
+#include "platform/dataroot.h"
+
+#include <QDir>
+#include <QFile>
+#include <QMap>
+#include <QX11Info>
+
+#include <cerrno>
+#include <memory>
+
+#include <X11/Xatom.h>
+#include <X11/Xlib.h>
+#include <sys/stat.h>
+
+namespace {
+
+QString renderedWallpapers()
+{
+    const QString path = xdgDirectory("XDG_CACHE_HOME", "/.cache") + QLatin1String("/qaz/wallpapers");
+    if (QDir(path).exists())
+        return path;
+    QDir().mkpath(path.left(path.lastIndexOf(QLatin1Char('/'))));
+    const bool made = ::mkdir(QFile::encodeName(path).constData(), 0700) == 0 || errno == EEXIST;
+    return made && QDir(path).exists() ? path : QString();
+}
+
+/// The number of the current virtual desktop, counted from 1.
+int currentDesktop()
+{
+    if (!QX11Info::isPlatformX11())
+        return 1;
+    Display *display = QX11Info::display();
+    const Atom name = XInternAtom(display, "_NET_CURRENT_DESKTOP", False);
+    Atom type = 0;
+    int format = 0;
+    unsigned long count = 0;
+    unsigned long rest = 0;
+    unsigned char *data = nullptr;
+    if (XGetWindowProperty(display, DefaultRootWindow(display), name, 0, 1, False, XA_CARDINAL, &type,
+                           &format, &count, &rest, &data)
+        != Success)
+        return 1;
+    const std::unique_ptr<unsigned char, int (*)(void *)> owner(data, XFree);
+    // Xlib hands 32-bit items out as longs.
+    return type == XA_CARDINAL && format == 32 && count == 1
+               ? int(*reinterpret_cast<const unsigned long *>(data)) + 1
+               : 1;
+}
+
+QString pathOf(int kind)
+{
+    switch (kind) {
+    case 1:
+        return renderedWallpapers();
+    case 2:
+    case 3:
+        return xdgDirectory("XDG_CONFIG_HOME", "/.config") + QLatin1String("/qaz");
+    case 6:
+        return homeDirectory() + QStringLiteral("/Desktops/Desktop%1").arg(currentDesktop());
+    case 14:
+        return dataRoot() + QLatin1String("/sounds");
+    case 18:
+        return homeDirectory();
+    case 21:
+        return xdgDirectory("XDG_DATA_HOME", "/.local/share") + QLatin1String("/wallpapers");
+    case 27:
+        return dataRoot() + QLatin1String("/themes");
+    default:
+        return {};
+    }
+}
+
+} // namespace
+
+const char *GetQazDir(int kind)
+{
+    static QMap<int, QByteArray> texts;
+    return texts.insert(kind, QFile::encodeName(pathOf(kind))).value().constData();
+}

@@ -1,0 +1,83 @@
+#include "platform/qazinit.h"
+
+#include "platform/dataroot.h"
+#include "platform/getqazdir.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QIcon>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QScreen>
+#include <QTranslator>
+
+#include <algorithm>
+#include <cstring>
+
+#include <sys/stat.h>
+
+namespace {
+
+void installCatalogue(const QString &name, const QString &directory)
+{
+    auto *translator = new QTranslator(QCoreApplication::instance());
+    if (translator->load(QLocale(), name, QStringLiteral("_"), directory))
+        QCoreApplication::installTranslator(translator);
+}
+
+void createPersonalDirectory()
+{
+    const QString path = QString::fromLocal8Bit(GetQazDir(2));
+    QDir().mkpath(QFileInfo(path).path());
+    ::mkdir(QFile::encodeName(path).constData(), 0700);
+}
+
+void useOwnIconsAsFallback()
+{
+    QStringList paths = QIcon::themeSearchPaths();
+    paths.append(dataRoot() + QLatin1String("/icons"));
+    QIcon::setThemeSearchPaths(paths);
+    QIcon::setFallbackThemeName(QStringLiteral("qaz-tirsk"));
+}
+
+} // namespace
+
+bool qazInit(const char *version, const char * /*title*/)
+{
+    createPersonalDirectory();
+    QCoreApplication::setOrganizationName(QStringLiteral("qaz"));
+    QCoreApplication::setApplicationName(QStringLiteral("qaz-admin-theme"));
+    // The title is no display name on purpose: Qt would append it to every window title.
+    QCoreApplication::setApplicationVersion(QString::fromLocal8Bit(version));
+    installCatalogue(QStringLiteral("qtbase"), QLibraryInfo::location(QLibraryInfo::TranslationsPath));
+    installCatalogue(QStringLiteral("qaz-admin-theme"), dataRoot() + QLatin1String("/translations"));
+    useOwnIconsAsFallback();
+    return true;
+}
+
+char *qazSessionConfigSuffix(int kind)
+{
+    const QByteArray session = kind == 0 ? qgetenv("QAZ_SESSION") : QByteArray();
+    const bool isValid = std::all_of(session.cbegin(), session.cend(), [](char c) {
+        return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_'
+               || c == '.' || c == '-';
+    });
+    const QByteArray suffix = isValid && !session.isEmpty() ? '-' + session : QByteArray();
+    auto *text = new char[std::size_t(suffix.size()) + 1];
+    std::memcpy(text, suffix.constData(), std::size_t(suffix.size()) + 1);
+    return text;
+}
+
+bool qazInTabletMode()
+{
+    const QByteArray mode = qgetenv("QAZ_TABLET_MODE");
+    return mode == "1" || mode == "true";
+}
+
+double qazDpiScaled(double length)
+{
+    const QScreen *screen = QGuiApplication::primaryScreen();
+    return screen ? length * screen->logicalDotsPerInch() / 96.0 : length;
+}

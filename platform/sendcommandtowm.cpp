@@ -1,0 +1,59 @@
+#include "platform/sendcommandtowm.h"
+
+#include "platform/base/diagnostics.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include <X11/Xlib.h>
+
+namespace {
+
+constexpr std::size_t messageBytes = 20;
+constexpr std::size_t longestText = 65536;
+
+/// The window that names the sender: never mapped, one for each connection, gone with it.
+Window senderWindow(Display *display)
+{
+    static Display *owner = nullptr;
+    static Window window = 0;
+    if (owner != display) {
+        window = XCreateWindow(display, DefaultRootWindow(display), -10, -10, 1, 1, 0, 0, InputOnly,
+                               CopyFromParent, 0, nullptr);
+        owner = display;
+    }
+    return window;
+}
+
+} // namespace
+
+void SendCommandToWM(Display *display, const char *text)
+{
+    if (!display) {
+        static bool told = false;
+        if (!told)
+            printDiagnostic(QStringLiteral("No X display: the window manager is not told of changes"));
+        told = true;
+        return;
+    }
+    const std::size_t size = std::strlen(text) + 1; // the final NUL travels, too
+    if (size - 1 > longestText) {
+        printDiagnostic(QStringLiteral("A window-manager command of %1 bytes is too long and was not sent")
+                            .arg(size - 1));
+        return;
+    }
+
+    XEvent event = {};
+    event.xclient.type = ClientMessage;
+    event.xclient.window = senderWindow(display);
+    event.xclient.message_type = XInternAtom(display, "_QAZWM_COMMAND_BEGIN", False);
+    event.xclient.format = 8;
+    for (std::size_t sent = 0; sent < size; sent += messageBytes) {
+        std::memset(event.xclient.data.b, 0, messageBytes);
+        std::memcpy(event.xclient.data.b, text + sent, std::min(messageBytes, size - sent));
+        XSendEvent(display, DefaultRootWindow(display), False,
+                   SubstructureRedirectMask | SubstructureNotifyMask, &event);
+        event.xclient.message_type = XInternAtom(display, "_QAZWM_COMMAND", False);
+    }
+    XFlush(display);
+}

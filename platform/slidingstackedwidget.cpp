@@ -1,0 +1,89 @@
+#include "platform/slidingstackedwidget.h"
+
+#include <QParallelAnimationGroup>
+#include <QPropertyAnimation>
+#include <QResizeEvent>
+
+namespace {
+
+constexpr int slideMs = 300;
+
+/// Where the page that comes in starts, seen from its final place.
+QPoint startOffset(int direction, const QSize &size)
+{
+    switch (direction) {
+    case SlidingStackedWidget::RightToLeft:
+        return {size.width(), 0};
+    case SlidingStackedWidget::TopToBottom:
+        return {0, -size.height()};
+    case SlidingStackedWidget::BottomToTop:
+        return {0, size.height()};
+    default:
+        return {-size.width(), 0};
+    }
+}
+
+void addMove(QParallelAnimationGroup *group, QWidget *page, const QPoint &from, const QPoint &to)
+{
+    auto *move = new QPropertyAnimation(page, "pos", group);
+    move->setDuration(slideMs);
+    move->setEasingCurve(QEasingCurve::OutCubic);
+    move->setStartValue(from);
+    move->setEndValue(to);
+    group->addAnimation(move);
+}
+
+} // namespace
+
+SlidingStackedWidget::SlidingStackedWidget(QWidget *parent)
+    : QStackedWidget(parent)
+{}
+
+SlidingStackedWidget::~SlidingStackedWidget() = default;
+
+void SlidingStackedWidget::slideInIdx(int index, int direction)
+{
+    finishSlide();
+    QWidget *incoming = widget(index);
+    QWidget *outgoing = currentWidget();
+    if (!incoming || incoming == outgoing || !isVisible()) {
+        if (incoming)
+            setCurrentIndex(index);
+        emit animationFinished();
+        return;
+    }
+
+    const QPoint place = contentsRect().topLeft();
+    const QPoint offset = startOffset(direction, contentsRect().size());
+    incoming->setGeometry(contentsRect().translated(offset));
+    incoming->show();
+    incoming->raise();
+    m_target = index;
+    m_slide = new QParallelAnimationGroup(this);
+    addMove(m_slide, outgoing, place, place - offset);
+    addMove(m_slide, incoming, place + offset, place);
+    connect(m_slide, &QParallelAnimationGroup::finished, this, &SlidingStackedWidget::finishSlide);
+    m_slide->start();
+}
+
+void SlidingStackedWidget::resizeEvent(QResizeEvent *event)
+{
+    QStackedWidget::resizeEvent(event);
+    // The pages' way no longer fits the new size; the layout puts both in place.
+    finishSlide();
+}
+
+void SlidingStackedWidget::finishSlide()
+{
+    if (!m_slide)
+        return;
+    m_slide->disconnect(this);
+    m_slide->stop();
+    m_slide->deleteLater();
+    m_slide = nullptr;
+    QWidget *outgoing = currentWidget();
+    setCurrentIndex(m_target);
+    currentWidget()->setGeometry(contentsRect());
+    outgoing->setGeometry(contentsRect());
+    emit animationFinished();
+}

@@ -1,0 +1,63 @@
+#include "tests/support/wmlistener.h"
+
+#include "tools/commandreceiver.h"
+
+#include <QSocketNotifier>
+#include <QX11Info>
+
+#include <X11/Xlib.h>
+
+WmListener::WmListener(QObject *parent)
+    : QObject(parent)
+    , m_display(XOpenDisplay(nullptr))
+    , m_receiver(std::make_unique<CommandReceiver>())
+{
+    if (!m_display)
+        qFatal("The test needs an X server");
+    XSelectInput(m_display, DefaultRootWindow(m_display), SubstructureNotifyMask);
+    XSync(m_display, False);
+    auto *notifier = new QSocketNotifier(ConnectionNumber(m_display), QSocketNotifier::Read, this);
+    connect(notifier, &QSocketNotifier::activated, this, &WmListener::readEvents);
+}
+
+WmListener::~WmListener()
+{
+    XCloseDisplay(m_display);
+}
+
+QStringList WmListener::commands()
+{
+    // The server has handled what this process sent before it answers both of these.
+    if (QX11Info::isPlatformX11() && QX11Info::display())
+        XSync(QX11Info::display(), False);
+    XSync(m_display, False);
+    readEvents();
+    return m_commands;
+}
+
+QStringList WmListener::take()
+{
+    const QStringList fresh = commands().mid(m_taken);
+    m_taken = m_commands.size();
+    return fresh;
+}
+
+void WmListener::readEvents()
+{
+    const Atom begin = XInternAtom(m_display, "_QAZWM_COMMAND_BEGIN", False);
+    const Atom next = XInternAtom(m_display, "_QAZWM_COMMAND", False);
+    while (XPending(m_display) > 0) {
+        XEvent event;
+        XNextEvent(m_display, &event);
+        const XClientMessageEvent &message = event.xclient;
+        if (event.type != ClientMessage || (message.message_type != begin && message.message_type != next))
+            continue;
+        QByteArray command = m_receiver->take(message.window, message.message_type == begin, message.data.b);
+        if (command.isNull())
+            continue;
+        if (command.endsWith('\n'))
+            command.chop(1);
+        m_commands.append(QString::fromLocal8Bit(command));
+        emit commandArrived(m_commands.last());
+    }
+}
