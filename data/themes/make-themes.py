@@ -177,7 +177,7 @@ def images(theme):
     bar = theme.frame + theme.title
     cuts = {  # x, y, width, height in the window
         "frameATL": (0, 0, CORNER, bar),
-        "frameA": (96, 0, 16, theme.frame),
+        "frameAT": (96, 0, 16, theme.frame),
         "frameATR": (WIDTH - CORNER, 0, CORNER, bar),
         "frameAL": (0, bar, theme.left, 16),
         "frameAR": (WIDTH - theme.right, bar, theme.right, 16),
