@@ -1,23 +1,173 @@
 #include "pages/effects/effectpage.h"
 
-#include "ui_effectform.h"
+#include "pages/effects/compositesettings.h"
+#include "pages/effects/effectsettings.h"
+#include "pages/effects/mapstyles.h"
+#include "platform/qazsettings.h"
+#include "settings/textvalues.h"
+#include "settings/updatevalues.h"
+#include "settings/waitcursor.h"
+
+#include <QSignalBlocker>
+
+namespace {
+
+constexpr int animatedMapSpeed = 15;
+constexpr int smallestPagingBelt = 2;
+
+// What a setting's text means depends on its widget alone: one overload each for load and save.
+
+void showText(QCheckBox *box, const QString &text)
+{
+    box->setChecked(countsAsTrue(text));
+}
+
+void showText(QSpinBox *box, const QString &text)
+{
+    box->setValue(text.toInt());
+}
+
+void showText(QComboBox *box, const QString &text)
+{
+    box->setCurrentIndex(mapStyleIndex(text));
+}
+
+void updateFrom(QazSettings *settings, const QString &key, const QString &defaultText, const QCheckBox *box)
+{
+    updateBoolValue(settings, key, defaultText, box->isChecked());
+}
+
+void updateFrom(QazSettings *settings, const QString &key, const QString &defaultText, const QSpinBox *box)
+{
+    updateIntValue(settings, key, defaultText, box->value());
+}
+
+void updateFrom(QazSettings *settings, const QString &key, const QString &defaultText, const QComboBox *box)
+{
+    updateStringValue(settings, key, defaultText, mapStyleKeyword(box->currentIndex()));
+}
+
+} // namespace
 
 EffectPage::EffectPage(QWidget *parent)
     : QWidget(parent)
     , m_ui(std::make_unique<Ui::EffectForm>())
 {
     m_ui->setupUi(this);
+    // Menu transparency is loaded and saved, but no window manager of today draws it.
+    m_ui->pseudoTransparencyButtonGroup->hide();
 }
 
 EffectPage::~EffectPage() = default;
 
-bool EffectPage::loadValues(QazSettings * /*settings*/)
+bool EffectPage::loadValues(QazSettings *settings)
 {
+    const WaitCursor waitCursor;
+    {
+        // A repeated load finds the connections made: what it sets is no edit.
+        const QSignalBlocker blocker(this);
+        for (const EffectSetting &setting : effectSettings)
+            loadSetting(settings, setting);
+        loadPaging();
+        const QString thumbnailSize = settings
+                                          ->value(QLatin1String(thumbnailSetting.key),
+                                                  QLatin1String(thumbnailSetting.defaultText))
+                                          .toString();
+        m_ui->thumbCheckBox->setChecked(thumbnailSize.toInt() != 0);
+        showCompositeState(CompositeSettings(settings, &comptonConfigPath).load(compositeState()));
+    }
+    connectEdits();
+    if (m_ui->gradWindowMapStyleComboBox->currentIndex() == 0)
+        m_ui->gradWindowMapSpeedSpinBox->setEnabled(false);
     loaded = true;
     return true;
 }
 
-bool EffectPage::saveValues(QazSettings * /*settings*/)
+bool EffectPage::saveValues(QazSettings *settings)
 {
+    for (const EffectSetting &setting : effectSettings)
+        saveSetting(settings, setting);
+    CompositeSettings(settings, &comptonConfigPath).save(compositeState());
+    if (m_ui->thumbCheckBox->isEnabled())
+        updateIntValue(settings, QLatin1String(thumbnailSetting.key),
+                       QLatin1String(thumbnailSetting.defaultText),
+                       m_ui->thumbCheckBox->isChecked() ? thumbnailSetting.size : 0);
     return true;
+}
+
+void EffectPage::mapAnimationSlot(int index)
+{
+    m_ui->gradWindowMapSpeedSpinBox->setEnabled(index != 0);
+    m_ui->gradWindowMapSpeedSpinBox->setValue(index != 0 ? animatedMapSpeed : 0);
+}
+
+void EffectPage::pagingBeltSlot(bool on)
+{
+    QSpinBox *belt = m_ui->pagingBeltSizeSpinBox;
+    belt->setEnabled(on);
+    if (on && belt->value() == 0)
+        belt->setValue(smallestPagingBelt);
+    else if (!on)
+        belt->setValue(0);
+    for (QSpinBox *box :
+         {m_ui->pagingResistanceSpinBox, m_ui->pagingSpeedSpinBox, m_ui->pagingShiftCursorSpinBox})
+        box->setEnabled(on);
+}
+
+void EffectPage::loadSetting(const QazSettings *settings, const EffectSetting &setting)
+{
+    if (!setting.loadDefault)
+        return;
+    const QString text = settings->value(QLatin1String(setting.key), QLatin1String(setting.loadDefault))
+                             .toString();
+    std::visit([this, &text](auto widget) { showText(m_ui.get()->*widget, text); }, setting.widget);
+}
+
+void EffectPage::saveSetting(QazSettings *settings, const EffectSetting &setting) const
+{
+    const QLatin1String key(setting.key);
+    const QLatin1String defaultText(setting.saveDefault);
+    std::visit([&](auto widget) { updateFrom(settings, key, defaultText, m_ui.get()->*widget); },
+               setting.widget);
+}
+
+void EffectPage::loadPaging()
+{
+    const bool on = m_ui->pagingBeltSizeSpinBox->value() != 0;
+    m_ui->pagingGroupBox->setChecked(on);
+    for (QSpinBox *box : {m_ui->pagingBeltSizeSpinBox, m_ui->pagingResistanceSpinBox,
+                          m_ui->pagingSpeedSpinBox, m_ui->pagingShiftCursorSpinBox})
+        box->setEnabled(on);
+}
+
+CompositeState EffectPage::compositeState() const
+{
+    return {m_ui->compositeGroupBox->isChecked(), m_ui->transparencyCheckBox->isChecked(),
+            m_ui->shadowCheckBox->isChecked()};
+}
+
+void EffectPage::showCompositeState(const CompositeState &state)
+{
+    m_ui->compositeGroupBox->setChecked(state.managerOn);
+    m_ui->transparencyCheckBox->setChecked(state.transparency);
+    m_ui->shadowCheckBox->setChecked(state.shadow);
+}
+
+void EffectPage::connectEdits()
+{
+    // The page is loaded anew after a restore, so every connection is unique.
+    constexpr Qt::ConnectionType unique = Qt::UniqueConnection;
+    for (const QSpinBox *box : findChildren<QSpinBox *>())
+        connect(box, qOverload<int>(&QSpinBox::valueChanged), this, &EffectPage::changedSignal, unique);
+    const QComboBox *style = m_ui->gradWindowMapStyleComboBox;
+    connect(style, &QComboBox::editTextChanged, this, &EffectPage::changedSignal, unique);
+    connect(style, qOverload<int>(&QComboBox::activated), this, &EffectPage::changedSignal, unique);
+    connect(style, qOverload<int>(&QComboBox::activated), this, &EffectPage::mapAnimationSlot, unique);
+    connect(m_ui->smartPlacementCheckBox, &QCheckBox::toggled, this, &EffectPage::changedSignal, unique);
+    for (const QCheckBox *box : {m_ui->opaqueMoveCheckBox, m_ui->opaqueResizeCheckBox,
+                                 m_ui->transparencyCheckBox, m_ui->shadowCheckBox, m_ui->thumbCheckBox})
+        connect(box, &QCheckBox::clicked, this, &EffectPage::changedSignal, unique);
+    connect(m_ui->compositeGroupBox, &QGroupBox::clicked, this, &EffectPage::changedSignal, unique);
+    connect(m_ui->pagingGroupBox, &QGroupBox::toggled, this, &EffectPage::changedSignal, unique);
+    connect(m_ui->pagingGroupBox, &QGroupBox::toggled, this, &EffectPage::pagingBeltSlot, unique);
 }

@@ -1,0 +1,173 @@
+#include "pages/effects/comptonconfig.h"
+
+#include "pages/effects/libconfigtext.h"
+#include "platform/base/atomicfile.h"
+#include "platform/base/chandle.h"
+
+#include <QFileInfo>
+
+#include <cstdio>
+#include <cstdlib>
+#include <memory>
+
+#include <libconfig.h>
+#include <locale.h>
+
+namespace {
+
+// The files in use are a few kilobytes long.
+constexpr int sizeLimit = 1024 * 1024;
+
+/// Numbers have a decimal point in these files, whatever the user's language, until the end of the scope.
+class PointLocale
+{
+public:
+    PointLocale()
+        : m_locale(::newlocale(LC_NUMERIC_MASK, "C", locale_t(nullptr)))
+        , m_before(m_locale ? ::uselocale(m_locale) : locale_t(nullptr))
+    {}
+    ~PointLocale()
+    {
+        if (!m_locale)
+            return;
+        ::uselocale(m_before);
+        ::freelocale(m_locale);
+    }
+    PointLocale(const PointLocale &) = delete;
+    PointLocale &operator=(const PointLocale &) = delete;
+
+private:
+    locale_t m_locale;
+    locale_t m_before;
+};
+
+/// libconfig's tree of a text.
+class ConfigTree
+{
+public:
+    ConfigTree() { ::config_init(&m_config); }
+    ~ConfigTree() { ::config_destroy(&m_config); }
+    ConfigTree(const ConfigTree &) = delete;
+    ConfigTree &operator=(const ConfigTree &) = delete;
+
+    bool read(const QByteArray &text)
+    {
+        const PointLocale locale;
+        return !text.contains('\0') && ::config_read_string(&m_config, text.constData()) == CONFIG_TRUE;
+    }
+
+    std::optional<bool> boolean(const char *name) const
+    {
+        int value = 0;
+        if (::config_lookup_bool(&m_config, name, &value) != CONFIG_TRUE)
+            return {};
+        return value != 0;
+    }
+
+    bool setBoolean(const char *name, bool value)
+    {
+        config_setting_t *root = config_root_setting(&m_config);
+        config_setting_t *setting = ::config_lookup(&m_config, name);
+        if (setting && config_setting_type(setting) != CONFIG_TYPE_BOOL) {
+            ::config_setting_remove(root, name);
+            setting = nullptr;
+        }
+        if (!setting)
+            setting = ::config_setting_add(root, name, CONFIG_TYPE_BOOL);
+        return setting
+               && ::config_setting_set_bool(setting, value ? CONFIG_TRUE : CONFIG_FALSE) == CONFIG_TRUE;
+    }
+
+    /// The whole configuration as libconfig writes it; empty when memory runs out.
+    QByteArray text() const
+    {
+        char *buffer = nullptr;
+        std::size_t size = 0;
+        std::unique_ptr<FILE, Release<std::fclose>> stream(::open_memstream(&buffer, &size));
+        if (!stream)
+            return {};
+        {
+            const PointLocale locale;
+            ::config_write(&m_config, stream.get());
+        }
+        stream.reset(); // fills in buffer and size
+        const std::unique_ptr<char, Release<std::free>> owned(buffer);
+        return QByteArray(owned.get(), int(size));
+    }
+
+private:
+    config_t m_config;
+};
+
+std::optional<QByteArray> expanded(const QByteArray &text, const QString &path)
+{
+    return withIncludes(text, QFileInfo(path).path(), sizeLimit);
+}
+
+bool holds(const ConfigTree &tree, const QMap<QByteArray, bool> &values)
+{
+    for (auto value = values.cbegin(); value != values.cend(); ++value) {
+        if (tree.boolean(value.key().constData()) != value.value())
+            return false;
+    }
+    return true;
+}
+
+} // namespace
+
+ComptonConfig::ComptonConfig(QString path, QByteArray text, QByteArray expanded)
+    : m_path(std::move(path))
+    , m_text(std::move(text))
+    , m_expanded(std::move(expanded))
+{}
+
+std::optional<ComptonConfig> ComptonConfig::read(const QString &path)
+{
+    if (QFileInfo(path).size() > sizeLimit)
+        return {};
+    // Not config_read_file(): it may end the program, or block, on what is no regular file.
+    const FileContent file = readRegularFile(path);
+    if (file.state != FileState::Regular)
+        return {};
+    const std::optional<QByteArray> wholeText = expanded(file.content, path);
+    if (!wholeText || !ConfigTree().read(*wholeText))
+        return {};
+    return ComptonConfig(path, file.content, *wholeText);
+}
+
+std::optional<bool> ComptonConfig::boolean(const char *name) const
+{
+    ConfigTree tree;
+    return tree.read(m_expanded) ? tree.boolean(name) : std::nullopt;
+}
+
+bool ComptonConfig::updateBoolean(const char *name, bool value)
+{
+    if (boolean(name) == value)
+        return false;
+    m_updates.insert(name, value);
+    return true;
+}
+
+bool ComptonConfig::write(QString *error) const
+{
+    QByteArray text = m_text;
+    for (auto update = m_updates.cbegin(); update != m_updates.cend(); ++update)
+        text = withRootBoolean(text, update.key(), update.value());
+    // libconfig has the last word on the edited text.
+    ConfigTree tree;
+    const std::optional<QByteArray> wholeText = expanded(text, m_path);
+    if (wholeText && tree.read(*wholeText) && holds(tree, m_updates))
+        return replaceFile(m_path, text, error);
+
+    ConfigTree whole;
+    bool isSet = whole.read(m_expanded);
+    for (auto update = m_updates.cbegin(); update != m_updates.cend(); ++update)
+        isSet = whole.setBoolean(update.key().constData(), update.value()) && isSet;
+    text = whole.text();
+    if (!isSet || text.isEmpty()) {
+        *error = QStringLiteral("Out of memory");
+        return false;
+    }
+    return replaceFile(m_path, text, error);
+}

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QByteArray>
+#include <QMap>
+#include <QString>
+
+#include <optional>
+
+inline constexpr char comptonTransparency[] = "enable-transparency";
+inline constexpr char comptonShadow[] = "shadow";
+
+/// A compton file. It belongs to the user: an update touches only the values it sets.
+class ComptonConfig
+{
+public:
+    /// Reads the file at \a path with all that it includes; nothing when it can't be read, is no configuration
+    /// or is larger than any configuration can sensibly be.
+    static std::optional<ComptonConfig> read(const QString &path);
+
+    /// The root's boolean \a name; nothing when it is missing or of another type.
+    std::optional<bool> boolean(const char *name) const;
+
+    /// Makes the root's \a name the boolean \a value, whatever type it had. Returns whether it was anything else.
+    bool updateBoolean(const char *name, bool value);
+
+    /// Replaces the file in one step. A setting that stands in an included file can't be changed there, so
+    /// then the whole configuration is written to this file, without the includes.
+    [[nodiscard]] bool write(QString *error) const;
+
+private:
+    ComptonConfig(QString path, QByteArray text, QByteArray expanded);
+
+    QString m_path;
+    QByteArray m_text;
+    QByteArray m_expanded; ///< the text with its includes
+    QMap<QByteArray, bool> m_updates;
+};

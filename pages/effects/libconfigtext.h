@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <optional>
+
+/// \a text with the files of its `@include` lines in their place, relative ones below \a directory. Nothing when
+/// one can't be read, includes nest too deeply, or the whole is longer than \a sizeLimit bytes.
+std::optional<QByteArray> withIncludes(const QByteArray &text, const QString &directory, int sizeLimit);
+
+/// \a text with the value of the root's setting \a name replaced by a boolean, or with such a setting appended
+/// as a line of its own. Every other byte stays, comments included.
+QByteArray withRootBoolean(const QByteArray &text, const QByteArray &name, bool value);
