@@ -15,27 +15,30 @@ if(QAZ_SANITIZE)
 endif()
 add_compile_definitions(QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY QT_NO_FOREACH)
 
-find_program(CCACHE ccache)
-if(CCACHE)
-    set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env
-        CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime ${CCACHE})
-endif()
-
 if(QAZ_PCH)
-    # Parsing Qt's headers is most of the compile time; one precompiled header serves every target.
+    # Parsing Qt's headers is most of the compile time; one precompiled header serves every target. It holds only
+    # what many sources use: each compilation pays for its size. ccache would have to read it whole each time, which
+    # takes longer than what is left to compile.
     file(WRITE ${PROJECT_BINARY_DIR}/pch.cpp.in "// Carries the precompiled header.\n")
     configure_file(${PROJECT_BINARY_DIR}/pch.cpp.in ${PROJECT_BINARY_DIR}/pch.cpp COPYONLY)
     add_library(qaz-pch STATIC ${PROJECT_BINARY_DIR}/pch.cpp)
     set_target_properties(qaz-pch PROPERTIES AUTOMOC OFF AUTOUIC OFF AUTORCC OFF)
     target_link_libraries(qaz-pch PRIVATE Qt5::Widgets)
-    target_compile_options(qaz-pch PUBLIC $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>)
-    target_precompile_headers(qaz-pch PRIVATE <QtWidgets/QtWidgets> <memory> <optional> <vector>)
+    target_precompile_headers(qaz-pch PRIVATE
+        <QApplication> <QCheckBox> <QColor> <QComboBox> <QDialog> <QDir> <QFile> <QFileInfo> <QGridLayout> <QHash>
+        <QIcon> <QImage> <QLabel> <QListWidget> <QMap> <QMessageBox> <QPainter> <QPushButton> <QRegularExpression>
+        <QSettings> <QSpinBox> <QStringList> <QTimer> <QVBoxLayout> <QVariant> <QVector>
+        <memory> <optional> <vector>)
+else()
+    find_program(CCACHE ccache)
+    if(CCACHE)
+        set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
+    endif()
 endif()
 
 function(qaz_configure_target name)
     target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR})
     if(QAZ_PCH)
-        target_compile_options(${name} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>)
         target_precompile_headers(${name} REUSE_FROM qaz-pch)
     endif()
 endfunction()
