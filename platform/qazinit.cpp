@@ -40,6 +40,9 @@ void useOwnIconsAsFallback()
     paths.append(dataRoot() + QLatin1String("/icons"));
     QIcon::setThemeSearchPaths(paths);
     QIcon::setFallbackThemeName(QStringLiteral("qaz-tirsk"));
+    // Without a chosen theme Qt looks every name up in hundreds of directories of "hicolor" first.
+    if (QIcon::themeName() == QLatin1String("hicolor"))
+        QIcon::setThemeName(QIcon::fallbackThemeName());
 }
 
 } // namespace
