@@ -1,23 +1,261 @@
 #include "pages/wallpaper/wallpaperpage.h"
 
+#include "pages/wallpaper/desktopcolor.h"
+#include "pages/wallpaper/desktopwallpapers.h"
+#include "pages/wallpaper/wallpaperpreview.h"
+#include "pages/wallpaper/wallpaperselection.h"
+#include "platform/findwallpaperbyname.h"
+#include "platform/qazfiledialog.h"
+#include "platform/qazsettings.h"
+#include "settings/updatevalues.h"
+#include "settings/waitcursor.h"
 #include "ui_wallpaperform.h"
+
+#include <QColorDialog>
+#include <QCompleter>
+#include <QDirModel>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QScreen>
+#include <QUrl>
+
+namespace {
+
+struct Setting {
+    QLatin1String key;
+    QLatin1String defaultText;
+};
+constexpr Setting wallpaperSetting = {QLatin1String("WallPaper"), QLatin1String("qaz-default")};
+constexpr Setting positionSetting = {QLatin1String("WallPaperPos"), QLatin1String("Stretch")};
+constexpr Setting periodSetting = {QLatin1String("WallPaperPeriod"), QLatin1String("0")};
+constexpr Setting desktopColorSetting = {QLatin1String("DesktopColor"), QLatin1String("blue")};
+
+constexpr int pathBufferSize = 4096;
+constexpr char convertCommand[] = "qaz-svg2png -w %d -h %d -i \"%s\" -o \"%s\"";
+
+QString storedText(const QazSettings *settings, const Setting &setting)
+{
+    return settings->value(setting.key, QString(setting.defaultText)).toString();
+}
+
+/// Completes typed paths. The model belongs to the completer.
+QCompleter *createPathCompleter(QObject *parent)
+{
+    auto *completer = new QCompleter(parent);
+    QT_WARNING_PUSH
+    QT_WARNING_DISABLE_DEPRECATED // its successor lists directories later than the completer asks for them
+        completer->setModel(new QDirModel(completer));
+    QT_WARNING_POP
+    return completer;
+}
+
+} // namespace
 
 WallpaperPage::WallpaperPage(QWidget *parent)
     : QWidget(parent)
     , m_ui(std::make_unique<Ui::WallpaperForm>())
 {
     m_ui->setupUi(this);
+    m_ui->wallpaperLineEdit->setCompleter(createPathCompleter(this));
+    m_ui->wallpaperLineEdit->setClearButtonEnabled(true);
 }
 
 WallpaperPage::~WallpaperPage() = default;
 
-bool WallpaperPage::loadValues(QazSettings * /*settings*/)
+bool WallpaperPage::loadValues(QazSettings *settings)
 {
+    const WaitCursor waitCursor;
+    const QString desktopWallpaper = currentDesktopWallpaper();
+    if (desktopWallpaper.isEmpty())
+        loadGlobalValues(settings);
+    else
+        loadDesktopValues(desktopWallpaper);
+    const QString shown = m_ui->wallpaperLineEdit->text();
+    // A global colour is not the page's yet: the preview adopts it.
+    m_color = !desktopWallpaper.isEmpty() && isColorText(shown)
+                  ? QColor(shown)
+                  : desktopColor(storedText(settings, desktopColorSetting));
+    connectWidgets();
+    slotWallpaperType();
     loaded = true;
     return true;
 }
 
-bool WallpaperPage::saveValues(QazSettings * /*settings*/)
+void WallpaperPage::loadDesktopValues(const QString &wallpaper)
 {
+    m_ui->wallpaperLineEdit->setText(QString(wallpaper).remove(QLatin1Char('"')));
+    m_ui->wallpaperForCurrDesktopCheckBox->setChecked(true);
+    m_ui->wallpaperPositionCombo->setCurrentIndex(int(Fit::Stretch));
+    m_ui->wallpaperPositionCombo->setEnabled(false);
+    m_ui->SlideShowSpinBox->setValue(0);
+    m_ui->SlideShowSpinBox->setEnabled(false);
+}
+
+void WallpaperPage::loadGlobalValues(const QazSettings *settings)
+{
+    m_ui->wallpaperLineEdit->setText(storedText(settings, wallpaperSetting));
+    m_ui->wallpaperPositionCombo->setCurrentIndex(int(fitFromWord(storedText(settings, positionSetting))));
+    m_ui->SlideShowSpinBox->setValue(storedText(settings, periodSetting).toInt());
+}
+
+void WallpaperPage::connectWidgets()
+{
+    // Loading may run again, so each connection is unique.
+    const auto unique = Qt::UniqueConnection;
+    QLineEdit *lineEdit = m_ui->wallpaperLineEdit;
+    QComboBox *combo = m_ui->wallpaperPositionCombo;
+    QCheckBox *checkBox = m_ui->wallpaperForCurrDesktopCheckBox;
+    const auto activated = qOverload<int>(&QComboBox::activated);
+    connect(m_ui->SlideShowSpinBox, qOverload<int>(&QSpinBox::valueChanged), this,
+            &WallpaperPage::changedSignal, unique);
+    connect(lineEdit, &QLineEdit::textChanged, this, &WallpaperPage::changedSignal, unique);
+    connect(combo, activated, this, &WallpaperPage::changedSignal, unique);
+    connect(checkBox, &QCheckBox::clicked, this, &WallpaperPage::changedSignal, unique);
+    connect(m_ui->wallpaperSelectionBtn, &QPushButton::clicked, this, &WallpaperPage::selectWallpaperFile,
+            unique);
+    connect(m_ui->colorSelectionButton, &QPushButton::clicked, this, &WallpaperPage::selectWallpaperColor,
+            unique);
+    connect(lineEdit, &QLineEdit::textChanged, this, &WallpaperPage::selectWallpaper, unique);
+    connect(combo, activated, this, &WallpaperPage::slotWallpaperType, unique);
+    m_ui->wallpaperPixmapLabel->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(m_ui->wallpaperPixmapLabel, &QWidget::customContextMenuRequested, this,
+            &WallpaperPage::clickFileButton, unique);
+    connect(checkBox, &QCheckBox::stateChanged, this, &WallpaperPage::slotCurrDesktop, unique);
+}
+
+bool WallpaperPage::saveValues(QazSettings *settings)
+{
+    const QString text = m_ui->wallpaperLineEdit->text();
+    const QString wallpaper = text.isEmpty() ? m_color.name() : text;
+    if (m_ui->wallpaperForCurrDesktopCheckBox->isChecked()) {
+        setCurrentDesktopWallpaper(wallpaper);
+        return true;
+    }
+    // No desktop keeps a wallpaper of its own over the new one of all.
+    removeDesktopWallpapers();
+    const auto fit = Fit(m_ui->wallpaperPositionCombo->currentIndex());
+    updateStringValue(settings, wallpaperSetting.key, wallpaperSetting.defaultText, wallpaper);
+    updateStringValue(settings, positionSetting.key, positionSetting.defaultText, wordFromFit(fit));
+    updateIntValue(settings, periodSetting.key, periodSetting.defaultText, m_ui->SlideShowSpinBox->value());
     return true;
+}
+
+void WallpaperPage::selectWallpaperFile()
+{
+    QazFileDialog dialog(
+        this, tr("Select wallpaper image file"),
+        selectionStart(m_ui->wallpaperLineEdit->text(), screenSize()),
+        tr("Images (*.png *.xpm *.jpg *.jpeg *.svg *.svgz *.PNG *.XPM *.JPG *.JPEG *.SVG *.SVGZ)"));
+    QList<QUrl> places = dialog.sidebarUrls();
+    places += QUrl::fromLocalFile(QStringLiteral("/usr/share/wallpapers"));
+    dialog.setSidebarUrls(places);
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return;
+    QString file = dialog.selectedFiles().constFirst();
+    if (needsConversion(file))
+        file = convertedFile(file);
+    if (!file.isEmpty() && QFileInfo::exists(file))
+        m_ui->wallpaperLineEdit->setText(file);
+}
+
+/// The PNG made of the SVG \a file; empty when the user declines.
+QString WallpaperPage::convertedFile(const QString &file)
+{
+    if (!asks(tr("File conversion"),
+              tr("Selected file '%1' is in svg format\nWould you like to convert it to png now?")
+                  .arg(QFileInfo(file).completeBaseName())))
+        return {};
+    const QString target = conversionTarget(file, screenSize());
+    if (QFileInfo::exists(target)
+        && !asks(tr("File exists"),
+                 tr("File '%1' already exists\nWould you like to rewrite it now?").arg(target)))
+        return {};
+    const WaitCursor waitCursor;
+    convertSvg(file, target, screenSize());
+    return target;
+}
+
+bool WallpaperPage::asks(const QString &title, const QString &question)
+{
+    QMessageBox box(QMessageBox::Question, title, question, QMessageBox::Yes | QMessageBox::No, this);
+    box.setTextFormat(Qt::PlainText); // a file name may look like markup
+    return box.exec() == QMessageBox::Yes;
+}
+
+void WallpaperPage::selectWallpaperColor()
+{
+    const QColor color = QColorDialog::getColor(m_color, this, QString());
+    if (!color.isValid())
+        return;
+    m_color = color;
+    m_ui->wallpaperLineEdit->setText(color.name());
+}
+
+void WallpaperPage::selectWallpaper(const QString &text)
+{
+    if (isColorText(text))
+        adoptColor(text);
+    const QColor fill = m_color.isValid() ? m_color : QColor(Qt::black);
+    const auto fit = Fit(m_ui->wallpaperPositionCombo->currentIndex());
+    const QImage image = wallpaperImage(text);
+    const QImage preview = drawPreview(image, fit, fill, m_ui->wallpaperPixmapLabel->contentsRect().size(),
+                                       screenSize());
+    m_preview = QPixmap::fromImage(preview);
+    m_ui->wallpaperPixmapLabel->setPixmap(m_preview);
+    if (image.isNull())
+        return;
+    // Writing takes longer than all the rest: the user sees the picture first.
+    m_ui->wallpaperPixmapLabel->repaint();
+    writePreview(previewPath(m_ui->wallpaperPositionCombo->currentText(), fill, text), preview);
+}
+
+/// A colour that can't be read is replaced by the page's in the line edit, which draws the preview again.
+void WallpaperPage::adoptColor(const QString &text)
+{
+    const QColor color(text);
+    if (color.isValid())
+        m_color = color;
+    else
+        m_ui->wallpaperLineEdit->setText(m_color.name());
+}
+
+/// The image that \a text means, as a file or as a wallpaper's name; null for a colour and when there is none.
+QImage WallpaperPage::wallpaperImage(const QString &text)
+{
+    if (text.isEmpty() || isColorText(text))
+        return {};
+    const QImage image = m_image.load(text);
+    if (!image.isNull())
+        return image;
+    char found[pathBufferSize] = "";
+    const QSize screen = screenSize();
+    FindWallPaperByName(text.toLocal8Bit().constData(), found, screen.width(), screen.height(),
+                        convertCommand);
+    return found[0] ? m_image.load(QFile::decodeName(found)) : QImage();
+}
+
+QSize WallpaperPage::screenSize() const
+{
+    return screen()->geometry().size();
+}
+
+void WallpaperPage::slotWallpaperType()
+{
+    selectWallpaper(m_ui->wallpaperLineEdit->text());
+}
+
+void WallpaperPage::slotCurrDesktop(int state)
+{
+    m_ui->wallpaperPositionCombo->setEnabled(state == Qt::Unchecked);
+    m_ui->SlideShowSpinBox->setEnabled(state == Qt::Unchecked);
+}
+
+void WallpaperPage::clearWallpaper()
+{
+    m_ui->wallpaperLineEdit->clear();
+}
+
+void WallpaperPage::clickFileButton()
+{
+    emit m_ui->wallpaperSelectionBtn->clicked();
 }

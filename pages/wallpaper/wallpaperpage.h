@@ -1,5 +1,9 @@
 #pragma once
 
+#include "pages/wallpaper/wallpaperimage.h"
+
+#include <QColor>
+#include <QPixmap>
 #include <QWidget>
 
 #include <memory>
@@ -10,6 +14,8 @@ namespace Ui {
 class WallpaperForm;
 }
 
+/// Edits the desktop's background: an image or a colour, how the image is fitted to the screen and the interval of the
+/// slide show, for the whole desktop or for the current virtual desktop only.
 class WallpaperPage : public QWidget
 {
     Q_OBJECT
@@ -23,9 +29,36 @@ signals:
     void changedSignal();
 
 public slots:
+    /// Lets the user choose an image file; an SVG is converted to a PNG of the screen's size first.
+    void selectWallpaperFile();
+    void selectWallpaperColor();
+    /// Draws the preview of \a text: a path, a wallpaper name or a colour "#RRGGBB", which becomes the page's.
+    void selectWallpaper(const QString &text);
+    /// Draws the preview again.
+    void slotWallpaperType();
+    /// Position and slide show belong to all desktops: they are enabled only when \a state is 0 (unchecked).
+    void slotCurrDesktop(int state);
+    void clearWallpaper();
+    /// Fills the form; always true. \a settings stays the caller's and is not kept.
     bool loadValues(QazSettings *settings);
+    /// Stores and announces what changed; always true.
     bool saveValues(QazSettings *settings);
 
 private:
+    void loadDesktopValues(const QString &wallpaper);
+    void loadGlobalValues(const QazSettings *settings);
+    void connectWidgets();
+    void clickFileButton();
+    QString convertedFile(const QString &file);
+    bool asks(const QString &title, const QString &question);
+    void adoptColor(const QString &text);
+    QImage wallpaperImage(const QString &text);
+    QSize screenSize() const;
+
     std::unique_ptr<Ui::WallpaperForm> m_ui;
+    QPixmap m_preview;
+    QPixmap m_sparePreview; // these two are part of the page's state, but nothing reads them
+    QColor m_spareColor;
+    QColor m_color;
+    WallpaperImage m_image;
 };

@@ -1,0 +1,101 @@
+#include "pages/wallpaper/desktopwallpapers.h"
+
+#include "platform/base/atomicfile.h"
+#include "platform/base/desktopentrytext.h"
+#include "platform/base/diagnostics.h"
+#include "platform/qazdesktopentry.h"
+#include "settings/backup.h"
+#include "settings/directories.h"
+#include "settings/wmcommands.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTextCodec>
+
+#define SI_NO_CONVERSION // only the 8-bit class is used; the others need a file that Debian does not ship
+#include <SimpleIni.h>
+
+namespace {
+
+constexpr int bufferSize = 4096;
+constexpr char wallpaperKey[] = "X-QAZ-WallPaper";
+constexpr char section[] = "Desktop Entry";
+const QLatin1String entryFileName("/.directory");
+
+QByteArray currentDesktopFile()
+{
+    return QFile::encodeName(directoryPath(DirectoryKind::CurrentDesktop) + entryFileName);
+}
+
+/// Whether a reader of INI files finds the key. Spaces round "=", one value a key, one line a value.
+bool holdsWallpaper(const QByteArray &content)
+{
+    CSimpleIniCaseA ini(true, false, false);
+    ini.SetSpaces(true);
+    return ini.LoadData(content.constData(), std::size_t(content.size())) >= 0
+           && ini.Delete(section, wallpaperKey, false);
+}
+
+void removeWallpaperFrom(const QString &path)
+{
+    const DirectoryLock lock(path);
+    const FileContent file = readRegularFile(path);
+    if (file.state != FileState::Regular || !holdsWallpaper(file.content))
+        return;
+    // SimpleIni's own writer would drop blank lines and reorder comments, so only the key's lines are cut out.
+    DesktopEntryText text(file.content);
+    if (!text.removeKey(wallpaperKey))
+        return;
+    backUp(path);
+    QString error;
+    if (!replaceFile(path, text.content(), &error))
+        printDiagnostic(QStringLiteral("Can't write %1: %2").arg(path, error));
+}
+
+} // namespace
+
+QString currentDesktopWallpaper()
+{
+    QazDesktopEntry entry(currentDesktopFile().constData());
+    const char *stored = entry.load() ? entry.getUnknownValue(wallpaperKey) : nullptr;
+    return QString::fromLocal8Bit(stored);
+}
+
+void setCurrentDesktopWallpaper(const QString &wallpaper)
+{
+    const QByteArray path = currentDesktopFile();
+    QazDesktopEntry entry(path.constData());
+    if (!entry.load())
+        return;
+    // An unquoted "#" would begin a comment.
+    const QString stored = wallpaper.startsWith(QLatin1Char('#'))
+                               ? QLatin1Char('"') + wallpaper + QLatin1Char('"')
+                               : wallpaper;
+    const QByteArray value = stored.toLocal8Bit();
+    if (value.size() >= bufferSize || value.contains('\n') || value.contains('\r')) {
+        printDiagnostic(
+            QStringLiteral("Can't store the wallpaper in %1: its name is too long or has a line break")
+                .arg(QFile::decodeName(path)));
+        return;
+    }
+    List<char> keys;
+    List<char> values;
+    keys.append(wallpaperKey);
+    values.append(value.constData());
+    entry.setUnknowns(keys, values);
+    entry.save(0);
+    sendToWindowManager(updateCommand(QStringLiteral("WallPaperLocal"), stored));
+}
+
+void removeDesktopWallpapers()
+{
+    if (!QTextCodec::codecForName("UTF-8"))
+        return;
+    const QDir desktops(directoryPath(DirectoryKind::Home) + QLatin1String("/Desktops"));
+    const QStringList names = desktops.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Unsorted);
+    for (const QString &name : names) {
+        // Not a name filter: that would not tell "Desktop1" from "desktop1".
+        if (name.startsWith(QLatin1String("Desktop")))
+            removeWallpaperFrom(desktops.absolutePath() + QLatin1Char('/') + name + entryFileName);
+    }
+}

@@ -1,0 +1,98 @@
+#include "pages/wallpaper/wallpaperimage.h"
+
+#include <QFile>
+#include <QImageReader>
+
+#include <cstring>
+
+#include <sys/stat.h>
+
+namespace {
+
+constexpr qint64 largestPixelCount = 256 * 1024 * 1024 / 4;
+
+constexpr uchar startOfImage = 0xD8, endOfImage = 0xD9, startOfScan = 0xDA, temporary = 0x01;
+
+bool isStandaloneMarker(uchar marker)
+{
+    return marker == temporary || (marker >= 0xD0 && marker <= startOfImage);
+}
+
+/// Whether the stream has its end marker. The decoder takes a cut-off file for a grey picture.
+/// Segments (which may hold thumbnails with end markers of their own) are stepped over.
+bool isWholeJpeg(const uchar *data, qint64 size)
+{
+    for (qint64 i = 2; i + 1 < size;) {
+        const void *found = std::memchr(data + i, 0xFF, size_t(size - i - 1));
+        if (!found)
+            return false;
+        i = static_cast<const uchar *>(found) - data;
+        const uchar marker = data[i + 1];
+        if (marker == endOfImage)
+            return true;
+        if (marker == 0xFF) {
+            ++i;
+            continue;
+        }
+        i += 2;
+        // A zero byte marks a 0xFF of the compressed data, which has no length either.
+        if (marker != 0 && !isStandaloneMarker(marker) && i + 1 < size)
+            i += data[i] << 8 | data[i + 1];
+    }
+    return false;
+}
+
+bool isCutOff(const QString &path, const QByteArray &format)
+{
+    if (format != "jpeg" && format != "jpg")
+        return false;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return true;
+    const uchar *data = file.map(0, file.size());
+    return !data || !isWholeJpeg(data, file.size());
+}
+
+bool fileStatus(const QString &path, struct stat *status)
+{
+    return ::stat(QFile::encodeName(path).constData(), status) == 0 && S_ISREG(status->st_mode);
+}
+
+template<typename T>
+QByteArray bytesOf(const T &value)
+{
+    return QByteArray(reinterpret_cast<const char *>(&value), sizeof value);
+}
+
+} // namespace
+
+QImage readImage(const QString &path)
+{
+    struct stat status = {};
+    if (!fileStatus(path, &status))
+        return {};
+    QImageReader reader(path);
+    const QSize size = reader.size();
+    const bool isSizeKnown = reader.supportsOption(QImageIOHandler::Size);
+    if (isSizeKnown && (size.isEmpty() || qint64(size.width()) * size.height() > largestPixelCount))
+        return {};
+    QImage image;
+    if (!reader.read(&image) || isCutOff(path, reader.format()))
+        return {};
+    return image;
+}
+
+QImage WallpaperImage::load(const QString &path)
+{
+    struct stat status = {};
+    if (!fileStatus(path, &status))
+        return {};
+    const QByteArray key = QFile::encodeName(path) + '\0' + bytesOf(status.st_dev) + bytesOf(status.st_ino)
+                           + bytesOf(status.st_size) + bytesOf(status.st_mtim);
+    if (key != m_key) {
+        m_image = QImage(); // freed before the next one is decoded
+        m_image = readImage(path);
+        m_key = key;
+    }
+    return m_image;
+}

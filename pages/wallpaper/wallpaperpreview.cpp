@@ -1,0 +1,112 @@
+#include "pages/wallpaper/wallpaperpreview.h"
+
+#include "settings/directories.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QPainter>
+#include <QTemporaryFile>
+
+#include <cstdio>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr int margin = 10; // of the label, in both directions
+constexpr const char *fitWords[] = {"Center", "Tile", "Stretch"};
+
+QSize scaledSize(const QSize &image, const QSize &label, const QSize &screen)
+{
+    const auto scaled = [](int length, int shown, int real) {
+        return int(qint64(length) * shown / qMax(1, real));
+    };
+    return {scaled(image.width(), label.width(), screen.width()),
+            scaled(image.height(), label.height(), screen.height())};
+}
+
+QImage fastScaled(const QImage &image, const QSize &size)
+{
+    return image.scaled(size, Qt::IgnoreAspectRatio, Qt::FastTransformation);
+}
+
+bool mayReplace(const QByteArray &path)
+{
+    struct stat status = {};
+    if (::lstat(path.constData(), &status) != 0)
+        return true;
+    return S_ISREG(status.st_mode) && status.st_uid == ::geteuid();
+}
+
+} // namespace
+
+QString wordFromFit(Fit fit)
+{
+    return QLatin1String(fitWords[int(fit)]);
+}
+
+Fit fitFromWord(const QString &word)
+{
+    for (Fit fit : {Fit::Tile, Fit::Stretch}) {
+        if (word == QLatin1String(fitWords[int(fit)]))
+            return fit;
+    }
+    return Fit::Center;
+}
+
+bool isColorText(const QString &text)
+{
+    return text.startsWith(QLatin1Char('#'));
+}
+
+QImage drawPreview(const QImage &image, Fit fit, const QColor &fill, const QSize &labelSize,
+                   const QSize &screenSize)
+{
+    const QSize canvasSize = (labelSize - QSize(margin, margin)).expandedTo(QSize(1, 1));
+    if (!image.isNull() && fit == Fit::Stretch)
+        return fastScaled(image, canvasSize);
+
+    QImage canvas(canvasSize, QImage::Format_RGB32);
+    canvas.fill(fill);
+    if (image.isNull())
+        return canvas;
+    QPainter painter(&canvas);
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    QSize size = scaledSize(image.size(), labelSize, screenSize);
+    if (fit == Fit::Tile) {
+        // A pattern of a few pixels scales to nothing, and steps of nothing would never reach the end.
+        size = size.expandedTo(QSize(1, 1));
+        const QImage tile = fastScaled(image, size);
+        for (int x = 0; x < canvas.width(); x += size.width()) {
+            for (int y = 0; y < canvas.height(); y += size.height())
+                painter.drawImage(x, y, tile);
+        }
+    } else if (!size.isEmpty()) {
+        painter.drawImage((canvas.width() - size.width()) / 2, (canvas.height() - size.height()) / 2,
+                          fastScaled(image, size));
+    }
+    return canvas;
+}
+
+QString previewPath(const QString &position, const QColor &fill, const QString &text)
+{
+    const QString cache = directoryPath(DirectoryKind::RenderedWallpapers);
+    return QStringLiteral("%1/%2_%3_%4.png")
+        .arg(cache.isEmpty() ? QStringLiteral("/tmp") : cache, position, fill.name(),
+             QFileInfo(text).fileName());
+}
+
+bool writePreview(const QString &path, const QImage &preview)
+{
+    const QByteArray target = QFile::encodeName(path);
+    if (!mayReplace(target))
+        return false;
+    QTemporaryFile file(QFileInfo(path).path() + QLatin1String("/.qaz-preview-XXXXXX"));
+    if (!file.open() || !preview.save(&file, "PNG") || !file.flush())
+        return false;
+    if (std::rename(QFile::encodeName(file.fileName()).constData(), target.constData()) != 0)
+        return false;
+    file.setAutoRemove(false);
+    return true;
+}

@@ -1,0 +1,77 @@
+#include "pages/wallpaper/wallpaperselection.h"
+
+#include "platform/base/atomicfile.h"
+#include "platform/wallpapersizeforscreen.h"
+#include "settings/backup.h"
+#include "settings/directories.h"
+
+#include <QBuffer>
+#include <QDir>
+#include <QFileInfo>
+#include <QImage>
+#include <QPainter>
+#include <QSvgRenderer>
+
+namespace {
+
+const QLatin1String systemWallpapers("/usr/share/wallpapers");
+
+QString directoryName(int width, QChar separator, int height)
+{
+    return QLatin1Char('/') + QString::number(width) + separator + QString::number(height);
+}
+
+} // namespace
+
+QString selectionStart(const QString &text, const QSize &screenSize)
+{
+    int standardWidth = 0, standardHeight = 0, ratioWidth = 0, ratioHeight = 0;
+    WallpaperSizeForScreen(screenSize.width(), screenSize.height(), &standardWidth, &standardHeight,
+                           &ratioWidth, &ratioHeight);
+    const QString own = directoryPath(DirectoryKind::Wallpapers);
+    const QString screen = directoryName(screenSize.width(), QLatin1Char('x'), screenSize.height());
+    const QString places[] = {
+        // best first
+        text,
+        own + screen,
+        systemWallpapers + screen,
+        systemWallpapers + directoryName(standardWidth, QLatin1Char('x'), standardHeight),
+        systemWallpapers + directoryName(ratioWidth, QLatin1Char(':'), ratioHeight),
+        systemWallpapers,
+        own};
+    for (const QString &place : places) {
+        if (!place.isEmpty() && QFileInfo::exists(place))
+            return place;
+    }
+    return QDir::homePath();
+}
+
+bool needsConversion(const QString &path)
+{
+    return path.endsWith(QLatin1String(".svg")) || path.endsWith(QLatin1String(".svgz"));
+}
+
+QString conversionTarget(const QString &path, const QSize &screenSize)
+{
+    const QString own = directoryPath(DirectoryKind::Wallpapers);
+    return (own.isEmpty() ? QDir::homePath() : own)
+           + directoryName(screenSize.width(), QLatin1Char('x'), screenSize.height()) + QLatin1Char('/')
+           + QFileInfo(path).baseName() + QLatin1String(".png");
+}
+
+bool convertSvg(const QString &source, const QString &target, const QSize &size)
+{
+    QImage picture(size, QImage::Format_RGB32);
+    picture.fill(Qt::white);
+    QSvgRenderer renderer;
+    if (renderer.load(readRegularFile(source).content)) {
+        QPainter painter(&picture);
+        renderer.render(&painter);
+    }
+    QByteArray png;
+    QBuffer buffer(&png);
+    backUp(target);
+    QString error;
+    return buffer.open(QIODevice::WriteOnly) && picture.save(&buffer, "PNG")
+           && replaceFile(target, png, &error);
+}

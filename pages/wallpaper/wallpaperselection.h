@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QSize>
+#include <QString>
+
+/// Where the dialog that chooses a wallpaper starts: the file of \a text if it exists, else the best of the wallpaper
+/// directories that exist for a screen of \a screenSize, else the home directory.
+QString selectionStart(const QString &text, const QSize &screenSize);
+
+/// Whether the file is converted before it is used. Upper-case endings are taken as they are.
+bool needsConversion(const QString &path);
+
+/// The PNG that the SVG file \a path is converted to, in the user's wallpaper directory for \a screenSize.
+QString conversionTarget(const QString &path, const QSize &screenSize);
+
+/// Renders the SVG file \a source over all of a white picture of \a size and writes it to \a target, with the missing
+/// directories. A file that stood there is backed up. Returns whether the file was written.
+bool convertSvg(const QString &source, const QString &target, const QSize &size);
