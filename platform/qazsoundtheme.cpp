@@ -1,0 +1,266 @@
+#include "platform/qazsoundtheme.h"
+
+#include "platform/base/atomicfile.h"
+#include "platform/indextheme.h"
+#include "platform/sounddirectories.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QMap>
+#include <QSet>
+#include <QVector>
+
+#include <cstring>
+#include <optional>
+
+namespace {
+
+constexpr int soundBufferSize = 4096;
+constexpr QLatin1String themeGroup("Sound Theme");
+constexpr QLatin1String defaultProfile("stereo");
+
+/// What one theme's index says, and where the theme's directories are.
+struct ThemeIndex {
+    QString directory;      // holds the index
+    QStringList placements; // the theme's directory in each base directory that has one
+    QString shownName;
+    QStringList parents;
+    QMap<QString, QStringList> directoriesOfProfile;
+};
+
+QString indexPath(const QString &baseDirectory, const QString &themeName)
+{
+    return baseDirectory + QLatin1Char('/') + themeName + QLatin1String("/index.theme");
+}
+
+bool isThemeName(const QString &name)
+{
+    return !name.isEmpty() && !name.startsWith(QLatin1Char('.')) && !name.contains(QLatin1Char('/'));
+}
+
+QString localisedName(const QHash<QString, QString> &group)
+{
+    for (const QString &locale : localeVariants({})) {
+        const QString key = locale.isEmpty() ? QStringLiteral("Name")
+                                             : QStringLiteral("Name[%1]").arg(locale);
+        if (const QString name = group.value(key); !name.isEmpty())
+            return name;
+    }
+    return {};
+}
+
+void readIndex(const IndexThemeGroups &groups, ThemeIndex *index)
+{
+    const QHash<QString, QString> group = groups.value(themeGroup);
+    index->shownName = localisedName(group);
+    index->parents = indexThemeList(group.value(QStringLiteral("Inherits")));
+    for (const QString &directory : indexThemeList(group.value(QStringLiteral("Directories")))) {
+        const QString profile = groups.value(directory).value(QStringLiteral("OutputProfile"));
+        index->directoriesOfProfile[profile].append(directory);
+    }
+}
+
+/// The index of the theme \a name as the first of \a baseDirectories that has one gives it.
+std::optional<ThemeIndex> loadIndex(const QString &name, const QStringList &baseDirectories)
+{
+    ThemeIndex index;
+    if (!isThemeName(name))
+        return std::nullopt;
+    for (const QString &base : baseDirectories) {
+        const QString placement = base + QLatin1Char('/') + name;
+        if (!QFileInfo(placement).isDir())
+            continue;
+        index.placements.append(placement);
+        if (!index.directory.isEmpty())
+            continue;
+        const FileContent file = readRegularFile(indexPath(base, name));
+        if (file.state == FileState::Missing)
+            continue;
+        index.directory = placement;
+        readIndex(parseIndexTheme(file.content), &index);
+    }
+    if (index.directoriesOfProfile.isEmpty() && index.parents.isEmpty())
+        return std::nullopt;
+    return index;
+}
+
+bool isHidden(const QString &indexFile)
+{
+    const QByteArray content = readRegularFile(indexFile).content;
+    if (!content.contains("Hidden"))
+        return false;
+    const QHash<QString, QString> group = parseIndexTheme(content).value(themeGroup);
+    return group.value(QStringLiteral("Hidden")) == QLatin1String("true");
+}
+
+} // namespace
+
+class QazSoundTheme::Private
+{
+public:
+    QString findSound(const QString &name, const QString &profile, const QString &locale);
+
+    QByteArray themeName;
+    QByteArray shownName;
+    QByteArray path;
+    QStringList baseDirectories;
+    QVector<ThemeIndex> chain; // the theme itself, then those it inherits from; empty unless loaded
+
+    void loadChain();
+
+private:
+    std::optional<SoundCandidate> findInTheme(const ThemeIndex &theme, const QString &name,
+                                              const QStringList &profiles, const QStringList &locales);
+    std::optional<SoundCandidate> findBest(const QString &placement, const QStringList &directories,
+                                           const QString &locale, const QString &name);
+
+    SoundDirectoryCache m_cache;
+};
+
+void QazSoundTheme::Private::loadChain()
+{
+    chain.clear();
+    QSet<QString> seen;
+    // The standard's order: each parent is followed by its own parents; the common theme stands behind all.
+    QStringList waiting{QString::fromLocal8Bit(themeName), QStringLiteral("freedesktop")};
+    while (!waiting.isEmpty()) {
+        const QString name = waiting.takeFirst();
+        if (seen.contains(name))
+            continue;
+        seen.insert(name);
+        const std::optional<ThemeIndex> index = loadIndex(name, baseDirectories);
+        if (!index && chain.isEmpty())
+            return;
+        if (!index)
+            continue;
+        chain.append(*index);
+        waiting = index->parents + waiting;
+    }
+}
+
+std::optional<SoundCandidate> QazSoundTheme::Private::findBest(const QString &placement,
+                                                               const QStringList &directories,
+                                                               const QString &locale, const QString &name)
+{
+    std::optional<SoundCandidate> best;
+    for (const QString &directory : directories) {
+        QString path = QDir::cleanPath(placement + QLatin1Char('/') + directory);
+        if (!locale.isEmpty())
+            path += QLatin1Char('/') + locale;
+        const std::optional<SoundCandidate> candidate = m_cache.find(path, name);
+        if (candidate && (!best || candidate->rank < best->rank))
+            best = candidate;
+    }
+    return best;
+}
+
+std::optional<SoundCandidate> QazSoundTheme::Private::findInTheme(const ThemeIndex &theme,
+                                                                  const QString &name,
+                                                                  const QStringList &profiles,
+                                                                  const QStringList &locales)
+{
+    for (const QString &profile : profiles) {
+        const QStringList directories = theme.directoriesOfProfile.value(profile);
+        for (const QString &locale : locales) {
+            for (const QString &placement : theme.placements) {
+                if (const auto found = findBest(placement, directories, locale, name))
+                    return found;
+            }
+        }
+    }
+    return std::nullopt;
+}
+
+QString QazSoundTheme::Private::findSound(const QString &name, const QString &profile, const QString &locale)
+{
+    QStringList profiles{profile, defaultProfile, QString()};
+    if (profile.isEmpty())
+        profiles.removeFirst();
+    const QStringList locales = localeVariants(locale);
+    std::optional<SoundCandidate> found;
+    for (const ThemeIndex &theme : qAsConst(chain)) {
+        // Dashes separate levels of detail; a theme's own general sound fits better than another theme's special one.
+        QString level = name;
+        do {
+            found = findInTheme(theme, level, profiles, locales);
+            level.truncate(level.lastIndexOf(QLatin1Char('-')));
+        } while (!found && !level.isEmpty());
+        if (found)
+            break;
+    }
+    for (int i = 0; !found && i < baseDirectories.size(); ++i)
+        found = m_cache.find(baseDirectories.at(i), name); // sounds of no theme
+    return found && found->rank != SoundCandidate::Disabled ? found->path : QString();
+}
+
+QazSoundTheme::QazSoundTheme(const char *themeName, const char *firstDirectory)
+    : d(std::make_unique<Private>())
+{
+    d->themeName = themeName;
+    d->shownName = themeName;
+    d->baseDirectories = soundBaseDirectories();
+    if (firstDirectory)
+        d->baseDirectories.prepend(QFile::decodeName(firstDirectory));
+}
+
+QazSoundTheme::~QazSoundTheme() = default;
+
+bool QazSoundTheme::getThemesNames(List<char> *names)
+{
+    QMap<QString, QString> indexOfTheme;
+    for (const QString &base : soundBaseDirectories()) {
+        for (const QString &name : QDir(base).entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+            const QString index = indexPath(base, name);
+            if (!indexOfTheme.contains(name) && QFileInfo::exists(index))
+                indexOfTheme.insert(name, index);
+        }
+    }
+    bool any = false;
+    for (auto theme = indexOfTheme.cbegin(); theme != indexOfTheme.cend(); ++theme) {
+        if (isHidden(theme.value()))
+            continue;
+        names->append(theme.key().toLocal8Bit().constData());
+        any = true;
+    }
+    return any;
+}
+
+bool QazSoundTheme::load()
+{
+    d->loadChain();
+    if (d->chain.isEmpty())
+        return false;
+    const ThemeIndex &own = d->chain.constFirst();
+    d->path = QFile::encodeName(own.directory);
+    if (!own.shownName.isEmpty())
+        d->shownName = own.shownName.toLocal8Bit();
+    return true;
+}
+
+bool QazSoundTheme::getSound(const char *name, const char *profile, const char *locale, char *buffer)
+{
+    if (d->chain.isEmpty())
+        return false;
+    const QByteArray path = QFile::encodeName(d->findSound(
+        QString::fromLocal8Bit(name), QString::fromLocal8Bit(profile), QString::fromLocal8Bit(locale)));
+    if (path.isEmpty() || path.size() >= soundBufferSize)
+        return false;
+    std::memcpy(buffer, path.constData(), size_t(path.size()) + 1);
+    return true;
+}
+
+const char *QazSoundTheme::getPath() const
+{
+    return d->path.constData();
+}
+
+const char *QazSoundTheme::getName() const
+{
+    return d->shownName.constData();
+}
+
+const char *QazSoundTheme::getThemeName() const
+{
+    return d->themeName.constData();
+}

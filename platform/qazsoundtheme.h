@@ -1,0 +1,42 @@
+#pragma once
+
+#include "platform/list.h"
+
+#include <memory>
+
+/// A sound theme of the freedesktop sound theme standard, found in `sounds/` of the XDG data directories and in
+/// the desktop's own sounds directory. All texts are in the local 8-bit encoding.
+class QazSoundTheme
+{
+public:
+    /// Names a theme by its directory's name; nothing is read before load(). A \a firstDirectory, unless it is
+    /// null, is searched for themes before all others.
+    explicit QazSoundTheme(const char *themeName, const char *firstDirectory = nullptr);
+    ~QazSoundTheme();
+    QazSoundTheme(const QazSoundTheme &) = delete;
+    QazSoundTheme &operator=(const QazSoundTheme &) = delete;
+
+    /// Appends the names of all installed themes that do not ask to be hidden, sorted and each once. False when
+    /// there is none.
+    static bool getThemesNames(List<char> *names);
+
+    /// Reads the theme and the themes that it inherits from. False when the theme has no index that can be read
+    /// or its index describes no sound theme; such a theme has no sounds.
+    bool load();
+
+    /// Writes the full path of the file for the sound \a name into \a buffer of 4096 bytes. An empty \a profile
+    /// asks for the stereo files, an empty \a locale for the user's. False, with the buffer untouched, when neither
+    /// the theme nor those it inherits from have the sound, or it is disabled there.
+    bool getSound(const char *name, const char *profile, const char *locale, char *buffer);
+
+    /// The directory that holds the theme's index, without a trailing slash; empty before load().
+    const char *getPath() const;
+    /// The name to show, as the theme's index gives it in the user's language; without one, getThemeName().
+    const char *getName() const;
+    /// The name that the theme was constructed with.
+    const char *getThemeName() const;
+
+private:
+    class Private;
+    std::unique_ptr<Private> d;
+};

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QDateTime>
+#include <QHash>
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+/// The directories that hold sound themes, the user's first and the desktop's own last; absolute, each once.
+QStringList soundBaseDirectories();
+
+/// The spellings of a locale that a localised file may stand under, most specific first and the untranslated
+/// place (an empty text) last: "de_AT@euro" gives "de_AT@euro", "de_AT", "de", "C", "". Empty: the user's locale.
+QStringList localeVariants(const QString &locale);
+
+/// The best file that a directory has for a sound.
+struct SoundCandidate {
+    /// Among the files of one name `.wav` is best, then `.au`, `.oga`, `.ogg`, then any other ending. A name with
+    /// a `.disabled` file has no sound, whatever files it has besides.
+    enum Rank { Disabled, Wav, Au, Oga, Ogg, Other };
+
+    Rank rank;
+    QString path;
+};
+
+/// Lists directories of sound files, each once for as long as it does not change.
+class SoundDirectoryCache
+{
+public:
+    /// The best file for the sound \a name in \a directory; nothing without one or without the directory.
+    std::optional<SoundCandidate> find(const QString &directory, const QString &name);
+
+private:
+    struct Listing {
+        QDateTime modified;
+        QHash<QString, SoundCandidate> sounds;
+    };
+
+    QHash<QString, Listing> m_listings;
+};
