@@ -1,15 +1,24 @@
 #pragma once
 
+#include <QMessageBox>
 #include <QWidget>
 
 #include <memory>
+#include <optional>
 
+class QSound;
+class QTreeWidgetItem;
 class QazSettings;
+class QazSoundTheme;
+class SoundPlayer;
+class WaitCursor;
+struct SoundFormats;
 
 namespace Ui {
 class SoundForm;
 }
 
+/// Assigns sounds to the window manager's events, by hand or from a sound theme, and plays them.
 class SoundPage : public QWidget
 {
     Q_OBJECT
@@ -23,9 +32,48 @@ signals:
     void changedSignal();
 
 public slots:
+    /// Fills the form from \a settings, which stays the caller's and is not kept. Always true.
     bool loadValues(QazSettings *settings);
+    /// Stores and announces what changed. Always true.
     bool saveValues(QazSettings *settings);
+    /// Enables the controls that suit the selected row; a sound that plays is stopped.
+    void soundDisabled(bool disabled);
+    void soundEnabled(bool enabled);
+    /// Opens the sound theme at \a index of the combo box and takes its sounds, but keeps the user's own files.
+    void themeSelected(int index);
+    void itemSelected();
+    /// Asks for the selected row's file.
+    void openItem();
+    /// Removes the selected row's assignment.
+    void clearItem();
+    /// Plays the selected row's sound.
+    void playItem();
+    /// Gives the controls back when the player was stopped or has ended.
+    void stopItem();
+    void playStarted();
+    void callMixer();
+    void clearAll();
+    /// Takes the open theme's sounds, or the built-in ones, for all rows.
+    void defaultAll();
 
 private:
+    void createRows();
+    void setUpButtons();
+    void fillThemes(const QazSettings *settings);
+    void connectChanges();
+    void fillSoundFiles(bool fromTheme, bool clear, bool keepUserFiles);
+    void checkWavFormat(const SoundFormats &formats);
+    void openTheme(const QString &name);
+    void convertTheme();
+    void startPlaying(const QString &path);
+    void setPlaying(bool playing);
+    QTreeWidgetItem *selectedItem() const;
+    void showMessage(QMessageBox::Icon icon, const QString &title, const QString &text);
+
     std::unique_ptr<Ui::SoundForm> m_ui;
+    std::unique_ptr<QazSoundTheme> m_theme; // none before the user chooses one
+    std::unique_ptr<SoundPlayer> m_player;
+    std::unique_ptr<QSound> m_sound;
+    std::unique_ptr<WaitCursor> m_startCursor; // until the player has started
+    bool useQSound = false;
 };

@@ -1,0 +1,78 @@
+#pragma once
+
+#include <QCoreApplication>
+#include <QString>
+
+#include <iterator>
+
+class QazSoundTheme;
+
+/// A window-manager event that can have a sound.
+struct SoundEvent {
+    const char *title;       ///< shown, translated in the context "SoundForm"
+    const char *key;         ///< in the theme file
+    const char *themeSound;  ///< the sound's name in sound themes
+    const char *builtInFile; ///< in the sounds directory; empty: no sound without a theme
+};
+
+// clang-format off
+constexpr SoundEvent soundEvents[] = { // in the order of the list, which is the save order
+    {QT_TRANSLATE_NOOP("SoundForm", "Menu Popup"),          "MenuPopupSound",        "menu-popup",              ""},
+    {QT_TRANSLATE_NOOP("SoundForm", "Menu Command"),        "MenuCommandSound",      "item-selected",           ""},
+    {QT_TRANSLATE_NOOP("SoundForm", "Open Window"),         "OpenSound",             "window-new",              ""},
+    {QT_TRANSLATE_NOOP("SoundForm", "Close Window"),        "CloseSound",            "window-close",            ""},
+    {QT_TRANSLATE_NOOP("SoundForm", "Restore Window up"),   "RestoreUpSound",        "window-unminimized",      ""},
+    {QT_TRANSLATE_NOOP("SoundForm", "Restore Window down"), "RestoreDownSound",      "window-unmaximized",      ""},
+    {QT_TRANSLATE_NOOP("SoundForm", "Minimize Window"),     "MinimizeSound",         "window-minimized",        ""},
+    {QT_TRANSLATE_NOOP("SoundForm", "Maximize Window"),     "MaximizeSound",         "window-maximized",        ""},
+    {QT_TRANSLATE_NOOP("SoundForm", "System Start"),        "SystemStartSound",      "desktop-login",           "x-qaz-wm-chimes.wav"},
+    {QT_TRANSLATE_NOOP("SoundForm", "System Exit"),         "SystemExitSound",       "desktop-logout",          "x-qaz-wm-chimes.wav"},
+    {QT_TRANSLATE_NOOP("SoundForm", "System Lock"),         "SystemLockSound",       "desktop-screen-lock",     "x-qaz-wm-chimes.wav"},
+    {QT_TRANSLATE_NOOP("SoundForm", "Error Dialog"),        "ErrorDialogSound",      "dialog-error",            "x-qaz-wm-error.wav"},
+    {QT_TRANSLATE_NOOP("SoundForm", "Forced Tray Message"), "ForceTrayMessageSound", "window-attention-active", "x-qaz-wm-notify.wav"},
+    {QT_TRANSLATE_NOOP("SoundForm", "Paging"),              "PagingSound",           "desktop-switch-left",     "x-qaz-wm-slide.wav"}};
+// clang-format on
+static_assert(std::size(soundEvents) == 14);
+
+/// The form of an event's stored text.
+enum class SoundKind {
+    None,      ///< empty
+    File,      ///< an absolute path: the user's own choice
+    BuiltIn,   ///< a name with a dot: a file in the sounds directory
+    ThemeSound ///< any other text: a sound's name in the current theme
+};
+
+SoundKind soundKind(const QString &value);
+
+/// The default assignment of the event with the settings \a key: its sound in themes or its built-in file. Empty
+/// for an event without one and for an unknown key.
+QString defaultSound(const QString &key, bool fromTheme);
+
+/// The file that \a theme has for a sound; empty without a theme (null) or when it has none.
+QString themeSoundFile(QazSoundTheme *theme, const QString &name);
+
+/// What a theme's files would need before all of them can be played.
+struct SoundFormats {
+    bool ogg = false;    ///< some are ogg files, which can be converted
+    bool nonWav = false; ///< some are neither wav nor au files
+};
+
+/// The default assignment \a name as it can be used: empty when its file doesn't exist. \a theme may be null.
+/// The format of a file that the theme has is marked in \a formats, whether the file exists or not.
+QString usableSound(const QString &name, QazSoundTheme *theme, const QString &soundsDirectory,
+                    SoundFormats *formats);
+
+/// What a play of an assignment takes.
+struct PlayableSound {
+    QString path;
+    bool isPlayable = true; ///< false: the theme's file is no wav file
+};
+
+/// Without a theme (null) the name of a theme's sound stands for a file of the sounds directory.
+PlayableSound playableSound(const QString &value, QazSoundTheme *theme, const QString &soundsDirectory);
+
+/// Where to start choosing a file for an event that has the sound \a value.
+QString startDirectory(const QString &value, bool hasTheme, const QString &soundsDirectory);
+
+/// The assignment for a chosen file: a file in the sounds directory itself is a built-in file.
+QString assignmentForFile(const QString &path, const QString &soundsDirectory);
