@@ -1,0 +1,166 @@
+#include "pages/effects/comptonconfig.h"
+#include "tests/support/temporaryhome.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QtTest>
+
+#include <clocale>
+
+#include <sys/stat.h>
+
+namespace {
+
+/// Sets both values in the file; a text that starts with "!" is the failure.
+QString update(const QString &path, bool transparency, bool shadow)
+{
+    std::optional<ComptonConfig> config = ComptonConfig::read(path);
+    if (!config)
+        return QStringLiteral("!unreadable");
+    const bool transparencyChanged = config->updateBoolean(comptonTransparency, transparency);
+    const bool shadowChanged = config->updateBoolean(comptonShadow, shadow);
+    if (!transparencyChanged && !shadowChanged)
+        return QStringLiteral("unchanged");
+    QString error;
+    return config->write(&error) ? QStringLiteral("changed") : QLatin1Char('!') + error;
+}
+
+std::optional<bool> stored(const QString &path, const char *name)
+{
+    const std::optional<ComptonConfig> config = ComptonConfig::read(path);
+    return config ? config->boolean(name) : std::nullopt;
+}
+
+const QString fileName = QStringLiteral(".config/compton.conf");
+
+} // namespace
+
+class TestComptonConfig : public QObject
+{
+    Q_OBJECT
+private slots:
+    void onlyTheTwoValuesChange_data()
+    {
+        QTest::addColumn<QByteArray>("before");
+        QTest::addColumn<QByteArray>("after"); // with transparency on, shadows off
+        const auto row = [](const char *title, const char *before, const char *after) {
+            QTest::newRow(title) << QByteArray(before) << QByteArray(after);
+        };
+        row("an empty file", "", "enable-transparency = true;\nshadow = false;\n");
+        row("values among comments",
+            "# shadow = true;\nshadow = TRUE; // shadow = true;\n/* shadow\n= 1; */ enable-transparency: false;\n",
+            "# shadow = true;\nshadow = false; // shadow = true;\n/* shadow\n= 1; */ enable-transparency: true;\n");
+        row("no separators, no last newline", "shadow=true enable-transparency=false x=1",
+            "shadow=false enable-transparency=true x=1");
+        row("another setting's name holds ours", "shadow-radius = 7;\nno-shadow = true;",
+            "shadow-radius = 7;\nno-shadow = true;\nenable-transparency = true;\nshadow = false;\n");
+        row("ours inside a group, a list and a string",
+            "w : { shadow = true; };\nl = ( { shadow = true; } );\ns = \"\\\"shadow = true;\" \"shadow = 1\";\n",
+            "w : { shadow = true; };\nl = ( { shadow = true; } );\ns = \"\\\"shadow = true;\" \"shadow = 1\";\n"
+            "enable-transparency = true;\nshadow = false;\n");
+        row("numbers of every form",
+            "a = 0x1F; b = 10L; c = 1.23456789012345678; d = 1e-300; e = .5; f = 99999999999;\r\n"
+            "shadow = false;\r\n",
+            "a = 0x1F; b = 10L; c = 1.23456789012345678; d = 1e-300; e = .5; f = 99999999999;\r\n"
+            "shadow = false;\r\nenable-transparency = true;\r\n");
+        row("values of another type",
+            "shadow = 0;\nenable-transparency = { a = [ 1, 2 ]; };\nz = \"\xfc\";",
+            "shadow = false;\nenable-transparency = true;\nz = \"\xfc\";");
+        row("values of another type, texts", "shadow = \"n\" \"o\";enable-transparency=\"true\"",
+            "shadow = false;enable-transparency=true");
+        row("an open comment at the end", "a = 1.5; /* shadow", "a = 1.5;\nenable-transparency = true;\nshadow = false;\n");
+    }
+    void onlyTheTwoValuesChange()
+    {
+        QFETCH(QByteArray, before);
+        QFETCH(QByteArray, after);
+        const TemporaryHome home;
+        const QString path = home.write(fileName, before);
+        QCOMPARE(update(path, true, false), QStringLiteral("changed"));
+        QCOMPARE(home.read(fileName), after);
+        QCOMPARE(stored(path, comptonTransparency), std::optional<bool>(true));
+        QCOMPARE(stored(path, comptonShadow), std::optional<bool>(false));
+        QCOMPARE(update(path, true, false), QStringLiteral("unchanged"));
+    }
+
+    void includesAreReadAndKept()
+    {
+        const TemporaryHome home;
+        const QByteArray absolute = QFile::encodeName(home.write(QStringLiteral("elsewhere/b.conf"), "b = 2;"));
+        home.write(QStringLiteral(".config/a.conf"), "@include \"deeper.conf\"\na = 1;");
+        home.write(QStringLiteral(".config/deeper.conf"), "deeper-flag = true; # no newline");
+        const QByteArray text = "@include \"a.conf\"\n# @include \"missing\"\n  @include \"" + absolute + "\"\n";
+        const QString path = home.write(fileName, text);
+        QCOMPARE(stored(path, "deeper-flag"), std::optional<bool>(true));
+        QCOMPARE(update(path, false, true), QStringLiteral("changed"));
+        QCOMPARE(home.read(fileName), text + "enable-transparency = false;\nshadow = true;\n");
+    }
+
+    void valueOfAnIncludedFileIsSetInTheFileItself()
+    {
+        const TemporaryHome home;
+        const QByteArray included = "shadow = true; half = 0.5; other = 0xFF;\n";
+        home.write(QStringLiteral(".config/a.conf"), included);
+        const QString path = home.write(fileName, "@include \"a.conf\"\n");
+        // Numbers keep their point also where the language writes a comma, if this machine has such a one.
+        const bool hasComma = std::setlocale(LC_NUMERIC, "de_DE.UTF-8") != nullptr;
+        const QString result = update(path, true, false);
+        if (hasComma)
+            std::setlocale(LC_NUMERIC, "C");
+        QCOMPARE(result, QStringLiteral("changed"));
+        QCOMPARE(home.read(fileName),
+                 QByteArray("shadow = false;\nhalf = 0.5;\nother = 0xFF;\nenable-transparency = true;\n"));
+        QCOMPARE(home.read(QStringLiteral(".config/a.conf")), included);
+    }
+
+    void linkAndModeStay()
+    {
+        const TemporaryHome home;
+        const QString target = home.write(QStringLiteral("dotfiles/compton.conf"), "shadow = true;\n");
+        QFile::setPermissions(target, QFile::ReadOwner | QFile::WriteOwner);
+        home.makeDirectory(QStringLiteral(".config"));
+        QVERIFY(QFile::link(target, home.path(fileName)));
+        QCOMPARE(update(home.path(fileName), true, false), QStringLiteral("changed"));
+        QCOMPARE(QFileInfo(home.path(fileName)).symLinkTarget(), target);
+        QCOMPARE(QFile(target).permissions() & (QFile::ReadGroup | QFile::ReadOther), QFile::Permissions());
+        QCOMPARE(home.read(QStringLiteral("dotfiles/compton.conf")),
+                 QByteArray("shadow = false;\nenable-transparency = true;\n"));
+    }
+
+    void whatIsNoConfigurationIsLeftAlone_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::newRow("garbage") << QByteArray("\x7f" "ELF\x02 =\n");
+        QTest::newRow("an open group") << QByteArray("a : {");
+        QTest::newRow("an open string") << QByteArray("a = \"b\\");
+        QTest::newRow("a NUL byte") << QByteArray("shadow = true;\0", 15);
+        QTest::newRow("one name twice") << QByteArray("a = 1; a = 2;");
+        QTest::newRow("deep nesting") << "a = " + QByteArray(200000, '(');
+        QTest::newRow("huge") << "a = \"" + QByteArray(2 * 1024 * 1024, 'x') + "\";\n";
+        QTest::newRow("it includes a missing file") << QByteArray("@include \"missing.conf\"\n");
+        QTest::newRow("it includes a directory") << QByteArray("@include \".\"\n");
+        QTest::newRow("it includes a device") << QByteArray("@include \"/dev/zero\"\n");
+        QTest::newRow("it includes itself") << QByteArray("@include \"compton.conf\"\n@include \"compton.conf\"\n");
+    }
+    void whatIsNoConfigurationIsLeftAlone()
+    {
+        QFETCH(QByteArray, content);
+        const TemporaryHome home;
+        const QString path = home.write(fileName, content);
+        const QString before = home.fingerprint();
+        QCOMPARE(update(path, true, true), QStringLiteral("!unreadable"));
+        QCOMPARE(home.fingerprint(), before);
+    }
+
+    void whatIsNoRegularFileIsLeftAlone()
+    {
+        const TemporaryHome home;
+        home.makeDirectory(QStringLiteral("directory"));
+        QCOMPARE(::mkfifo(QFile::encodeName(home.path(QStringLiteral("fifo"))).constData(), 0600), 0);
+        for (const char *name : {"missing", "directory", "fifo"})
+            QVERIFY2(!ComptonConfig::read(home.path(QLatin1String(name))), name);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestComptonConfig)
+#include "tst_comptonconfig.moc"

@@ -1,0 +1,134 @@
+#include "platform/findfileinpath.h"
+#include "platform/findinps.h"
+#include "tests/support/environment.h"
+#include "tests/support/spawnedprocess.h"
+#include "tests/support/temporaryhome.h"
+
+#include <QDir>
+#include <QFile>
+#include <QtTest>
+
+#include <climits>
+#include <csignal>
+
+#include <sys/prctl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+
+QString inPath(const QString &name)
+{
+    char buffer[PATH_MAX] = "untouched";
+    const bool found = FindFileInPATH(QFile::encodeName(name).constData(), buffer);
+    return found == (buffer[0] != '\0') ? QFile::decodeName(buffer) : QStringLiteral("contradiction");
+}
+
+} // namespace
+
+class TestFindPrograms : public QObject
+{
+    Q_OBJECT
+private slots:
+    void firstExecutableFileInPathIsFound()
+    {
+        const TemporaryHome home;
+        home.write(QStringLiteral("a/manager"), "not executable");
+        home.makeDirectory(QStringLiteral("b/manager"));
+        const QString program = installWaitingProgram(home.path(QStringLiteral("c d/manager")));
+        installWaitingProgram(home.path(QStringLiteral("e/manager")));
+        const QString path = home.path(QStringLiteral("a:")) + home.path(QStringLiteral("b:"))
+                             + home.path(QStringLiteral("c d:")) + home.path(QStringLiteral("e"));
+        const ScopedEnvironment search("PATH", QFile::encodeName(path));
+        QCOMPARE(inPath(QStringLiteral("manager")), program);
+        QCOMPARE(inPath(QStringLiteral("anager")), QString());
+        QCOMPARE(inPath(QString()), QString());
+        // A name with a slash stands for itself, wherever PATH leads.
+        QCOMPARE(inPath(program), program);
+        QCOMPARE(inPath(home.path(QStringLiteral("a/manager"))), QString());
+        QCOMPARE(inPath(home.path(QStringLiteral("b/manager"))), QString());
+        QCOMPARE(inPath(QLatin1Char('/') + QString(2 * PATH_MAX, QLatin1Char('x'))), QString());
+    }
+
+    void emptyPathElementIsTheCurrentDirectory()
+    {
+        const TemporaryHome home;
+        const QString program = installWaitingProgram(home.path(QStringLiteral("manager")));
+        const QString before = QDir::currentPath();
+        QDir::setCurrent(home.path());
+        const ScopedEnvironment search("PATH", "/nowhere:");
+        const QString found = inPath(QStringLiteral("manager"));
+        QDir::setCurrent(before);
+        QCOMPARE(QFileInfo(found).canonicalFilePath(), QFileInfo(program).canonicalFilePath());
+    }
+
+    void runningProcessIsFoundByName_data()
+    {
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<bool>("found");
+        const QString file = QStringLiteral("qaz-test-manager");
+        const QString wait = QStringLiteral("3600");
+        const auto row = [&](const char *title, const QString &argument0, const QString &name, bool found) {
+            QTest::newRow(title) << file << QStringList{argument0, wait} << name << found;
+        };
+        row("its executable", QStringLiteral("something else"), file, true);
+        row("its argv[0]", QStringLiteral("/opt/x/qaz-test-alias"), QStringLiteral("qaz-test-alias"), true);
+        row("only the end of its name", file, QStringLiteral("test-manager"), false);
+        row("the fifteen characters the kernel keeps", file, QStringLiteral("qaz-test-manage"), false);
+        row("a directory of its path", QStringLiteral("/qaz-test-alias/x"), QStringLiteral("qaz-test-alias"), false);
+        row("an empty name", QString(), QString(), false);
+        row("its argument", file, wait, false);
+        QTest::newRow("a name with blanks and brackets")
+            << QStringLiteral("qaz) Z (test") << QStringList{file, wait} << QStringLiteral("qaz) Z (test") << true;
+    }
+    void runningProcessIsFoundByName()
+    {
+        QFETCH(QString, file);
+        QFETCH(QStringList, arguments);
+        QFETCH(QString, name);
+        QFETCH(bool, found);
+        const TemporaryHome home;
+        const QString program = installWaitingProgram(home.path(file));
+        QVERIFY(!findInPS(QFile::encodeName(name).constData()));
+        const SpawnedProcess process(program, arguments);
+        QCOMPARE(findInPS(QFile::encodeName(name).constData()), found);
+    }
+
+    void replacedProgramRunsOnAndZombieDoesNot()
+    {
+        const TemporaryHome home;
+        const QString program = installWaitingProgram(home.path(QStringLiteral("qaz-test-upgraded")));
+        SpawnedProcess process(program, {QStringLiteral("x"), QStringLiteral("3600")});
+        QVERIFY(QFile::remove(program));
+        QVERIFY(findInPS("qaz-test-upgraded"));
+        process.makeZombie();
+        QVERIFY(!findInPS("qaz-test-upgraded"));
+    }
+
+    void vanishingProcessesDisturbNothing()
+    {
+        const TemporaryHome home;
+        const QString program = installWaitingProgram(home.path(QStringLiteral("qaz-test-steady")));
+        const SpawnedProcess steady(program, {program, QStringLiteral("3600")});
+        const pid_t spawner = ::fork();
+        if (spawner == 0) {
+            ::prctl(PR_SET_PDEATHSIG, SIGKILL); // also when the test itself fails
+            ::signal(SIGCHLD, SIG_IGN); // children go without becoming zombies
+            for (;;) {
+                if (::fork() == 0)
+                    ::_exit(0);
+            }
+        }
+        int seen = 0;
+        for (int i = 0; i < 100; ++i)
+            seen += findInPS("qaz-test-steady") && !findInPS("qaz-test-nobody") ? 1 : 0;
+        ::kill(spawner, SIGKILL);
+        ::waitpid(spawner, nullptr, 0);
+        QCOMPARE(seen, 100);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestFindPrograms)
+#include "tst_findprograms.moc"
