@@ -24,6 +24,17 @@ QString inPath(const QString &name)
     return found == (buffer[0] != '\0') ? QFile::decodeName(buffer) : QStringLiteral("contradiction");
 }
 
+bool isRunning(const QString &name)
+{
+    return findInPS(QFile::encodeName(name).constData());
+}
+
+/// A name that no other run of this test on the same machine has.
+QString unique(const QString &name)
+{
+    return QStringLiteral("%1-%2").arg(name).arg(::getpid());
+}
+
 } // namespace
 
 class TestFindPrograms : public QObject
@@ -68,20 +79,22 @@ private slots:
         QTest::addColumn<QStringList>("arguments");
         QTest::addColumn<QString>("name");
         QTest::addColumn<bool>("found");
-        const QString file = QStringLiteral("qaz-test-manager");
+        const QString file = unique(QStringLiteral("qaz-test-manager"));
+        const QString alias = unique(QStringLiteral("qaz-test-alias"));
         const QString wait = QStringLiteral("3600");
         const auto row = [&](const char *title, const QString &argument0, const QString &name, bool found) {
             QTest::newRow(title) << file << QStringList{argument0, wait} << name << found;
         };
         row("its executable", QStringLiteral("something else"), file, true);
-        row("its argv[0]", QStringLiteral("/opt/x/qaz-test-alias"), QStringLiteral("qaz-test-alias"), true);
-        row("only the end of its name", file, QStringLiteral("test-manager"), false);
-        row("the fifteen characters the kernel keeps", file, QStringLiteral("qaz-test-manage"), false);
-        row("a directory of its path", QStringLiteral("/qaz-test-alias/x"), QStringLiteral("qaz-test-alias"), false);
+        row("its argv[0]", QStringLiteral("/opt/x/") + alias, alias, true);
+        row("only the end of its name", file, file.mid(4), false);
+        row("the fifteen characters the kernel keeps", file, file.left(15), false);
+        row("a directory of its path", QLatin1Char('/') + alias + QLatin1String("/x"), alias, false);
         row("an empty name", QString(), QString(), false);
         row("its argument", file, wait, false);
         QTest::newRow("a name with blanks and brackets")
-            << QStringLiteral("qaz) Z (test") << QStringList{file, wait} << QStringLiteral("qaz) Z (test") << true;
+            << unique(QStringLiteral("qaz) Z (test")) << QStringList{file, wait}
+            << unique(QStringLiteral("qaz) Z (test")) << true;
     }
     void runningProcessIsFoundByName()
     {
@@ -91,31 +104,33 @@ private slots:
         QFETCH(bool, found);
         const TemporaryHome home;
         const QString program = installWaitingProgram(home.path(file));
-        QVERIFY(!findInPS(QFile::encodeName(name).constData()));
+        QVERIFY(!isRunning(name));
         const SpawnedProcess process(program, arguments);
-        QCOMPARE(findInPS(QFile::encodeName(name).constData()), found);
+        QCOMPARE(isRunning(name), found);
     }
 
     void replacedProgramRunsOnAndZombieDoesNot()
     {
         const TemporaryHome home;
-        const QString program = installWaitingProgram(home.path(QStringLiteral("qaz-test-upgraded")));
+        const QString name = unique(QStringLiteral("qaz-test-upgraded"));
+        const QString program = installWaitingProgram(home.path(name));
         SpawnedProcess process(program, {QStringLiteral("x"), QStringLiteral("3600")});
         QVERIFY(QFile::remove(program));
-        QVERIFY(findInPS("qaz-test-upgraded"));
+        QVERIFY(isRunning(name));
         process.makeZombie();
-        QVERIFY(!findInPS("qaz-test-upgraded"));
+        QVERIFY(!isRunning(name));
     }
 
     void vanishingProcessesDisturbNothing()
     {
         const TemporaryHome home;
-        const QString program = installWaitingProgram(home.path(QStringLiteral("qaz-test-steady")));
+        const QString name = unique(QStringLiteral("qaz-test-steady"));
+        const QString program = installWaitingProgram(home.path(name));
         const SpawnedProcess steady(program, {program, QStringLiteral("3600")});
         const pid_t spawner = ::fork();
         if (spawner == 0) {
             ::prctl(PR_SET_PDEATHSIG, SIGKILL); // also when the test itself fails
-            ::signal(SIGCHLD, SIG_IGN); // children go without becoming zombies
+            ::signal(SIGCHLD, SIG_IGN);         // children go without becoming zombies
             for (;;) {
                 if (::fork() == 0)
                     ::_exit(0);
@@ -123,7 +138,7 @@ private slots:
         }
         int seen = 0;
         for (int i = 0; i < 100; ++i)
-            seen += findInPS("qaz-test-steady") && !findInPS("qaz-test-nobody") ? 1 : 0;
+            seen += isRunning(name) && !isRunning(unique(name)) ? 1 : 0;
         ::kill(spawner, SIGKILL);
         ::waitpid(spawner, nullptr, 0);
         QCOMPARE(seen, 100);

@@ -1,8 +1,8 @@
 #include "tests/support/spawnedprocess.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QDir>
 
 #include <csignal>
 #include <vector>
@@ -20,7 +20,8 @@ SpawnedProcess::SpawnedProcess(const QString &program, const QStringList &argume
     for (QByteArray &text : texts)
         argv.push_back(text.data());
     argv.push_back(nullptr);
-    if (posix_spawn(&m_pid, QFile::encodeName(program).constData(), nullptr, nullptr, argv.data(), environ) != 0)
+    if (posix_spawn(&m_pid, QFile::encodeName(program).constData(), nullptr, nullptr, argv.data(), environ)
+        != 0)
         qFatal("Can't start %s", qPrintable(program));
 }
 

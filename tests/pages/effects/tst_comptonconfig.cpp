@@ -48,27 +48,31 @@ private slots:
         };
         row("an empty file", "", "enable-transparency = true;\nshadow = false;\n");
         row("values among comments",
-            "# shadow = true;\nshadow = TRUE; // shadow = true;\n/* shadow\n= 1; */ enable-transparency: false;\n",
-            "# shadow = true;\nshadow = false; // shadow = true;\n/* shadow\n= 1; */ enable-transparency: true;\n");
+            "# shadow = true;\nshadow = TRUE; // shadow = true;\n/* shadow\n= 1; */ enable-transparency: "
+            "false;\n",
+            "# shadow = true;\nshadow = false; // shadow = true;\n/* shadow\n= 1; */ enable-transparency: "
+            "true;\n");
         row("no separators, no last newline", "shadow=true enable-transparency=false x=1",
             "shadow=false enable-transparency=true x=1");
         row("another setting's name holds ours", "shadow-radius = 7;\nno-shadow = true;",
             "shadow-radius = 7;\nno-shadow = true;\nenable-transparency = true;\nshadow = false;\n");
         row("ours inside a group, a list and a string",
-            "w : { shadow = true; };\nl = ( { shadow = true; } );\ns = \"\\\"shadow = true;\" \"shadow = 1\";\n",
-            "w : { shadow = true; };\nl = ( { shadow = true; } );\ns = \"\\\"shadow = true;\" \"shadow = 1\";\n"
+            "w : { shadow = true; };\nl = ( { shadow = true; } );\ns = \"\\\"shadow = true;\" \"shadow = "
+            "1\";\n",
+            "w : { shadow = true; };\nl = ( { shadow = true; } );\ns = \"\\\"shadow = true;\" \"shadow = "
+            "1\";\n"
             "enable-transparency = true;\nshadow = false;\n");
         row("numbers of every form",
             "a = 0x1F; b = 10L; c = 1.23456789012345678; d = 1e-300; e = .5; f = 99999999999;\r\n"
             "shadow = false;\r\n",
             "a = 0x1F; b = 10L; c = 1.23456789012345678; d = 1e-300; e = .5; f = 99999999999;\r\n"
             "shadow = false;\r\nenable-transparency = true;\r\n");
-        row("values of another type",
-            "shadow = 0;\nenable-transparency = { a = [ 1, 2 ]; };\nz = \"\xfc\";",
+        row("values of another type", "shadow = 0;\nenable-transparency = { a = [ 1, 2 ]; };\nz = \"\xfc\";",
             "shadow = false;\nenable-transparency = true;\nz = \"\xfc\";");
         row("values of another type, texts", "shadow = \"n\" \"o\";enable-transparency=\"true\"",
             "shadow = false;enable-transparency=true");
-        row("an open comment at the end", "a = 1.5; /* shadow", "a = 1.5;\nenable-transparency = true;\nshadow = false;\n");
+        row("an open comment at the end", "a = 1.5; /* shadow",
+            "a = 1.5;\nenable-transparency = true;\nshadow = false;\n");
     }
     void onlyTheTwoValuesChange()
     {
@@ -86,10 +90,12 @@ private slots:
     void includesAreReadAndKept()
     {
         const TemporaryHome home;
-        const QByteArray absolute = QFile::encodeName(home.write(QStringLiteral("elsewhere/b.conf"), "b = 2;"));
+        const QByteArray absolute = QFile::encodeName(
+            home.write(QStringLiteral("elsewhere/b.conf"), "b = 2;"));
         home.write(QStringLiteral(".config/a.conf"), "@include \"deeper.conf\"\na = 1;");
         home.write(QStringLiteral(".config/deeper.conf"), "deeper-flag = true; # no newline");
-        const QByteArray text = "@include \"a.conf\"\n# @include \"missing\"\n  @include \"" + absolute + "\"\n";
+        const QByteArray text = "@include \"a.conf\"\n# @include \"missing\"\n  @include \"" + absolute
+                                + "\"\n";
         const QString path = home.write(fileName, text);
         QCOMPARE(stored(path, "deeper-flag"), std::optional<bool>(true));
         QCOMPARE(update(path, false, true), QStringLiteral("changed"));
@@ -130,7 +136,8 @@ private slots:
     void whatIsNoConfigurationIsLeftAlone_data()
     {
         QTest::addColumn<QByteArray>("content");
-        QTest::newRow("garbage") << QByteArray("\x7f" "ELF\x02 =\n");
+        QTest::newRow("garbage") << QByteArray("\x7f"
+                                               "ELF\x02 =\n");
         QTest::newRow("an open group") << QByteArray("a : {");
         QTest::newRow("an open string") << QByteArray("a = \"b\\");
         QTest::newRow("a NUL byte") << QByteArray("shadow = true;\0", 15);
@@ -140,7 +147,8 @@ private slots:
         QTest::newRow("it includes a missing file") << QByteArray("@include \"missing.conf\"\n");
         QTest::newRow("it includes a directory") << QByteArray("@include \".\"\n");
         QTest::newRow("it includes a device") << QByteArray("@include \"/dev/zero\"\n");
-        QTest::newRow("it includes itself") << QByteArray("@include \"compton.conf\"\n@include \"compton.conf\"\n");
+        QTest::newRow("it includes itself")
+            << QByteArray("@include \"compton.conf\"\n@include \"compton.conf\"\n");
     }
     void whatIsNoConfigurationIsLeftAlone()
     {
