@@ -186,8 +186,9 @@ int main(int argc, char **argv)
     std::printf("medians of %d alternating rounds     editor     floor\n", rounds);
     std::printf("exec to painted window          %8.1f  %8.1f ms\n", median(times[0]), median(times[1]));
     std::printf("peak resident memory            %8.1f  %8.1f MB\n", median(memory[0]), median(memory[1]));
-    const bool timeKept = report("start-up, editor over floor", median(times[0]) / median(times[1]), timeLimit, "");
-    const bool memoryKept
-        = report("peak memory, editor over floor", median(memory[0]) / median(memory[1]), memoryLimit, "");
+    const bool timeKept = report("start-up, editor over floor", median(times[0]) / median(times[1]),
+                                 timeLimit, "");
+    const bool memoryKept = report("peak memory, editor over floor", median(memory[0]) / median(memory[1]),
+                                   memoryLimit, "");
     return timeKept && memoryKept ? 0 : 1;
 }
