@@ -1,8 +1,13 @@
 #pragma once
 
+#include "fonts/fontrendering.h"
+
 #include <QDialog>
 
 #include <memory>
+#include <optional>
+
+class KXftConfig;
 
 namespace Ui {
 class FontAASettingsForm;
@@ -34,7 +39,12 @@ public slots:
 
 private:
     bool showsPixels() const;
-    void showExcludeRange(double from, double to);
+    ExcludeRange defaultRange() const;
+    void showExcludeRange(const ExcludeRange &range);
+    /// The range to store; nothing while the file's own range is shown.
+    std::optional<ExcludeRange> editedRange(const KXftConfig &config) const;
+    SubPixelOrder chosenOrder() const;
+    HintStyle chosenHintStyle() const;
     void enableWidgets();
 
     std::unique_ptr<Ui::FontAASettingsForm> m_ui;

@@ -87,21 +87,6 @@ mode_t processUmask()
     return mask;
 }
 
-/// Gives the new file what the old one had. Fails (errno) when the old owner can't be kept.
-bool takeOverAttributes(int newFile, const QByteArray &oldPath, mode_t newFileMode)
-{
-    const Descriptor old(::open(oldPath.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
-    struct stat status = {};
-    if (!old.isOpen() || ::fstat(old.get(), &status) != 0)
-        return errno == ENOENT && ::fchmod(newFile, newFileMode & ~processUmask()) == 0;
-    copyExtendedAttributes(old.get(), newFile);
-    if (::fchown(newFile, status.st_uid, status.st_gid) != 0
-        && (status.st_uid != ::geteuid() || ::fchown(newFile, uid_t(-1), status.st_gid) != 0)
-        && status.st_uid != ::geteuid())
-        return false;
-    return ::fchmod(newFile, status.st_mode & 07777) == 0;
-}
-
 bool isReplaceable(const QByteArray &path, QString *error)
 {
     struct stat status = {};
@@ -124,6 +109,20 @@ bool isReplaceable(const QByteArray &path, QString *error)
 }
 
 } // namespace
+
+bool takeOverAttributes(int newFile, const QByteArray &oldPath, unsigned newFileMode)
+{
+    const Descriptor old(::open(oldPath.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    struct stat status = {};
+    if (!old.isOpen() || ::fstat(old.get(), &status) != 0)
+        return errno == ENOENT && ::fchmod(newFile, newFileMode & ~processUmask()) == 0;
+    copyExtendedAttributes(old.get(), newFile);
+    if (::fchown(newFile, status.st_uid, status.st_gid) != 0
+        && (status.st_uid != ::geteuid() || ::fchown(newFile, uid_t(-1), status.st_gid) != 0)
+        && status.st_uid != ::geteuid())
+        return false;
+    return ::fchmod(newFile, status.st_mode & 07777) == 0;
+}
 
 FileContent readRegularFile(const QString &path)
 {

@@ -25,6 +25,10 @@ FileContent readRegularFile(const QString &path);
 [[nodiscard]] bool replaceFile(const QString &path, const QByteArray &content, QString *error,
                                unsigned newFileMode = 0666);
 
+/// Gives the open file \a newFile the mode, ownership and extended attributes of the file at \a oldPath, or
+/// \a newFileMode less the umask when there is none. False (see errno) when the owner can't be kept.
+[[nodiscard]] bool takeOverAttributes(int newFile, const QByteArray &oldPath, unsigned newFileMode);
+
 /// \a path with every symbolic link of its last component followed, also to a file that doesn't exist yet;
 /// empty for a loop of links.
 QString linkTarget(const QString &path);

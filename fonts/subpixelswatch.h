@@ -1,0 +1,9 @@
+#pragma once
+
+#include "fonts/fontrendering.h"
+
+#include <QPixmap>
+
+/// A picture of one pixel, 12 by 12, that shows where its red, green and blue stripes lie; null for
+/// SubPixelOrder::None.
+QPixmap subPixelSwatch(SubPixelOrder order);
