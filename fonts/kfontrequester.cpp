@@ -1,0 +1,123 @@
+#include "fonts/kfontrequester.h"
+
+#include "fonts/nearestfont.h"
+#include "fonts/previewlabel.h"
+#include "fonts/rolefonttext.h"
+
+#include <QFontDialog>
+#include <QHBoxLayout>
+#include <QPushButton>
+
+class KFontRequesterPrivate : public QObject
+{
+public:
+    KFontRequesterPrivate(KFontRequester *requester, bool onlyFixed)
+        : q(requester)
+        , fixedOnly(onlyFixed)
+    {}
+
+    void buildWidgets();
+    void select(const QFont &font);
+    void displaySampleText();
+    void setToolTips();
+
+    KFontRequester *const q;
+    bool fixedOnly;
+    QLabel *sampleLabel = nullptr;
+    QPushButton *button = nullptr;
+    QString sampleText; // empty: the preview names family and size
+    QString title;
+    QFont selectedFont;
+};
+
+void KFontRequesterPrivate::buildWidgets()
+{
+    auto *layout = new QHBoxLayout(q);
+    layout->setContentsMargins(0, 0, 0, 0);
+    sampleLabel = new PreviewLabel(q);
+    sampleLabel->setObjectName(QStringLiteral("previewLabel"));
+    sampleLabel->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+    button = new QPushButton(KFontRequester::tr("..."), q);
+    button->setObjectName(QStringLiteral("chooseButton"));
+    layout->addWidget(sampleLabel, 1);
+    layout->addWidget(button, 0);
+    q->setFocusProxy(button);
+}
+
+void KFontRequesterPrivate::select(const QFont &font)
+{
+    selectedFont = font;
+    displaySampleText();
+    emit q->fontSelected(selectedFont);
+}
+
+void KFontRequesterPrivate::displaySampleText()
+{
+    sampleLabel->setFont(selectedFont);
+    const int size = selectedFont.pointSize() == -1 ? selectedFont.pixelSize() : selectedFont.pointSize();
+    if (sampleText.isEmpty())
+        sampleLabel->setText(
+            KFontRequester::tr("%1 %2").arg(familyDisplayName(selectedFont.family()), QString::number(size)));
+    else
+        sampleLabel->setText(sampleText);
+}
+
+void KFontRequesterPrivate::setToolTips()
+{
+    button->setToolTip(KFontRequester::tr("Click to select a font"));
+    if (title.isEmpty()) {
+        sampleLabel->setToolTip(KFontRequester::tr("Preview of the selected font"));
+        sampleLabel->setWhatsThis(
+            KFontRequester::tr("This is a preview of the selected font. You can change it by "
+                               "clicking the \"...\" button."));
+        button->setAccessibleName(KFontRequester::tr("Select a font"));
+        return;
+    }
+    sampleLabel->setToolTip(KFontRequester::tr("Preview of the \"%1\" font").arg(title));
+    sampleLabel->setWhatsThis(KFontRequester::tr("This is a preview of the \"%1\" font. You can change it by "
+                                                 "clicking the \"...\" button.")
+                                  .arg(title));
+    button->setAccessibleName(KFontRequester::tr("Select the \"%1\" font").arg(title));
+}
+
+KFontRequester::KFontRequester(QWidget *parent, bool onlyFixed)
+    : QWidget(parent)
+    , d(std::make_unique<KFontRequesterPrivate>(this, onlyFixed))
+{
+    d->buildWidgets();
+    connect(d->button, &QPushButton::clicked, this, &KFontRequester::_k_buttonClicked);
+    d->displaySampleText();
+    d->setToolTips();
+}
+
+KFontRequester::~KFontRequester() = default;
+
+QFont KFontRequester::font() const
+{
+    return d->selectedFont;
+}
+
+bool KFontRequester::isFixedOnly() const
+{
+    return d->fixedOnly;
+}
+
+void KFontRequester::setFont(const QFont &font, bool onlyFixed)
+{
+    d->fixedOnly = onlyFixed;
+    d->select(nearestInstalledFont(font));
+}
+
+void KFontRequester::setTitle(const QString &title)
+{
+    d->title = title;
+    d->setToolTips();
+}
+
+void KFontRequester::_k_buttonClicked()
+{
+    bool accepted = false;
+    const QFont chosen = QFontDialog::getFont(&accepted, d->selectedFont, window());
+    if (accepted)
+        d->select(chosen);
+}
