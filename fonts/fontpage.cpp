@@ -1,23 +1,30 @@
 #include "fonts/fontpage.h"
 
-#include "ui_fontform.h"
+#include "fonts/renderingstore.h"
+#include "settings/waitcursor.h"
+#include "settings/wmcommands.h"
+
+#include <QSettings>
 
 FontPage::FontPage(QWidget *parent)
-    : QWidget(parent)
-    , m_ui(std::make_unique<Ui::FontForm>())
+    : KFonts(parent)
 {
-    m_ui->setupUi(this);
+    setObjectName(QStringLiteral("FontPage"));
 }
 
-FontPage::~FontPage() = default;
-
-bool FontPage::loadValues(QazSettings * /*settings*/)
+bool FontPage::loadValues(QazSettings *settings)
 {
+    const WaitCursor waitCursor;
+    loadSettings(settings);
+    // Loading may run again, so the connection is unique.
+    connect(this, &KFonts::changed, this, &FontPage::changedSignal, Qt::UniqueConnection);
     loaded = true;
     return true;
 }
 
-bool FontPage::saveValues(QazSettings * /*settings*/)
+bool FontPage::saveValues(QazSettings *settings)
 {
+    if (saveSettings(settings))
+        sendToWindowManager(xftSettingsCommand(QSettings()));
     return true;
 }

@@ -1,21 +1,13 @@
 #pragma once
 
-#include <QWidget>
+#include "fonts/kfonts.h"
 
-#include <memory>
-
-class QazSettings;
-
-namespace Ui {
-class FontForm;
-}
-
-class FontPage : public QWidget
+/// The fonts page of the configuration dialog.
+class FontPage : public KFonts
 {
     Q_OBJECT
 public:
     explicit FontPage(QWidget *parent = nullptr);
-    ~FontPage() override;
 
     bool loaded = false;
 
@@ -23,9 +15,8 @@ signals:
     void changedSignal();
 
 public slots:
+    /// Fills the page from \a settings, which is not kept.
     bool loadValues(QazSettings *settings);
+    /// Saves the page, and tells the window manager about rendering choices that changed.
     bool saveValues(QazSettings *settings);
-
-private:
-    std::unique_ptr<Ui::FontForm> m_ui;
 };

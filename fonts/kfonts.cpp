@@ -1,0 +1,280 @@
+#include "fonts/kfonts.h"
+
+#include "fonts/fontaasettings.h"
+#include "fonts/fontroles.h"
+#include "fonts/fontuseitem.h"
+#include "fonts/renderingstore.h"
+#include "fonts/serverresources.h"
+#include "fonts/userfontfiles.h"
+#include "fonts/xresources.h"
+#include "platform/setxrdbparameterinfile.h"
+
+#include <QComboBox>
+#include <QCoreApplication>
+#include <QDir>
+#include <QFontDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QSettings>
+#include <QSpinBox>
+#include <QVBoxLayout>
+
+namespace {
+
+enum AntiAliasing { AaEnabled, AaSystemSettings, AaDisabled }; // indexes of the combo box
+
+// A DPI from 1 to 69 snaps to one of these.
+constexpr int noDpi = 0;
+constexpr int leastDpi = 70;
+// Where the last snap went; the next one goes the other way when the value came from above it.
+int lastSnap = noDpi;
+
+QLabel *rowLabel(const QString &text, const QString &name, QWidget *buddy, QWidget *parent)
+{
+    auto *label = new QLabel(text, parent);
+    label->setObjectName(name);
+    label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    label->setBuddy(buddy);
+    return label;
+}
+
+void setHelp(QWidget *widget, const QString &help)
+{
+    widget->setToolTip(help);
+    widget->setWhatsThis(help);
+}
+
+void writeDpiToResourceFile(int dpi)
+{
+    const QByteArray file = QFile::encodeName(QDir::homePath() + QLatin1String("/.Xresources"));
+    const QByteArray value = QByteArray::number(dpi);
+    setXrdbParameterInFile(file.constData(), "Xft.dpi:", " ", dpi != 0 ? value.constData() : nullptr, false);
+}
+
+} // namespace
+
+KFonts::KFonts(QWidget *parent)
+    : QWidget(parent)
+    , aaMode(AaSystemSettings)
+    , aaModeAtLoad(AaSystemSettings)
+{
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    auto *roles = new QGridLayout;
+    layout->addLayout(roles);
+    addRoles(roles);
+
+    auto *rendering = new QHBoxLayout;
+    layout->addLayout(rendering);
+    auto *grid = new QGridLayout;
+    grid->setVerticalSpacing(1);
+    grid->setHorizontalSpacing(10);
+    grid->setColumnStretch(3, 10);
+    rendering->addLayout(grid);
+    addAntiAliasingRow(grid);
+    addDpiRow(grid);
+    rendering->addStretch();
+    auto *adjustAll = new QPushButton(tr("Ad&just All Fonts..."), this);
+    adjustAll->setObjectName(QStringLiteral("adjustAllButton"));
+    setHelp(adjustAll, tr("Click to change all fonts"));
+    connect(adjustAll, &QPushButton::clicked, this, &KFonts::slotApplyFontDiff);
+    rendering->addWidget(adjustAll);
+    layout->addStretch(1);
+
+    m_aaSettings = new FontAASettings(this);
+}
+
+void KFonts::addRoles(QGridLayout *grid)
+{
+    grid->setColumnStretch(0, 0);
+    grid->setColumnStretch(1, 1);
+    grid->setColumnStretch(2, 0);
+    for (const FontRole &role : fontRoles) {
+        const QString key = QLatin1String(role.key);
+        auto *item = new FontUseItem(
+            this, tr(role.label), QLatin1String(role.group), key, QLatin1String(role.resourceFile),
+            QFont(QLatin1String(role.family), role.pointSize, role.weight), role.fixedOnly);
+        item->setObjectName(key);
+        m_fontUseItems.append(item);
+        connect(item, &FontUseItem::fontSelected, this, &KFonts::fontSelected);
+        QLabel *label = rowLabel(tr(role.label), key + QLatin1String("Label"), item, this);
+        label->setWhatsThis(tr(role.help));
+        const int row = m_fontUseItems.size() - 1;
+        grid->addWidget(label, row, 0);
+        grid->addWidget(item, row, 1);
+    }
+}
+
+void KFonts::addAntiAliasingRow(QGridLayout *grid)
+{
+    m_aaComboBox = new QComboBox(this);
+    m_aaComboBox->setObjectName(QStringLiteral("aaComboBox"));
+    m_aaComboBox->insertItem(AaEnabled, tr("Enabled"));
+    m_aaComboBox->insertItem(AaSystemSettings, tr("System Settings"));
+    m_aaComboBox->insertItem(AaDisabled, tr("Disabled"));
+    setHelp(m_aaComboBox, tr("If this option is selected, DE will smooth the edges of curves in fonts."));
+    connect(m_aaComboBox, qOverload<int>(&QComboBox::activated), this, &KFonts::slotUseAntiAliasing);
+    m_configureButton = new QPushButton(tr("Configure..."), this);
+    m_configureButton->setObjectName(QStringLiteral("configureButton"));
+    connect(m_configureButton, &QPushButton::clicked, this, &KFonts::slotCfgAa);
+    grid->addWidget(rowLabel(tr("Use a&nti-aliasing:"), QStringLiteral("aaLabel"), m_aaComboBox, this), 0, 0);
+    grid->addWidget(m_aaComboBox, 0, 1);
+    grid->addWidget(m_configureButton, 0, 2);
+}
+
+void KFonts::addDpiRow(QGridLayout *grid)
+{
+    m_dpiSpinBox = new QSpinBox(this);
+    m_dpiSpinBox->setObjectName(QStringLiteral("dpiSpinBox"));
+    m_dpiSpinBox->setRange(noDpi, 400);
+    m_dpiSpinBox->setSingleStep(10);
+    m_dpiSpinBox->setSpecialValueText(tr("Disabled"));
+    m_dpiSpinBox->setSuffix(tr("dpi"));
+    // While "120" is typed, its first digit must not snap; the edit is known from the first key all the same.
+    m_dpiSpinBox->setKeyboardTracking(false);
+    connect(m_dpiSpinBox->findChild<QLineEdit *>(), &QLineEdit::textEdited, this,
+            [this] { emit changed(true); });
+    connect(m_dpiSpinBox, qOverload<int>(&QSpinBox::valueChanged), this, &KFonts::slotCfgDpi);
+    setHelp(
+        m_dpiSpinBox,
+        tr("<p>This option forces a specific DPI value for fonts. It may be useful when the real DPI of the "
+           "hardware is not detected properly and it is also often misused when poor quality fonts are used "
+           "that "
+           "do not look well with DPI values other than 96 or 120 DPI.</p><p>The use of this option is "
+           "generally "
+           "discouraged. For selecting proper DPI value a better option is explicitly configuring it for the "
+           "whole X server if possible (e.g. DisplaySize in xorg.conf or adding <i>-dpi value</i> to "
+           "ServerLocalArgs= in /etc/X11/qaz-dm/qaz-dmrc). When fonts do not render properly with real DPI "
+           "value "
+           "better fonts should be used or configuration of font hinting should be checked.</p>"));
+    grid->addWidget(rowLabel(tr("Force fonts DPI:"), QStringLiteral("dpiLabel"), m_dpiSpinBox, this), 1, 0);
+    grid->addWidget(m_dpiSpinBox, 1, 1);
+}
+
+void KFonts::loadSettings(QazSettings *settings)
+{
+    for (FontUseItem *item : qAsConst(m_fontUseItems))
+        item->loadFont(settings);
+
+    showAntiAliasing(m_aaSettings->load() ? AaEnabled : AaDisabled);
+    const int dpi = loadedDpi();
+    m_dpiSpinBox->setValue(dpi);
+    dpiAtLoad = dpi;
+    if (QSettings().value(QLatin1String(RenderingKey::dontChangeAaSettings), true).toBool())
+        showAntiAliasing(AaSystemSettings);
+    aaModeAtLoad = aaMode;
+    emit changed(false);
+}
+
+void KFonts::showAntiAliasing(int mode)
+{
+    aaMode = mode;
+    m_aaComboBox->setCurrentIndex(mode);
+    m_configureButton->setEnabled(mode == AaEnabled);
+}
+
+int KFonts::loadedDpi() const
+{
+    const int stored = QSettings().value(QLatin1String(RenderingKey::forceFontDpi), 0).toInt();
+    return stored == 0 ? 0 : forcedDpi(stored, xftDpiResource());
+}
+
+bool KFonts::saveSettings(QazSettings *settings)
+{
+    m_dpiSpinBox->interpretText(); // what is typed, but not yet ended by Return
+    for (FontUseItem *item : qAsConst(m_fontUseItems))
+        item->saveFont(settings);
+
+    const int dpi = m_dpiSpinBox->value();
+    const bool systemDecides = m_aaComboBox->currentIndex() == AaSystemSettings;
+    storeChoices(dpi, systemDecides);
+    if (dpi == 0 && dpiAtLoad != 0)
+        removeDpiFromServer();
+    bool isChanged = dpi != dpiAtLoad;
+    if (isChanged)
+        writeDpiToResourceFile(dpi);
+    // A click on Apply must not start a second save in here.
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+
+    QString message = tr("<p>Some changes such as anti-aliasing or DPI will only affect newly started "
+                         "applications.</p>");
+    if (saveRendering(dpi, systemDecides))
+        isChanged = true;
+    else
+        message.clear();
+    if (systemDecides)
+        removeUserFontconfigFiles();
+    if (!message.isEmpty())
+        QMessageBox::information(this, tr("Font Settings Changed"), message);
+    applyXResources(exportXftSettings);
+    emit changed(false);
+    return isChanged;
+}
+
+void KFonts::storeChoices(int dpi, bool systemDecides) const
+{
+    QSettings store;
+    store.setValue(QLatin1String(RenderingKey::forceFontDpi), dpi);
+    store.setValue(QLatin1String(RenderingKey::dontChangeAaSettings), systemDecides);
+    store.sync();
+}
+
+bool KFonts::saveRendering(int dpi, bool systemDecides)
+{
+    const bool isSaved = !systemDecides && m_aaSettings->save(aaMode == AaEnabled);
+    if (!isSaved && aaMode == aaModeAtLoad && dpi == dpiAtLoad)
+        return false;
+    aaModeAtLoad = aaMode;
+    dpiAtLoad = dpi;
+    return true;
+}
+
+void KFonts::resetToDefaults()
+{
+    for (FontUseItem *item : qAsConst(m_fontUseItems))
+        item->restoreDefault();
+    showAntiAliasing(AaSystemSettings);
+    m_aaSettings->defaults();
+    m_dpiSpinBox->setValue(noDpi);
+    emit changed(true);
+}
+
+void KFonts::fontSelected()
+{
+    emit changed(true);
+}
+
+void KFonts::slotApplyFontDiff()
+{
+    bool accepted = false;
+    const QFont chosen = QFontDialog::getFont(&accepted, m_fontUseItems.first()->font(), this);
+    if (!accepted)
+        return;
+    for (FontUseItem *item : qAsConst(m_fontUseItems))
+        item->applyChosenFont(chosen);
+    emit changed(true);
+}
+
+void KFonts::slotUseAntiAliasing()
+{
+    aaMode = m_aaComboBox->currentIndex();
+    m_configureButton->setEnabled(aaMode == AaEnabled);
+    emit changed(true);
+}
+
+void KFonts::slotCfgAa()
+{
+    if (m_aaSettings->exec())
+        emit changed(true);
+}
+
+void KFonts::slotCfgDpi(int value)
+{
+    if (value > noDpi && value < leastDpi) {
+        lastSnap = value < lastSnap ? noDpi : leastDpi;
+        m_dpiSpinBox->setValue(lastSnap);
+    }
+    emit changed(true);
+}
