@@ -1,23 +1,372 @@
 #include "pages/theme/themepage.h"
 
+#include "pages/theme/colorelements.h"
+#include "pages/theme/previewicon.h"
+#include "pages/theme/sizeelements.h"
+#include "pages/theme/themeimages.h"
+#include "pages/theme/xserver.h"
+#include "platform/base/diagnostics.h"
+#include "platform/qazicontheme.h"
+#include "platform/qazinit.h"
+#include "platform/qazsettings.h"
+#include "settings/updatevalues.h"
+#include "settings/waitcursor.h"
+#include "settings/wmcommands.h"
 #include "ui_themeform.h"
+
+#include <QColorDialog>
+#include <QComboBox>
+#include <QFile>
+#include <QInputDialog>
+#include <QMessageBox>
+#include <QPainter>
+#include <QPushButton>
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+
+namespace {
+
+// Beside the entry's data: the stored texts themselves, which may contain the data's separator.
+constexpr int storedRole = Qt::UserRole + 1;
+
+constexpr QComboBox *Ui::ThemeForm::*combos[] = {
+    &Ui::ThemeForm::cursorThemeCombo, &Ui::ThemeForm::iconThemeCombo, &Ui::ThemeForm::decorThemeCombo,
+    &Ui::ThemeForm::elementComboBox, &Ui::ThemeForm::sizeComboBox};
+constexpr QComboBox *Ui::ThemeForm::*themeCombos[] = {
+    &Ui::ThemeForm::cursorThemeCombo, &Ui::ThemeForm::iconThemeCombo, &Ui::ThemeForm::decorThemeCombo};
+
+constexpr char iconThemeKey[] = "IconTheme";
+constexpr char iconThemeSaveDefault[] = "qaz-tirsk"; // on load the default is empty, on purpose
+constexpr char decorThemeKey[] = "DecorTheme";
+constexpr int noDecorThemeIndex = 0;
+
+constexpr unsigned pointerShape = 68;
+constexpr unsigned watchShape = 150;
+constexpr unsigned textShape = 152;
+constexpr int placeIconSize = 32;
+constexpr int comboIconHeight = 32; // at 96 dpi
+constexpr std::size_t commandSize = 4096;
+
+QString storedText(const QazSettings *settings, const char *key, const QString &defaultText = QString())
+{
+    return settings->value(QLatin1String(key), defaultText).toString();
+}
+
+QStringList sortedNames(const List<char> &list)
+{
+    QStringList names;
+    for (int i = 0; i < list.count(); ++i)
+        names.append(QFile::decodeName(list.at(i)));
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
+QImage placeIcon(const QazIconTheme &theme, const char *name)
+{
+    QString path;
+    return theme.getIcon(name, placeIconSize, "Places", &path) ? loadIconImage(path, placeIconSize)
+                                                               : QImage();
+}
+
+QColor colorAt(const QStringList &colors, int index)
+{
+    return QColor(colors.value(index));
+}
+
+} // namespace
 
 ThemePage::ThemePage(QWidget *parent)
     : QWidget(parent)
     , m_ui(std::make_unique<Ui::ThemeForm>())
 {
     m_ui->setupUi(this);
+    // The size buttons stay in their place when an element has no end colour.
+    QSizePolicy policy = m_ui->color2Button->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    m_ui->color2Button->setSizePolicy(policy);
 }
 
 ThemePage::~ThemePage() = default;
 
-bool ThemePage::loadValues(QazSettings * /*settings*/)
+bool ThemePage::loadValues(QazSettings *settings)
 {
+    const WaitCursor waitCursor;
+    clearForm();
+    loadCursorThemes();
+    loadIconThemes(settings);
+    loadDecorThemes(settings);
+    loadColors(settings);
+    loadSizes(settings);
+    connectChanges();
     loaded = true;
     return true;
 }
 
-bool ThemePage::saveValues(QazSettings * /*settings*/)
+void ThemePage::clearForm()
 {
+    const int height = int(qazDpiScaled(comboIconHeight));
+    for (QComboBox *Ui::ThemeForm::*member : combos) {
+        QComboBox *combo = m_ui.get()->*member;
+        combo->clear();
+        combo->setIconSize(QSize(combo->iconSize().width(), height));
+    }
+}
+
+void ThemePage::loadCursorThemes()
+{
+    QComboBox *combo = m_ui->cursorThemeCombo;
+    List<char> list;
+    const bool isListed = serverHasExtension("RENDER") && QazIconTheme::getCursorThemeNames(&list);
+    combo->setEnabled(isListed);
+    if (!isListed)
+        return;
+    for (const QString &name : sortedNames(list)) {
+        const QImage pointer = loadCursorImage(pointerShape, name);
+        const QImage watch = loadCursorImage(watchShape, name);
+        const QImage text = loadCursorImage(textShape, name);
+        if (!pointer.isNull() && !watch.isNull() && !text.isNull())
+            combo->addItem(previewIcon(threeImagesPreview(combo->iconSize(), pointer, watch, text)), name);
+    }
+    combo->setCurrentIndex(combo->findText(currentCursorTheme(), Qt::MatchExactly | Qt::MatchCaseSensitive));
+}
+
+void ThemePage::loadIconThemes(const QazSettings *settings)
+{
+    QComboBox *combo = m_ui->iconThemeCombo;
+    List<char> list;
+    QazIconTheme::getThemesNames(&list);
+    for (const QString &name : sortedNames(list)) {
+        if (name == QLatin1String("hicolor") || name == QLatin1String("default"))
+            continue;
+        QazIconTheme theme(QFile::encodeName(name).constData(), nullptr, false);
+        theme.load();
+        const QImage home = placeIcon(theme, "user-home");
+        const QImage trash = placeIcon(theme, "user-trash");
+        const QImage desktop = placeIcon(theme, "user-desktop");
+        QString clock;
+        if (theme.getIcon("preferences-system-time", placeIconSize, "Applications", &clock))
+            combo->addItem(previewIcon(threeImagesPreview(combo->iconSize(), home, trash, desktop)), name);
+        else
+            printDiagnostic(
+                QStringLiteral("theme %1 is not full (no preferences-system-time in apps)").arg(name));
+    }
+    combo->setCurrentIndex(
+        combo->findText(storedText(settings, iconThemeKey), Qt::MatchExactly | Qt::MatchCaseSensitive));
+    combo->setEnabled(combo->count() > 0);
+}
+
+void ThemePage::loadDecorThemes(const QazSettings *settings)
+{
+    QComboBox *combo = m_ui->decorThemeCombo;
+    QStringList names;
+    listDecorThemes(&names);
+    std::sort(names.begin(), names.end());
+    const QString configured = storedText(settings, decorThemeKey);
+    int current = configured.isEmpty() ? noDecorThemeIndex : -1;
+    combo->addItem(previewIcon(solidSwatch(combo->iconSize(), QColor())), tr("No theme"));
+    for (const QString &name : qAsConst(names)) {
+        const std::optional<DecorImages> images = loadDecorImages(name);
+        if (!images)
+            continue;
+        // By position: a theme may have the same name as the first entry.
+        if (name == configured)
+            current = combo->count();
+        combo->addItem(previewIcon(decorPreview(combo->iconSize(), *images)), name);
+    }
+    combo->setCurrentIndex(current);
+    combo->setEnabled(combo->count() > 0);
+}
+
+void ThemePage::loadColors(const QazSettings *settings)
+{
+    QComboBox *combo = m_ui->elementComboBox;
+    for (const ColorElement *element : colorElementsByKey()) {
+        const QStringList keys = colorKeys(*element);
+        QStringList colors = defaultColors(*element);
+        for (int i = 0; i < keys.size(); ++i)
+            colors[i] = currentColorText(settings->value(keys.at(i), colors.at(i)).toString(), colors.at(i));
+        combo->addItem(tr(element->name), colorItemData(QLatin1String(element->key), colors));
+        combo->setItemData(combo->count() - 1, colors, storedRole);
+        combo->setItemIcon(combo->count() - 1, previewIcon(colorSwatch(combo->iconSize(), colorAt(colors, 0),
+                                                                       colorAt(colors, 1))));
+    }
+    combo->setCurrentIndex(0);
+    colorElementSelected(0);
+    connect(combo, qOverload<int>(&QComboBox::currentIndexChanged), this, &ThemePage::colorElementSelected,
+            Qt::UniqueConnection);
+    connect(m_ui->color1Button, &QPushButton::clicked, this, &ThemePage::selectColor1, Qt::UniqueConnection);
+    connect(m_ui->color2Button, &QPushButton::clicked, this, &ThemePage::selectColor2, Qt::UniqueConnection);
+}
+
+void ThemePage::loadSizes(const QazSettings *settings)
+{
+    QComboBox *combo = m_ui->sizeComboBox;
+    const double dpi = screenDpi();
+    for (const SizeElement &element : sizeElements) {
+        const QString value = storedText(settings, element.key, defaultSize(element, dpi));
+        combo->addItem(sizeItemText(value, tr(element.name)), QLatin1String(element.key));
+        combo->setItemData(combo->count() - 1, value, storedRole);
+    }
+    connect(m_ui->sizeButton, &QPushButton::clicked, this, &ThemePage::selectSize, Qt::UniqueConnection);
+}
+
+void ThemePage::connectChanges()
+{
+    // Choosing an element or a size only looks at it; the dialogs behind the buttons tell of their edits themselves.
+    for (QComboBox *Ui::ThemeForm::*member : themeCombos)
+        connect(m_ui.get()->*member, qOverload<int>(&QComboBox::activated), this, &ThemePage::changedSignal,
+                Qt::UniqueConnection);
+}
+
+void ThemePage::colorElementSelected(int ind)
+{
+    if (ind < 0)
+        return;
+    const QStringList colors = m_ui->elementComboBox->itemData(ind, storedRole).toStringList();
+    const bool hasEnd = colors.size() > 1;
+    showColor(m_ui->color1Button, colorAt(colors, 0));
+    showColor(m_ui->color2Button, colorAt(colors, hasEnd ? 1 : 0));
+    m_ui->color2Button->setVisible(hasEnd);
+    m_ui->color2Button->setEnabled(hasEnd);
+}
+
+void ThemePage::showColor(QPushButton *button, const QColor &color)
+{
+    const QColor shown = color.isValid() ? color : QColor(Qt::white);
+    QPalette palette = button->palette();
+    palette.setColor(QPalette::Window, shown);
+    button->setPalette(palette);
+    // Styles are free to paint a button in colours of their own; an icon shows under each of them.
+    QPixmap swatch(m_ui->sizeComboBox->iconSize() / 2);
+    swatch.fill(shown);
+    QPainter painter(&swatch);
+    painter.setPen(palette.color(QPalette::ButtonText));
+    painter.drawRect(swatch.rect().adjusted(0, 0, -1, -1));
+    painter.end();
+    button->setIcon(swatch);
+    button->setIconSize(swatch.size());
+}
+
+void ThemePage::selectColor1()
+{
+    selectColor(0);
+}
+
+void ThemePage::selectColor2()
+{
+    selectColor(1);
+}
+
+void ThemePage::selectColor(int which)
+{
+    const int index = m_ui->elementComboBox->currentIndex();
+    QStringList colors = m_ui->elementComboBox->itemData(index, storedRole).toStringList();
+    if (which >= colors.size())
+        return;
+    const QColor color = QColorDialog::getColor(colorAt(colors, which), this, QString());
+    if (!color.isValid() || color.name() == colors.at(which))
+        return;
+    colors[which] = color.name();
+    setColors(index, colors);
+    emit changedSignal();
+}
+
+void ThemePage::setColors(int index, const QStringList &colors)
+{
+    QComboBox *combo = m_ui->elementComboBox;
+    const QString key = combo->itemData(index).toString().section(QLatin1Char(','), 0, 0);
+    combo->setItemData(index, colorItemData(key, colors));
+    combo->setItemData(index, colors, storedRole);
+    colorElementSelected(index);
+    const QColor first = colorAt(colors, 0);
+    const QColor second = colorAt(colors, 1);
+    const QColor left = first.isValid() ? first : QColor(Qt::white);
+    combo->setItemIcon(index, previewIcon(fillGradient(left, second.isValid() ? second : left).toImage()));
+}
+
+QPixmap ThemePage::fillGradient(QColor col1, QColor col2)
+{
+    return QPixmap::fromImage(gradientSwatch(m_ui->elementComboBox->iconSize(), col1, col2));
+}
+
+void ThemePage::selectSize()
+{
+    QComboBox *combo = m_ui->sizeComboBox;
+    const int index = combo->currentIndex();
+    if (index < 0)
+        return;
+    const SizeElement &element = sizeElements[index]; // the entries stand in the table's order
+    const int value = sizeItemValue(combo->currentText()).toInt();
+    const QString name = sizeItemName(combo->currentText());
+    const QStringList choices = sizeChoices(element);
+    bool isAccepted = false;
+    int chosen = value;
+    if (choices.isEmpty())
+        chosen = QInputDialog::getInt(this, tr("Select size"), name, value, element.minimum, element.maximum,
+                                      1, &isAccepted);
+    else
+        chosen = QInputDialog::getItem(this, tr("Select size"), name, choices,
+                                       qMax(0, choices.indexOf(QString::number(value))), false, &isAccepted)
+                     .toInt();
+    if (!isAccepted || chosen == value)
+        return;
+    combo->setItemText(index, sizeItemText(QString::number(chosen), name));
+    combo->setItemData(index, QString::number(chosen), storedRole);
+    emit changedSignal();
+}
+
+bool ThemePage::saveValues(QazSettings *settings)
+{
+    saveCursorTheme();
+    if (m_ui->iconThemeCombo->currentIndex() >= 0)
+        updateStringValue(settings, QLatin1String(iconThemeKey), QLatin1String(iconThemeSaveDefault),
+                          m_ui->iconThemeCombo->currentText());
+    if (const int index = m_ui->decorThemeCombo->currentIndex(); index >= 0)
+        updateStringValue(settings, QLatin1String(decorThemeKey), QString(),
+                          index == noDecorThemeIndex ? QString() : m_ui->decorThemeCombo->currentText());
+    saveColors(settings);
+    saveSizes(settings);
     return true;
+}
+
+void ThemePage::saveCursorTheme()
+{
+    const QString name = m_ui->cursorThemeCombo->currentText();
+    if (name.isEmpty() || name == currentCursorTheme())
+        return;
+    if (!QazIconTheme::setCurrentCursorThemeName(QFile::encodeName(name).constData())) {
+        QMessageBox::warning(this, tr("Error"), tr("The cursor theme '%1' can't be set.").arg(name));
+        return;
+    }
+    std::array<char, commandSize> command{};
+    std::snprintf(command.data(), command.size(), "QAZWM_UPDATE_VAL CursorTheme %s\n",
+                  name.toLocal8Bit().constData());
+    sendToWindowManager(QByteArray(command.data()));
+    QMessageBox::warning(this, tr("Warning"), tr("New cursor theme will be applied to newly started apps"),
+                         QMessageBox::Ok);
+}
+
+void ThemePage::saveColors(QazSettings *settings)
+{
+    const QComboBox *combo = m_ui->elementComboBox;
+    const std::vector<const ColorElement *> elements = colorElementsByKey(); // the entries' order
+    for (int index = 0; index < combo->count(); ++index) {
+        const QStringList keys = colorKeys(*elements[std::size_t(index)]);
+        const QStringList defaults = defaultColors(*elements[std::size_t(index)]);
+        const QStringList colors = combo->itemData(index, storedRole).toStringList();
+        for (int i = 0; i < keys.size(); ++i)
+            updateStringValue(settings, keys.at(i), defaults.at(i), colors.at(i));
+    }
+}
+
+void ThemePage::saveSizes(QazSettings *settings)
+{
+    const double dpi = screenDpi();
+    for (int index = 0; index < m_ui->sizeComboBox->count(); ++index) {
+        const SizeElement &element = sizeElements[index];
+        updateStringValue(settings, QLatin1String(element.key), defaultSize(element, dpi),
+                          m_ui->sizeComboBox->itemData(index, storedRole).toString());
+    }
 }

@@ -1,0 +1,170 @@
+#include "pages/theme/themeimages.h"
+
+#include "platform/base/atomicfile.h"
+#include "platform/base/chandle.h"
+#include "platform/cursorfiles.h"
+#include "platform/themedirectories.h"
+#include "settings/directories.h"
+
+#include <QBuffer>
+#include <QFile>
+#include <QImageReader>
+#include <QPainter>
+#include <QSvgRenderer>
+#include <QX11Info>
+
+#include <algorithm>
+#include <cstdio>
+#include <memory>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <X11/Xcursor/Xcursor.h>
+
+namespace {
+
+using XcursorImagePtr = std::unique_ptr<XcursorImage, Release<XcursorImageDestroy>>;
+using FilePtr = std::unique_ptr<std::FILE, Release<std::fclose>>;
+
+constexpr qint64 iconPixelLimit = 4096 * 4096;
+
+struct NamedShape {
+    unsigned shape;
+    const char *name;
+};
+
+constexpr NamedShape namedShapes[] = {{68, "left_ptr"}, {150, "watch"}, {152, "xterm"}};
+
+struct DecorImage {
+    const char *file;
+    QImage DecorImages::*image;
+};
+
+// clang-format off
+constexpr DecorImage decorFiles[] = {
+    {"titleAT.xpm",   &DecorImages::title},
+    {"frameAT.xpm",   &DecorImages::topFrame},
+    {"frameATL.xpm",  &DecorImages::topLeftCorner},
+    {"frameATR.xpm",  &DecorImages::topRightCorner},
+    {"frameAL.xpm",   &DecorImages::leftFrame},
+    {"frameAR.xpm",   &DecorImages::rightFrame},
+    {"minimizeA.xpm", &DecorImages::minimizeButton},
+    {"maximizeA.xpm", &DecorImages::maximizeButton},
+    {"closeA.xpm",    &DecorImages::closeButton}};
+// clang-format on
+
+/// Opens a regular file only: a FIFO among a theme's cursors would stop the program.
+FilePtr openRegularFile(const QByteArray &path)
+{
+    const int descriptor = ::open(path.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
+    if (descriptor < 0)
+        return nullptr;
+    struct stat status = {};
+    FilePtr file(::fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode) ? ::fdopen(descriptor, "r")
+                                                                              : nullptr);
+    if (!file)
+        ::close(descriptor);
+    return file;
+}
+
+void releaseCursor(void *cursor)
+{
+    XcursorImageDestroy(static_cast<XcursorImage *>(cursor));
+}
+
+QImage drawSvg(const QByteArray &content, int size)
+{
+    QSvgRenderer renderer(content);
+    if (!renderer.isValid())
+        return {};
+    const QSize shown = renderer.defaultSize().scaled(size, size, Qt::KeepAspectRatio);
+    QImage image(shown.expandedTo(QSize(1, 1)), QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    renderer.render(&painter, QRectF(image.rect()));
+    return image;
+}
+
+QImage loadXpm(const QByteArray &path)
+{
+    const FileContent file = readRegularFile(QFile::decodeName(path));
+    if (file.state != FileState::Regular)
+        return {};
+    const QImage image = QImage::fromData(file.content, "XPM");
+    return image.isNull() ? QImage::fromData(file.content) : image;
+}
+
+QByteArray decorThemesDirectory()
+{
+    return QFile::encodeName(directoryPath(DirectoryKind::DecorationThemes));
+}
+
+} // namespace
+
+QImage loadCursorImage(unsigned shape, const QString &theme)
+{
+    const auto *known = std::find_if(
+        std::begin(namedShapes), std::end(namedShapes),
+        [shape](const NamedShape &candidate) { return candidate.shape == shape; });
+    if (known == std::end(namedShapes))
+        return {};
+    const QByteArray path = cursorFile(QFile::encodeName(theme), known->name);
+    const FilePtr file = path.isEmpty() ? nullptr : openRegularFile(path);
+    if (!file)
+        return {};
+    XcursorImagePtr cursor(XcursorFileLoadImage(file.get(), XcursorGetDefaultSize(QX11Info::display())));
+    if (!cursor)
+        return {};
+    // Premultiplied already, as X wants it; the image owns the cursor and releases it.
+    XcursorImage *pixels = cursor.release();
+    return QImage(reinterpret_cast<uchar *>(pixels->pixels), int(pixels->width), int(pixels->height),
+                  QImage::Format_ARGB32_Premultiplied, releaseCursor, pixels);
+}
+
+QImage loadIconImage(const QString &path, int size)
+{
+    FileContent file = readRegularFile(path);
+    if (file.state != FileState::Regular)
+        return {};
+    if (path.endsWith(QLatin1String(".svg")))
+        return drawSvg(file.content, size);
+    QBuffer buffer(&file.content);
+    QImageReader reader(&buffer);
+    const QSize imageSize = reader.size();
+    if (qint64(imageSize.width()) * imageSize.height() > iconPixelLimit)
+        return {};
+    return reader.read();
+}
+
+int listDecorThemes(QStringList *list)
+{
+    const std::shared_ptr<ThemeDirectories> directories = ThemeDirectories::current();
+    const QByteArray root = decorThemesDirectory();
+    list->clear();
+    for (const DirectoryListing::Entry &entry : directories->listing(root).entries()) {
+        if (entry.canBeDirectory && !entry.name.startsWith('.')
+            && directories->listing(root + '/' + entry.name).hasFile("default.theme"))
+            list->append(QFile::decodeName(entry.name));
+    }
+    std::sort(list->begin(), list->end(),
+              [](const QString &left, const QString &right) { return left.localeAwareCompare(right) < 0; });
+    return list->size();
+}
+
+std::optional<DecorImages> loadDecorImages(const QString &name)
+{
+    const std::shared_ptr<ThemeDirectories> directories = ThemeDirectories::current();
+    const QByteArray directory = decorThemesDirectory() + '/' + QFile::encodeName(name);
+    const DirectoryListing &listing = directories->listing(directory);
+    DecorImages images;
+    for (const DecorImage &row : decorFiles) {
+        QImage &image = images.*row.image;
+        if (listing.hasFile(row.file))
+            image = loadXpm(directory + '/' + row.file);
+        if (image.isNull())
+            return std::nullopt;
+    }
+    return images;
+}

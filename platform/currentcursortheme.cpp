@@ -1,0 +1,153 @@
+#include "platform/currentcursortheme.h"
+
+#include "platform/base/atomicfile.h"
+#include "platform/base/diagnostics.h"
+#include "platform/cursorfiles.h"
+#include "platform/dataroot.h"
+#include "platform/iconthemeindex.h"
+#include "platform/livecursors.h"
+#include "platform/setxrdbparameterinfile.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QX11Info>
+
+#include <cstdio>
+
+#include <X11/Xcursor/Xcursor.h>
+
+namespace {
+
+const QByteArray defaultTheme = QByteArrayLiteral("default");
+const char resource[] = "Xcursor.theme:";
+constexpr int xrdbTimeout = 30000; // ms
+
+QString userIconsDirectory()
+{
+    return homeDirectory() + QLatin1String("/.icons");
+}
+
+bool reportFailure(const QString &path, const QString &reason)
+{
+    printDiagnostic(QStringLiteral("Can't write %1: %2").arg(path, reason));
+    return false;
+}
+
+/// Puts a directory with an index file in the place of the link at \a path; what the link leads to stays.
+bool replaceLink(const QString &path, const QByteArray &index)
+{
+    QTemporaryDir directory(path + QLatin1String("-XXXXXX"));
+    if (!directory.isValid())
+        return reportFailure(path, directory.errorString());
+    QString reason;
+    if (!replaceFile(directory.filePath(QStringLiteral("index.theme")), index, &reason))
+        return reportFailure(path, reason);
+    QFile::setPermissions(directory.path(), QFile::permissions(QFileInfo(path).path()));
+    const QString target = QFile::symLinkTarget(path);
+    if (!QFile::remove(path))
+        return reportFailure(path, QStringLiteral("the link can't be removed"));
+    if (std::rename(QFile::encodeName(directory.path()).constData(), QFile::encodeName(path).constData())
+        == 0)
+        return true;
+    QFile::link(target, path);
+    return reportFailure(path, QStringLiteral("the link can't be replaced"));
+}
+
+/// Lets the user's "default" theme inherit from \a name.
+bool writeDefaultTheme(const QByteArray &name)
+{
+    const QString directory = userIconsDirectory() + QLatin1String("/default");
+    const QString path = directory + QLatin1String("/index.theme");
+    // "default" may not inherit from itself; without the line the system's default shows.
+    const QByteArray inherited = name == defaultTheme ? QByteArray() : name;
+    if (QFileInfo(directory).isSymLink())
+        return inherited.isEmpty() || replaceLink(directory, withInherits({}, inherited));
+    const FileContent old = readRegularFile(path);
+    if (old.state == FileState::Unreadable)
+        return reportFailure(path, old.error);
+    if (inherited.isEmpty() && old.state == FileState::Missing)
+        return true;
+    const QByteArray content = withInherits(old.content, inherited);
+    if (old.state == FileState::Regular && content == old.content)
+        return true;
+    // A link leads into some theme, which is not ours to change.
+    if (QFileInfo(path).isSymLink())
+        QFile::remove(path);
+    QString reason;
+    return replaceFile(path, content, &reason) || reportFailure(path, reason);
+}
+
+/// Links a theme that X clients would not find, because it is not on their path, into the user's icons.
+bool makeReachable(const QByteArray &name)
+{
+    const auto holdsCursors = [&name](const QByteArray &base) {
+        return QFileInfo::exists(QFile::decodeName(base + '/' + name + "/cursors"));
+    };
+    const QByteArrayList clientPath = cursorClientPath();
+    for (const QByteArray &base : clientPath) {
+        if (holdsCursors(base))
+            return true;
+    }
+    for (const QByteArray &base : cursorSearchPath()) {
+        if (!holdsCursors(base))
+            continue;
+        const QString link = userIconsDirectory() + QLatin1Char('/') + QFile::decodeName(name);
+        QDir().mkpath(userIconsDirectory());
+        return QFile::link(QFile::decodeName(base + '/' + name), link)
+               || reportFailure(link, QStringLiteral("the cursor theme can't be linked"));
+    }
+    return true;
+}
+
+/// \a text as the value of an X resource: blanks in front and line breaks would be lost.
+QByteArray resourceValue(const QByteArray &text)
+{
+    QByteArray value = text;
+    value.replace('\\', "\\\\").replace('\n', "\\n");
+    return value.startsWith(' ') || value.startsWith('\t') ? '\\' + value : value;
+}
+
+void mergeIntoServer(const QByteArray &line)
+{
+    QProcess xrdb;
+    xrdb.setProcessChannelMode(QProcess::ForwardedChannels);
+    xrdb.start(QStringLiteral("xrdb"),
+               {QStringLiteral("-quiet"), QStringLiteral("-merge"), QStringLiteral("-nocpp")});
+    if (xrdb.waitForStarted(xrdbTimeout)) {
+        xrdb.write(line);
+        xrdb.closeWriteChannel();
+        if (xrdb.waitForFinished(xrdbTimeout) && xrdb.exitStatus() == QProcess::NormalExit
+            && xrdb.exitCode() == 0)
+            return;
+    }
+    printDiagnostic(
+        QStringLiteral("Can't merge the cursor theme into the X server: %1").arg(xrdb.errorString()));
+}
+
+} // namespace
+
+QByteArray currentCursorTheme(Display *display)
+{
+    // Xcursor reads the resource once per connection; XcursorSetTheme() keeps it up to date.
+    const QByteArray name(display ? XcursorGetTheme(display) : nullptr);
+    if (!name.isEmpty())
+        return name;
+    const FileContent index = readRegularFile(userIconsDirectory() + QLatin1String("/default/index.theme"));
+    return parseIconThemeIndex(index.content).cursorInherits.value(0);
+}
+
+bool setCurrentCursorTheme(const QByteArray &name)
+{
+    const QByteArray file = QFile::encodeName(homeDirectory() + QLatin1String("/.Xresources"));
+    const QByteArray value = resourceValue(name);
+    bool isDone = makeReachable(name);
+    isDone = writeDefaultTheme(name) && isDone;
+    isDone = setXrdbParameterInFile(file.constData(), resource, " ", value.constData(), false) && isDone;
+    mergeIntoServer(resource + QByteArrayLiteral(" ") + value + '\n');
+    if (isDone)
+        showCursorTheme(QX11Info::isPlatformX11() ? QX11Info::display() : nullptr, name);
+    return isDone;
+}

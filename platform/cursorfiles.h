@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QByteArray>
+#include <QByteArrayList>
+
+/// The directories in which X clients look for cursor themes: `$XCURSOR_PATH`, else Xcursor's own path.
+QByteArrayList cursorClientPath();
+
+/// The same with the other places from which the editor offers themes: the user's data directory, which
+/// older Xcursor libraries do not know, and the desktop's own icons.
+QByteArrayList cursorSearchPath();
+
+/// The names of all themes on the search path that hold cursors, each once, in no particular order.
+QByteArrayList cursorThemeNames();
+
+/// The file of the cursor \a name in \a theme, found as Xcursor finds it: in the theme, in those it inherits
+/// from, in the "default" theme. Empty when there is none.
+QByteArray cursorFile(const QByteArray &theme, const QByteArray &name);

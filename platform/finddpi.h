@@ -1,0 +1,8 @@
+#pragma once
+
+struct _XDisplay;
+using Display = _XDisplay;
+
+/// The horizontal resolution of \a screen in dots per inch, its pixels over its physical size. 0 when the
+/// server states no size. \a vertical, when given, is set to the vertical one.
+double FindDPI(Display *display, int screen, double *vertical = nullptr);

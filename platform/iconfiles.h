@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QByteArray>
+#include <QByteArrayList>
+
+class ThemeDirectories;
+
+/// The base directories of icon themes in the standard's order, then the desktop's own icons.
+QByteArrayList iconSearchPath();
+
+/// The file of the icon \a name for \a size pixels in \a theme, by the standard's lookup: the theme, its
+/// parents, "hicolor", icons outside themes. Only directories of \a context count, and those that state
+/// none; an empty one means any. Empty when there is none.
+QByteArray iconFile(ThemeDirectories &directories, const QByteArray &theme, const QByteArray &name, int size,
+                    const QByteArray &context);

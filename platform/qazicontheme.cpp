@@ -1,0 +1,90 @@
+#include "platform/qazicontheme.h"
+
+#include "platform/currentcursortheme.h"
+#include "platform/cursorfiles.h"
+#include "platform/iconfiles.h"
+#include "platform/themedirectories.h"
+
+#include <QFile>
+#include <QSet>
+
+#include <cmath>
+
+namespace {
+
+constexpr int usualSizes[] = {16, 22, 32, 48, 64, 96, 128, 256};
+constexpr int desktopKind = 1;
+
+} // namespace
+
+QazIconTheme::QazIconTheme(const char *name, const QazIconTheme * /*parent*/, bool /*isFallback*/)
+    : m_name(name)
+{}
+
+QazIconTheme::~QazIconTheme() = default;
+
+bool QazIconTheme::load()
+{
+    m_directories = ThemeDirectories::current();
+    const QByteArrayList locations = m_directories->locations(m_directories->searchPath(iconSearchPath),
+                                                              m_name);
+    const IconThemeIndex *index = m_directories->index(locations);
+    return index && index->hasDirectories;
+}
+
+bool QazIconTheme::getIcon(const char *name, int size, const char *context, QString *resultPath) const
+{
+    const QByteArray file = m_directories ? iconFile(*m_directories, m_name, name, size, context)
+                                          : QByteArray();
+    *resultPath = QFile::decodeName(file);
+    return !file.isEmpty();
+}
+
+bool QazIconTheme::getThemesNames(List<char> *list)
+{
+    const std::shared_ptr<ThemeDirectories> directories = ThemeDirectories::current();
+    const QByteArrayList &bases = directories->searchPath(iconSearchPath);
+    QSet<QByteArray> names;
+    for (const QByteArray &base : bases) {
+        for (const DirectoryListing::Entry &entry : directories->listing(base).entries()) {
+            if (!entry.canBeDirectory || names.contains(entry.name))
+                continue;
+            const IconThemeIndex *index = directories->index(directories->locations(bases, entry.name));
+            if (!index || !index->hasDirectories)
+                continue;
+            names.insert(entry.name);
+            list->append(entry.name.constData());
+        }
+    }
+    return !list->isEmpty();
+}
+
+bool QazIconTheme::getCursorThemeNames(List<char> *list)
+{
+    for (const QByteArray &name : cursorThemeNames())
+        list->append(name.constData());
+    return !list->isEmpty();
+}
+
+const char *QazIconTheme::getCurrentCursorThemeName(Display *display)
+{
+    static QByteArray name;
+    name = currentCursorTheme(display);
+    return name.isEmpty() ? nullptr : name.constData();
+}
+
+bool QazIconTheme::setCurrentCursorThemeName(const char *name)
+{
+    return setCurrentCursorTheme(name);
+}
+
+int QazIconTheme::GetIconSizeForDPI(double dpi, int kind)
+{
+    const double wanted = (kind == desktopKind ? 48 : 32) * dpi / 96;
+    int nearest = usualSizes[0];
+    for (const int size : usualSizes) {
+        if (std::abs(size - wanted) < std::abs(nearest - wanted))
+            nearest = size;
+    }
+    return nearest;
+}
