@@ -76,10 +76,7 @@ QImage readImage(const QString &path)
     const bool isSizeKnown = reader.supportsOption(QImageIOHandler::Size);
     if (isSizeKnown && (size.isEmpty() || qint64(size.width()) * size.height() > largestPixelCount))
         return {};
-    QImage image;
-    if (!reader.read(&image) || isCutOff(path, reader.format()))
-        return {};
-    return image;
+    return isCutOff(path, reader.format()) ? QImage() : reader.read();
 }
 
 QImage WallpaperImage::load(const QString &path)
