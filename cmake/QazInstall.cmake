@@ -12,7 +12,7 @@ install(DIRECTORY ${QAZ_STAGED_DATA}/translations DESTINATION ${data} OPTIONAL F
 
 install(DIRECTORY packaging/hicolor DESTINATION share/icons)
 install(FILES packaging/qaz-admin-theme.desktop DESTINATION share/applications)
-install(FILES packaging/qaz-admin-theme.metainfo.xml DESTINATION share/metainfo)
+install(FILES packaging/org.qaz.admin_theme.metainfo.xml DESTINATION share/metainfo)
 install(FILES docs/man/qaz-admin-theme.1 docs/man/qaz-svg2png.1 docs/man/qaz-wm-listen.1
     DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 install(FILES packaging/copyright README.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
