@@ -2,7 +2,10 @@
 
 #include "platform/base/chandle.h"
 
+#include <algorithm>
+#include <cerrno>
 #include <climits>
+#include <cstring>
 #include <string_view>
 
 #include <dirent.h>
@@ -13,57 +16,81 @@ namespace {
 
 using namespace std::string_view_literals;
 
-/// A file of /proc/PID, read into a buffer of the caller's. Empty when the process has vanished meanwhile.
-std::string_view readProcFile(int directory, const char *name, char *buffer, std::size_t size)
-{
-    const int file = ::openat(directory, name, O_RDONLY | O_CLOEXEC);
-    if (file < 0)
-        return {};
-    const ssize_t length = ::read(file, buffer, size);
-    ::close(file);
-    return length > 0 ? std::string_view(buffer, std::size_t(length)) : std::string_view();
-}
+constexpr auto deletedMark = " (deleted)"sv; // behind a program whose file was replaced, as by an upgrade
 
 std::string_view lastComponent(std::string_view path)
 {
     return path.substr(path.rfind('/') + 1);
 }
 
-bool executableIsNamed(int directory, std::string_view name)
+bool isWithMark(std::string_view program, std::string_view name)
 {
-    char buffer[PATH_MAX];
-    const ssize_t length = ::readlinkat(directory, "exe", buffer, sizeof buffer);
-    if (length <= 0)
-        return false; // a kernel thread, a zombie, or another user's process
-    const std::string_view program = lastComponent({buffer, std::size_t(length)});
-    // The kernel marks a program whose file was replaced, as an upgrade does while it runs.
-    constexpr std::string_view deleted = " (deleted)"sv;
-    return program == name
-           || (program.size() == name.size() + deleted.size() && program.substr(0, name.size()) == name
-               && program.substr(name.size()) == deleted);
+    return program.size() == name.size() + deletedMark.size() && program.substr(0, name.size()) == name
+           && program.substr(name.size()) == deletedMark;
 }
 
-bool firstArgumentIsNamed(int directory, std::string_view name)
+/// A directory of /proc. With thousands of processes every system call counts, so its files are reached by
+/// paths relative to /proc, and only as many as it takes.
+class Process
 {
-    char buffer[PATH_MAX];
-    const std::string_view arguments = readProcFile(directory, "cmdline", buffer, sizeof buffer);
-    return !arguments.empty() && lastComponent(arguments.substr(0, arguments.find('\0'))) == name;
-}
+public:
+    Process(int proc, const char *id)
+        : m_proc(proc)
+        , m_idLength(std::min(std::strlen(id), sizeof m_path / 2))
+    {
+        std::memcpy(m_path, id, m_idLength);
+    }
 
-bool isAlive(int directory)
-{
-    char buffer[256];
-    const std::string_view status = readProcFile(directory, "stat", buffer, sizeof buffer);
-    // "PID (NAME) STATE ...": the name itself may hold blanks and brackets.
-    const std::size_t nameEnd = status.rfind(')');
-    if (nameEnd == std::string_view::npos || nameEnd + 2 >= status.size())
-        return false;
-    return "ZXx"sv.find(status[nameEnd + 2]) == std::string_view::npos;
-}
+    bool isNamed(std::string_view name)
+    {
+        char buffer[PATH_MAX];
+        const ssize_t length = ::readlinkat(m_proc, file("/exe"), buffer, sizeof buffer);
+        if (length < 0 && errno == ENOENT)
+            return false; // a kernel thread or a zombie, or it has vanished
+        const std::string_view program = lastComponent({buffer, std::size_t(std::max<ssize_t>(length, 0))});
+        if (program == name || isWithMark(program, name))
+            return true;
+        const std::string_view arguments = read("/cmdline", buffer, sizeof buffer);
+        return lastComponent(arguments.substr(0, arguments.find('\0'))) == name;
+    }
 
-bool isProcess(const dirent *entry)
+    bool isAlive()
+    {
+        char buffer[256];
+        const std::string_view status = read("/stat", buffer, sizeof buffer);
+        // "PID (NAME) STATE ...": the name itself may hold blanks and brackets.
+        const std::size_t nameEnd = status.rfind(')');
+        if (nameEnd == std::string_view::npos || nameEnd + 2 >= status.size())
+            return false;
+        return "ZXx"sv.find(status[nameEnd + 2]) == std::string_view::npos;
+    }
+
+private:
+    const char *file(std::string_view name)
+    {
+        std::memcpy(m_path + m_idLength, name.data(), name.size());
+        m_path[m_idLength + name.size()] = '\0';
+        return m_path;
+    }
+
+    std::string_view read(const char *name, char *buffer, std::size_t size)
+    {
+        const int descriptor = ::openat(m_proc, file(name), O_RDONLY | O_CLOEXEC);
+        if (descriptor < 0)
+            return {};
+        const ssize_t length = ::read(descriptor, buffer, size);
+        ::close(descriptor);
+        return {buffer, std::size_t(std::max<ssize_t>(length, 0))};
+    }
+
+    int m_proc;
+    std::size_t m_idLength;
+    char m_path[64];
+};
+
+bool isProcessId(const char *name)
 {
-    return entry->d_name[0] >= '1' && entry->d_name[0] <= '9';
+    return name[0] >= '1' && name[0] <= '9';
 }
 
 } // namespace
@@ -71,20 +98,14 @@ bool isProcess(const dirent *entry)
 bool findInPS(const char *name)
 {
     const std::string_view wanted(name);
-    const std::unique_ptr<DIR, Release<::closedir>> processes(::opendir("/proc"));
-    if (wanted.empty() || !processes)
+    const std::unique_ptr<DIR, Release<::closedir>> directory(::opendir("/proc"));
+    if (wanted.empty() || !directory)
         return false;
-    while (const dirent *entry = ::readdir(processes.get())) {
-        if (!isProcess(entry))
+    while (const dirent *entry = ::readdir(directory.get())) {
+        if (!isProcessId(entry->d_name))
             continue;
-        const int directory = ::openat(::dirfd(processes.get()), entry->d_name,
-                                       O_PATH | O_DIRECTORY | O_CLOEXEC);
-        if (directory < 0)
-            continue;
-        const bool found = (executableIsNamed(directory, wanted) || firstArgumentIsNamed(directory, wanted))
-                           && isAlive(directory);
-        ::close(directory);
-        if (found)
+        Process process(::dirfd(directory.get()), entry->d_name);
+        if (process.isNamed(wanted) && process.isAlive())
             return true;
     }
     return false;

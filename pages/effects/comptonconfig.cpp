@@ -41,14 +41,21 @@ private:
     locale_t m_before;
 };
 
+std::optional<QByteArray> expanded(const QByteArray &text, const QString &path)
+{
+    return withIncludes(text, QFileInfo(path).path(), sizeLimit);
+}
+
+} // namespace
+
 /// libconfig's tree of a text.
-class ConfigTree
+class ComptonConfig::Tree
 {
 public:
-    ConfigTree() { ::config_init(&m_config); }
-    ~ConfigTree() { ::config_destroy(&m_config); }
-    ConfigTree(const ConfigTree &) = delete;
-    ConfigTree &operator=(const ConfigTree &) = delete;
+    Tree() { ::config_init(&m_config); }
+    ~Tree() { ::config_destroy(&m_config); }
+    Tree(const Tree &) = delete;
+    Tree &operator=(const Tree &) = delete;
 
     bool read(const QByteArray &text)
     {
@@ -64,7 +71,7 @@ public:
         return value != 0;
     }
 
-    bool setBoolean(const char *name, bool value)
+    void setBoolean(const char *name, bool value)
     {
         config_setting_t *root = config_root_setting(&m_config);
         config_setting_t *setting = ::config_lookup(&m_config, name);
@@ -74,8 +81,8 @@ public:
         }
         if (!setting)
             setting = ::config_setting_add(root, name, CONFIG_TYPE_BOOL);
-        return setting
-               && ::config_setting_set_bool(setting, value ? CONFIG_TRUE : CONFIG_FALSE) == CONFIG_TRUE;
+        if (setting)
+            ::config_setting_set_bool(setting, value ? CONFIG_TRUE : CONFIG_FALSE);
     }
 
     /// The whole configuration as libconfig writes it; empty when memory runs out.
@@ -99,27 +106,14 @@ private:
     config_t m_config;
 };
 
-std::optional<QByteArray> expanded(const QByteArray &text, const QString &path)
-{
-    return withIncludes(text, QFileInfo(path).path(), sizeLimit);
-}
-
-bool holds(const ConfigTree &tree, const QMap<QByteArray, bool> &values)
-{
-    for (auto value = values.cbegin(); value != values.cend(); ++value) {
-        if (tree.boolean(value.key().constData()) != value.value())
-            return false;
-    }
-    return true;
-}
-
-} // namespace
-
-ComptonConfig::ComptonConfig(QString path, QByteArray text, QByteArray expanded)
-    : m_path(std::move(path))
-    , m_text(std::move(text))
-    , m_expanded(std::move(expanded))
+ComptonConfig::ComptonConfig(const QString &path, const QByteArray &text, std::unique_ptr<Tree> tree)
+    : m_path(path)
+    , m_text(text)
+    , m_tree(std::move(tree))
 {}
+
+ComptonConfig::~ComptonConfig() = default;
+ComptonConfig::ComptonConfig(ComptonConfig &&) noexcept = default;
 
 std::optional<ComptonConfig> ComptonConfig::read(const QString &path)
 {
@@ -130,21 +124,22 @@ std::optional<ComptonConfig> ComptonConfig::read(const QString &path)
     if (file.state != FileState::Regular)
         return {};
     const std::optional<QByteArray> wholeText = expanded(file.content, path);
-    if (!wholeText || !ConfigTree().read(*wholeText))
+    auto tree = std::make_unique<Tree>();
+    if (!wholeText || !tree->read(*wholeText))
         return {};
-    return ComptonConfig(path, file.content, *wholeText);
+    return ComptonConfig(path, file.content, std::move(tree));
 }
 
 std::optional<bool> ComptonConfig::boolean(const char *name) const
 {
-    ConfigTree tree;
-    return tree.read(m_expanded) ? tree.boolean(name) : std::nullopt;
+    return m_tree->boolean(name);
 }
 
 bool ComptonConfig::updateBoolean(const char *name, bool value)
 {
     if (boolean(name) == value)
         return false;
+    m_tree->setBoolean(name, value);
     m_updates.insert(name, value);
     return true;
 }
@@ -154,20 +149,25 @@ bool ComptonConfig::write(QString *error) const
     QByteArray text = m_text;
     for (auto update = m_updates.cbegin(); update != m_updates.cend(); ++update)
         text = withRootBoolean(text, update.key(), update.value());
-    // libconfig has the last word on the edited text.
-    ConfigTree tree;
-    const std::optional<QByteArray> wholeText = expanded(text, m_path);
-    if (wholeText && tree.read(*wholeText) && holds(tree, m_updates))
-        return replaceFile(m_path, text, error);
-
-    ConfigTree whole;
-    bool isSet = whole.read(m_expanded);
-    for (auto update = m_updates.cbegin(); update != m_updates.cend(); ++update)
-        isSet = whole.setBoolean(update.key().constData(), update.value()) && isSet;
-    text = whole.text();
-    if (!isSet || text.isEmpty()) {
+    if (!areUpdatesIn(text))
+        text = m_tree->text();
+    if (text.isEmpty()) {
         *error = QStringLiteral("Out of memory");
         return false;
     }
     return replaceFile(m_path, text, error);
+}
+
+/// libconfig has the last word on an edited text: it must hold the updates.
+bool ComptonConfig::areUpdatesIn(const QByteArray &text) const
+{
+    const std::optional<QByteArray> wholeText = expanded(text, m_path);
+    Tree tree;
+    if (!wholeText || !tree.read(*wholeText))
+        return false;
+    for (auto update = m_updates.cbegin(); update != m_updates.cend(); ++update) {
+        if (tree.boolean(update.key().constData()) != update.value())
+            return false;
+    }
+    return true;
 }

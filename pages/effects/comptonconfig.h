@@ -4,6 +4,7 @@
 #include <QMap>
 #include <QString>
 
+#include <memory>
 #include <optional>
 
 inline constexpr char comptonTransparency[] = "enable-transparency";
@@ -13,6 +14,9 @@ inline constexpr char comptonShadow[] = "shadow";
 class ComptonConfig
 {
 public:
+    ~ComptonConfig();
+    ComptonConfig(ComptonConfig &&) noexcept;
+
     /// Reads the file at \a path with all that it includes; nothing when it can't be read, is no configuration
     /// or is larger than any configuration can sensibly be.
     static std::optional<ComptonConfig> read(const QString &path);
@@ -28,10 +32,13 @@ public:
     [[nodiscard]] bool write(QString *error) const;
 
 private:
-    ComptonConfig(QString path, QByteArray text, QByteArray expanded);
+    class Tree;
+
+    ComptonConfig(const QString &path, const QByteArray &text, std::unique_ptr<Tree> tree);
+    bool areUpdatesIn(const QByteArray &text) const;
 
     QString m_path;
     QByteArray m_text;
-    QByteArray m_expanded; ///< the text with its includes
+    std::unique_ptr<Tree> m_tree; ///< what libconfig makes of the text with its includes, and of the updates
     QMap<QByteArray, bool> m_updates;
 };
