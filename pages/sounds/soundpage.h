@@ -4,7 +4,6 @@
 #include <QWidget>
 
 #include <memory>
-#include <optional>
 
 class QSound;
 class QTreeWidgetItem;
@@ -57,6 +56,8 @@ public slots:
     void defaultAll();
 
 private:
+    enum Column { EventColumn, FileColumn, KeyColumn };
+
     void createRows();
     void setUpButtons();
     void fillThemes(const QazSettings *settings);
@@ -68,6 +69,9 @@ private:
     void startPlaying(const QString &path);
     void setPlaying(bool playing);
     QTreeWidgetItem *selectedItem() const;
+    static QString soundsDirectory();
+    /// Before \a from is disabled: Qt would pass its focus on to the dialog's buttons, which act on Return.
+    static void passFocus(const QWidget *from, QWidget *to);
     void showMessage(QMessageBox::Icon icon, const QString &title, const QString &text);
 
     std::unique_ptr<Ui::SoundForm> m_ui;
