@@ -40,7 +40,8 @@ void KFontRequesterPrivate::buildWidgets()
     button = new QPushButton(KFontRequester::tr("..."), q);
     button->setObjectName(QStringLiteral("chooseButton"));
     layout->addWidget(sampleLabel, 1);
-    layout->addWidget(button, 0);
+    // Aligned, its fixed height does not bind the preview's.
+    layout->addWidget(button, 0, Qt::AlignVCenter);
     q->setFocusProxy(button);
 }
 

@@ -5,7 +5,10 @@
 QString fontToText(const QFont &font)
 {
     const QFontInfo resolved(font);
-    QString text = resolved.family() + QLatin1Char('-') + QString::number(resolved.pointSize());
+    // A size beyond the font engine's limits resolves to nothing; then the request is kept.
+    const bool isResolved = resolved.pointSize() > 0;
+    QString text = (isResolved ? resolved.family() : font.family()) + QLatin1Char('-')
+                   + QString::number(isResolved ? resolved.pointSize() : font.pointSize());
     text += resolved.weight() < 51 ? QLatin1String(":normal") : QLatin1String(":bold");
     if (resolved.italic())
         text += QLatin1String(":italic");

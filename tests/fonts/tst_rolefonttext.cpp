@@ -79,6 +79,7 @@ void TestRoleFontText::writingTellsTheResolvedFont_data()
     QTest::newRow("bold") << QFont(sans, 12, QFont::Bold) << "DejaVu Sans-12:bold";
     QTest::newRow("italic") << QFont(QStringLiteral("DejaVu Sans Mono"), 9, QFont::Normal, true)
                             << "DejaVu Sans Mono-9:normal:italic";
+    QTest::newRow("too large to resolve") << QFont(sans, 100000) << "DejaVu Sans-100000:normal";
     const QFont missing(QStringLiteral("No such family"), 11, QFont::Bold);
     QTest::newRow("a family that is not installed")
         << missing << QFontInfo(missing).family() + QLatin1String("-11:bold");
