@@ -1,6 +1,7 @@
 #include "platform/qazfiledialog.h"
 
 #include <QFileInfo>
+#include <QListView>
 
 QazFileDialog::QazFileDialog(QWidget *parent, const QString &caption, const QString &location,
                              const QString &filter)
@@ -15,6 +16,9 @@ QazFileDialog::QazFileDialog(QWidget *parent, const QString &caption, const QStr
     } else if (!location.isEmpty()) {
         setDirectory(info.path());
         selectFile(info.fileName());
+        // Only the name field holds it: a selected row would join the next name put there, as a second file.
+        if (const auto *files = findChild<QListView *>(QStringLiteral("listView")))
+            files->selectionModel()->clearSelection();
     }
 }
 
