@@ -37,7 +37,7 @@ std::string findProgram(const std::string &name)
     const std::string searchPath = variable ? variable : "/usr/local/bin:/usr/bin:/bin";
     for (std::size_t begin = 0; begin <= searchPath.size();) {
         const std::size_t end = std::min(searchPath.find(':', begin), searchPath.size());
-        const std::string path = searchDirectory(searchPath.substr(begin, end - begin)) + '/' + name;
+        std::string path = searchDirectory(searchPath.substr(begin, end - begin)) + '/' + name;
         if (isProgram(path))
             return path;
         begin = end + 1;

@@ -188,10 +188,10 @@ QString resolveComptonConfig(const ComptonPlaces &places)
 {
     const QString homeConfig = places.home + QLatin1String("/.config");
     const QString file = QStringLiteral("/compton.conf");
-    const QString own = (places.configHome.isEmpty() ? homeConfig : places.configHome) + file;
+    QString own = (places.configHome.isEmpty() ? homeConfig : places.configHome) + file;
     if (QFileInfo::exists(own))
         return own;
-    const QString old = places.home + QLatin1String("/.compton.conf");
+    QString old = places.home + QLatin1String("/.compton.conf");
     if (QFileInfo::exists(old))
         return old;
     if (QFileInfo::exists(places.systemFile))

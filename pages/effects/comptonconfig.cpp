@@ -6,12 +6,12 @@
 
 #include <QFileInfo>
 
+#include <clocale>
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
 
 #include <libconfig.h>
-#include <locale.h>
 
 namespace {
 

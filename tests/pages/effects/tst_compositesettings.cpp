@@ -290,8 +290,6 @@ private slots:
         row("the old place", "xdg", ".config/compton.conf .compton.conf etc", ".compton.conf",
             ".compton.conf");
         row("a copy of the system's", "xdg", ".config/x etc", ".config/compton.conf", "etc");
-        row("a user's file is not replaced by the system's", "xdg", ".config/compton.conf etc",
-            ".config/compton.conf", ".config/compton.conf");
         row("a user's file is not emptied", "xdg", ".config/compton.conf", ".config/compton.conf",
             ".config/compton.conf");
         row("a new file", "xdg", ".config/x", ".config/compton.conf", "");
