@@ -21,7 +21,7 @@ QByteArray findCursor(ThemeDirectories &directories, const QByteArray &theme, co
     for (const QByteArray &location : locations) {
         const QByteArray cursors = location + "/cursors";
         if (directories.listing(location).hasDirectory("cursors")
-            && directories.listing(cursors).hasFile(name))
+            && directories.listing(cursors).hasFile(name.constData()))
             return cursors + '/' + name;
     }
     if (const IconThemeIndex *index = directories.index(locations)) {

@@ -16,7 +16,7 @@ QByteArray fileIn(ThemeDirectories &directories, const QByteArray &directory, co
 {
     const DirectoryListing &listing = directories.listing(directory);
     for (const char *ending : endings) {
-        if (listing.hasFile(name + ending))
+        if (listing.hasFile((name + ending).constData()))
             return directory + '/' + name + ending;
     }
     return {};
@@ -30,7 +30,8 @@ QByteArray fileInTheme(ThemeDirectories &directories, const QByteArrayList &loca
     const QByteArray top = slash < 0 ? path : path.left(slash);
     for (const QByteArray &location : locations) {
         // Indexes name directories that were never installed; the listing spares a look at each of them.
-        if (!top.isEmpty() && top != "." && top != ".." && !directories.listing(location).hasDirectory(top))
+        if (!top.isEmpty() && top != "." && top != ".."
+            && !directories.listing(location).hasDirectory(top.constData()))
             continue;
         if (const QByteArray file = fileIn(directories, location + '/' + path, name); !file.isEmpty())
             return file;

@@ -53,7 +53,7 @@ bool QazIconTheme::getThemesNames(List<char> *list)
             if (!index || !index->hasDirectories)
                 continue;
             names.insert(entry.name);
-            list->append(entry.name.constData());
+            list->append(entry.name);
         }
     }
     return !list->isEmpty();

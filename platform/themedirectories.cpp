@@ -33,7 +33,7 @@ QByteArrayList ThemeDirectories::locations(const QByteArrayList &bases, const QB
     if (name.isEmpty() || name == "." || name == ".." || name.contains('/'))
         return locations;
     for (const QByteArray &base : bases) {
-        if (listing(base).hasDirectory(name))
+        if (listing(base).hasDirectory(name.constData()))
             locations.append(base + '/' + name);
     }
     return locations;

@@ -1,5 +1,7 @@
 #include "pages/theme/previewicon.h"
 
+#include "pages/theme/packedimage.h"
+
 #include <QApplication>
 #include <QIconEngine>
 #include <QPainter>
@@ -9,35 +11,33 @@
 
 namespace {
 
-constexpr int fastest = 1; // of zlib's levels; most of a preview is empty or repeats
-constexpr int bytesPerPixel = 4;
-
 class PreviewIconEngine : public QIconEngine
 {
 public:
+    PreviewIconEngine(const QSize &size, const std::function<QImage()> &draw)
+        : m_size(size)
+        , m_draw(draw)
+    {}
+
     explicit PreviewIconEngine(const QImage &preview)
         : m_size(preview.size())
-    {
-        const QImage image = preview.convertToFormat(QImage::Format_ARGB32_Premultiplied);
-        m_pixels = qCompress(image.constBits(), int(image.sizeInBytes()), fastest);
-    }
+        , m_packed(packImage(preview))
+    {}
 
     void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State state) override
     {
         painter->drawPixmap(rect, pixmap(rect.size(), mode, state));
     }
 
-    QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State /*state*/) override
+    QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state) override
     {
-        const QByteArray pixels = qUncompress(m_pixels);
-        if (pixels.isEmpty())
-            return {};
-        const QImage image(reinterpret_cast<const uchar *>(pixels.constData()), m_size.width(),
-                           m_size.height(), m_size.width() * bytesPerPixel,
-                           QImage::Format_ARGB32_Premultiplied);
-        QPixmap pixmap = QPixmap::fromImage(image.copy());
-        const QSize shown = actualSize(size, mode, QIcon::Off);
-        if (shown != m_size)
+        if (m_draw) {
+            m_packed = packImage(m_draw());
+            m_draw = nullptr;
+        }
+        QPixmap pixmap = QPixmap::fromImage(unpackImage(m_packed, m_size));
+        const QSize shown = actualSize(size, mode, state);
+        if (shown != m_size && !pixmap.isNull())
             pixmap = pixmap.scaled(shown, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
         if (mode == QIcon::Normal)
             return pixmap;
@@ -61,7 +61,8 @@ public:
 
 private:
     QSize m_size;
-    QByteArray m_pixels;
+    QByteArray m_packed;
+    std::function<QImage()> m_draw; ///< empty as soon as the preview is packed
 };
 
 } // namespace
@@ -69,4 +70,9 @@ private:
 QIcon previewIcon(const QImage &preview)
 {
     return QIcon(new PreviewIconEngine(preview));
+}
+
+QIcon previewIcon(const QSize &size, const std::function<QImage()> &draw)
+{
+    return QIcon(new PreviewIconEngine(size, draw));
 }

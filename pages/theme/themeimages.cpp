@@ -144,7 +144,7 @@ int listDecorThemes(QStringList *list)
     const QByteArray root = decorThemesDirectory();
     list->clear();
     for (const DirectoryListing::Entry &entry : directories->listing(root).entries()) {
-        if (entry.canBeDirectory && !entry.name.startsWith('.')
+        if (entry.canBeDirectory && entry.name[0] != '.'
             && directories->listing(root + '/' + entry.name).hasFile("default.theme"))
             list->append(QFile::decodeName(entry.name));
     }

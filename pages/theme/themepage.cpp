@@ -1,11 +1,12 @@
 #include "pages/theme/themepage.h"
 
+#include "pages/theme/buttonicons.h"
 #include "pages/theme/colorelements.h"
 #include "pages/theme/previewicon.h"
+#include "pages/theme/previews.h"
 #include "pages/theme/sizeelements.h"
-#include "pages/theme/themeimages.h"
+#include "pages/theme/themelists.h"
 #include "pages/theme/xserver.h"
-#include "platform/base/diagnostics.h"
 #include "platform/qazicontheme.h"
 #include "platform/qazinit.h"
 #include "platform/qazsettings.h"
@@ -19,7 +20,6 @@
 #include <QFile>
 #include <QInputDialog>
 #include <QMessageBox>
-#include <QPainter>
 #include <QPushButton>
 
 #include <algorithm>
@@ -42,10 +42,6 @@ constexpr char iconThemeSaveDefault[] = "qaz-tirsk"; // on load the default is e
 constexpr char decorThemeKey[] = "DecorTheme";
 constexpr int noDecorThemeIndex = 0;
 
-constexpr unsigned pointerShape = 68;
-constexpr unsigned watchShape = 150;
-constexpr unsigned textShape = 152;
-constexpr int placeIconSize = 32;
 constexpr int comboIconHeight = 32; // at 96 dpi
 constexpr std::size_t commandSize = 4096;
 
@@ -54,20 +50,18 @@ QString storedText(const QazSettings *settings, const char *key, const QString &
     return settings->value(QLatin1String(key), defaultText).toString();
 }
 
-QStringList sortedNames(const List<char> &list)
+/// The position of \a name in \a entries; -1 when it isn't listed.
+int indexOf(const QVector<ThemeEntry> &entries, const QString &name)
 {
-    QStringList names;
-    for (int i = 0; i < list.count(); ++i)
-        names.append(QFile::decodeName(list.at(i)));
-    std::sort(names.begin(), names.end());
-    return names;
+    const auto found = std::find_if(entries.cbegin(), entries.cend(),
+                                    [&name](const ThemeEntry &entry) { return entry.name == name; });
+    return found == entries.cend() ? -1 : int(found - entries.cbegin());
 }
 
-QImage placeIcon(const QazIconTheme &theme, const char *name)
+void addEntries(QComboBox *combo, const QVector<ThemeEntry> &entries)
 {
-    QString path;
-    return theme.getIcon(name, placeIconSize, "Places", &path) ? loadIconImage(path, placeIconSize)
-                                                               : QImage();
+    for (const ThemeEntry &entry : entries)
+        combo->addItem(entry.preview, entry.name);
 }
 
 QColor colorAt(const QStringList &colors, int index)
@@ -86,6 +80,7 @@ ThemePage::ThemePage(QWidget *parent)
     QSizePolicy policy = m_ui->color2Button->sizePolicy();
     policy.setRetainSizeWhenHidden(true);
     m_ui->color2Button->setSizePolicy(policy);
+    m_ui->sizeButton->setIcon(ellipsisPixmap(palette().color(QPalette::ButtonText), int(qazDpiScaled(16))));
 }
 
 ThemePage::~ThemePage() = default;
@@ -117,65 +112,35 @@ void ThemePage::clearForm()
 void ThemePage::loadCursorThemes()
 {
     QComboBox *combo = m_ui->cursorThemeCombo;
-    List<char> list;
-    const bool isListed = serverHasExtension("RENDER") && QazIconTheme::getCursorThemeNames(&list);
-    combo->setEnabled(isListed);
-    if (!isListed)
-        return;
-    for (const QString &name : sortedNames(list)) {
-        const QImage pointer = loadCursorImage(pointerShape, name);
-        const QImage watch = loadCursorImage(watchShape, name);
-        const QImage text = loadCursorImage(textShape, name);
-        if (!pointer.isNull() && !watch.isNull() && !text.isNull())
-            combo->addItem(previewIcon(threeImagesPreview(combo->iconSize(), pointer, watch, text)), name);
-    }
-    combo->setCurrentIndex(combo->findText(currentCursorTheme(), Qt::MatchExactly | Qt::MatchCaseSensitive));
+    QVector<ThemeEntry> entries;
+    if (serverHasExtension("RENDER")) // the previews need it, and so do coloured cursors
+        entries = cursorThemeEntries(combo->iconSize());
+    addEntries(combo, entries);
+    combo->setCurrentIndex(indexOf(entries, currentCursorTheme()));
+    combo->setEnabled(combo->count() > 0);
 }
 
 void ThemePage::loadIconThemes(const QazSettings *settings)
 {
     QComboBox *combo = m_ui->iconThemeCombo;
-    List<char> list;
-    QazIconTheme::getThemesNames(&list);
-    for (const QString &name : sortedNames(list)) {
-        if (name == QLatin1String("hicolor") || name == QLatin1String("default"))
-            continue;
-        QazIconTheme theme(QFile::encodeName(name).constData(), nullptr, false);
-        theme.load();
-        const QImage home = placeIcon(theme, "user-home");
-        const QImage trash = placeIcon(theme, "user-trash");
-        const QImage desktop = placeIcon(theme, "user-desktop");
-        QString clock;
-        if (theme.getIcon("preferences-system-time", placeIconSize, "Applications", &clock))
-            combo->addItem(previewIcon(threeImagesPreview(combo->iconSize(), home, trash, desktop)), name);
-        else
-            printDiagnostic(
-                QStringLiteral("theme %1 is not full (no preferences-system-time in apps)").arg(name));
-    }
-    combo->setCurrentIndex(
-        combo->findText(storedText(settings, iconThemeKey), Qt::MatchExactly | Qt::MatchCaseSensitive));
+    const QVector<ThemeEntry> entries = iconThemeEntries(combo->iconSize());
+    addEntries(combo, entries);
+    combo->setCurrentIndex(indexOf(entries, storedText(settings, iconThemeKey)));
     combo->setEnabled(combo->count() > 0);
 }
 
 void ThemePage::loadDecorThemes(const QazSettings *settings)
 {
     QComboBox *combo = m_ui->decorThemeCombo;
-    QStringList names;
-    listDecorThemes(&names);
-    std::sort(names.begin(), names.end());
+    const QVector<ThemeEntry> entries = decorThemeEntries(combo->iconSize());
     const QString configured = storedText(settings, decorThemeKey);
-    int current = configured.isEmpty() ? noDecorThemeIndex : -1;
     combo->addItem(previewIcon(solidSwatch(combo->iconSize(), QColor())), tr("No theme"));
-    for (const QString &name : qAsConst(names)) {
-        const std::optional<DecorImages> images = loadDecorImages(name);
-        if (!images)
-            continue;
-        // By position: a theme may have the same name as the first entry.
-        if (name == configured)
-            current = combo->count();
-        combo->addItem(previewIcon(decorPreview(combo->iconSize(), *images)), name);
-    }
-    combo->setCurrentIndex(current);
+    addEntries(combo, entries);
+    // By position: a theme may have the name of the first entry.
+    const int listed = indexOf(entries, configured);
+    combo->setCurrentIndex(configured.isEmpty() ? noDecorThemeIndex
+                           : listed < 0         ? -1
+                                                : noDecorThemeIndex + 1 + listed);
     combo->setEnabled(combo->count() > 0);
 }
 
@@ -238,13 +203,8 @@ void ThemePage::showColor(QPushButton *button, const QColor &color)
     QPalette palette = button->palette();
     palette.setColor(QPalette::Window, shown);
     button->setPalette(palette);
-    // Styles are free to paint a button in colours of their own; an icon shows under each of them.
-    QPixmap swatch(m_ui->sizeComboBox->iconSize() / 2);
-    swatch.fill(shown);
-    QPainter painter(&swatch);
-    painter.setPen(palette.color(QPalette::ButtonText));
-    painter.drawRect(swatch.rect().adjusted(0, 0, -1, -1));
-    painter.end();
+    const int height = m_ui->sizeComboBox->iconSize().height() / 2;
+    const QPixmap swatch = colorButtonPixmap(shown, palette.color(QPalette::ButtonText), height);
     button->setIcon(swatch);
     button->setIconSize(swatch.size());
 }

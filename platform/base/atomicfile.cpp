@@ -18,7 +18,8 @@
 
 namespace {
 
-constexpr int linkLimit = 40; // what the kernel follows, too
+constexpr int linkLimit = 40;           // what the kernel follows, too
+constexpr int largestContent = 1 << 30; // bytes
 
 QString systemError(int number)
 {
@@ -60,6 +61,33 @@ bool writeAll(int descriptor, const QByteArray &content)
         data += written;
         left -= written;
     }
+    return true;
+}
+
+/// Reads to the end of a file of about \a size bytes; it may grow or shrink meanwhile, and files of the kernel
+/// state no size at all. Fails with errno set.
+bool readAll(int descriptor, qint64 size, QByteArray *content)
+{
+    constexpr int spare = 4096;
+    content->resize(int(qMin<qint64>(size, largestContent)) + 1); // one more, to meet the end without growing
+    int length = 0;
+    for (;;) {
+        const ssize_t got = ::read(descriptor, content->data() + length, size_t(content->size() - length));
+        if (got < 0 && errno == EINTR)
+            continue;
+        if (got < 0)
+            return false;
+        length += int(got);
+        if (got == 0)
+            break;
+        if (length > largestContent) {
+            errno = EFBIG;
+            return false;
+        }
+        if (length == content->size())
+            content->resize(length + length / 2 + spare);
+    }
+    content->resize(length);
     return true;
 }
 
@@ -141,18 +169,10 @@ FileContent readRegularFile(const QString &path)
         result.error = S_ISDIR(status.st_mode) ? systemError(EISDIR) : QStringLiteral("Not a regular file");
         return result;
     }
-    QFile reader;
-    if (!reader.open(file.get(), QIODevice::ReadOnly | QIODevice::Unbuffered)) {
-        result.error = reader.errorString();
-        return result;
-    }
-    result.content = reader.readAll();
-    if (reader.error() != QFileDevice::NoError) {
-        result.error = reader.errorString();
-        result.content.clear();
-        return result;
-    }
-    result.state = FileState::Regular;
+    if (readAll(file.get(), status.st_size, &result.content))
+        result.state = FileState::Regular;
+    else
+        result = {FileState::Unreadable, {}, systemError(errno)};
     return result;
 }
 
@@ -205,8 +225,8 @@ bool replaceFile(const QString &path, const QByteArray &content, QString *error,
 }
 
 DirectoryLock::DirectoryLock(const QString &filePath, int timeoutMs)
-    : m_descriptor(::open(QFile::encodeName(QFileInfo(filePath).path()).constData(),
-                          O_RDONLY | O_DIRECTORY | O_CLOEXEC))
+    : m_descriptor(
+        ::open(QFile::encodeName(QFileInfo(filePath).path()).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC))
 {
     if (m_descriptor < 0) {
         m_error = systemError(errno);

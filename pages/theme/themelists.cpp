@@ -1,0 +1,94 @@
+#include "pages/theme/themelists.h"
+
+#include "pages/theme/previewicon.h"
+#include "pages/theme/themeimages.h"
+#include "platform/base/diagnostics.h"
+#include "platform/qazicontheme.h"
+
+#include <QFile>
+
+#include <algorithm>
+
+namespace {
+
+constexpr unsigned pointerShape = 68;
+constexpr unsigned watchShape = 150;
+constexpr unsigned textShape = 152;
+constexpr int themeIconSize = 32;
+
+QStringList sortedNames(const List<char> &list)
+{
+    QStringList names;
+    for (int i = 0; i < list.count(); ++i)
+        names.append(QFile::decodeName(list.at(i)));
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
+QString iconPath(const QazIconTheme &theme, const char *name, const char *context)
+{
+    QString path;
+    theme.getIcon(name, themeIconSize, context, &path);
+    return path;
+}
+
+/// The preview of an icon theme from the paths of its home, trash and desktop icons.
+QImage placesPreview(const QSize &size, const QStringList &paths)
+{
+    return threeImagesPreview(size, loadIconImage(paths.at(0), themeIconSize),
+                              loadIconImage(paths.at(1), themeIconSize),
+                              loadIconImage(paths.at(2), themeIconSize));
+}
+
+} // namespace
+
+QVector<ThemeEntry> cursorThemeEntries(const QSize &size)
+{
+    QVector<ThemeEntry> entries;
+    List<char> list;
+    QazIconTheme::getCursorThemeNames(&list);
+    for (const QString &name : sortedNames(list)) {
+        const QImage pointer = loadCursorImage(pointerShape, name);
+        const QImage watch = loadCursorImage(watchShape, name);
+        const QImage text = loadCursorImage(textShape, name);
+        if (!pointer.isNull() && !watch.isNull() && !text.isNull())
+            entries.append({name, previewIcon(threeImagesPreview(size, pointer, watch, text))});
+    }
+    return entries;
+}
+
+QVector<ThemeEntry> iconThemeEntries(const QSize &size)
+{
+    QVector<ThemeEntry> entries;
+    List<char> list;
+    QazIconTheme::getThemesNames(&list);
+    for (const QString &name : sortedNames(list)) {
+        if (name == QLatin1String("hicolor") || name == QLatin1String("default"))
+            continue;
+        QazIconTheme theme(QFile::encodeName(name).constData(), nullptr, false);
+        theme.load();
+        QStringList places;
+        for (const char *place : {"user-home", "user-trash", "user-desktop"})
+            places.append(iconPath(theme, place, "Places"));
+        if (!iconPath(theme, "preferences-system-time", "Applications").isEmpty())
+            // Decoding the icons is most of the work; only the themes that come into view need it.
+            entries.append({name, previewIcon(size, [size, places] { return placesPreview(size, places); })});
+        else
+            printDiagnostic(
+                QStringLiteral("theme %1 is not full (no preferences-system-time in apps)").arg(name));
+    }
+    return entries;
+}
+
+QVector<ThemeEntry> decorThemeEntries(const QSize &size)
+{
+    QVector<ThemeEntry> entries;
+    QStringList names;
+    listDecorThemes(&names);
+    std::sort(names.begin(), names.end());
+    for (const QString &name : qAsConst(names)) {
+        if (const std::optional<DecorImages> images = loadDecorImages(name))
+            entries.append({name, previewIcon(decorPreview(size, *images))});
+    }
+    return entries;
+}
