@@ -317,29 +317,33 @@ void FontsDocument::addPrologEdits(QVector<Edit> *edits) const
 FontsDocument::Edit FontsDocument::changeOf(const Child &child, const QString &form) const
 {
     const QString indentation = lineIndentation(child.start);
-    if (form.isEmpty()) {
-        // With the element goes the line it stands on alone.
-        int start = child.start - indentation.size();
-        const int lineEnd = m_text.indexOf(QLatin1Char('\n'), child.end);
-        const bool isAlone = start > 0 && m_text.at(start - 1) == QLatin1Char('\n')
-                             && m_text.midRef(child.end, lineEnd - child.end).trimmed().isEmpty();
-        if (!isAlone || lineEnd < 0)
-            return {child.start, child.end, {}};
-        --start;
-        if (start > 0 && m_text.at(start - 1) == QLatin1Char('\r'))
-            --start;
-        return {start, child.end, {}};
-    }
     const QString old = m_text.mid(child.start, child.end - child.start);
+    // What users wrote between our tags is theirs.
+    const QStringList remarks = remarksIn(old);
+    if (form.isEmpty()) {
+        const QString rest = laidOut(remarks, indentation);
+        return {rest.isEmpty() ? removalStart(child, indentation) : child.start, child.end, rest};
+    }
     QStringList lines = form.split(QLatin1Char('\n'));
-    // A start tag may carry more than we know of, and what users wrote between our tags is theirs.
+    // A start tag may carry more than we know of.
     if (child.node.attributes().size() > 1)
         lines.first() = m_text.mid(child.start, child.startTagEnd - child.start);
-    int line = 1;
-    for (const QString &remark : remarksIn(old))
-        lines.insert(line++, QLatin1Char('\t') + remark);
+    for (int i = 0; i < remarks.size(); ++i)
+        lines.insert(1 + i, QLatin1Char('\t') + remarks.at(i));
     const QString wanted = laidOut(lines, indentation);
     return {child.start, child.end, essence(old) == essence(wanted) ? old : wanted};
+}
+
+int FontsDocument::removalStart(const Child &child, const QString &indentation) const
+{
+    int start = child.start - indentation.size();
+    const int lineEnd = m_text.indexOf(QLatin1Char('\n'), child.end);
+    const bool isAlone = start > 0 && m_text.at(start - 1) == QLatin1Char('\n') && lineEnd >= 0
+                         && m_text.midRef(child.end, lineEnd - child.end).trimmed().isEmpty();
+    if (!isAlone)
+        return child.start;
+    --start;
+    return start > 0 && m_text.at(start - 1) == QLatin1Char('\r') ? start - 1 : start;
 }
 
 FontsDocument::Edit FontsDocument::insertionOf(const QStringList &forms) const

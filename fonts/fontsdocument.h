@@ -52,6 +52,8 @@ private:
     [[nodiscard]] bool decode(const QByteArray &content, QString *error);
     void addPrologEdits(QVector<Edit> *edits) const;
     Edit changeOf(const Child &child, const QString &form) const;
+    /// Where the removal of \a child begins: with the line break before it when it has its lines for itself.
+    int removalStart(const Child &child, const QString &indentation) const;
     Edit insertionOf(const QStringList &forms) const;
     QString laidOut(QStringList lines, const QString &indentation) const;
     QString lineIndentation(int position) const;

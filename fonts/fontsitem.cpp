@@ -172,7 +172,7 @@ QString directoryForm(const QString &directory, const QString &home)
 {
     QString path = fileFormOfPath(directory);
     const QString homeInDirectoryForm = directoryFormOfPath(home);
-    if (directoryFormOfPath(path).startsWith(homeInDirectoryForm))
+    if (homeInDirectoryForm.size() > 1 && directoryFormOfPath(path).startsWith(homeInDirectoryForm))
         path.replace(0, homeInDirectoryForm.size() - 1, QLatin1Char('~'));
     path = path.toHtmlEscaped();
     // A line break would start a new line of the form.
@@ -182,7 +182,8 @@ QString directoryForm(const QString &directory, const QString &home)
 
 QString directoryFormOfPath(QString path)
 {
-    path.replace(QLatin1String("//"), QLatin1String("/"));
+    while (path.contains(QLatin1String("//")))
+        path.replace(QLatin1String("//"), QLatin1String("/"));
     return path.endsWith(QLatin1Char('/')) ? path : path + QLatin1Char('/');
 }
 

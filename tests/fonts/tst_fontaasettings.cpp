@@ -1,0 +1,218 @@
+#include "fonts/fontaasettings.h"
+#include "tests/support/modaldriver.h"
+#include "tests/support/temporaryhome.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QDoubleSpinBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QSettings>
+#include <QtTest>
+
+namespace {
+
+const QString place = QStringLiteral(".config/fontconfig/fonts.conf");
+
+QByteArray value(const char *name, const char *tag, const char *text)
+{
+    return QByteArray("<match target='font'><edit mode='assign' name='") + name + "'><" + tag + '>' + text
+           + "</" + tag + "></edit></match>\n";
+}
+
+QByteArray pixelRange(const char *from, const char *to)
+{
+    return QByteArray("<match target='font'><test qual='any' name='pixelsize' compare='more_eq'><double>")
+           + from + "</double></test><test qual='any' name='pixelsize' compare='less_eq'><double>" + to
+           + "</double></test><edit mode='assign' name='antialias'><bool>false</bool></edit></match>\n";
+}
+
+/// The dialog over a fontconfig file of its own.
+class DialogOverFile
+{
+public:
+    explicit DialogOverFile(const QByteArray &elements)
+    {
+        write(elements);
+        QCoreApplication::setOrganizationName(QStringLiteral("qaz"));
+        QCoreApplication::setApplicationName(QStringLiteral("qaz-admin-theme"));
+        dialog = std::make_unique<FontAASettings>(nullptr);
+    }
+
+    void write(const QByteArray &elements)
+    {
+        home.write(place, "<?xml version=\"1.0\"?>\n<fontconfig>\n" + elements + "</fontconfig>\n");
+    }
+    template<typename Widget>
+    Widget *find(const char *name) const
+    {
+        return dialog->findChild<Widget *>(QLatin1String(name));
+    }
+    QPushButton *ok() const { return find<QDialogButtonBox>("buttonBox")->button(QDialogButtonBox::Ok); }
+    /// All that the widgets show, brackets around what is disabled.
+    QString shown() const
+    {
+        const auto text = [](const QWidget *widget, const QString &shown) {
+            return widget->isEnabled() ? shown : QLatin1Char('(') + shown + QLatin1Char(')');
+        };
+        QStringList texts;
+        for (const char *name : {"excludeRangeCheckBox", "useSubPixelCheckBox"})
+            texts += text(find<QCheckBox>(name), QString::number(find<QCheckBox>(name)->isChecked()));
+        for (const char *name : {"excludeFromSpinBox", "excludeToSpinBox"})
+            texts += text(find<QDoubleSpinBox>(name), find<QDoubleSpinBox>(name)->text());
+        for (const char *name : {"subPixelTypeCombo", "hintStyleCombo"})
+            texts += text(find<QComboBox>(name), find<QComboBox>(name)->currentText());
+        return texts.join(QLatin1Char(' '));
+    }
+    static QString stored(const char *key)
+    {
+        return QSettings().value(QLatin1String(key), QStringLiteral("-")).toString();
+    }
+
+    const TemporaryHome home;
+    std::unique_ptr<FontAASettings> dialog;
+};
+
+} // namespace
+
+class TestFontAASettings : public QObject
+{
+    Q_OBJECT
+private slots:
+    void emptyFileShowsTheDefaults()
+    {
+        DialogOverFile file({});
+        QCOMPARE(file.shown(), QStringLiteral("0 0 (0.0 pix) (14.0 pix) (RGB) Medium"));
+        QVERIFY(!file.find<QLabel>("excludeToLabel")->isEnabled());
+        QVERIFY(!file.ok()->isEnabled());
+        QVERIFY(file.dialog->isModal());
+        // A style that is not set is stored at once, the file stays.
+        QCOMPARE(DialogOverFile::stored("XftHintStyle"), QStringLiteral("hintmedium"));
+        QCOMPARE(file.home.read(place), QByteArray("<?xml version=\"1.0\"?>\n<fontconfig>\n</fontconfig>\n"));
+    }
+
+    void fileIsShown()
+    {
+        DialogOverFile file(pixelRange("8", "15") + value("rgba", "const", "vbgr")
+                            + value("hintstyle", "const", "hintslight")
+                            + value("antialias", "bool", "false"));
+        QCOMPARE(file.shown(), QStringLiteral("1 1 8.0 pix 15.0 pix Vertical BGR Slight"));
+        QVERIFY(!file.dialog->load());
+        QCOMPARE(DialogOverFile::stored("XftHintStyle"), QStringLiteral("-"));
+
+        file.write(value("antialias", "bool", "true"));
+        QVERIFY(file.dialog->load());
+        QCOMPARE(file.shown(), QStringLiteral("0 0 (0.0 pix) (14.0 pix) (Vertical BGR) Medium"));
+        QVERIFY(!file.ok()->isEnabled()); // what was read is no edit
+    }
+
+    void combosShowOrdersAndStyles()
+    {
+        DialogOverFile file({});
+        const auto *orders = file.find<QComboBox>("subPixelTypeCombo");
+        QStringList texts;
+        for (int i = 0; i < orders->count(); ++i) {
+            texts += orders->itemText(i);
+            QCOMPARE(orders->itemIcon(i).availableSizes(), QList<QSize>{QSize(12, 12)});
+        }
+        const auto *styles = file.find<QComboBox>("hintStyleCombo");
+        for (int i = 0; i < styles->count(); ++i)
+            texts += styles->itemText(i);
+        QCOMPARE(texts.join(QLatin1Char('|')),
+                 QStringLiteral("RGB|BGR|Vertical RGB|Vertical BGR|None|Slight|Medium|Full"));
+    }
+
+    void editsAreSaved()
+    {
+        DialogOverFile file({});
+        file.find<QCheckBox>("excludeRangeCheckBox")->click();
+        QVERIFY(file.ok()->isEnabled());
+        file.find<QDoubleSpinBox>("excludeToSpinBox")->setValue(9.5);
+        file.find<QCheckBox>("useSubPixelCheckBox")->click();
+        QTest::keyClick(file.find<QComboBox>("subPixelTypeCombo"), Qt::Key_Down);
+        QTest::keyClick(file.find<QComboBox>("hintStyleCombo"), Qt::Key_End);
+        QVERIFY(file.dialog->save(true));
+        const QByteArray content = file.home.read(place);
+        for (const char *part : {"<const>bgr</const>", "<const>hintfull</const>", "<double>9.5</double>",
+                                 "name=\"antialias\">\n      <bool>true</bool>"})
+            QVERIFY2(content.contains(part), content.constData());
+        QCOMPARE(DialogOverFile::stored("XftSubPixel"), QStringLiteral("bgr"));
+        QCOMPARE(DialogOverFile::stored("XftAntialias"), QStringLiteral("true"));
+        QCOMPARE(DialogOverFile::stored("XftHintStyle"), QStringLiteral("hintfull"));
+        QVERIFY(!file.dialog->save(true)); // nothing new
+
+        file.find<QCheckBox>("useSubPixelCheckBox")->click();
+        file.find<QCheckBox>("excludeRangeCheckBox")->click();
+        QVERIFY(file.dialog->save(false));
+        QVERIFY(!file.home.read(place).contains("rgba") && !file.home.read(place).contains("double"));
+        QCOMPARE(DialogOverFile::stored("XftSubPixel"), QStringLiteral("none"));
+        QCOMPARE(DialogOverFile::stored("XftAntialias"), QStringLiteral("false"));
+    }
+
+    void hintStyleNewToTheStoreCountsAsChange()
+    {
+        DialogOverFile file(value("hintstyle", "const", "hintfull") + value("antialias", "bool", "true"));
+        QVERIFY(file.dialog->save(true));
+        QVERIFY(!file.dialog->save(true));
+    }
+
+    void rangeThatWasNotEditedStays()
+    {
+        DialogOverFile file(pixelRange("8.25", "60") + value("hintstyle", "const", "hintfull"));
+        QCOMPARE(file.find<QDoubleSpinBox>("excludeToSpinBox")->value(), 48.0);
+        file.dialog->save(true);
+        QVERIFY(file.home.read(place).contains("<double>8.25</double>"));
+        file.find<QDoubleSpinBox>("excludeFromSpinBox")->setValue(4);
+        file.dialog->save(true);
+        QVERIFY(!file.home.read(place).contains("<double>60</double>"));
+    }
+
+    void rejectedDialogShowsTheFileAgain()
+    {
+        DialogOverFile file(value("hintstyle", "const", "hintslight"));
+        ModalDriver driver;
+        driver.then([&file](QDialog *dialog) {
+            file.find<QCheckBox>("excludeRangeCheckBox")->click();
+            file.find<QDoubleSpinBox>("excludeToSpinBox")->setValue(20);
+            dialog->reject();
+        });
+        const QString before = file.shown();
+        QCOMPARE(file.dialog->exec(), 0);
+        QCOMPARE(file.shown(), before);
+
+        // One edit counts for ever, also one that was rejected.
+        driver.then([&file](QDialog *) { file.ok()->click(); });
+        QCOMPARE(file.dialog->exec(), 1);
+        QVERIFY(driver.isDone());
+    }
+
+    void defaultsAreShown()
+    {
+        DialogOverFile file(pixelRange("8", "15") + value("rgba", "const", "bgr"));
+        file.dialog->defaults();
+        QCOMPARE(file.shown(), QStringLiteral("1 0 0.0 pix 14.0 pix (BGR) Medium"));
+    }
+
+    void tabVisitsTheWidgetsInReadingOrder()
+    {
+        DialogOverFile file(pixelRange("8", "15") + value("rgba", "const", "bgr"));
+        file.dialog->show();
+        QVERIFY(QTest::qWaitForWindowExposed(file.dialog.get()));
+        file.dialog->activateWindow();
+        file.find<QCheckBox>("excludeRangeCheckBox")->setFocus();
+        QStringList names;
+        for (int i = 0; i < 7; ++i) {
+            QTRY_VERIFY(file.dialog->focusWidget());
+            names += file.dialog->focusWidget()->objectName();
+            QTest::keyClick(file.dialog->focusWidget(), Qt::Key_Tab);
+        }
+        QCOMPARE(
+            names.mid(0, 6).join(QLatin1Char(' ')),
+            QStringLiteral("excludeRangeCheckBox excludeFromSpinBox excludeToSpinBox useSubPixelCheckBox "
+                           "subPixelTypeCombo hintStyleCombo"));
+    }
+};
+
+QTEST_MAIN(TestFontAASettings)
+#include "tst_fontaasettings.moc"
