@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
+#include <QThread>
 
 #include <cerrno>
 #include <cstring>
@@ -17,6 +18,8 @@
 namespace {
 
 constexpr qint64 sizeLimit = 16 * 1024 * 1024;
+constexpr int lockTries = 100;
+constexpr int lockPauseMs = 10;
 
 using FcStrListPtr = std::unique_ptr<FcStrList, Release<FcStrListDone>>;
 
@@ -110,8 +113,14 @@ FontsFileLock::FontsFileLock(const QString &path)
     : m_target(QFile::encodeName(linkTarget(path)))
     , m_atomic(m_target.isEmpty() ? nullptr
                                   : FcAtomicCreate(reinterpret_cast<const FcChar8 *>(m_target.constData())))
-    , m_held(m_atomic && FcAtomicLock(m_atomic.get()))
-{}
+{
+    // Whoever holds it is about to write a small file: waiting saves the user from doing it all again.
+    for (int i = 0; m_atomic && !m_held && i < lockTries; ++i) {
+        if (i > 0)
+            QThread::msleep(lockPauseMs);
+        m_held = FcAtomicLock(m_atomic.get());
+    }
+}
 
 FontsFileLock::~FontsFileLock()
 {

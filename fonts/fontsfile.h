@@ -26,7 +26,7 @@ QString fontsFileStamp(const QString &path);
 /// Whether a file can be made at \a path: its directory exists and is writable.
 bool canMakeFile(const QString &path);
 
-/// fontconfig's own lock on one of its files. Symbolic links are followed.
+/// fontconfig's own lock on one of its files, for which it waits up to a second. Symbolic links are followed.
 class FontsFileLock
 {
 public:

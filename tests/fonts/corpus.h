@@ -69,10 +69,12 @@ inline QStringList foreignTokens(const QByteArray &content)
         if (depth > 1)
             continue;
         const auto item = readFontsItem(document.documentElement(), QStringLiteral("/home/me"));
-        if (!reader.isEndElement() || depth != 1 || !item || item->kind == FontsItem::Kind::Directory)
+        if (!reader.isEndElement() || depth != 1 || !item || item->kind == FontsItem::Kind::Directory) {
             tokens += element;
-        else
-            tokens += element.filter(QStringLiteral("Comment"));
+        } else {
+            for (const QString &comment : element.filter(QStringLiteral("Comment")))
+                tokens += comment.simplified();
+        }
         element.clear();
     }
     if (reader.hasError())
