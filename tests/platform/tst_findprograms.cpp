@@ -4,7 +4,6 @@
 #include "tests/support/spawnedprocess.h"
 #include "tests/support/temporaryhome.h"
 
-#include <QDir>
 #include <QFile>
 #include <QtTest>
 
@@ -59,18 +58,6 @@ private slots:
         QCOMPARE(inPath(home.path(QStringLiteral("a/manager"))), QString());
         QCOMPARE(inPath(home.path(QStringLiteral("b/manager"))), QString());
         QCOMPARE(inPath(QLatin1Char('/') + QString(2 * PATH_MAX, QLatin1Char('x'))), QString());
-    }
-
-    void emptyPathElementIsTheCurrentDirectory()
-    {
-        const TemporaryHome home;
-        const QString program = installWaitingProgram(home.path(QStringLiteral("manager")));
-        const QString before = QDir::currentPath();
-        QDir::setCurrent(home.path());
-        const ScopedEnvironment search("PATH", "/nowhere:");
-        const QString found = inPath(QStringLiteral("manager"));
-        QDir::setCurrent(before);
-        QCOMPARE(QFileInfo(found).canonicalFilePath(), QFileInfo(program).canonicalFilePath());
     }
 
     void runningProcessIsFoundByName_data()

@@ -91,34 +91,28 @@ class TestCompositeSettings : public QObject
 {
     Q_OBJECT
 private slots:
-    void boxShowsWhetherTheManagerRuns_data()
-    {
-        QTest::addColumn<QByteArray>("stored");
-        QTest::addColumn<bool>("runs");
-        QTest::addColumn<QByteArray>("after");
-        const auto row = [](const char *title, const char *stored, bool runs, const char *after) {
-            QTest::newRow(title) << QByteArray(stored) << runs << QByteArray(after);
-        };
-        row("on and running", "UseComposite=True\n", true, "UseComposite=True\n");
-        row("on by default and running", "", true, "");
-        row("off, but running", "UseComposite=false\n", true, "UseComposite=true\n");
-        row("in capitals, so off, but running", "UseComposite=TRUE\n", true, "UseComposite=true\n");
-        row("on, but not running", "UseComposite=true\n", false, "UseComposite=false\n");
-        row("on by default, but not running", "", false, "UseComposite=false\n");
-        row("off and not running", "UseComposite=no\n", false, "UseComposite=no\n");
-    }
     void boxShowsWhetherTheManagerRuns()
     {
-        QFETCH(QByteArray, stored);
-        QFETCH(bool, runs);
-        QFETCH(QByteArray, after);
+        struct Case {
+            const char *stored;
+            bool runs;
+            const char *after;
+        };
+        const Case cases[] = {{"UseComposite=True\n", true, "UseComposite=True\n"},
+                              {"", true, ""},
+                              {"UseComposite=TRUE\n", true, "UseComposite=true\n"},
+                              {"UseComposite=true\n", false, "UseComposite=false\n"},
+                              {"", false, "UseComposite=false\n"},
+                              {"UseComposite=no\n", false, "UseComposite=no\n"}};
         WmListener windowManager;
-        Session session(ownManager);
-        session.writeTheme(stored);
-        if (runs)
-            session.startManager();
-        QCOMPARE(session.load().managerOn, runs);
-        QCOMPARE(session.themeLines(), after);
+        for (const Case &one : cases) {
+            Session session(ownManager);
+            session.writeTheme(one.stored);
+            if (one.runs)
+                session.startManager();
+            QCOMPARE(session.load().managerOn, one.runs);
+            QCOMPARE(session.themeLines(), QByteArray(one.after));
+        }
         QCOMPARE(windowManager.take(), QStringList());
     }
 
@@ -150,37 +144,23 @@ private slots:
                  kompmgr);
     }
 
-    void kompmgrFileIsReadAsNegations_data()
-    {
-        QTest::addColumn<QByteArray>("content");
-        QTest::addColumn<bool>("transparency");
-        QTest::addColumn<bool>("shadow");
-        QTest::newRow("no file") << QByteArray() << false << false;
-        QTest::newRow("another group")
-            << QByteArray("[other]\nCompmode=CompClientShadows\n") << false << false;
-        QTest::newRow("both on") << QByteArray(
-            "[kompmgr]\nIgnoreTransparency=false\nCompmode=CompClientShadows\n")
-                                 << true << true;
-        QTest::newRow("other texts") << QByteArray(
-            "[kompmgr]\nIgnoreTransparency=TRUE\nCompmode=compsimple\n")
-                                     << true << true;
-        QTest::newRow("longer texts")
-            << QByteArray("[kompmgr]\nIgnoreTransparency=untrue\nCompmode=CompSimple2\n") << false << false;
-    }
     void kompmgrFileIsReadAsNegations()
     {
-        QFETCH(QByteArray, content);
-        Session session(ownManager);
-        session.writeTheme({});
-        if (!content.isNull())
+        const QVector<QPair<QByteArray, bool>> files{
+            {"[other]\nCompmode=CompClientShadows\n", false},
+            {"[kompmgr]\nIgnoreTransparency=TRUE\nCompmode=compsimple\n", true},
+            {"[kompmgr]\nIgnoreTransparency=untrue\nCompmode=CompSimple2\n", false}};
+        for (const auto &[content, on] : files) {
+            Session session(ownManager);
+            session.writeTheme({});
             session.home().write(kompmgrFile, content);
-        const CompositeState state = session.load({false, true, true});
-        QTEST(state.transparency, "transparency");
-        QTEST(state.shadow, "shadow");
-        // What was loaded is saved without a trace, whatever its text.
-        const QString before = session.home().fingerprint();
-        session.save(state);
-        QCOMPARE(session.home().fingerprint(), before);
+            const CompositeState state = session.load({false, !on, !on});
+            QVERIFY2(state.transparency == on && state.shadow == on, content.constData());
+            // What was loaded is saved without a trace, whatever its text.
+            const QString before = session.home().fingerprint();
+            session.save(state);
+            QCOMPARE(session.home().fingerprint(), before);
+        }
     }
 
     void runningManagerIsRestartedOnlyForAChangedFile_data()
@@ -270,48 +250,41 @@ private slots:
         QCOMPARE(session.comptonConfigPath(), old);
     }
 
-    void comptonPlacesAreTriedInOrder_data()
-    {
-        QTest::addColumn<QString>("configHome");
-        QTest::addColumn<QStringList>("files");
-        QTest::addColumn<QString>("resolved");
-        QTest::addColumn<QByteArray>("content");
-        QTest::addColumn<bool>("told");
-        const auto row = [](const char *title, const char *configHome, const char *files,
-                            const char *resolved, const QByteArray &content, bool told = false) {
-            QTest::newRow(title) << QString::fromLatin1(configHome)
-                                 << QString::fromLatin1(files).split(QLatin1Char(' '), Qt::SkipEmptyParts)
-                                 << QString::fromLatin1(resolved) << content << told;
-        };
-        row("the configured directory", "xdg", "xdg/compton.conf .config/compton.conf .compton.conf etc",
-            "xdg/compton.conf", "xdg/compton.conf");
-        row("the default directory", "", ".config/compton.conf .compton.conf etc", ".config/compton.conf",
-            ".config/compton.conf");
-        row("the old place", "xdg", ".config/compton.conf .compton.conf etc", ".compton.conf",
-            ".compton.conf");
-        row("a copy of the system's", "xdg", ".config/x etc", ".config/compton.conf", "etc");
-        row("a user's file is not emptied", "xdg", ".config/compton.conf", ".config/compton.conf",
-            ".config/compton.conf");
-        row("a new file", "xdg", ".config/x", ".config/compton.conf", "");
-        row("no directory for a new file", "", "", ".config/compton.conf", QByteArray(), true);
-        row("no directory for a copy", "", "etc", ".config/compton.conf", QByteArray());
-    }
     void comptonPlacesAreTriedInOrder()
     {
-        QFETCH(QString, configHome);
-        QFETCH(QStringList, files);
-        QFETCH(QString, resolved);
-        const TemporaryHome home;
-        for (const QString &file : qAsConst(files))
-            home.write(file, file.toLatin1());
-        StandardError messages;
-        const QString path = resolveComptonConfig({configHome.isEmpty() ? QString() : home.path(configHome),
-                                                   home.path(), home.path(QStringLiteral("etc"))});
-        QCOMPARE(path, home.path(resolved));
-        QTEST(home.read(resolved), "content");
-        QFETCH(bool, told);
-        QCOMPARE(messages.take(),
-                 told ? "qaz-admin-theme: Can't create " + QFile::encodeName(path) + '\n' : QByteArray());
+        struct Case {
+            const char *configHome;
+            const char *files; // each holds its own name
+            const char *resolved;
+            const char *content; // nullptr: there is no file
+        };
+        const Case cases[] = {
+            {"/xdg", "xdg/compton.conf .config/compton.conf .compton.conf etc", "xdg/compton.conf",
+             "xdg/compton.conf"},
+            {"", ".config/compton.conf .compton.conf etc", ".config/compton.conf", ".config/compton.conf"},
+            {"/xdg", ".config/compton.conf .compton.conf etc", ".compton.conf", ".compton.conf"},
+            {"/xdg", ".config/x etc", ".config/compton.conf", "etc"},
+            {"/xdg", ".config/compton.conf", ".config/compton.conf", ".config/compton.conf"}, // not emptied
+            {"/xdg", ".config/x", ".config/compton.conf", ""},
+            {"", "etc", ".config/compton.conf", nullptr},
+            {"", "", ".config/compton.conf", nullptr}};
+        for (const Case &one : cases) {
+            const TemporaryHome home;
+            for (const QByteArray &file : QByteArray(one.files).split(' ')) {
+                if (!file.isEmpty())
+                    home.write(QString::fromLatin1(file), file);
+            }
+            StandardError messages;
+            const QString configHome = *one.configHome ? home.path() + QLatin1String(one.configHome)
+                                                       : QString();
+            const QString path = resolveComptonConfig(
+                {configHome, home.path(), home.path(QStringLiteral("etc"))});
+            QCOMPARE(path, home.path(QLatin1String(one.resolved)));
+            QCOMPARE(home.read(QLatin1String(one.resolved)), QByteArray(one.content));
+            QCOMPARE(messages.take(), !one.content && !*one.files
+                                          ? "qaz-admin-theme: Can't create " + QFile::encodeName(path) + '\n'
+                                          : QByteArray());
+        }
     }
 };
 
