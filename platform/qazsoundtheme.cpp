@@ -5,6 +5,7 @@
 #include "platform/sounddirectories.h"
 
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
 #include <QMap>
@@ -85,12 +86,12 @@ std::optional<ThemeIndex> loadIndex(const QString &name, const QStringList &base
     return index;
 }
 
-bool isHidden(const QString &indexFile)
+bool isHidden(const QByteArray &index)
 {
-    const QByteArray content = readRegularFile(indexFile).content;
-    if (!content.contains("Hidden"))
+    // Hardly any theme is; spare all the others the parsing.
+    if (!index.contains("Hidden") || !index.contains("true"))
         return false;
-    const QHash<QString, QString> group = parseIndexTheme(content).value(themeGroup);
+    const QHash<QString, QString> group = parseIndexTheme(index).value(themeGroup);
     return group.value(QStringLiteral("Hidden")) == QLatin1String("true");
 }
 
@@ -208,22 +209,25 @@ QazSoundTheme::~QazSoundTheme() = default;
 
 bool QazSoundTheme::getThemesNames(List<char> *names)
 {
-    QMap<QString, QString> indexOfTheme;
+    QMap<QString, bool> isListed; // sorted by name; an index hides those of the same name behind it
     for (const QString &base : soundBaseDirectories()) {
-        for (const QString &name : QDir(base).entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
-            const QString index = indexPath(base, name);
-            if (!indexOfTheme.contains(name) && QFileInfo::exists(index))
-                indexOfTheme.insert(name, index);
+        QDirIterator directories(base, QDir::Dirs | QDir::NoDotAndDotDot);
+        while (directories.hasNext()) {
+            directories.next();
+            const QString name = directories.fileName();
+            if (isListed.contains(name))
+                continue;
+            const FileContent index = readRegularFile(indexPath(base, name));
+            if (index.state != FileState::Missing)
+                isListed.insert(name, !isHidden(index.content));
         }
     }
-    bool any = false;
-    for (auto theme = indexOfTheme.cbegin(); theme != indexOfTheme.cend(); ++theme) {
-        if (isHidden(theme.value()))
-            continue;
-        names->append(theme.key().toLocal8Bit().constData());
-        any = true;
+    const int before = names->count();
+    for (auto theme = isListed.cbegin(); theme != isListed.cend(); ++theme) {
+        if (theme.value())
+            names->append(theme.key().toLocal8Bit().constData());
     }
-    return any;
+    return names->count() > before;
 }
 
 bool QazSoundTheme::load()
