@@ -1,0 +1,77 @@
+#include "tests/support/editorprocess.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+
+namespace {
+
+constexpr int patienceMs = 60000; // a loaded machine is no fault of the program
+
+} // namespace
+
+QString EditorProcess::program()
+{
+    return QStringLiteral(QAZ_BINARY_DIR "/bin/qaz-admin-theme");
+}
+
+EditorProcess::EditorProcess(const QStringList &arguments)
+{
+    m_process.start(program(), arguments);
+    m_process.waitForStarted();
+}
+
+EditorProcess::~EditorProcess()
+{
+    if (m_process.state() != QProcess::NotRunning) {
+        m_process.kill();
+        m_process.waitForFinished();
+    }
+}
+
+bool EditorProcess::waitForWindow()
+{
+    QElapsedTimer timer;
+    timer.start();
+    const QString pid = QString::number(m_process.processId());
+    while (m_window.isEmpty() && m_process.state() == QProcess::Running && !timer.hasExpired(patienceMs)) {
+        m_window = xdotool({QStringLiteral("search"), QStringLiteral("--onlyvisible"),
+                            QStringLiteral("--pid"), pid, QStringLiteral("--name"),
+                            QStringLiteral("Qaz Theme Editor")});
+        m_process.waitForFinished(20);
+    }
+    return !m_window.isEmpty();
+}
+
+bool EditorProcess::waitForEnd()
+{
+    return m_process.state() == QProcess::NotRunning || m_process.waitForFinished(patienceMs);
+}
+
+QString EditorProcess::xdotool(const QStringList &arguments)
+{
+    QProcess tool;
+    tool.start(QStringLiteral("xdotool"), arguments);
+    tool.waitForFinished(patienceMs);
+    return QString::fromUtf8(tool.readAllStandardOutput()).trimmed();
+}
+
+void EditorProcess::press(const QStringList &keys)
+{
+    xdotool(QStringList{QStringLiteral("key"), QStringLiteral("--clearmodifiers")} + keys);
+}
+
+QString EditorProcess::title() const
+{
+    return xdotool({QStringLiteral("getwindowname"), m_window});
+}
+
+QString EditorProcess::focusedTitle()
+{
+    return xdotool({QStringLiteral("getwindowfocus"), QStringLiteral("getwindowname")});
+}
+
+QString EditorProcess::errors()
+{
+    m_errors += m_process.readAllStandardError();
+    return QString::fromLocal8Bit(m_errors);
+}

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QProcess>
+#include <QStringList>
+
+/// The real program in a process of its own, driven from outside through the X server.
+class EditorProcess
+{
+public:
+    /// Starts the built program with \a arguments in this process's environment.
+    explicit EditorProcess(const QStringList &arguments = {});
+    /// Kills it if it still runs.
+    ~EditorProcess();
+
+    /// Waits until the program's window is mapped; false when the program ended first or never showed it.
+    bool waitForWindow();
+    /// Waits until the program has ended; false when it doesn't.
+    bool waitForEnd();
+    /// Sends keys, in xdotool's names, to the window that has the focus.
+    static void press(const QStringList &keys);
+    /// Runs xdotool with \a arguments; its output, trimmed.
+    static QString xdotool(const QStringList &arguments);
+    /// The window's title, and that of another window of the program which has the focus.
+    QString title() const;
+    static QString focusedTitle();
+
+    QProcess &process() { return m_process; }
+    /// Everything the program has printed to standard error so far.
+    QString errors();
+    static QString program();
+
+private:
+    QProcess m_process;
+    QString m_window;
+    QByteArray m_errors;
+};
