@@ -131,13 +131,25 @@ bool copyTree(const QString &from, const QString &to, QString *error)
     return copied;
 }
 
+/// \a fileName as a part of another name: without control characters, and short enough to be prefixed.
+QString namePart(const QString &fileName)
+{
+    QString part = fileName.left(60);
+    for (QChar &character : part) {
+        if (!character.isPrint())
+            character = QLatin1Char('_');
+    }
+    return part;
+}
+
 /// A name in \a directory that is free: UTC time, then the file's own name.
 QString freeName(const QString &directory, const QString &fileName)
 {
     const QString time = QDateTime::currentDateTimeUtc().toString(QStringLiteral("yyyyMMdd'T'HHmmss.zzz'Z'"));
-    QString name = time + QLatin1Char('-') + fileName;
+    const QString part = namePart(fileName);
+    QString name = time + QLatin1Char('-') + part;
     for (int i = 2; QFileInfo::exists(directory + QLatin1Char('/') + name); ++i)
-        name = time + QLatin1Char('-') + QString::number(i) + QLatin1Char('-') + fileName;
+        name = time + QLatin1Char('-') + QString::number(i) + QLatin1Char('-') + part;
     return name;
 }
 

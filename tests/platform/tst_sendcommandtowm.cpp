@@ -86,16 +86,19 @@ void TestSendCommandToWm::interleavedSendersAreKeptApart()
     const auto padded = [](const char *text) { return QByteArray(text).leftJustified(20, '\0', true); };
     const QByteArray full(20, 'a');
     CommandReceiver receiver;
-    QVERIFY(receiver.take(1, true, full).isNull());
-    QVERIFY(receiver.take(2, true, full).isNull());
-    QCOMPARE(receiver.take(2, false, padded("two")), full + "two");
-    QCOMPARE(receiver.take(1, false, padded("one")), full + "one");
-    QVERIFY2(receiver.take(1, false, padded("x")).isNull(), "a following message without a first one");
-    QVERIFY(receiver.take(1, true, full).isNull());
-    QCOMPARE(receiver.take(1, true, padded("again")), QByteArray("again"));
+    const auto take = [&receiver](int sender, bool begins, const QByteArray &bytes) {
+        return receiver.take(quint64(sender), begins, bytes.constData());
+    };
+    QVERIFY(take(1, true, full).isNull());
+    QVERIFY(take(2, true, full).isNull());
+    QCOMPARE(take(2, false, padded("two")), full + "two");
+    QCOMPARE(take(1, false, padded("one")), full + "one");
+    QVERIFY2(take(1, false, padded("x")).isNull(), "a following message without a first one");
+    QVERIFY(take(1, true, full).isNull());
+    QCOMPARE(take(1, true, padded("again")), QByteArray("again"));
     for (int bytes = 0; bytes <= CommandReceiver::longestCommand; bytes += 20)
-        QVERIFY(receiver.take(3, bytes == 0, full).isNull());
-    QVERIFY2(receiver.take(3, false, padded("end")).isNull(), "too long a command is dropped");
+        QVERIFY(take(3, bytes == 0, full).isNull());
+    QVERIFY2(take(3, false, padded("end")).isNull(), "too long a command is dropped");
 }
 
 QTEST_MAIN(TestSendCommandToWm)
