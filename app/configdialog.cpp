@@ -70,7 +70,6 @@ ConfigDialog::ConfigDialog(const QString &fileName, QWidget *parent, Qt::WindowF
     : QDialog(parent, flags)
     , contentsWidget(new QListWidget(this))
     , pagesWidget(new SlidingStackedWidget(this))
-    , m_buttonBox(new QDialogButtonBox(this))
     , themeFile(fileName)
 {
     fillContents();
@@ -152,6 +151,8 @@ void ConfigDialog::createPages()
 
 void ConfigDialog::createButtons()
 {
+    // Created after the pages: the order of creation is that of the Tab key.
+    m_buttonBox = new QDialogButtonBox(this);
     m_buttonBox->setObjectName(QStringLiteral("buttonBox"));
     m_buttonBox->setStandardButtons(QDialogButtonBox::Ok | QDialogButtonBox::Close | QDialogButtonBox::Help
                                     | QDialogButtonBox::Apply);

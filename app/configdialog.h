@@ -71,6 +71,6 @@ private:
     ScreensaverPage *screensaverPage;
     EffectPage *effectPage;
     SoundPage *soundPage;
-    QDialogButtonBox *m_buttonBox;
+    QDialogButtonBox *m_buttonBox = nullptr;
     QString themeFile;
 };

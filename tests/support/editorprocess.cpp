@@ -28,17 +28,20 @@ EditorProcess::~EditorProcess()
     }
 }
 
-bool EditorProcess::waitForWindow()
+bool EditorProcess::waitForWindow(const QString &title)
 {
     QElapsedTimer timer;
     timer.start();
     const QString pid = QString::number(m_process.processId());
+    m_window.clear();
     while (m_window.isEmpty() && m_process.state() == QProcess::Running && !timer.hasExpired(patienceMs)) {
         m_window = xdotool({QStringLiteral("search"), QStringLiteral("--onlyvisible"),
-                            QStringLiteral("--pid"), pid, QStringLiteral("--name"),
-                            QStringLiteral("Qaz Theme Editor")});
+                            QStringLiteral("--all"), QStringLiteral("--pid"), pid, QStringLiteral("--name"),
+                            title});
         m_process.waitForFinished(20);
     }
+    if (!m_window.isEmpty())
+        xdotool({QStringLiteral("windowfocus"), QStringLiteral("--sync"), m_window});
     return !m_window.isEmpty();
 }
 
@@ -63,11 +66,6 @@ void EditorProcess::press(const QStringList &keys)
 QString EditorProcess::title() const
 {
     return xdotool({QStringLiteral("getwindowname"), m_window});
-}
-
-QString EditorProcess::focusedTitle()
-{
-    return xdotool({QStringLiteral("getwindowfocus"), QStringLiteral("getwindowname")});
 }
 
 QString EditorProcess::errors()

@@ -12,17 +12,17 @@ public:
     /// Kills it if it still runs.
     ~EditorProcess();
 
-    /// Waits until the program's window is mapped; false when the program ended first or never showed it.
-    bool waitForWindow();
+    /// Waits until a window of the program with a title like \a title is mapped, and gives it the focus, which
+    /// no window manager does here. False when the program ended first or never showed it.
+    bool waitForWindow(const QString &title = QStringLiteral("Qaz Theme Editor"));
     /// Waits until the program has ended; false when it doesn't.
     bool waitForEnd();
     /// Sends keys, in xdotool's names, to the window that has the focus.
     static void press(const QStringList &keys);
     /// Runs xdotool with \a arguments; its output, trimmed.
     static QString xdotool(const QStringList &arguments);
-    /// The window's title, and that of another window of the program which has the focus.
+    /// The title of the window last waited for.
     QString title() const;
-    static QString focusedTitle();
 
     QProcess &process() { return m_process; }
     /// Everything the program has printed to standard error so far.

@@ -19,13 +19,14 @@ FakePrograms::FakePrograms(Path path)
 
 void FakePrograms::add(const QString &name, const QByteArray &script)
 {
-    const QByteArray log = QFile::encodeName(m_directory.path() + QLatin1Char('/') + name + QLatin1String(".calls"));
+    const QByteArray log = QFile::encodeName(m_directory.path() + QLatin1Char('/') + name
+                                             + QLatin1String(".calls"));
     QFile file(m_directory.path() + QLatin1Char('/') + name);
     if (!file.open(QIODevice::WriteOnly))
         qFatal("Can't write %s", qPrintable(file.fileName()));
     // One record a call: each argument ended by a unit separator, the record by a record separator.
-    file.write("#!/bin/sh\n{ [ $# -eq 0 ] || printf '%s\\037' \"$@\"; printf '\\036'; } >>'" + log + "'\n" + script
-               + "\n");
+    file.write("#!/bin/sh\n{ [ $# -eq 0 ] || printf '%s\\037' \"$@\"; printf '\\036'; } >>'" + log + "'\n"
+               + script + "\n");
     file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
 }
 

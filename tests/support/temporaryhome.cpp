@@ -79,7 +79,8 @@ bool TemporaryHome::makeDirectory(const QString &relative) const
 QString TemporaryHome::fingerprint() const
 {
     QStringList lines;
-    QDirIterator files(m_directory.path(), QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
+    QDirIterator files(m_directory.path(),
+                       QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
                        QDirIterator::Subdirectories);
     while (files.hasNext()) {
         const QFileInfo info(files.next());

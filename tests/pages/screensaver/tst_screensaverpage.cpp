@@ -35,6 +35,7 @@ private:
 
 void TestScreensaverPage::init()
 {
+    m_home.reset(); // the old home's environment goes first
     m_home = std::make_unique<TemporaryHome>();
     m_page = std::make_unique<ScreensaverPage>();
 }
