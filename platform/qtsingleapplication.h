@@ -1,5 +1,9 @@
 #pragma once
 
+#ifdef QAZ_INSTALLED_QTSINGLEAPPLICATION
+#include <QtSingleApplication>
+#else
+
 #include <QApplication>
 #include <QPointer>
 
@@ -46,3 +50,5 @@ private:
     QLocalServer *m_server = nullptr;
     QPointer<QWidget> m_activationWindow;
 };
+
+#endif
