@@ -46,6 +46,13 @@ void setHelp(QWidget *widget, const QString &help)
     widget->setWhatsThis(help);
 }
 
+/// Qt writes the settings file even when every value set was there before.
+void storeDifferent(QSettings *store, const QString &key, const QVariant &value)
+{
+    if (store->value(key).toString() != value.toString())
+        store->setValue(key, value);
+}
+
 void writeDpiToResourceFile(int dpi)
 {
     const QByteArray file = QFile::encodeName(QDir::homePath() + QLatin1String("/.Xresources"));
@@ -216,8 +223,8 @@ bool KFonts::saveSettings(QazSettings *settings)
 void KFonts::storeChoices(int dpi, bool systemDecides) const
 {
     QSettings store;
-    store.setValue(QLatin1String(RenderingKey::forceFontDpi), dpi);
-    store.setValue(QLatin1String(RenderingKey::dontChangeAaSettings), systemDecides);
+    storeDifferent(&store, QLatin1String(RenderingKey::forceFontDpi), dpi);
+    storeDifferent(&store, QLatin1String(RenderingKey::dontChangeAaSettings), systemDecides);
     store.sync();
 }
 
