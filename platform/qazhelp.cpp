@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QCoreApplication>
 #include <QFile>
+#include <QIcon>
 #include <QLocale>
 #include <QPointer>
 #include <QTextBrowser>
