@@ -15,6 +15,8 @@
 namespace {
 
 constexpr int margin = 10; // of the label, in both directions
+constexpr int pngQuality
+    = 80; // of a lossless format it means effort: this one takes a quarter of the default's time
 constexpr const char *fitWords[] = {"Center", "Tile", "Stretch"};
 
 QSize scaledSize(const QSize &image, const QSize &label, const QSize &screen)
@@ -103,7 +105,7 @@ bool writePreview(const QString &path, const QImage &preview)
     if (!mayReplace(target))
         return false;
     QTemporaryFile file(QFileInfo(path).path() + QLatin1String("/.qaz-preview-XXXXXX"));
-    if (!file.open() || !preview.save(&file, "PNG") || !file.flush())
+    if (!file.open() || !preview.save(&file, "PNG", pngQuality) || !file.flush())
         return false;
     if (std::rename(QFile::encodeName(file.fileName()).constData(), target.constData()) != 0)
         return false;
