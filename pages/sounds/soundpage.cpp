@@ -14,6 +14,7 @@
 #include "ui_soundform.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QSignalBlocker>
 #include <QSound>
 
@@ -259,9 +260,9 @@ void SoundPage::openItem()
     if (!item)
         return;
     const QString directory = soundsDirectory();
+    const QString start = startDirectory(item->text(FileColumn), m_theme != nullptr, directory);
     const QString path = QazFileDialog::getOpenFileName(
-        this, tr("Open File"), startDirectory(item->text(FileColumn), m_theme != nullptr, directory),
-        tr("Sounds (*.wav *.au)"));
+        this, tr("Open File"), QFileInfo(start).isDir() ? start : QString(), tr("Sounds (*.wav *.au)"));
     if (!path.isEmpty())
         item->setText(FileColumn, assignmentForFile(path, directory));
 }

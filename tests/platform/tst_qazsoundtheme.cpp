@@ -173,7 +173,7 @@ private slots:
         QTest::newRow("no sound theme") << QByteArray("[Icon Theme]\nDirectories=s\n");
         QTest::newRow("nothing to look in") << QByteArray("[Sound Theme]\nName=a\nDirectories= , ;\n");
         QTest::newRow("keys outside a group") << QByteArray("Directories=s\n[Sound Theme\nDirectories=x\n");
-        QTest::newRow("binary") << QByteArray("\x00\xff[\xfe]\n=\n[Sound Theme]=Directories\n", 36);
+        QTest::newRow("binary") << QByteArrayLiteral("\x00\xff[\xfe]\n=\n[Sound Theme]=Directories\n");
     }
     void refusesBrokenThemes()
     {
