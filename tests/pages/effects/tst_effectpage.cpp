@@ -47,7 +47,6 @@ public:
     {
         return page.findChild<Widget *>(QLatin1String(name));
     }
-    int value(const char *spinBox) const { return find<QSpinBox>(spinBox)->value(); }
 
 private:
     const TemporaryHome m_home;
