@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QSettings>
 #include <QTemporaryFile>
 
@@ -18,6 +19,14 @@ QString userResourceFile()
 {
     const QString file = QDir::homePath() + QLatin1String("/.Xresources");
     return QFileInfo::exists(file) ? file : QDir::homePath() + QLatin1String("/.Xdefaults");
+}
+
+/// Where the merged file goes. xrdb hands its name to a shell without quotes, so the path must not need any.
+QString temporaryDirectory()
+{
+    static const QRegularExpression needsQuotes(QStringLiteral("[^A-Za-z0-9/._+-]"));
+    const QString usual = QDir::tempPath();
+    return usual.contains(needsQuotes) ? QStringLiteral("/tmp") : usual;
 }
 
 /// Copies the user's own resources, ended by a newline, so that what follows stands on lines of its own.
@@ -47,7 +56,7 @@ void copyUserResources(QFile *target)
 void applyXResources(unsigned flags)
 {
     const QSettings store;
-    QTemporaryFile merged;
+    QTemporaryFile merged(temporaryDirectory() + QLatin1String("/qaz-admin-theme.XXXXXX"));
     if (!merged.open())
         return;
     copyUserResources(&merged);

@@ -13,8 +13,6 @@ private slots:
     void parsing();
     void writingTellsTheResolvedFont_data();
     void writingTellsTheResolvedFont();
-    void storedTextsFallBackToTheDefault_data();
-    void storedTextsFallBackToTheDefault();
     void familyDisplay_data();
     void familyDisplay();
 };
@@ -89,24 +87,6 @@ void TestRoleFontText::writingTellsTheResolvedFont()
 {
     QFETCH(QFont, font);
     QTEST(fontToText(font), "text");
-}
-
-void TestRoleFontText::storedTextsFallBackToTheDefault_data()
-{
-    QTest::addColumn<QString>("stored");
-    QTest::addColumn<QString>("family");
-    QTest::newRow("nothing stored") << ""
-                                    << "Default";
-    QTest::newRow("neither form") << "Verdana bold"
-                                  << "Default";
-    QTest::newRow("role form") << "Verdana-10:bold"
-                               << "Verdana";
-}
-
-void TestRoleFontText::storedTextsFallBackToTheDefault()
-{
-    QFETCH(QString, stored);
-    QTEST(storedRoleFont(stored, QFont(QStringLiteral("Default"), 10)).family(), "family");
 }
 
 void TestRoleFontText::familyDisplay_data()

@@ -11,21 +11,12 @@
 
 #include <sys/stat.h>
 
-using Values = QMap<QString, QVariant>;
-Q_DECLARE_METATYPE(Values)
-
 namespace {
 
-const QString antialias = QLatin1String(RenderingKey::antialias);
-const QString subPixel = QLatin1String(RenderingKey::subPixel);
-const QString hintStyle = QLatin1String(RenderingKey::hintStyle);
-const QString forceDpi = QLatin1String(RenderingKey::forceFontDpi);
-const QString dontChange = QLatin1String(RenderingKey::dontChangeAaSettings);
-
-QByteArray run(const QString &program, const QStringList &arguments, const QByteArray &input = {})
+QByteArray run(const char *program, const QStringList &arguments, const QByteArray &input = {})
 {
     QProcess process;
-    process.start(program, arguments);
+    process.start(QLatin1String(program), arguments);
     process.write(input);
     process.closeWriteChannel();
     process.waitForFinished();
@@ -35,19 +26,17 @@ QByteArray run(const QString &program, const QStringList &arguments, const QByte
 /// The server's resources, one a line with a single blank after the colon.
 QByteArray serverResources()
 {
-    return run(QStringLiteral("xrdb"), {QStringLiteral("-query")}).replace(":\t", ": ");
+    return run("xrdb", {QStringLiteral("-query")}).replace(":\t", ": ");
 }
 
 void loadServer(const QByteArray &resources)
 {
-    run(QStringLiteral("xrdb"), {QStringLiteral("-load"), QStringLiteral("-nocpp")}, resources);
+    run("xrdb", {QStringLiteral("-load"), QStringLiteral("-nocpp")}, resources);
 }
 
-void store(const Values &values)
+void forceDpi(int dpi)
 {
-    QSettings settings;
-    for (auto value = values.cbegin(); value != values.cend(); ++value)
-        settings.setValue(value.key(), value.value());
+    QSettings().setValue(QLatin1String(RenderingKey::forceFontDpi), dpi);
 }
 
 } // namespace
@@ -57,10 +46,9 @@ class TestXResources : public QObject
     Q_OBJECT
 private slots:
     void initTestCase() { QCoreApplication::setOrganizationName(QStringLiteral("qaz")); }
-    void resourceLines_data();
-    void resourceLines();
-    void commandText_data();
-    void commandText();
+    void storedChoices_data();
+    void storedChoices();
+    void longCommandsAreCut();
     void dpiOfAResource_data();
     void dpiOfAResource();
     void droppingAResource_data();
@@ -68,68 +56,53 @@ private slots:
     void removingTheDpiKeepsOtherResources();
     void merging_data();
     void merging();
-    void aFileThatIsNoneIsNotRead();
+    void oddSurroundings();
     void callsOfXrdb();
-    void goesOnWithoutXrdb();
     void currentDpiIsAskedOfTheServer();
 };
 
-void TestXResources::resourceLines_data()
+void TestXResources::storedChoices_data()
 {
-    QTest::addColumn<Values>("values");
+    QTest::addColumn<QByteArray>("stored");
     QTest::addColumn<QString>("lines");
-    QTest::newRow("empty store") << Values{} << "";
-    QTest::newRow("everything in order")
-        << Values{{forceDpi, 120},
-                  {subPixel, QLatin1String("vrgb")},
-                  {hintStyle, QLatin1String("hintfull")},
-                  {antialias, true}}
-        << "Xft.antialias: 1\nXft.hinting: 1\nXft.hintstyle: hintfull\nXft.rgba: vrgb\nXft.dpi: 120\n";
-    QTest::newRow("off") << Values{{antialias, false},
-                                   {hintStyle, QLatin1String("hintnone")},
-                                   {subPixel, QLatin1String("none")},
-                                   {forceDpi, 0}}
-                         << "Xft.antialias: 0\nXft.hinting: 0\nXft.hintstyle: hintnone\nXft.rgba: none\n";
-    QTest::newRow("empty texts") << Values{{hintStyle, QLatin1String("")}, {subPixel, QLatin1String("")}}
-                                 << "Xft.hinting: -1\n";
+    QTest::addColumn<QByteArray>("command");
+    const auto row = [](const char *name, const char *stored, const char *lines, const char *command) {
+        QTest::newRow(name) << QByteArray(stored) << QString::fromLatin1(lines) << QByteArray(command);
+    };
+    row("nothing stored", "", "", "0 unknown rgb full");
+    row("own choice",
+        "forceFontDPI=120\nXftSubPixel=vrgb\nXftHintStyle=hintfull\nXftAntialias=true\n"
+        "dontChangeAASettings=false\n",
+        "Xft.antialias: 1\nXft.hinting: 1\nXft.hintstyle: hintfull\nXft.rgba: vrgb\nXft.dpi: 120\n",
+        "120 true vrgb hintfull");
+    row("all off",
+        "XftAntialias=false\nXftHintStyle=hintnone\nXftSubPixel=none\nforceFontDPI=0\ndontChangeAASettings="
+        "false\n",
+        "Xft.antialias: 0\nXft.hinting: 0\nXft.hintstyle: hintnone\nXft.rgba: none\n",
+        "0 false none hintnone");
+    row("the system decides", "XftAntialias=true\ndontChangeAASettings=true\n", "Xft.antialias: 1\n",
+        "0 unknown rgb full");
+    row("anti-aliasing never stored", "dontChangeAASettings=false\n", "", "0 false rgb full");
+    row("empty texts", "XftHintStyle=\nXftSubPixel=\n", "Xft.hinting: -1\n", "0 unknown  ");
 }
 
-void TestXResources::resourceLines()
+void TestXResources::storedChoices()
 {
     const TemporaryHome home;
-    QFETCH(Values, values);
-    store(values);
-    QTEST(xftResourceLines(QSettings()), "lines");
+    QFETCH(QByteArray, stored);
+    QFETCH(QByteArray, command);
+    const QSettings store(home.write(QStringLiteral("store"), "[General]\n" + stored), QSettings::IniFormat);
+    QTEST(xftResourceLines(store), "lines");
+    QCOMPARE(xftSettingsCommand(store), "QAZWM_UPDATE_VAL XftSettings " + command + '\n');
 }
 
-void TestXResources::commandText_data()
-{
-    QTest::addColumn<Values>("values");
-    QTest::addColumn<QByteArray>("words");
-    QTest::newRow("defaults") << Values{} << QByteArray("0 unknown rgb full\n");
-    QTest::newRow("system decides") << Values{{dontChange, true},
-                                              {antialias, true},
-                                              {hintStyle, QLatin1String("hintslight")}}
-                                    << QByteArray("0 unknown rgb hintslight\n");
-    QTest::newRow("own choice") << Values{{dontChange, false},
-                                          {antialias, true},
-                                          {subPixel, QLatin1String("none")},
-                                          {hintStyle, QLatin1String("hintfull")},
-                                          {forceDpi, 120}}
-                                << QByteArray("120 true none hintfull\n");
-    QTest::newRow("anti-aliasing never written")
-        << Values{{dontChange, false}} << QByteArray("0 false rgb full\n");
-    QTest::newRow("cut") << Values{{subPixel, QString(300, QLatin1Char('x'))}}
-                         << "0 unknown " + QByteArray(255 - 39, 'x');
-}
-
-void TestXResources::commandText()
+void TestXResources::longCommandsAreCut()
 {
     const TemporaryHome home;
-    QFETCH(Values, values);
-    QFETCH(QByteArray, words);
-    store(values);
-    QCOMPARE(xftSettingsCommand(QSettings()), "QAZWM_UPDATE_VAL XftSettings " + words);
+    QSettings store;
+    store.setValue(QLatin1String(RenderingKey::subPixel), QString(300, QLatin1Char('x')));
+    const QByteArray begin = "QAZWM_UPDATE_VAL XftSettings 0 unknown ";
+    QCOMPARE(xftSettingsCommand(store), begin + QByteArray(255 - begin.size(), 'x'));
 }
 
 void TestXResources::dpiOfAResource_data()
@@ -138,7 +111,6 @@ void TestXResources::dpiOfAResource_data()
     QTest::addColumn<QByteArray>("resource");
     QTest::addColumn<int>("dpi");
     QTest::newRow("not forced, whatever the server has") << 0 << QByteArray("120") << 0;
-    QTest::newRow("the server counts") << 120 << QByteArray("110") << 110;
     QTest::newRow("truncated") << 120 << QByteArray("119.9") << 119;
     QTest::newRow("96 is not forced") << 120 << QByteArray("96") << 0;
     QTest::newRow("nor 96 and a fraction") << 120 << QByteArray("96.7") << 0;
@@ -159,18 +131,16 @@ void TestXResources::droppingAResource_data()
 {
     QTest::addColumn<QByteArray>("text");
     QTest::addColumn<QByteArray>("kept");
-    QTest::newRow("between others") << QByteArray("A.b:\t1\nXft.dpi:\t120\nXft.rgba:\trgb\n")
-                                    << QByteArray("A.b:\t1\nXft.rgba:\trgb\n");
-    QTest::newRow("blanks and no newline") << QByteArray("A.b: 1\n Xft.dpi : 120") << QByteArray("A.b: 1\n");
-    QTest::newRow("continued value") << QByteArray("Xft.dpi: 1\\\n20\nA.b: 1\n") << QByteArray("A.b: 1\n");
-    QTest::newRow("inside another value")
-        << QByteArray("A.b: x\\\nXft.dpi: 1\nC.d: 2\\") << QByteArray("A.b: x\\\nXft.dpi: 1\nC.d: 2\\");
-    QTest::newRow("behind an escaped backslash")
-        << QByteArray("A.b: x\\\\\nXft.dpi: 1\n") << QByteArray("A.b: x\\\\\n");
-    QTest::newRow("behind a comment") << QByteArray("! x\\\nXft.dpi: 1\n") << QByteArray("! x\\\n");
-    QTest::newRow("longer names") << QByteArray("Xft.dpi2: 1\nmyXft.dpi: 2\n")
-                                  << QByteArray("Xft.dpi2: 1\nmyXft.dpi: 2\n");
-    QTest::newRow("nothing") << QByteArray() << QByteArray();
+    const auto row = [](const char *name, const char *text, const char *kept) {
+        QTest::newRow(name) << QByteArray(text) << QByteArray(kept);
+    };
+    row("between others", "A.b:\t1\nXft.dpi:\t120\nXft.rgba:\trgb\n", "A.b:\t1\nXft.rgba:\trgb\n");
+    row("blanks and no newline", "A.b: 1\n Xft.dpi : 120", "A.b: 1\n");
+    row("continued value", "Xft.dpi: 1\\\n20\nA.b: 1\n", "A.b: 1\n");
+    row("inside another value", "A.b: x\\\nXft.dpi: 1\nC.d: 2\\", "A.b: x\\\nXft.dpi: 1\nC.d: 2\\");
+    row("behind an escaped backslash", "A.b: x\\\\\nXft.dpi: 1\n", "A.b: x\\\\\n");
+    row("behind a comment", "! x\\\nXft.dpi: 1\n", "! x\\\n");
+    row("longer names", "Xft.dpi2: 1\nmyXft.dpi: 2\n", "Xft.dpi2: 1\nmyXft.dpi: 2\n");
 }
 
 void TestXResources::droppingAResource()
@@ -197,16 +167,14 @@ void TestXResources::merging_data()
     QTest::addColumn<QByteArray>("merged");
     const QByteArray none;
     QTest::newRow("no file") << none << none << 120 << QByteArray("Other.one: x\nXft.dpi: 120\n");
-    QTest::newRow("a forced DPI goes") << none << none << 0 << QByteArray("Other.one: x\n");
-    QTest::newRow("Xresources wins") << QByteArray("A.a: 1\n") << QByteArray("B.b: 2\n") << 0
-                                     << QByteArray("A.a: 1\nOther.one: x\n");
+    QTest::newRow("a forced DPI goes, Xresources wins")
+        << QByteArray("A.a: 1\n") << QByteArray("B.b: 2\n") << 0 << QByteArray("A.a: 1\nOther.one: x\n");
     QTest::newRow("Xdefaults") << none << QByteArray("B.b: 2\n") << 0 << QByteArray("B.b: 2\nOther.one: x\n");
-    QTest::newRow("no final newline")
-        << QByteArray("A.a: 1") << none << 110 << QByteArray("A.a: 1\nOther.one: x\nXft.dpi: 110\n");
-    QTest::newRow("continued last line")
-        << QByteArray("A.a: 1\\\n") << none << 110 << QByteArray("A.a: 1\nOther.one: x\nXft.dpi: 110\n");
-    QTest::newRow("more than a block") << QByteArray("A.a: ") + QByteArray(9000, 'a') << none << 110
-                                       << "A.a: " + QByteArray(9000, 'a') + "\nOther.one: x\nXft.dpi: 110\n";
+    const QByteArray both = "A.a: 1\nOther.one: x\nXft.dpi: 110\n";
+    QTest::newRow("no final newline") << QByteArray("A.a: 1") << none << 110 << both;
+    QTest::newRow("continued last line") << QByteArray("A.a: 1\\\n") << none << 110 << both;
+    const QByteArray big = "A.a: " + QByteArray(9000, 'a') + '\n';
+    QTest::newRow("more than a block") << big << none << 110 << big + "Other.one: x\nXft.dpi: 110\n";
 }
 
 void TestXResources::merging()
@@ -219,18 +187,27 @@ void TestXResources::merging()
         home.write(QStringLiteral(".Xresources"), xresources);
     if (!xdefaults.isNull())
         home.write(QStringLiteral(".Xdefaults"), xdefaults);
-    store({{forceDpi, dpi}});
+    forceDpi(dpi);
     loadServer("Other.one: x\nXft.dpi: 99\n");
     applyXResources(exportXftSettings);
     QTEST(serverResources(), "merged");
 }
 
-void TestXResources::aFileThatIsNoneIsNotRead()
+void TestXResources::oddSurroundings()
 {
     const TemporaryHome home;
+    loadServer("A.a: 1\nXft.dpi: 120\n");
+    {
+        const FakePrograms nothing(FakePrograms::Path::Instead);
+        applyXResources(exportXftSettings);
+    }
+    QCOMPARE(serverResources(), QByteArray("A.a: 1\n"));
+
     QCOMPARE(::mkfifo(QFile::encodeName(home.path(QStringLiteral(".Xresources"))).constData(), 0600), 0);
-    store({{forceDpi, 130}});
-    loadServer("A.a: 1\n");
+    QVERIFY(home.makeDirectory(QStringLiteral("with blank; exit")));
+    const ScopedEnvironment temporary("TMPDIR",
+                                      QFile::encodeName(home.path(QStringLiteral("with blank; exit"))));
+    forceDpi(130);
     applyXResources(exportXftSettings);
     QCOMPARE(serverResources(), QByteArray("A.a: 1\nXft.dpi: 130\n"));
 }
@@ -239,48 +216,34 @@ void TestXResources::callsOfXrdb()
 {
     const TemporaryHome home;
     FakePrograms programs;
-    programs.add(QStringLiteral("xrdb"),
-                 "[ \"$1\" = -merge ] && cat \"$2\" >\"$HOME/merged\" || cat >\"$HOME/removed\"");
+    const QString xrdb = QStringLiteral("xrdb");
+    programs.add(xrdb, "[ \"$1\" = -merge ] && cat \"$2\" >\"$HOME/merged\" || cat >\"$HOME/removed\"");
     home.write(QStringLiteral(".Xresources"), "A.a: 1\n");
-    store({{antialias, true}, {forceDpi, 0}});
-    const QString stampProperty = QLatin1String("_QT_SETTINGS_TIMESTAMP_")
-                                  + QString::fromLocal8Bit(qgetenv("DISPLAY"));
+    QSettings().setValue(QLatin1String(RenderingKey::antialias), true);
     applyXResources(exportXftSettings);
-    const QVector<QStringList> calls = programs.calls(QStringLiteral("xrdb"));
+    const QVector<QStringList> calls = programs.calls(xrdb);
     QCOMPARE(calls.size(), 2);
-    QCOMPARE(calls.at(0),
-             (QStringList{QStringLiteral("-quiet"), QStringLiteral("-remove"), QStringLiteral("-nocpp")}));
+    QCOMPARE(calls.at(0).join(QLatin1Char(' ')), QStringLiteral("-quiet -remove -nocpp"));
     QCOMPARE(calls.at(1).value(0), QStringLiteral("-merge"));
     QVERIFY2(!QFile::exists(calls.at(1).value(1)), "the merged file is temporary");
     QCOMPARE(home.read(QStringLiteral("removed")), QByteArray("Xft.dpi\n"));
     QCOMPARE(home.read(QStringLiteral("merged")), QByteArray("A.a: 1\nXft.antialias: 1\n"));
-    const QByteArray stamp = run(QStringLiteral("xprop"), {QStringLiteral("-root"), stampProperty});
-    QVERIFY2(stamp.contains('='), stamp.constData());
+    const QByteArray property = "_QT_SETTINGS_TIMESTAMP_" + qgetenv("DISPLAY");
+    const QByteArray stamp = run("xprop", {QStringLiteral("-root"), QString::fromLocal8Bit(property)});
+    QVERIFY2(stamp.startsWith(property + '(' + property + ") = 0x"), stamp.constData());
 
     applyXResources(0);
-    QCOMPARE(programs.calls(QStringLiteral("xrdb")).size(), 3);
+    QCOMPARE(programs.calls(xrdb).size(), 3);
     QCOMPARE(home.read(QStringLiteral("merged")), QByteArray("A.a: 1\n"));
-}
-
-void TestXResources::goesOnWithoutXrdb()
-{
-    const TemporaryHome home;
-    loadServer("A.a: 1\nXft.dpi: 120\n");
-    {
-        const FakePrograms programs(FakePrograms::Path::Instead);
-        store({{antialias, true}});
-        applyXResources(exportXftSettings);
-    }
-    QCOMPARE(serverResources(), QByteArray("A.a: 1\n"));
 }
 
 void TestXResources::currentDpiIsAskedOfTheServer()
 {
     const TemporaryHome home;
-    loadServer("Xft.dpi: 120\n");
-    QCOMPARE(xftDpiResource(), QByteArray("120"));
-    loadServer("Xft.dpi: 130\n");
-    QCOMPARE(xftDpiResource(), QByteArray("130"));
+    for (const QByteArray dpi : {"120", "130"}) {
+        loadServer("Xft.dpi: " + dpi);
+        QCOMPARE(xftDpiResource(), dpi);
+    }
     loadServer("A.a: 1\n");
     QVERIFY(xftDpiResource().isNull());
 }
