@@ -27,7 +27,9 @@
 namespace {
 
 /// Width of the widest label of the page list, with a margin.
-int listItemWidth = 64;
+int listItemWidth = 0;
+
+constexpr int narrowestLabel = 64;
 
 struct PageEntry {
     const char *iconName;
@@ -108,6 +110,7 @@ void ConfigDialog::fillContents()
     QFont font = contentsWidget->font();
     font.setWeight(QFont::Bold);
     contentsWidget->setFont(font);
+    listItemWidth = narrowestLabel;
     const QFontMetrics metrics(font);
     for (const PageEntry &entry : pageEntries) {
         auto *item = new QListWidgetItem(QIcon::fromTheme(QLatin1String(entry.iconName), QIcon()),

@@ -71,6 +71,7 @@ private slots:
     void startAndCloseWriteNothingElse();
     void closingAsksOnlyAfterAnEdit();
     void applyWritesAndAnnouncesOneValue();
+    void helpNeverKeepsTheProgramAlive();
 
 private:
     void verifySizeStored();
@@ -337,6 +338,18 @@ void TestProgram::applyWritesAndAnnouncesOneValue()
     QTRY_COMPARE_WITH_TIMEOUT(listener.commands(), expected, 60000);
     QTRY_COMPARE_WITH_TIMEOUT(editor.title(), QStringLiteral("Qaz Theme Editor - t.themerc"), 60000);
     QCOMPARE(m_home->read(QStringLiteral("t.themerc")), QByteArray(text).replace("=600", "=300"));
+}
+
+void TestProgram::helpNeverKeepsTheProgramAlive()
+{
+    EditorProcess editor;
+    QVERIFY(editor.waitForWindow());
+    EditorProcess::press({QStringLiteral("F1")});
+    QVERIFY(editor.waitForWindow(QStringLiteral("Help")));
+    QVERIFY(editor.waitForWindow(QStringLiteral("Qaz Theme Editor - ")));
+    EditorProcess::press({QStringLiteral("Escape")});
+    QVERIFY(editor.waitForEnd());
+    QCOMPARE(editor.process().exitCode(), 0);
 }
 
 QTEST_MAIN(TestProgram)
