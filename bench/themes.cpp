@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QComboBox>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
@@ -62,8 +63,10 @@ void writeCursor(const QString &path, int seed)
     images->images[0] = XcursorImageCreate(cursorSize, cursorSize);
     images->nimage = 1;
     images->images[0]->size = cursorSize;
+    images->images[0]->xhot = images->images[0]->yhot = images->images[0]->delay = 0;
     std::memcpy(images->images[0]->pixels, pixels.constBits(), std::size_t(pixels.sizeInBytes()));
-    XcursorFilenameSaveImages(QFile::encodeName(path).constData(), images);
+    if (!XcursorFilenameSaveImages(QFile::encodeName(path).constData(), images))
+        qFatal("Can't write %s", qPrintable(path));
     XcursorImagesDestroy(images);
 }
 
@@ -145,7 +148,7 @@ double residentMegabytes()
 }
 
 /// Prints the first show's time and the memory that it took.
-int showPage()
+int showPage(int count)
 {
     QWidget window;
     ThemePage page(&window);
@@ -155,6 +158,10 @@ int showPage()
     QElapsedTimer timer;
     timer.start();
     page.loadValues(&settings);
+    for (const char *combo : {"cursorThemeCombo", "iconThemeCombo", "decorThemeCombo"}) {
+        if (page.findChild<QComboBox *>(QLatin1String(combo))->count() < count)
+            qFatal("%s lists too few themes", combo);
+    }
     window.resize(800, 600);
     page.resize(800, 600);
     window.show();
@@ -214,7 +221,7 @@ int main(int argc, char **argv)
     if (arguments.value(1) == QLatin1String("floor"))
         return decodeOnly(arguments.value(2), arguments.value(3).toInt());
     if (arguments.value(1) == QLatin1String("page"))
-        return showPage();
+        return showPage(arguments.value(3).toInt());
     const int count = arguments.size() > 1 ? arguments.at(1).toInt() : defaultCount;
     const Result one = measure(1);
     const Result half = measure(count / 2);

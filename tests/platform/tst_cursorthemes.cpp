@@ -1,0 +1,205 @@
+#include "platform/cursorfiles.h"
+#include "platform/qazicontheme.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+#include <QTest>
+#include <QX11Info>
+
+#include <algorithm>
+#include <memory>
+
+#include <unistd.h>
+
+#include "tests/support/environment.h"
+#include "tests/support/samplethemes.h"
+#include "tests/support/temporaryhome.h"
+
+#include <X11/Xcursor/Xcursor.h>
+#include <X11/extensions/Xfixes.h>
+
+namespace {
+
+const QString defaultIndex = QStringLiteral(".icons/default/index.theme");
+const QString resources = QStringLiteral(".Xresources");
+
+struct CloseDisplay {
+    void operator()(Display *display) const { XCloseDisplay(display); }
+};
+
+/// What a program that starts now takes for its cursor theme.
+QByteArray themeOfNewClient()
+{
+    const std::unique_ptr<Display, CloseDisplay> display(XOpenDisplay(nullptr));
+    return QByteArray(XcursorGetTheme(display.get()));
+}
+
+/// The pixel in the middle of the cursor that the user sees.
+QColor shownCursor(Display *display)
+{
+    XFixesCursorImage *image = XFixesGetCursorImage(display);
+    const QColor color = QColor::fromRgba(
+        QRgb(image->pixels[image->height / 2 * image->width + image->width / 2]));
+    XFree(image);
+    return color;
+}
+
+} // namespace
+
+class TestCursorThemes : public QObject
+{
+    Q_OBJECT
+private slots:
+    void cleanup() { QCoreApplication::processEvents(); } // ends the reading pass
+    void listsEveryDirectoryWithCursors();
+    void findsCursorsAsXcursorDoes();
+    void settingReachesNewClients();
+    void settingKeepsForeignLines();
+    void defaultInheritsNotFromItself();
+    void linkedDefaultThemeStaysWhole();
+    void linksThemesThatClientsWouldNotFind();
+    void runningProgramsGetTheCursor();
+    void failureIsReported();
+};
+
+void TestCursorThemes::listsEveryDirectoryWithCursors()
+{
+    const TemporaryHome home;
+    const ScopedEnvironment path("XCURSOR_PATH",
+                                 QFile::encodeName(home.path(QStringLiteral("extra"))) + ":~/.icons");
+    home.write(QStringLiteral(".icons/WithCursorTheme/cursor.theme"), "[Icon Theme]\nInherits=x\n");
+    for (const char *theme : {".icons/WithCursorTheme", ".icons/WithoutIndex", "extra/OnPath",
+                              "extra/WithoutIndex", ".local/share/icons/InData"})
+        QVERIFY(home.makeDirectory(QLatin1String(theme) + QLatin1String("/cursors")));
+    home.write(QStringLiteral(".icons/IconsOnly/index.theme"), "[Icon Theme]\nDirectories=a\n");
+    home.write(QStringLiteral(".icons/File/cursors"), "not a directory");
+    QByteArrayList names = cursorThemeNames();
+    std::sort(names.begin(), names.end());
+    for (const char *listed : {"InData", "OnPath", "WithCursorTheme", "WithoutIndex"})
+        QCOMPARE(names.count(listed), 1);
+    for (const char *other : {"IconsOnly", "File", "default"})
+        QVERIFY2(!names.contains(other), other);
+}
+
+void TestCursorThemes::findsCursorsAsXcursorDoes()
+{
+    const TemporaryHome home;
+    const ScopedEnvironment path("XCURSOR_PATH", "~/.icons");
+    home.write(QStringLiteral(".icons/A/cursors/left_ptr"), "x");
+    home.write(QStringLiteral(".icons/A/index.theme"), "[Icon Theme]\nInherits=A;B, C\n");
+    home.write(QStringLiteral(".icons/B/index.theme"), "[Icon Theme]\nInherits=A\n");
+    home.write(QStringLiteral(".icons/C/cursors/watch"), "x");
+    home.write(QStringLiteral(".icons/default/cursors/xterm"), "x");
+    const QByteArray icons = QFile::encodeName(home.path(QStringLiteral(".icons/")));
+    QCOMPARE(cursorFile("A", "left_ptr"), icons + "A/cursors/left_ptr");
+    QCOMPARE(cursorFile("A", "watch"), icons + "C/cursors/watch");
+    QCOMPARE(cursorFile("A", "xterm"), icons + "default/cursors/xterm");
+    QCOMPARE(cursorFile("A", "nowhere"), QByteArray());
+    QCOMPARE(cursorFile("../icons/A", "left_ptr"), QByteArray());
+}
+
+void TestCursorThemes::settingReachesNewClients()
+{
+    const TemporaryHome home;
+    makeCursorTheme(home, QStringLiteral(".icons/Red One"), Qt::red);
+    QVERIFY(QazIconTheme::setCurrentCursorThemeName("Red One"));
+    QCOMPARE(home.read(defaultIndex), QByteArray("[Icon Theme]\nInherits=Red One\n"));
+    QCOMPARE(home.read(resources), QByteArray("Xcursor.theme: Red One\n"));
+    QCOMPARE(themeOfNewClient(), QByteArray("Red One"));
+    QCOMPARE(QByteArray(QazIconTheme::getCurrentCursorThemeName(QX11Info::display())), QByteArray("Red One"));
+}
+
+void TestCursorThemes::settingKeepsForeignLines()
+{
+    const TemporaryHome home;
+    makeCursorTheme(home, QStringLiteral(".icons/Blue"), Qt::blue);
+    home.write(defaultIndex,
+               "# mine\n[Icon Theme]\nName=Default\nInherits=Old\nComment=kept\n[Other]\nInherits=z\n");
+    home.write(resources, "! mine\nXft.dpi: 96\nXcursor.theme: Old\nXcursor.size: 24\n");
+    QVERIFY(QazIconTheme::setCurrentCursorThemeName("Blue"));
+    QCOMPARE(
+        home.read(defaultIndex),
+        QByteArray("# mine\n[Icon Theme]\nName=Default\nInherits=Blue\nComment=kept\n[Other]\nInherits=z\n"));
+    QCOMPARE(home.read(resources),
+             QByteArray("! mine\nXft.dpi: 96\nXcursor.theme: Blue\nXcursor.size: 24\n"));
+}
+
+void TestCursorThemes::defaultInheritsNotFromItself()
+{
+    const TemporaryHome home;
+    makeCursorTheme(home, QStringLiteral(".icons/default"), Qt::blue);
+    home.write(defaultIndex, "[Icon Theme]\nName=Default\nInherits=Old\n");
+    QVERIFY(QazIconTheme::setCurrentCursorThemeName("default"));
+    QCOMPARE(home.read(defaultIndex), QByteArray("[Icon Theme]\nName=Default\n"));
+    QCOMPARE(themeOfNewClient(), QByteArray("default"));
+}
+
+void TestCursorThemes::linkedDefaultThemeStaysWhole()
+{
+    const TemporaryHome home;
+    const QString index = QStringLiteral(".icons/Linked/index.theme");
+    const QByteArray content = "[Icon Theme]\nName=Linked\nInherits=hicolor\n";
+    makeCursorTheme(home, QStringLiteral(".icons/Linked"), Qt::blue);
+    makeCursorTheme(home, QStringLiteral(".icons/Red"), Qt::red);
+    home.write(index, content);
+    QVERIFY(QFile::link(QStringLiteral("Linked"), home.path(QStringLiteral(".icons/default"))));
+    QVERIFY(QazIconTheme::setCurrentCursorThemeName("Red"));
+    QCOMPARE(home.read(index), content);
+    QVERIFY(!QFileInfo(home.path(QStringLiteral(".icons/default"))).isSymLink());
+    QCOMPARE(home.read(defaultIndex), QByteArray("[Icon Theme]\nInherits=Red\n"));
+
+    QVERIFY(QFile::remove(home.path(defaultIndex)));
+    QVERIFY(QFile::link(home.path(index), home.path(defaultIndex)));
+    QVERIFY(QazIconTheme::setCurrentCursorThemeName("Red"));
+    QCOMPARE(home.read(index), content);
+    QCOMPARE(home.read(defaultIndex), QByteArray("[Icon Theme]\nName=Linked\nInherits=Red\n"));
+}
+
+void TestCursorThemes::linksThemesThatClientsWouldNotFind()
+{
+    const TemporaryHome home;
+    const ScopedEnvironment data("QAZ_DATA_DIR", QFile::encodeName(home.path(QStringLiteral("data"))));
+    makeCursorTheme(home, QStringLiteral("data/icons/Far"), Qt::red);
+    QVERIFY(QazIconTheme::setCurrentCursorThemeName("Far"));
+    QCOMPARE(QFile::symLinkTarget(home.path(QStringLiteral(".icons/Far"))),
+             home.path(QStringLiteral("data/icons/Far")));
+    QCOMPARE(themeOfNewClient(), QByteArray("Far"));
+}
+
+void TestCursorThemes::runningProgramsGetTheCursor()
+{
+    const TemporaryHome home;
+    const QStringList names = {QStringLiteral("left_ptr"), QStringLiteral("hand2")};
+    makeCursorTheme(home, QStringLiteral(".icons/Green"), Qt::green, names);
+    makeCursorTheme(home, QStringLiteral(".icons/Blue"), Qt::blue, names);
+    const std::unique_ptr<Display, CloseDisplay> other(XOpenDisplay(nullptr));
+    XcursorSetTheme(other.get(), "Green");
+    XSetWindowAttributes attributes = {};
+    attributes.override_redirect = True;
+    const Window window = XCreateWindow(other.get(), DefaultRootWindow(other.get()), 0, 0, 100, 100, 0,
+                                        CopyFromParent, InputOutput, nullptr, CWOverrideRedirect,
+                                        &attributes);
+    XDefineCursor(other.get(), window, XcursorLibraryLoadCursor(other.get(), "hand2"));
+    XMapRaised(other.get(), window);
+    XWarpPointer(other.get(), 0, DefaultRootWindow(other.get()), 0, 0, 0, 0, 50, 50);
+    XSync(other.get(), False);
+    QTRY_COMPARE(shownCursor(other.get()), QColor(Qt::green));
+    QVERIFY(QazIconTheme::setCurrentCursorThemeName("Blue"));
+    QTRY_COMPARE(shownCursor(other.get()), QColor(Qt::blue));
+    XWarpPointer(other.get(), 0, DefaultRootWindow(other.get()), 0, 0, 0, 0, 500, 500);
+    XSync(other.get(), False);
+    QTRY_COMPARE(shownCursor(other.get()), QColor(Qt::blue)); // the root window's
+}
+
+void TestCursorThemes::failureIsReported()
+{
+    const TemporaryHome home;
+    const QByteArray before(QazIconTheme::getCurrentCursorThemeName(QX11Info::display()));
+    home.write(QStringLiteral(".icons"), "a file where the directory should be");
+    QVERIFY(!QazIconTheme::setCurrentCursorThemeName("Red"));
+    QCOMPARE(QByteArray(QazIconTheme::getCurrentCursorThemeName(QX11Info::display())), before);
+}
+
+QTEST_MAIN(TestCursorThemes)
+#include "tst_cursorthemes.moc"
