@@ -1,7 +1,9 @@
 #pragma once
 
-#include <QDomDocument>
-#include <QVector>
+#include "fonts/fontsxml.h"
+
+#include <QList>
+#include <QString>
 
 class QTextCodec;
 
@@ -10,13 +12,7 @@ class QTextCodec;
 class FontsDocument
 {
 public:
-    /// An element directly below the root.
-    struct Child {
-        QDomElement node; ///< null for an element that holds no rendering setting
-        int start = 0;    ///< where it stands in the text
-        int startTagEnd = 0;
-        int end = 0;
-    };
+    using Child = FontsXml::Child;
 
     /// What is to become of one child of the root.
     struct Change {
@@ -32,7 +28,7 @@ public:
     /// not in its declared encoding or not a fontconfig configuration; \a error says why.
     [[nodiscard]] bool setContent(const QByteArray &content, QString *error);
 
-    const QVector<Child> &children() const { return m_children; }
+    const QVector<Child> &children() const { return m_xml.children; }
 
     /// The file's content after \a changes, in the file's own encoding, line ends and indentation.
     QByteArray withChanges(const QVector<Change> &changes) const;
@@ -41,31 +37,28 @@ public:
     bool holdsOnly(const QVector<QDomElement> &owned) const;
 
 private:
-    class Reader;
     struct Edit {
         int start;
         int end;
-        QString text;
+        QByteArray text;
     };
 
     void clear();
     [[nodiscard]] bool decode(const QByteArray &content, QString *error);
+    bool isUtf8() const;
+    QByteArray encoded(const QByteArray &text) const;
     void addPrologEdits(QVector<Edit> *edits) const;
-    Edit changeOf(const Child &child, const QString &form) const;
+    Edit changeOf(const Child &child, const QByteArray &form) const;
     /// Where the removal of \a child begins: with the line break before it when it has its lines for itself.
-    int removalStart(const Child &child, const QString &indentation) const;
-    Edit insertionOf(const QStringList &forms) const;
-    QString laidOut(QStringList lines, const QString &indentation) const;
-    QString lineIndentation(int position) const;
-    QString indentationStep() const;
-    QString newLine() const;
+    int removalStart(const Child &child, const QByteArray &indentation) const;
+    Edit insertionOf(const QVector<QByteArray> &forms) const;
+    QByteArray laidOut(QList<QByteArray> lines, const QByteArray &indentation) const;
+    QByteArray lineIndentation(int position) const;
+    QByteArray indentationStep() const;
+    QByteArray newLine() const;
 
-    QString m_text;
-    QTextCodec *m_codec; // Qt's
+    QByteArray m_text;   // UTF-8
+    QTextCodec *m_codec; // of the file; Qt's
     QByteArray m_byteOrderMark;
-    QDomDocument m_document;
-    QVector<Child> m_children;
-    int m_doctype = -1; // where a document type without a DTD stands
-    int m_rootOpenEnd = 0;
-    int m_rootClose = -1; // where "</" stands; -1: the root is an empty-element tag
+    FontsXml m_xml;
 };

@@ -153,6 +153,19 @@ std::optional<FontsItem> readFontsItem(const QDomElement &element, const QString
     }
 }
 
+bool canBePartOfItem(QLatin1String tag, QLatin1String name)
+{
+    if (tag == QLatin1String("test"))
+        return name == QLatin1String("size") || name == QLatin1String("pixelsize");
+    const bool isEdit = tag == QLatin1String("edit");
+    return tag == QLatin1String("double")
+           || std::any_of(std::begin(valueElements), std::end(valueElements),
+                          [isEdit, tag, name](const ValueElement &element) {
+                              return isEdit ? name == QLatin1String(element.name)
+                                            : tag == QLatin1String(element.tag);
+                          });
+}
+
 QString valueForm(FontsItem::Kind kind, const QString &value)
 {
     const auto *element = std::find_if(std::begin(valueElements), std::end(valueElements),

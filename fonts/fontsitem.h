@@ -23,6 +23,9 @@ struct FontsItem {
 /// of a directory stands for \a home.
 std::optional<FontsItem> readFontsItem(const QDomElement &element, const QString &home);
 
+/// Whether an element inside a "match" can be part of an item, from its \a tag and its attribute \a name.
+bool canBePartOfItem(QLatin1String tag, QLatin1String name);
+
 /// The XML form of a sub-pixel, hint style, hinting or anti-aliasing item with the file's \a value, for
 /// FontsDocument::Change.
 QString valueForm(FontsItem::Kind kind, const QString &value);
