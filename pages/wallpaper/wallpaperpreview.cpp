@@ -17,6 +17,7 @@ namespace {
 constexpr int margin = 10; // of the label, in both directions
 constexpr int pngQuality
     = 80; // of a lossless format it means effort: this one takes a quarter of the default's time
+constexpr int painterLimit = 32767; // Qt scales in 16-bit fixed point: what is larger comes out black
 constexpr const char *fitWords[] = {"Center", "Tile", "Stretch"};
 
 QSize scaledSize(const QSize &image, const QSize &label, const QSize &screen)
@@ -30,7 +31,17 @@ QSize scaledSize(const QSize &image, const QSize &label, const QSize &screen)
 
 QImage fastScaled(const QImage &image, const QSize &size)
 {
-    return image.scaled(size, Qt::IgnoreAspectRatio, Qt::FastTransformation);
+    const auto fits = [](const QSize &s) { return s.width() <= painterLimit && s.height() <= painterLimit; };
+    if (fits(image.size()) && fits(size))
+        return image.scaled(size, Qt::IgnoreAspectRatio, Qt::FastTransformation);
+    QImage result(size, QImage::Format_RGB32);
+    for (int y = 0; y < result.height(); ++y) {
+        auto *line = reinterpret_cast<QRgb *>(result.scanLine(y));
+        const int sourceY = int(qint64(y) * image.height() / size.height());
+        for (int x = 0; x < result.width(); ++x)
+            line[x] = image.pixel(int(qint64(x) * image.width() / size.width()), sourceY);
+    }
+    return result;
 }
 
 bool mayReplace(const QByteArray &path)

@@ -54,8 +54,7 @@ private slots:
     void stretchFillsTheCanvas();
     void centerPlacesOrCrops();
     void tilesStartAtTheCorner();
-    void smallestImagesEnd_data();
-    void smallestImagesEnd();
+    void extremeSizesEnd();
     void pixelsAreCopiedNotBlended();
     void withoutAnImageOnlyTheColorIsDrawn();
     void previewFileIsNamedByWhatItShows();
@@ -138,22 +137,19 @@ void TestWallpaperPreview::tilesStartAtTheCorner()
     }
 }
 
-void TestWallpaperPreview::smallestImagesEnd_data()
+void TestWallpaperPreview::extremeSizesEnd()
 {
-    QTest::addColumn<QSize>("size");
-    QTest::newRow("nothing in both directions") << QSize(1, 1);
-    QTest::newRow("nothing in width") << QSize(4, 500);
-    QTest::newRow("nothing in height") << QSize(500, 4);
-}
-
-void TestWallpaperPreview::smallestImagesEnd()
-{
-    QFETCH(QSize, size);
-    QImage image(size, QImage::Format_RGB32);
-    image.fill(Qt::red);
-    QCOMPARE(preview(image, Fit::Tile).pixelColor(241, 180), QColor(Qt::red));
-    QCOMPARE(preview(image, Fit::Center).pixelColor(0, 0), fill);
-    QCOMPARE(drawPreview(image, Fit::Tile, fill, QSize(0, 0), QSize(0, 0)).size(), QSize(1, 1));
+    for (const QSize &size : {QSize(1, 1), QSize(4, 500), QSize(500, 4)}) {
+        QImage image(size, QImage::Format_RGB32);
+        image.fill(Qt::red);
+        QCOMPARE(preview(image, Fit::Tile).pixelColor(241, 180), QColor(Qt::red));
+        QCOMPARE(preview(image, Fit::Center).pixelColor(0, 0), fill);
+        QCOMPARE(drawPreview(image, Fit::Tile, fill, QSize(0, 0), QSize(0, 0)).size(), QSize(1, 1));
+    }
+    QImage line(2000000, 20, QImage::Format_RGB32);
+    line.fill(Qt::red);
+    for (Fit fit : {Fit::Center, Fit::Tile, Fit::Stretch})
+        QCOMPARE(preview(line, fit).pixelColor(120, 90), QColor(Qt::red));
 }
 
 void TestWallpaperPreview::pixelsAreCopiedNotBlended()
