@@ -107,6 +107,11 @@ bool FontsDocument::decode(const QByteArray &content, QString *error)
         *error = QStringLiteral("not %1 text").arg(QString::fromLatin1(m_codec->name()));
         return false;
     }
+    // The XML reader would swallow a second mark, and every position after it would be wrong.
+    if (m_text.startsWith(QChar(QChar::ByteOrderMark))) {
+        *error = QStringLiteral("more than one byte order mark");
+        return false;
+    }
     return true;
 }
 

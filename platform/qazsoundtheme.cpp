@@ -18,8 +18,8 @@
 namespace {
 
 constexpr int soundBufferSize = 4096;
-constexpr QLatin1String themeGroup("Sound Theme");
-constexpr QLatin1String defaultProfile("stereo");
+const QLatin1String themeGroup("Sound Theme");
+const QLatin1String defaultProfile("stereo");
 
 /// What one theme's index says, and where the theme's directories are.
 struct ThemeIndex {

@@ -12,6 +12,12 @@ bool isBlank(char c)
 
 constexpr char byteOrderMark[] = "\xEF\xBB\xBF";
 
+/// Qt takes a byte order mark at the front for a file's; at the front of a value it is part of it.
+QString decoded(const QByteArray &text)
+{
+    return text.startsWith(byteOrderMark) ? QString::fromUtf8('=' + text).mid(1) : QString::fromUtf8(text);
+}
+
 } // namespace
 
 ThemeFileText::ThemeFileText(QByteArray text)
@@ -84,7 +90,10 @@ QByteArray ThemeFileText::withValues(const QMap<QString, QString> &values) const
             added += value.key().toUtf8() + '=' + escaped(*value) + lineEnd;
     }
     if (!added.isEmpty()) {
-        if (m_insertAt > 0 && m_text.at(m_insertAt - 1) != '\n' && m_text != byteOrderMark)
+        // A file cut off inside its last line end gets the rest of it.
+        if (m_insertAt > 0 && m_text.at(m_insertAt - 1) == '\r')
+            added.prepend('\n');
+        else if (m_insertAt > 0 && m_text.at(m_insertAt - 1) != '\n' && m_text != byteOrderMark)
             added.prepend(lineEnd);
         edits.push_back({{m_insertAt, m_insertAt}, added});
     }
@@ -107,7 +116,7 @@ QByteArray ThemeFileText::withValues(const QMap<QString, QString> &values) const
 QString ThemeFileText::unescaped(const QByteArray &text)
 {
     if (!text.contains('\\'))
-        return QString::fromUtf8(text);
+        return decoded(text);
     QByteArray result;
     result.reserve(text.size());
     for (int i = 0; i < text.size(); ++i) {
@@ -134,7 +143,7 @@ QString ThemeFileText::unescaped(const QByteArray &text)
         }
         ++i;
     }
-    return QString::fromUtf8(result);
+    return decoded(result);
 }
 
 QByteArray ThemeFileText::escaped(const QString &value)

@@ -20,7 +20,7 @@
 
 namespace {
 
-constexpr QLatin1String falseText("false");
+const QLatin1String falseText("false");
 
 } // namespace
 

@@ -11,7 +11,7 @@ namespace {
 
 constexpr qint64 largestPixelCount = 256 * 1024 * 1024 / 4;
 
-constexpr uchar startOfImage = 0xD8, endOfImage = 0xD9, startOfScan = 0xDA, temporary = 0x01;
+constexpr uchar startOfImage = 0xD8, endOfImage = 0xD9, temporary = 0x01;
 
 bool isStandaloneMarker(uchar marker)
 {

@@ -25,10 +25,10 @@ struct Setting {
     QLatin1String key;
     QLatin1String defaultText;
 };
-constexpr Setting wallpaperSetting = {QLatin1String("WallPaper"), QLatin1String("qaz-default")};
-constexpr Setting positionSetting = {QLatin1String("WallPaperPos"), QLatin1String("Stretch")};
-constexpr Setting periodSetting = {QLatin1String("WallPaperPeriod"), QLatin1String("0")};
-constexpr Setting desktopColorSetting = {QLatin1String("DesktopColor"), QLatin1String("blue")};
+const Setting wallpaperSetting = {QLatin1String("WallPaper"), QLatin1String("qaz-default")};
+const Setting positionSetting = {QLatin1String("WallPaperPos"), QLatin1String("Stretch")};
+const Setting periodSetting = {QLatin1String("WallPaperPeriod"), QLatin1String("0")};
+const Setting desktopColorSetting = {QLatin1String("DesktopColor"), QLatin1String("blue")};
 
 constexpr int pathBufferSize = 4096;
 constexpr char convertCommand[] = "qaz-svg2png -w %d -h %d -i \"%s\" -o \"%s\"";

@@ -1,0 +1,23 @@
+#include "platform/iconthemeindex.h"
+#include "tests/fuzz/fuzzing.h"
+
+// A theme that was set as the inherited one is the inherited one, in whatever file.
+int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+{
+    const FuzzInput input(data, size);
+    const IconThemeIndex index = parseIconThemeIndex(input.content);
+    for (const IconDirectory &directory : index.directories) {
+        require(directory.size > 0);
+        for (const int pixels : {0, 16, 48, 1 << 30}) {
+            require(sizeDistance(directory, pixels) >= 0);
+            matchesSize(directory, pixels);
+        }
+    }
+
+    const QByteArray theme = QByteArrayLiteral("qaz-arrow");
+    const QByteArray content = withInherits(input.content, theme);
+    require(parseIconThemeIndex(content).inherits == QByteArrayList{theme});
+    require(withInherits(content, theme) == content);
+    require(parseIconThemeIndex(withInherits(content, QByteArray())).inherits.isEmpty());
+    return 0;
+}

@@ -1,0 +1,40 @@
+#include "fonts/rolefonttext.h"
+#include "pages/theme/colorelements.h"
+#include "pages/wallpaper/desktopcolor.h"
+#include "tests/fuzz/fuzzing.h"
+
+#include <QColor>
+#include <QGuiApplication>
+
+namespace {
+
+/// Fonts are resolved by the platform's font database, which needs an application object.
+void needApplication()
+{
+    static int argc = 1;
+    static char name[] = "fuzztexts";
+    static char *argv[] = {name, nullptr};
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    // Never destroyed: at the process's end the leak check would find it half taken apart.
+    static const auto *const application = new QGuiApplication(argc, argv);
+    Q_UNUSED(application)
+}
+
+} // namespace
+
+// Colour and font texts as a theme file may hold them. What the program writes for a font reads as a font text.
+int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+{
+    needApplication();
+    const FuzzInput input(data, size);
+    const QString text = QString::fromUtf8(input.content);
+
+    const QColor color = desktopColor(text);
+    require(!color.isValid() || QColor(color.name()) == QColor(color.rgb()));
+    require(!currentColorText(text, QStringLiteral("#c0c0c0")).isNull() || text.isNull());
+
+    const QFont font = storedRoleFont(text, QFont(QStringLiteral("Sans"), 10));
+    require(isFontText(fontToText(font)));
+    familyDisplayName(text);
+    return 0;
+}
