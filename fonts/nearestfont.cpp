@@ -51,10 +51,10 @@ QString matchedFamily(const QString &family)
 
 QString substituteFamily()
 {
-    const QString family = QFontDatabase::systemFont(QFontDatabase::GeneralFont).family();
+    QString family = QFontDatabase::systemFont(QFontDatabase::GeneralFont).family();
     if (isInstalled(family))
         return family;
-    const QString matched = matchedFamily(family);
+    QString matched = matchedFamily(family);
     printDiagnostic(QStringLiteral("fontconfig %1->%2").arg(family, matched));
     return matched;
 }
@@ -63,7 +63,7 @@ QString substituteFamily()
 QString nearestStyle(QFontDatabase &database, const QString &family, const QFont &wanted)
 {
     const QFont face = database.font(family, database.styleString(wanted), lookupSize);
-    const QString style = database.styleString(face);
+    QString style = database.styleString(face);
     if (!wanted.styleName().isEmpty())
         return style;
     // Weight and slant can fit several widths of a family, of which the database takes any: a plain font of
