@@ -2,6 +2,7 @@
 
 #include "fonts/kxftconfig.h"
 #include "fonts/lcdfiltering.h"
+#include "fonts/renderingstore.h"
 #include "fonts/subpixelswatch.h"
 #include "ui_fontaasettingsform.h"
 
@@ -27,6 +28,15 @@ bool isLcdFilteringSupported()
 {
     static LcdFilterSupport support(probeLcdFiltering);
     return support.isSupported();
+}
+
+/// Stores \a value unless it is there already, so that nothing is written without need. Returns whether it was new.
+bool storeValue(QSettings *store, const char *key, const QVariant &value)
+{
+    if (store->value(QLatin1String(key)).toString() == value.toString())
+        return false;
+    store->setValue(QLatin1String(key), value);
+    return true;
 }
 
 /// The value that \a spinBox shows for \a value.
@@ -87,7 +97,7 @@ bool FontAASettings::load()
     if (config.hintStyle() == HintStyle::NotSet) {
         config.setHintStyle(HintStyle::Medium);
         QSettings store;
-        store.setValue(QStringLiteral("XftHintStyle"), FontRendering::fileName(HintStyle::Medium));
+        store.setValue(QLatin1String(RenderingKey::hintStyle), FontRendering::fileName(HintStyle::Medium));
         store.sync();
     }
     m_ui->hintStyleCombo->setCurrentText(FontRendering::displayName(config.hintStyle()));
@@ -108,15 +118,12 @@ bool FontAASettings::save(bool useAntiAliasing)
 
     const SubPixelOrder order = chosenOrder();
     config.setSubPixelType(order);
-    store.setValue(QStringLiteral("XftSubPixel"), FontRendering::fileName(order));
-    store.setValue(QStringLiteral("XftAntialias"), useAntiAliasing);
+    storeValue(&store, RenderingKey::subPixel, FontRendering::fileName(order));
+    storeValue(&store, RenderingKey::antialias, useAntiAliasing);
 
     const HintStyle style = chosenHintStyle();
     config.setHintStyle(style);
-    const QString styleKey = QStringLiteral("XftHintStyle");
-    const bool hintStyleChanged = store.value(styleKey).toString() != FontRendering::fileName(style);
-    if (hintStyleChanged)
-        store.setValue(styleKey, FontRendering::fileName(style));
+    const bool hintStyleChanged = storeValue(&store, RenderingKey::hintStyle, FontRendering::fileName(style));
     store.sync();
 
     const bool fileChanged = config.changed();

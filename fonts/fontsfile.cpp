@@ -114,8 +114,10 @@ FontsFileLock::FontsFileLock(const QString &path)
     , m_atomic(m_target.isEmpty() ? nullptr
                                   : FcAtomicCreate(reinterpret_cast<const FcChar8 *>(m_target.constData())))
 {
+    if (!m_atomic || !canMakeFile(QFile::decodeName(m_target)))
+        return;
     // Whoever holds it is about to write a small file: waiting saves the user from doing it all again.
-    for (int i = 0; m_atomic && !m_held && i < lockTries; ++i) {
+    for (int i = 0; !m_held && i < lockTries; ++i) {
         if (i > 0)
             QThread::msleep(lockPauseMs);
         m_held = FcAtomicLock(m_atomic.get());
