@@ -108,7 +108,7 @@ bool FontsDocument::decode(const QByteArray &content, QString *error)
         return false;
     }
     // The XML reader would swallow a second mark, and every position after it would be wrong.
-    if (m_text.startsWith(QChar(QChar::ByteOrderMark))) {
+    if (m_text.startsWith("\xEF\xBB\xBF")) {
         *error = QStringLiteral("more than one byte order mark");
         return false;
     }
