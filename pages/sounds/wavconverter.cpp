@@ -2,7 +2,6 @@
 
 #include "settings/waitcursor.h"
 
-#include <QCoreApplication>
 #include <QEventLoop>
 #include <QProcess>
 #include <QTimer>
@@ -33,7 +32,9 @@ QString conversionCommand(const QString &directory)
 void WavConverter::convert(const QString &directory) const
 {
     const WaitCursor waitCursor;
-    auto *process = new QProcess(QCoreApplication::instance());
+    // Without an owner: it deletes itself at its end. Its destruction before that would kill the conversion, or,
+    // where it runs with other rights, wait for it in vain.
+    auto *process = new QProcess;
     QEventLoop waiting;
     QObject::connect(process, qOverload<int, QProcess::ExitStatus>(&QProcess::finished), &waiting,
                      &QEventLoop::quit);
@@ -42,7 +43,6 @@ void WavConverter::convert(const QString &directory) const
     process->start(QStringLiteral("qaz-su"), {QStringLiteral("-c"), conversionCommand(directory)});
     if (process->state() != QProcess::NotRunning)
         waiting.exec(QEventLoop::ExcludeUserInputEvents);
-    // Its destruction would kill a conversion that takes longer.
     if (process->state() == QProcess::NotRunning)
         process->deleteLater();
     else
