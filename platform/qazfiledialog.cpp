@@ -1,6 +1,7 @@
 #include "platform/qazfiledialog.h"
 
 #include <QFileInfo>
+#include <QLineEdit>
 #include <QListView>
 
 QazFileDialog::QazFileDialog(QWidget *parent, const QString &caption, const QString &location,
@@ -10,6 +11,7 @@ QazFileDialog::QazFileDialog(QWidget *parent, const QString &caption, const QStr
     // A native dialog of another desktop would know nothing of the sidebar's places.
     setOption(DontUseNativeDialog);
     setFileMode(ExistingFile);
+    letTypedPathsCount();
     const QFileInfo info(location);
     if (info.isDir()) {
         setDirectory(location);
@@ -17,9 +19,19 @@ QazFileDialog::QazFileDialog(QWidget *parent, const QString &caption, const QStr
         setDirectory(info.path());
         selectFile(info.fileName());
         // Only the name field holds it: a selected row would join the next name put there, as a second file.
-        if (const auto *files = findChild<QListView *>(QStringLiteral("listView")))
-            files->selectionModel()->clearSelection();
+        findChild<QListView *>(QStringLiteral("listView"))->selectionModel()->clearSelection();
     }
+}
+
+/// While a path is typed, Qt selects the rows that it passes, and would then take the directory in view for it.
+void QazFileDialog::letTypedPathsCount()
+{
+    auto *name = findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+    auto *files = findChild<QListView *>(QStringLiteral("listView"));
+    connect(name, &QLineEdit::textChanged, files, [files](const QString &text) {
+        if (text.contains(QLatin1Char('/')) || files->selectionModel()->selectedRows().size() > 1)
+            files->selectionModel()->clearSelection();
+    });
 }
 
 QString QazFileDialog::getOpenFileName(QWidget *parent, const QString &caption, const QString &location,

@@ -14,4 +14,7 @@ public:
     /// Runs the dialog; the chosen file, or an empty text when it was cancelled.
     static QString getOpenFileName(QWidget *parent, const QString &caption, const QString &location,
                                    const QString &filter);
+
+private:
+    void letTypedPathsCount();
 };

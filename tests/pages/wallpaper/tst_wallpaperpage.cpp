@@ -5,6 +5,7 @@
 #include "tests/support/temporaryhome.h"
 #include "tests/support/wmlistener.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QColorDialog>
 #include <QComboBox>
@@ -86,12 +87,16 @@ QString writeImage(const TemporaryHome &home, const QString &name, const QColor 
     return path;
 }
 
+/// Types the path into the file dialog, as a user does.
 std::function<void(QDialog *)> choosing(const QString &path)
 {
     return [path](QDialog *dialog) {
-        auto *files = qobject_cast<QFileDialog *>(dialog);
-        files->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"))->setText(path);
-        static_cast<QDialog *>(files)->accept();
+        auto *name = dialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+        QApplication::setActiveWindow(dialog);
+        name->setFocus();
+        name->selectAll();
+        QTest::keyClicks(name, path);
+        dialog->accept();
     };
 }
 
