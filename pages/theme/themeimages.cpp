@@ -29,6 +29,7 @@ using XcursorImagePtr = std::unique_ptr<XcursorImage, Release<XcursorImageDestro
 using FilePtr = std::unique_ptr<std::FILE, Release<std::fclose>>;
 
 constexpr qint64 iconPixelLimit = 4096 * 4096;
+constexpr int rowLimit = 2048; // of a decoration image; previews are a few dozen pixels high
 
 struct NamedShape {
     unsigned shape;
@@ -87,12 +88,32 @@ QImage drawSvg(const QByteArray &content, int size)
     return image;
 }
 
+/// An XPM without the rows below \a rowLimit: no preview shows them, and decoding thousands takes seconds. What
+/// isn't an XPM of more rows is returned as it is.
+QByteArray withoutHiddenRows(const QByteArray &xpm)
+{
+    const int begin = xpm.indexOf('"') + 1;
+    const int end = xpm.indexOf('"', begin);
+    QByteArrayList values
+        = xpm.mid(begin, qMax(0, end - begin)).simplified().split(' '); // width, height, colours
+    if (begin == 0 || values.size() < 4 || values.at(1).toInt() <= rowLimit)
+        return xpm;
+    int position = end;
+    // Each colour and each row is a string of its own, between two quotes.
+    for (qint64 quotes = 2 * (qint64(values.at(2).toInt()) + rowLimit); quotes > 0 && position >= 0; --quotes)
+        position = xpm.indexOf('"', position + 1);
+    if (position < 0)
+        return xpm;
+    values[1] = QByteArray::number(rowLimit);
+    return xpm.left(begin) + values.join(' ') + xpm.mid(end, position + 1 - end) + "\n};\n";
+}
+
 QImage loadXpm(const QByteArray &path)
 {
     const FileContent file = readRegularFile(QFile::decodeName(path));
     if (file.state != FileState::Regular)
         return {};
-    const QImage image = QImage::fromData(file.content, "XPM");
+    const QImage image = QImage::fromData(withoutHiddenRows(file.content), "XPM");
     return image.isNull() ? QImage::fromData(file.content) : image;
 }
 
