@@ -98,17 +98,17 @@ bool FontsDocument::decode(const QByteArray &content, QString *error)
         return false;
     }
     m_text = content.mid(m_byteOrderMark.size());
-    if (isUtf8())
-        return true;
-    QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
-    m_text = m_codec->toUnicode(m_text.constData(), m_text.size(), &state).toUtf8();
+    if (!isUtf8()) {
+        QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
+        m_text = m_codec->toUnicode(m_text.constData(), m_text.size(), &state).toUtf8();
+    }
     // Only a text that turns back into the same bytes can be changed without losing any.
     if (encoded(m_text) != content) {
         *error = QStringLiteral("not %1 text").arg(QString::fromLatin1(m_codec->name()));
         return false;
     }
-    // The XML reader would swallow a second mark, and every position after it would be wrong.
-    if (m_text.startsWith("\xEF\xBB\xBF")) {
+    // The XML reader would take a second mark for the first, and a declaration would be put in front of it.
+    if (m_text.startsWith(marks[0].bytes)) {
         *error = QStringLiteral("more than one byte order mark");
         return false;
     }
