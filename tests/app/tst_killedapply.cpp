@@ -1,0 +1,176 @@
+#include "app/configdialog.h"
+#include "platform/qazinit.h"
+#include "resources/registerresources.h"
+#include "tests/support/fakeprogram.h"
+#include "tests/support/modaldriver.h"
+#include "tests/support/temporaryhome.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QElapsedTimer>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QRandomGenerator>
+#include <QSpinBox>
+#include <QtTest>
+
+#include <csignal>
+
+#include <poll.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr int rounds = 300;
+
+struct File {
+    QString path; // below the home
+    QByteArray before;
+    QByteArray after;
+};
+
+/// Remarks that make a file long enough to be caught half written.
+QByteArray remarks(const char *line)
+{
+    return QByteArray(line).repeated(10000);
+}
+
+/// Lets a random part of \a longestMs pass.
+void waitForRandomMoment(qint64 longestMs, QRandomGenerator *random)
+{
+    const qint64 nanoseconds = qint64(random->bounded(double(longestMs) * 1e6));
+    const timespec moment = {time_t(nanoseconds / 1000000000), long(nanoseconds % 1000000000)};
+    ::ppoll(nullptr, 0, &moment, nullptr);
+}
+
+} // namespace
+
+/// The program is killed while it applies: every file is whole, in its old or its new form.
+class TestKilledApply : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void everyFileIsOldOrNew();
+
+private:
+    template<typename Widget>
+    Widget *child(const char *name)
+    {
+        return m_dialog->findChild<Widget *>(QLatin1String(name));
+    }
+    void editEveryPage();
+    pid_t applyInAnotherProcess();
+    void putBack() const;
+
+    TemporaryHome m_home;
+    FakePrograms m_programs;
+    std::unique_ptr<ConfigDialog> m_dialog;
+    // clang-format off
+    QVector<File> m_files = {
+        {QStringLiteral("current.themerc"),
+         remarks("# mine\n") + "ScreenSaverDelay=600\nWallPaper=qaz-lagoon\nCompositeManager=compton\n[Other]\nx=1\n", {}},
+        {QStringLiteral(".config/fontconfig/fonts.conf"),
+         "<?xml version=\"1.0\"?>\n<!DOCTYPE fontconfig SYSTEM \"fonts.dtd\">\n<fontconfig>\n <dir>/fonts</dir>\n"
+             + remarks(" <!-- mine -->\n") + "</fontconfig>\n", {}},
+        {QStringLiteral(".config/compton.conf"), remarks("# mine\n") + "shadow = false;\nfade = true;\n", {}},
+        {QStringLiteral(".Xresources"), remarks("! mine\n") + "Xft.dpi: 96\nother: 1\n", {}},
+        {QStringLiteral("Desktops/Desktop1/.directory"),
+         "[Desktop Entry]\nName=Desk\nX-QAZ-WallPaper=\"/a.png\"\n" + remarks("# mine\n"), {}}};
+    // clang-format on
+};
+
+void TestKilledApply::initTestCase()
+{
+    for (const char *name : {"compton", "xrdb"})
+        m_programs.add(QLatin1String(name));
+    putBack();
+    registerResources();
+    qazInit("1", "title");
+    m_dialog = std::make_unique<ConfigDialog>(m_home.path(m_files.first().path));
+    m_dialog->show();
+    auto *list = child<QListWidget>("contentsWidget");
+    for (int row = 0; row < list->count(); ++row)
+        list->setCurrentRow(row);
+    editEveryPage();
+}
+
+void TestKilledApply::editEveryPage()
+{
+    child<QSpinBox>("minutesToStartSpinBox")->setValue(5);
+    child<QCheckBox>("shadowCheckBox")->setChecked(true);
+    child<QSpinBox>("dpiSpinBox")->setValue(120);
+    auto *antiAliasing = child<QComboBox>("aaComboBox");
+    antiAliasing->setCurrentIndex(0);
+    emit antiAliasing->activated(0);
+    child<QCheckBox>("wallpaperForCurrDesktopCheckBox")->setChecked(true);
+    child<QLineEdit>("wallpaperLineEdit")->setText(QStringLiteral("#204060"));
+    m_dialog->changedSlot();
+}
+
+/// A copy of this process presses Apply and ends.
+pid_t TestKilledApply::applyInAnotherProcess()
+{
+    const pid_t process = ::fork();
+    if (process != 0)
+        return process;
+    ::setpgid(0, 0);
+    ModalDriver driver;
+    driver.thenAnswer(QMessageBox::Ok); // "Some changes such as anti-aliasing or DPI ..."
+    m_dialog->buttonBox()->button(QDialogButtonBox::Apply)->click();
+    ::_exit(0);
+}
+
+void TestKilledApply::putBack() const
+{
+    for (const File &file : m_files)
+        m_home.write(file.path, file.before);
+}
+
+void TestKilledApply::everyFileIsOldOrNew()
+{
+    QElapsedTimer timer;
+    timer.start();
+    int status = -1;
+    QVERIFY(::waitpid(applyInAnotherProcess(), &status, 0) > 0);
+    QCOMPARE(status, 0);
+    const qint64 duration = timer.elapsed() + 1;
+    for (File &file : m_files) {
+        file.after = m_home.read(file.path);
+        QVERIFY2(file.after != file.before, qPrintable(file.path)); // else it would prove nothing
+    }
+
+    QRandomGenerator random(1);
+    int finished = 0;
+    for (int round = 0; round < rounds; ++round) {
+        putBack();
+        const pid_t process = applyInAnotherProcess();
+        QVERIFY(process > 0);
+        waitForRandomMoment(duration, &random);
+        ::kill(-process, SIGKILL);
+        ::kill(process, SIGKILL);
+        QVERIFY(::waitpid(process, &status, 0) > 0);
+        finished += WIFEXITED(status) ? 1 : 0;
+        for (const File &file : m_files) {
+            const QByteArray content = m_home.read(file.path);
+            if (content != file.before)
+                QCOMPARE(content, file.after);
+        }
+    }
+    QVERIFY2(finished < rounds, "no process was killed");
+}
+
+int main(int argc, char **argv)
+{
+    // Copies of a process can't share its connection to an X server.
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    TestKilledApply test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_killedapply.moc"
