@@ -7,7 +7,8 @@
 #include <vector>
 
 /// The desktop's list of C strings (`List<char>`). It owns copies of the texts put in.
-template<typename T> class List
+template<typename T>
+class List
 {
 public:
     /// Appends a copy of the NUL-terminated \a text.

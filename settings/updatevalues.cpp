@@ -32,7 +32,8 @@ bool updateIntValue(QazSettings *store, const QString &key, const QString &defau
            && storeAndAnnounce(store, key, QString::number(value));
 }
 
-bool updateStringValue(QazSettings *store, const QString &key, const QString &defaultText, const QString &value)
+bool updateStringValue(QazSettings *store, const QString &key, const QString &defaultText,
+                       const QString &value)
 {
     return storedText(store, key, defaultText) != value && storeAndAnnounce(store, key, value);
 }

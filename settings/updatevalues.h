@@ -14,4 +14,5 @@ bool updateBoolValue(QazSettings *store, const QString &key, const QString &defa
 bool updateIntValue(QazSettings *store, const QString &key, const QString &defaultText, int value);
 
 /// Stores the text itself.
-bool updateStringValue(QazSettings *store, const QString &key, const QString &defaultText, const QString &value);
+bool updateStringValue(QazSettings *store, const QString &key, const QString &defaultText,
+                       const QString &value);

@@ -8,7 +8,8 @@ const char restartCommand[] = "QAZWM_RESTART\n";
 
 QByteArray updateCommand(const QString &key, const QString &value)
 {
-    const QString command = QLatin1String("QAZWM_UPDATE_VAL ") + key + QLatin1Char(' ') + value + QLatin1Char('\n');
+    const QString command = QLatin1String("QAZWM_UPDATE_VAL ") + key + QLatin1Char(' ') + value
+                            + QLatin1Char('\n');
     return command.toLocal8Bit();
 }
 

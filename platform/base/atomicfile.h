@@ -4,8 +4,8 @@
 #include <QString>
 
 enum class FileState {
-    Missing, ///< nothing stands at the path (or a dangling link does)
-    Regular, ///< a regular file, read completely
+    Missing,   ///< nothing stands at the path (or a dangling link does)
+    Regular,   ///< a regular file, read completely
     Unreadable ///< something that is not a regular file, or one that can't be read
 };
 
