@@ -128,7 +128,7 @@ int main(int argc, char **argv)
 
     // Text needs the font database of an application object, which needs no X display like this. Qt must not
     // see the arguments: it would take some for its own.
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_QPA_PLATFORM", "minimal:enable_fonts");
     int qtArgc = 1;
     const QGuiApplication application(qtArgc, argv);
     QByteArray encoded;
