@@ -26,8 +26,8 @@ void PreviewLabel::paintEvent(QPaintEvent * /*event*/)
     const int indent = indentWidth();
     const QRect area = contentsRect().adjusted(indent, 0, -indent, 0);
     const QString shown = fontMetrics().elidedText(text(), Qt::ElideRight, area.width());
-    style()->drawItemText(&painter, area, Qt::AlignLeft | Qt::AlignVCenter, palette(), isEnabled(), shown,
-                          foregroundRole());
+    const Qt::Alignment place = QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft | Qt::AlignVCenter);
+    style()->drawItemText(&painter, area, int(place), palette(), isEnabled(), shown, foregroundRole());
 }
 
 int PreviewLabel::indentWidth() const
