@@ -1,0 +1,138 @@
+#include <QDomDocument>
+#include <QRegularExpression>
+#include <QtTest>
+
+namespace {
+
+struct Message {
+    QString context;
+    QString source;
+    QString comment;
+    QString translation;
+    bool isFinished;
+};
+
+QList<Message> messages(const QString &language)
+{
+    QFile file(QStringLiteral(QAZ_SOURCE_DIR "/translations/qaz-admin-theme_%1.ts").arg(language));
+    QDomDocument document;
+    QList<Message> found;
+    if (!file.open(QIODevice::ReadOnly) || !document.setContent(&file))
+        return found;
+    const QDomNodeList elements = document.elementsByTagName(QStringLiteral("message"));
+    for (int i = 0; i < elements.size(); ++i) {
+        const QDomNode message = elements.at(i);
+        const auto text = [](const QDomNode &node, const char *name) {
+            return node.firstChildElement(QLatin1String(name)).text();
+        };
+        const QDomElement translation = message.firstChildElement(QStringLiteral("translation"));
+        found.append({text(message.parentNode(), "name"), text(message, "source"), text(message, "comment"),
+                      translation.text(), !translation.hasAttribute(QStringLiteral("type"))});
+    }
+    return found;
+}
+
+/// Every match of \a pattern in \a text, sorted: languages order words in their own ways.
+QStringList matches(const QString &text, const QString &pattern)
+{
+    QStringList found;
+    QRegularExpressionMatchIterator all = QRegularExpression(pattern).globalMatch(text);
+    while (all.hasNext())
+        found.append(all.next().captured());
+    found.sort();
+    return found;
+}
+
+} // namespace
+
+/// What is wrong in a catalogue and can be seen without knowing the language.
+class TestCatalogues : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void catalogueIsComplete_data();
+    void catalogueIsComplete();
+    void marksSurviveTranslation_data();
+    void marksSurviveTranslation();
+    void textsLookedUpDiffer_data() { catalogueIsComplete_data(); }
+    void textsLookedUpDiffer();
+    void englishAddsOnlyTheUsage();
+};
+
+void TestCatalogues::catalogueIsComplete_data()
+{
+    QTest::addColumn<QString>("language");
+    for (const char *language : {"en", "de", "fr", "es"})
+        QTest::newRow(language) << QString::fromLatin1(language);
+}
+
+void TestCatalogues::catalogueIsComplete()
+{
+    QFETCH(QString, language);
+    const QList<Message> all = messages(language);
+    QVERIFY(all.size() > 250);
+    for (const Message &message : all)
+        QVERIFY2(message.isFinished && !message.translation.isEmpty(),
+                 qPrintable(message.context + QLatin1String(": ") + message.source));
+}
+
+void TestCatalogues::marksSurviveTranslation_data()
+{
+    QTest::addColumn<QString>("pattern");
+    QTest::newRow("values filled in") << QStringLiteral("%[1-9]");
+    QTest::newRow("accelerators") << QStringLiteral("&(?=\\w)(?!\\w+;)");
+    QTest::newRow("markup") << QStringLiteral("</?\\w+ ?/?>|&\\w+;");
+    QTest::newRow("file name patterns") << QStringLiteral("\\(\\*.*\\)");
+    QTest::newRow("lines of plain text") << QStringLiteral("\\n");
+    QTest::newRow("colon of a label") << QStringLiteral(":\\s*$");
+}
+
+void TestCatalogues::marksSurviveTranslation()
+{
+    QFETCH(QString, pattern);
+    int marks = 0;
+    for (const char *language : {"de", "fr", "es"}) {
+        const QList<Message> all = messages(QString::fromLatin1(language));
+        for (const Message &message : all) {
+            const QStringList expected = matches(message.source, pattern);
+            QVERIFY2(matches(message.translation, pattern) == expected,
+                     qPrintable(message.source + QLatin1String(" -> ") + message.translation));
+            marks += expected.size();
+        }
+    }
+    QVERIFY(marks > 0); // the pattern is about something
+}
+
+void TestCatalogues::textsLookedUpDiffer()
+{
+    // The rows of the page list and the names in the rendering dialog are found by their texts.
+    QFETCH(QString, language);
+    const QStringList pages{QStringLiteral("Wallpaper"), QStringLiteral("Theme"),
+                            QStringLiteral("Fonts"),     QStringLiteral("Screensaver"),
+                            QStringLiteral("Effects"),   QStringLiteral("Sounds")};
+    QStringList lookedUp;
+    const QList<Message> all = messages(language);
+    for (const Message &message : all) {
+        const bool isPage = message.context == QLatin1String("ConfigDialog")
+                            && pages.contains(message.source);
+        if (isPage || message.context == QLatin1String("FontRendering"))
+            lookedUp.append(message.context + QLatin1Char('|') + message.translation);
+    }
+    QVERIFY(lookedUp.size() > pages.size());
+    QCOMPARE(lookedUp.removeDuplicates(), 0);
+}
+
+void TestCatalogues::englishAddsOnlyTheUsage()
+{
+    const QList<Message> all = messages(QStringLiteral("en"));
+    for (const Message &message : all) {
+        if (message.comment.isEmpty())
+            QCOMPARE(message.translation, message.source);
+        else
+            QCOMPARE(message.translation, message.comment.trimmed());
+    }
+}
+
+QTEST_GUILESS_MAIN(TestCatalogues)
+#include "tst_catalogues.moc"
