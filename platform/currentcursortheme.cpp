@@ -132,7 +132,7 @@ void mergeIntoServer(const QByteArray &line)
 QByteArray currentCursorTheme(Display *display)
 {
     // Xcursor reads the resource once per connection; XcursorSetTheme() keeps it up to date.
-    const QByteArray name(display ? XcursorGetTheme(display) : nullptr);
+    QByteArray name(display ? XcursorGetTheme(display) : nullptr);
     if (!name.isEmpty())
         return name;
     const FileContent index = readRegularFile(userIconsDirectory() + QLatin1String("/default/index.theme"));

@@ -26,7 +26,7 @@ QByteArray findCursor(ThemeDirectories &directories, const QByteArray &theme, co
     }
     if (const IconThemeIndex *index = directories.index(locations)) {
         for (const QByteArray &inherited : index->cursorInherits) {
-            if (const QByteArray file = findCursor(directories, inherited, name, seen); !file.isEmpty())
+            if (QByteArray file = findCursor(directories, inherited, name, seen); !file.isEmpty())
                 return file;
         }
     }
@@ -83,6 +83,6 @@ QByteArray cursorFile(const QByteArray &theme, const QByteArray &name)
 {
     const std::shared_ptr<ThemeDirectories> directories = ThemeDirectories::current();
     QSet<QByteArray> seen;
-    const QByteArray file = findCursor(*directories, theme, name, seen);
+    QByteArray file = findCursor(*directories, theme, name, seen);
     return file.isEmpty() ? findCursor(*directories, QByteArrayLiteral("default"), name, seen) : file;
 }

@@ -33,7 +33,7 @@ QByteArray fileInTheme(ThemeDirectories &directories, const QByteArrayList &loca
         if (!top.isEmpty() && top != "." && top != ".."
             && !directories.listing(location).hasDirectory(top.constData()))
             continue;
-        if (const QByteArray file = fileIn(directories, location + '/' + path, name); !file.isEmpty())
+        if (QByteArray file = fileIn(directories, location + '/' + path, name); !file.isEmpty())
             return file;
     }
     return {};
@@ -62,8 +62,7 @@ struct Lookup {
                 others.append(directory);
                 continue;
             }
-            if (const QByteArray file = fileInTheme(directories, locations, directory.path, name);
-                !file.isEmpty())
+            if (QByteArray file = fileInTheme(directories, locations, directory.path, name); !file.isEmpty())
                 return file;
         }
         std::stable_sort(others.begin(), others.end(),
@@ -71,8 +70,7 @@ struct Lookup {
                              return sizeDistance(left, size) < sizeDistance(right, size);
                          });
         for (const IconDirectory &directory : qAsConst(others)) {
-            if (const QByteArray file = fileInTheme(directories, locations, directory.path, name);
-                !file.isEmpty())
+            if (QByteArray file = fileInTheme(directories, locations, directory.path, name); !file.isEmpty())
                 return file;
         }
         return {};
@@ -87,12 +85,12 @@ struct Lookup {
         const IconThemeIndex *index = directories.index(locations);
         if (!index)
             return {};
-        if (const QByteArray file = inOneTheme(*index, locations); !file.isEmpty())
+        if (QByteArray file = inOneTheme(*index, locations); !file.isEmpty())
             return file;
         for (const QByteArray &parent : index->inherits) {
             if (parent == "hicolor") // the standard searches it last, whoever names it
                 continue;
-            if (const QByteArray file = inThemeAndParents(parent); !file.isEmpty())
+            if (QByteArray file = inThemeAndParents(parent); !file.isEmpty())
                 return file;
         }
         return {};
@@ -131,12 +129,12 @@ QByteArray iconFile(ThemeDirectories &directories, const QByteArray &theme, cons
                     const QByteArray &context)
 {
     Lookup lookup{directories, name, size, context, {}};
-    if (const QByteArray file = lookup.inThemeAndParents(theme); !file.isEmpty())
+    if (QByteArray file = lookup.inThemeAndParents(theme); !file.isEmpty())
         return file;
-    if (const QByteArray file = lookup.inThemeAndParents(QByteArrayLiteral("hicolor")); !file.isEmpty())
+    if (QByteArray file = lookup.inThemeAndParents(QByteArrayLiteral("hicolor")); !file.isEmpty())
         return file;
     for (const QByteArray &base : directories.searchPath(iconSearchPath)) {
-        if (const QByteArray file = fileIn(directories, base, name); !file.isEmpty())
+        if (QByteArray file = fileIn(directories, base, name); !file.isEmpty())
             return file;
     }
     return {};
