@@ -47,7 +47,7 @@ QString findProgram(const QString &name)
 
 QString convertSvg(const QString &source, int width, int height, const char *command)
 {
-    const QString target = renderedPath(source, width, height);
+    QString target = renderedPath(source, width, height);
     if (target.isEmpty())
         return {};
     const QFileInfo rendered(target);
@@ -81,8 +81,7 @@ QString findWallpaper(const QString &name, int width, int height, const char *co
     for (const QString &candidate : candidates) {
         if (!QFileInfo(candidate).isFile())
             continue;
-        const QString image = isSvg(candidate) ? convertSvg(candidate, width, height, convertCommand)
-                                               : candidate;
+        QString image = isSvg(candidate) ? convertSvg(candidate, width, height, convertCommand) : candidate;
         if (!image.isEmpty())
             return image;
     }

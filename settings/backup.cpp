@@ -182,6 +182,11 @@ QString backUp(const QString &path)
         return {};
 
     const QString directory = backupDirectory();
+    if (!isLink(original) && QString(directory + QLatin1Char('/')).startsWith(original + QLatin1Char('/'))) {
+        printDiagnostic(
+            QStringLiteral("Can't back up %1: the backups lie in it").arg(original)); // a copy without end
+        return {};
+    }
     QString error;
     if (!QDir().mkpath(directory)) {
         printDiagnostic(QStringLiteral("Can't back up %1: can't create %2").arg(original, directory));

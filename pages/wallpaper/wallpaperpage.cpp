@@ -165,7 +165,7 @@ QString WallpaperPage::convertedFile(const QString &file)
               tr("Selected file '%1' is in svg format\nWould you like to convert it to png now?")
                   .arg(QFileInfo(file).completeBaseName())))
         return {};
-    const QString target = conversionTarget(file, screenSize());
+    QString target = conversionTarget(file, screenSize());
     if (QFileInfo::exists(target)
         && !asks(tr("File exists"),
                  tr("File '%1' already exists\nWould you like to rewrite it now?").arg(target)))
@@ -224,7 +224,7 @@ QImage WallpaperPage::wallpaperImage(const QString &text)
 {
     if (text.isEmpty() || isColorText(text))
         return {};
-    const QImage image = m_image.load(text);
+    QImage image = m_image.load(text);
     if (!image.isNull())
         return image;
     char found[pathBufferSize] = "";

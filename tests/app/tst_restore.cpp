@@ -206,6 +206,11 @@ void TestRestore::linksAreNotFollowed()
     QVERIFY(!home.exists(QStringLiteral("settings")) && !home.exists(QStringLiteral("outer")));
     QCOMPARE(home.read(QStringLiteral("kept/file")), QByteArray("precious"));
     QVERIFY(removeDirectory(home.path(QStringLiteral("missing")), home.path()));
+
+    // Backups inside the directory would be copied into themselves.
+    const ScopedEnvironment state("XDG_STATE_HOME", QFile::encodeName(home.path(QStringLiteral("kept"))));
+    QVERIFY(removeDirectory(home.path(QStringLiteral("kept")), home.path()));
+    QVERIFY(!home.exists(QStringLiteral("kept")));
 }
 
 int main(int argc, char **argv)
