@@ -204,7 +204,8 @@ void ThemePage::showColor(QPushButton *button, const QColor &color)
     palette.setColor(QPalette::Window, shown);
     button->setPalette(palette);
     const int height = m_ui->sizeComboBox->iconSize().height() / 2;
-    const QPixmap swatch = colorButtonPixmap(shown, palette.color(QPalette::ButtonText), height);
+    const QPixmap swatch = colorButtonPixmap(shown, palette.color(QPalette::Active, QPalette::ButtonText),
+                                             height);
     button->setIcon(swatch);
     button->setIconSize(swatch.size());
 }
