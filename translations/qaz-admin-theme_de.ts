@@ -160,35 +160,35 @@ Zurücksetzen:</translation>
     </message>
     <message>
         <source>TopToBottom</source>
-        <translation>Von oben nach unten</translation>
+        <translation>Von oben</translation>
     </message>
     <message>
         <source>LeftToRight</source>
-        <translation>Von links nach rechts</translation>
+        <translation>Von links</translation>
     </message>
     <message>
         <source>CenterToTopBottom</source>
-        <translation>Mitte nach oben und unten</translation>
+        <translation>Mitte, senkrecht</translation>
     </message>
     <message>
         <source>CenterToLeftRight</source>
-        <translation>Mitte nach links und rechts</translation>
+        <translation>Mitte, waagerecht</translation>
     </message>
     <message>
         <source>CenterToAll</source>
-        <translation>Mitte nach außen</translation>
+        <translation>Von der Mitte</translation>
     </message>
     <message>
         <source>FromButton</source>
-        <translation>Vom Knopf aus</translation>
+        <translation>Vom Knopf</translation>
     </message>
     <message>
         <source>RightToLeft</source>
-        <translation>Von rechts nach links</translation>
+        <translation>Von rechts</translation>
     </message>
     <message>
         <source>BottomToTop</source>
-        <translation>Von unten nach oben</translation>
+        <translation>Von unten</translation>
     </message>
     <message>
         <source>Speed of windows minimize-maximize, restore, rearrange</source>
@@ -1107,7 +1107,7 @@ zum Beispiel ogg/oga in wav mit dem Programm oggdec.</translation>
     </message>
     <message>
         <source>Desktop icon size</source>
-        <translation>Größe der Symbole der Arbeitsfläche</translation>
+        <translation>Symbole der Arbeitsfläche</translation>
     </message>
     <message>
         <source>Taskbar height</source>

@@ -160,23 +160,23 @@ Restablecer:</translation>
     </message>
     <message>
         <source>TopToBottom</source>
-        <translation>De arriba abajo</translation>
+        <translation>Desde arriba</translation>
     </message>
     <message>
         <source>LeftToRight</source>
-        <translation>De izquierda a derecha</translation>
+        <translation>Desde la izquierda</translation>
     </message>
     <message>
         <source>CenterToTopBottom</source>
-        <translation>Del centro arriba y abajo</translation>
+        <translation>Centro, vertical</translation>
     </message>
     <message>
         <source>CenterToLeftRight</source>
-        <translation>Del centro a los lados</translation>
+        <translation>Centro, horizontal</translation>
     </message>
     <message>
         <source>CenterToAll</source>
-        <translation>Del centro hacia fuera</translation>
+        <translation>Desde el centro</translation>
     </message>
     <message>
         <source>FromButton</source>
@@ -184,11 +184,11 @@ Restablecer:</translation>
     </message>
     <message>
         <source>RightToLeft</source>
-        <translation>De derecha a izquierda</translation>
+        <translation>Desde la derecha</translation>
     </message>
     <message>
         <source>BottomToTop</source>
-        <translation>De abajo arriba</translation>
+        <translation>Desde abajo</translation>
     </message>
     <message>
         <source>Speed of windows minimize-maximize, restore, rearrange</source>

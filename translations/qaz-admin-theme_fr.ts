@@ -160,35 +160,35 @@ Réinitialiser :</translation>
     </message>
     <message>
         <source>TopToBottom</source>
-        <translation>De haut en bas</translation>
+        <translation>Du haut</translation>
     </message>
     <message>
         <source>LeftToRight</source>
-        <translation>De gauche à droite</translation>
+        <translation>De la gauche</translation>
     </message>
     <message>
         <source>CenterToTopBottom</source>
-        <translation>Du centre en haut et en bas</translation>
+        <translation>Centre, vertical</translation>
     </message>
     <message>
         <source>CenterToLeftRight</source>
-        <translation>Du centre vers les côtés</translation>
+        <translation>Centre, horizontal</translation>
     </message>
     <message>
         <source>CenterToAll</source>
-        <translation>Du centre vers l’extérieur</translation>
+        <translation>Du centre</translation>
     </message>
     <message>
         <source>FromButton</source>
-        <translation>Depuis le bouton</translation>
+        <translation>Du bouton</translation>
     </message>
     <message>
         <source>RightToLeft</source>
-        <translation>De droite à gauche</translation>
+        <translation>De la droite</translation>
     </message>
     <message>
         <source>BottomToTop</source>
-        <translation>De bas en haut</translation>
+        <translation>Du bas</translation>
     </message>
     <message>
         <source>Speed of windows minimize-maximize, restore, rearrange</source>

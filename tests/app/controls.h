@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QDialogButtonBox>
 #include <QGroupBox>
 #include <QLabel>
@@ -18,6 +19,12 @@ struct View {
     QWidget *widget;
 };
 
+/// A page lays itself out again after it was filled.
+inline void settle()
+{
+    QCoreApplication::sendPostedEvents();
+}
+
 /// Shows each page and tab of \a dialog, then its anti-aliasing dialog, and calls \a visit with the one in view.
 template<typename Visitor>
 void visitViews(ConfigDialog *dialog, Visitor visit)
@@ -31,13 +38,16 @@ void visitViews(ConfigDialog *dialog, Visitor visit)
         auto *tabs = page->findChild<QTabWidget *>();
         for (int i = 0; tabs && i < tabs->count(); ++i) {
             tabs->setCurrentIndex(i);
+            settle();
             visit(View{name + QLatin1Char('/') + tabs->widget(i)->objectName(), page});
         }
+        settle();
         if (!tabs)
             visit(View{name, page});
     }
     auto *antiAliasing = dialog->findChild<FontAASettings *>();
     antiAliasing->show();
+    settle();
     visit(View{QStringLiteral("FontAASettings"), antiAliasing});
     antiAliasing->hide();
 }

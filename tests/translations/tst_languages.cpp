@@ -42,8 +42,8 @@ bool showsText(const QWidget *widget)
 
 int neededWidth(const QWidget *widget)
 {
-    return qobject_cast<const QLabel *>(widget) ? widget->sizeHint().width()
-                                                : widget->minimumSizeHint().width();
+    const bool isWhole = qobject_cast<const QLabel *>(widget) || qobject_cast<const QComboBox *>(widget);
+    return isWhole ? widget->sizeHint().width() : widget->minimumSizeHint().width();
 }
 
 /// The text whose accelerator leads to \a widget; empty when it has none of its own.
