@@ -247,7 +247,7 @@ void ThemePage::setColors(int index, const QStringList &colors)
     combo->setItemIcon(index, previewIcon(fillGradient(left, second.isValid() ? second : left).toImage()));
 }
 
-QPixmap ThemePage::fillGradient(QColor col1, QColor col2)
+QPixmap ThemePage::fillGradient(const QColor &col1, const QColor &col2)
 {
     return QPixmap::fromImage(gradientSwatch(m_ui->elementComboBox->iconSize(), col1, col2));
 }

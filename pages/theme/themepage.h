@@ -42,7 +42,7 @@ private slots:
     void selectColor1();
     void selectColor2();
     /// A swatch of the element list's icon size, from \a col1 at the left to \a col2 at the right.
-    QPixmap fillGradient(QColor col1, QColor col2);
+    QPixmap fillGradient(const QColor &col1, const QColor &col2);
 
 private:
     void clearForm();
