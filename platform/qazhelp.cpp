@@ -8,6 +8,7 @@
 #include <QIcon>
 #include <QLocale>
 #include <QPointer>
+#include <QShortcut>
 #include <QTextBrowser>
 
 namespace {
@@ -27,11 +28,13 @@ SlidingStackedWidget *pageStack()
 /// The user guide in the user's language, else in English.
 QUrl guide()
 {
-    for (const QString &language : QLocale().uiLanguages()) {
-        const QString name = QStringLiteral(":/guide/guide_%1.html")
-                                 .arg(language.left(language.indexOf(QLatin1Char('-'))));
+    for (const QString &locale : QLocale().uiLanguages()) {
+        const QString language = locale.section(QLatin1Char('-'), 0, 0);
+        const QString name = QStringLiteral(":/guide/guide_%1.html").arg(language);
         if (QFile::exists(name))
             return QUrl(QLatin1String("qrc") + name);
+        if (language == QLatin1String("en"))
+            break;
     }
     return QUrl(QStringLiteral("qrc:/guide/guide.html"));
 }
@@ -47,8 +50,10 @@ QTextBrowser *helpWindow()
         window->setWindowTitle(QCoreApplication::translate("Help", "Qaz Theme Editor Help"));
         window->setWindowIcon(QIcon::fromTheme(QStringLiteral("help-contents")));
         window->setOpenExternalLinks(false);
-        window->resize(720, 560);
-        window->setSource(guide());
+        window->resize(760, 640);
+        window->document()->setDocumentMargin(16);
+        for (const QKeySequence::StandardKey key : {QKeySequence::Cancel, QKeySequence::Close})
+            QObject::connect(new QShortcut(key, window), &QShortcut::activated, window, &QWidget::close);
     }
     return window;
 }
