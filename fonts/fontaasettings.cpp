@@ -30,15 +30,6 @@ bool isLcdFilteringSupported()
     return support.isSupported();
 }
 
-/// Stores \a value unless it is there already, so that nothing is written without need. Returns whether it was new.
-bool storeValue(QSettings *store, const char *key, const QVariant &value)
-{
-    if (store->value(QLatin1String(key)).toString() == value.toString())
-        return false;
-    store->setValue(QLatin1String(key), value);
-    return true;
-}
-
 /// The value that \a spinBox shows for \a value.
 double shownValue(const QDoubleSpinBox *spinBox, double value)
 {

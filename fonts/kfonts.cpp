@@ -19,6 +19,7 @@
 #include <QPushButton>
 #include <QSettings>
 #include <QSpinBox>
+#include <QStyleOptionComboBox>
 #include <QVBoxLayout>
 
 namespace {
@@ -46,11 +47,22 @@ void setHelp(QWidget *widget, const QString &help)
     widget->setWhatsThis(help);
 }
 
-/// Qt writes the settings file even when every value set was there before.
-void storeDifferent(QSettings *store, const QString &key, const QVariant &value)
+/// A style may scale a combo box's arrow with the screen's resolution, but not the room for it in the size hint:
+/// the longest text would lose its end.
+void widenToTexts(QComboBox *comboBox)
 {
-    if (store->value(key).toString() != value.toString())
-        store->setValue(key, value);
+    QStyleOptionComboBox option;
+    option.initFrom(comboBox);
+    option.rect.setSize(comboBox->sizeHint());
+    const QRect shown = comboBox->style()->subControlRect(QStyle::CC_ComboBox, &option,
+                                                          QStyle::SC_ComboBoxEditField, comboBox);
+    int longest = 0;
+    for (int i = 0; i < comboBox->count(); ++i)
+        longest = qMax(longest, comboBox->fontMetrics().horizontalAdvance(comboBox->itemText(i)));
+    constexpr int margins = 2; // of the text in its field
+    const int missing = longest + margins - shown.width();
+    if (missing > 0)
+        comboBox->setMinimumWidth(option.rect.width() + missing);
 }
 
 void writeDpiToResourceFile(int dpi)
@@ -121,6 +133,7 @@ void KFonts::addAntiAliasingRow(QGridLayout *grid)
     m_aaComboBox->insertItem(AaEnabled, tr("Enabled"));
     m_aaComboBox->insertItem(AaSystemSettings, tr("System Settings"));
     m_aaComboBox->insertItem(AaDisabled, tr("Disabled"));
+    widenToTexts(m_aaComboBox);
     setHelp(m_aaComboBox, tr("If this option is selected, DE will smooth the edges of curves in fonts."));
     connect(m_aaComboBox, qOverload<int>(&QComboBox::activated), this, &KFonts::slotUseAntiAliasing);
     m_configureButton = new QPushButton(tr("Configure..."), this);
@@ -146,16 +159,14 @@ void KFonts::addDpiRow(QGridLayout *grid)
     connect(m_dpiSpinBox, qOverload<int>(&QSpinBox::valueChanged), this, &KFonts::slotCfgDpi);
     setHelp(
         m_dpiSpinBox,
-        tr("<p>This option forces a specific DPI value for fonts. It may be useful when the real DPI of the "
-           "hardware is not detected properly and it is also often misused when poor quality fonts are used "
-           "that "
-           "do not look well with DPI values other than 96 or 120 DPI.</p><p>The use of this option is "
-           "generally "
-           "discouraged. For selecting proper DPI value a better option is explicitly configuring it for the "
-           "whole X server if possible (e.g. DisplaySize in xorg.conf or adding <i>-dpi value</i> to "
-           "ServerLocalArgs= in /etc/X11/qaz-dm/qaz-dmrc). When fonts do not render properly with real DPI "
-           "value "
-           "better fonts should be used or configuration of font hinting should be checked.</p>"));
+        tr("<p>This option forces a specific DPI value for fonts. It may be useful when the real DPI of "
+           "the hardware is not detected properly and it is also often misused when poor quality fonts are "
+           "used that do not look well with DPI values other than 96 or 120 DPI.</p><p>The use of this "
+           "option is generally discouraged. For selecting proper DPI value a better option is explicitly "
+           "configuring it for the whole X server if possible (e.g. DisplaySize in xorg.conf or adding "
+           "<i>-dpi value</i> to ServerLocalArgs= in /etc/X11/qaz-dm/qaz-dmrc). When fonts do not render "
+           "properly with real DPI value better fonts should be used or configuration of font hinting "
+           "should be checked.</p>"));
     grid->addWidget(rowLabel(tr("Force fonts DPI:"), QStringLiteral("dpiLabel"), m_dpiSpinBox, this), 1, 0);
     grid->addWidget(m_dpiSpinBox, 1, 1);
 }
@@ -223,8 +234,8 @@ bool KFonts::saveSettings(QazSettings *settings)
 void KFonts::storeChoices(int dpi, bool systemDecides) const
 {
     QSettings store;
-    storeDifferent(&store, QLatin1String(RenderingKey::forceFontDpi), dpi);
-    storeDifferent(&store, QLatin1String(RenderingKey::dontChangeAaSettings), systemDecides);
+    storeValue(&store, RenderingKey::forceFontDpi, dpi);
+    storeValue(&store, RenderingKey::dontChangeAaSettings, systemDecides);
     store.sync();
 }
 

@@ -35,6 +35,14 @@ std::optional<int> leadingNumber(const QByteArray &bytes)
 
 } // namespace
 
+bool storeValue(QSettings *store, const char *key, const QVariant &value)
+{
+    if (store->value(QLatin1String(key)).toString() == value.toString())
+        return false;
+    store->setValue(QLatin1String(key), value);
+    return true;
+}
+
 QByteArray xftSettingsCommand(const QSettings &store)
 {
     const QByteArray dpi = text(store, RenderingKey::forceFontDpi, "0").toLocal8Bit();

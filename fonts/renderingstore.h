@@ -4,6 +4,7 @@
 #include <QString>
 
 class QSettings;
+class QVariant;
 
 /// Keys of the program's own Qt settings that hold how fonts are rendered.
 namespace RenderingKey {
@@ -13,6 +14,10 @@ inline constexpr char antialias[] = "XftAntialias";                    ///< bool
 inline constexpr char subPixel[] = "XftSubPixel";   ///< name in fontconfig's files, such as rgb
 inline constexpr char hintStyle[] = "XftHintStyle"; ///< name in fontconfig's files, such as hintmedium
 } // namespace RenderingKey
+
+/// Stores \a value unless it is there already: Qt writes the file even when every value set was the old one.
+/// Returns whether it was new.
+bool storeValue(QSettings *store, const char *key, const QVariant &value);
 
 /// The command that tells the window manager what \a store holds. It is cut to what fits into 256 bytes with
 /// the final NUL.

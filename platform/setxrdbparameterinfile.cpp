@@ -68,8 +68,7 @@ QByteArray withParameter(const QByteArray &text, const QByteArray &name, const Q
     }
     if (newLine.isNull())
         return result;
-    if (place >= 0
-        && (place < result.size() || !ending.isEmpty() || place == 0 || result.at(place - 1) == '\n'))
+    if (place >= 0)
         return result.insert(place, newLine + ending);
     if (!result.isEmpty() && !result.endsWith('\n'))
         result += '\n';
