@@ -7,12 +7,19 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <cerrno>
+#include <cstring>
+
 namespace {
 
 /// Applies \a changes to the file at \a path as it stands now. False with the reason when it can't be written.
 bool writeChanges(const QString &path, const QMap<QString, QString> &changes, QString *error)
 {
     const QString target = linkTarget(path);
+    if (target.isEmpty()) {
+        *error = QString::fromLocal8Bit(std::strerror(ELOOP));
+        return false;
+    }
     const QString directory = QFileInfo(target).path();
     if (!QDir().mkpath(directory)) {
         *error = QStringLiteral("Can't create directory %1").arg(directory);

@@ -7,6 +7,7 @@
 #include <QThread>
 
 #include <cerrno>
+#include <csignal>
 #include <cstdio>
 #include <cstring>
 
@@ -49,8 +50,24 @@ private:
     int m_descriptor;
 };
 
+/// While it lives, a write beyond the limit of the file size fails as on a full disk; the signal would end the process.
+class SizeLimitFails
+{
+public:
+    SizeLimitFails()
+        : m_before(std::signal(SIGXFSZ, SIG_IGN))
+    {}
+    ~SizeLimitFails() { std::signal(SIGXFSZ, m_before); }
+    SizeLimitFails(const SizeLimitFails &) = delete;
+    SizeLimitFails &operator=(const SizeLimitFails &) = delete;
+
+private:
+    void (*m_before)(int);
+};
+
 bool writeAll(int descriptor, const QByteArray &content)
 {
+    const SizeLimitFails sizeLimitFails;
     const char *data = content.constData();
     for (qint64 left = content.size(); left > 0;) {
         const ssize_t written = ::write(descriptor, data, size_t(left));
