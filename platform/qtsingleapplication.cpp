@@ -54,7 +54,11 @@ QtSingleApplication::QtSingleApplication(const QString &id, int &argc, char **ar
     m_lock->setStaleLockTime(0);
 }
 
-QtSingleApplication::~QtSingleApplication() = default;
+QtSingleApplication::~QtSingleApplication()
+{
+    // The socket goes before the lock: afterwards the one of that name belongs to the next owner.
+    delete m_server;
+}
 
 bool QtSingleApplication::isRunning()
 {
@@ -70,6 +74,8 @@ bool QtSingleApplication::isRunning()
 
 void QtSingleApplication::becomeOwner()
 {
+    // The temporary directory is not the user's alone.
+    QFile::setPermissions(m_path + QLatin1String(".lock"), QFile::ReadOwner | QFile::WriteOwner);
     // A socket that stands there belongs to a dead owner: the lock is ours.
     QLocalServer::removeServer(m_path);
     m_server = new QLocalServer(this);
