@@ -19,10 +19,11 @@ class PrivateServer
 public:
     PrivateServer()
     {
+        // A reset, which the last client's end would start, refuses those who connect meanwhile.
         m_process.start(QStringLiteral("Xvfb"),
-                        {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-nolisten"),
-                         QStringLiteral("tcp"), QStringLiteral("-screen"), QStringLiteral("0"),
-                         QStringLiteral("1024x768x24")});
+                        {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-noreset"),
+                         QStringLiteral("-nolisten"), QStringLiteral("tcp"), QStringLiteral("-screen"),
+                         QStringLiteral("0"), QStringLiteral("1024x768x24")});
         if (m_process.waitForReadyRead(60000))
             m_display = ':' + m_process.readLine().trimmed();
     }
@@ -166,6 +167,10 @@ void TestProgram::aSecondStartRaisesTheFirst()
     QVERIFY(second.waitForEnd());
     QCOMPARE(second.process().exitCode(), 0);
     QCOMPARE(second.process().readAllStandardOutput(), QByteArray());
+    const QDir runtime(QFile::decodeName(qgetenv("XDG_RUNTIME_DIR")));
+    for (const QFileInfo &file :
+         runtime.entryInfoList({QStringLiteral("qtsingleapp-*")}, QDir::AllEntries | QDir::System))
+        QVERIFY2(!(file.permissions() & (QFile::ReadGroup | QFile::ReadOther)), qPrintable(file.filePath()));
 
     PrivateServer server;
     const ScopedEnvironment display("DISPLAY", server.display());
@@ -245,7 +250,7 @@ void TestProgram::losingTheServerStoresTheSize()
     PrivateServer server;
     const ScopedEnvironment display("DISPLAY", server.display());
     EditorProcess editor;
-    QVERIFY(editor.waitForWindow());
+    QVERIFY2(editor.waitForWindow(), qPrintable(editor.errors()));
     if (inModalDialog) {
         editTheDelay();
         EditorProcess::press({QStringLiteral("Escape")});
