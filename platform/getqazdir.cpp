@@ -27,7 +27,7 @@ QString renderedWallpapers()
 }
 
 /// The number of the current virtual desktop, counted from 1.
-int currentDesktop()
+qint64 currentDesktop()
 {
     if (!QX11Info::isPlatformX11())
         return 1;
@@ -45,7 +45,7 @@ int currentDesktop()
     const std::unique_ptr<unsigned char, int (*)(void *)> owner(data, XFree);
     // Xlib hands 32-bit items out as longs.
     return type == XA_CARDINAL && format == 32 && count == 1
-               ? int(*reinterpret_cast<const unsigned long *>(data)) + 1
+               ? qint64(quint32(*reinterpret_cast<const unsigned long *>(data))) + 1
                : 1;
 }
 
