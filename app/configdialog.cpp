@@ -127,6 +127,8 @@ void ConfigDialog::fillContents()
     contentsWidget->setMovement(QListView::Static);
     contentsWidget->setMinimumWidth(listItemWidth + 20);
     contentsWidget->setMaximumWidth(listItemWidth + 20);
+    // A vertical scroll bar of a high resolution takes more than these 20 pixels; the labels have a margin.
+    contentsWidget->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 }
 
 void ConfigDialog::createPages()
