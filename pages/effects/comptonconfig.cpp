@@ -106,9 +106,11 @@ private:
     config_t m_config;
 };
 
-ComptonConfig::ComptonConfig(const QString &path, const QByteArray &text, std::unique_ptr<Tree> tree)
+ComptonConfig::ComptonConfig(const QString &path, const QByteArray &text, const QByteArray &wholeText,
+                             std::unique_ptr<Tree> tree)
     : m_path(path)
     , m_text(text)
+    , m_wholeText(wholeText)
     , m_tree(std::move(tree))
 {}
 
@@ -127,7 +129,7 @@ std::optional<ComptonConfig> ComptonConfig::read(const QString &path)
     auto tree = std::make_unique<Tree>();
     if (!wholeText || !tree->read(*wholeText))
         return {};
-    return ComptonConfig(path, file.content, std::move(tree));
+    return ComptonConfig(path, file.content, *wholeText, std::move(tree));
 }
 
 std::optional<bool> ComptonConfig::boolean(const char *name) const
@@ -146,9 +148,9 @@ bool ComptonConfig::updateBoolean(const char *name, bool value)
 
 bool ComptonConfig::write(QString *error) const
 {
-    QByteArray text = m_text;
-    for (auto update = m_updates.cbegin(); update != m_updates.cend(); ++update)
-        text = withRootBoolean(text, update.key(), update.value());
+    QByteArray text = withUpdates(m_text);
+    if (!areUpdatesIn(text)) // a name may stand only once, and one stands in an included file
+        text = withUpdates(m_wholeText);
     if (!areUpdatesIn(text))
         text = m_tree->text();
     if (text.isEmpty()) {
@@ -156,6 +158,13 @@ bool ComptonConfig::write(QString *error) const
         return false;
     }
     return replaceFile(m_path, text, error);
+}
+
+QByteArray ComptonConfig::withUpdates(QByteArray text) const
+{
+    for (auto update = m_updates.cbegin(); update != m_updates.cend(); ++update)
+        text = withRootBoolean(text, update.key(), update.value());
+    return text;
 }
 
 /// libconfig has the last word on an edited text: it must hold the updates.

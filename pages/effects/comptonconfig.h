@@ -27,18 +27,21 @@ public:
     /// Makes the root's \a name the boolean \a value, whatever type it had. Returns whether it was anything else.
     bool updateBoolean(const char *name, bool value);
 
-    /// Replaces the file in one step. A setting that stands in an included file can't be changed there, so
-    /// then the whole configuration is written to this file, without the includes.
+    /// Replaces the file in one step. A setting that stands in an included file isn't changed there: then the
+    /// texts of the included files take the places of the includes.
     [[nodiscard]] bool write(QString *error) const;
 
 private:
     class Tree;
 
-    ComptonConfig(const QString &path, const QByteArray &text, std::unique_ptr<Tree> tree);
+    ComptonConfig(const QString &path, const QByteArray &text, const QByteArray &wholeText,
+                  std::unique_ptr<Tree> tree);
+    QByteArray withUpdates(QByteArray text) const;
     bool areUpdatesIn(const QByteArray &text) const;
 
     QString m_path;
     QByteArray m_text;
-    std::unique_ptr<Tree> m_tree; ///< what libconfig makes of the text with its includes, and of the updates
+    QByteArray m_wholeText;       ///< with the includes in their places
+    std::unique_ptr<Tree> m_tree; ///< what libconfig makes of the whole text and of the updates
     QMap<QByteArray, bool> m_updates;
 };

@@ -195,7 +195,9 @@ std::optional<QByteArray> expand(const QByteArray &text, const QDir &directory, 
                                          directory, sizeLimit - result.size(), depth + 1);
         if (!included)
             return {};
-        result += text.mid(copied, word.begin - copied) + *included + '\n';
+        result += text.mid(copied, word.begin - copied) + *included;
+        if (!included->endsWith('\n')) // it may end in a comment
+            result += '\n';
         copied = token.end;
     }
     result += text.mid(copied);

@@ -21,62 +21,62 @@ namespace {
 const QString themeFile = QStringLiteral(".config/qaz/current.themerc");
 const QString kompmgrFile = QStringLiteral(".config/qaz/kompmgrrc");
 const QString comptonFile = QStringLiteral(".config/compton.conf");
+const QString backupDirectory = QStringLiteral(".local/state/qaz/backup");
 
 /// A session whose manager is installed in PATH under a name that no other test uses.
 class Session
 {
 public:
-    explicit Session(const QString &manager)
-        : m_path("PATH", QFile::encodeName(m_home.path(QStringLiteral("bin"))))
-        , m_manager(manager)
-        , m_program(installWaitingProgram(m_home.path(QStringLiteral("bin/") + manager)))
+    Session(const QString &manager, bool runs, const QByteArray &lines)
+        : m_path("PATH", QFile::encodeName(home.path(QStringLiteral("bin"))))
+        , m_manager(manager.toUtf8())
     {
-        home().makeDirectory(QStringLiteral(".config/qaz"));
+        home.makeDirectory(QStringLiteral(".config/qaz"));
+        const QString program = installWaitingProgram(home.path(QStringLiteral("bin/") + manager));
+        if (runs)
+            m_process = std::make_unique<SpawnedProcess>(program,
+                                                         QStringList{program, QStringLiteral("3600")});
+        writeTheme(lines);
     }
 
-    const TemporaryHome &home() const { return m_home; }
-    QString comptonConfigPath() const { return m_comptonConfigPath; }
-
-    void startManager()
-    {
-        m_process = std::make_unique<SpawnedProcess>(m_program,
-                                                     QStringList{m_program, QStringLiteral("3600")});
-    }
     void writeTheme(const QByteArray &lines) const
     {
-        m_home.write(themeFile, "CompositeManager=" + m_manager.toUtf8() + '\n' + lines);
+        home.write(themeFile, "CompositeManager=" + m_manager + '\n' + lines);
     }
     /// The lines of the theme file below the manager's own.
     QByteArray themeLines() const
     {
-        const QByteArray text = m_home.read(themeFile);
+        const QByteArray text = home.read(themeFile);
         return text.mid(text.indexOf('\n') + 1);
     }
     CompositeState load(const CompositeState &shown = {})
     {
-        QazSettings store(m_home.path(themeFile));
-        store.sync(true);
-        return CompositeSettings(&store, &m_comptonConfigPath).load(shown);
+        return CompositeSettings(openStore().get(), &comptonConfigPath).load(shown);
     }
     void save(const CompositeState &state)
     {
-        QazSettings store(m_home.path(themeFile));
-        store.sync(true);
-        CompositeSettings(&store, &m_comptonConfigPath).save(state);
+        CompositeSettings(openStore().get(), &comptonConfigPath).save(state);
     }
     QStringList backups() const
     {
-        return QDir(m_home.path(QStringLiteral(".local/state/qaz/backup")))
-            .entryList({QStringLiteral("*Z-*")});
+        return QDir(home.path(backupDirectory)).entryList({QStringLiteral("*Z-*")});
     }
 
+    const TemporaryHome home;
+    QString comptonConfigPath;
+
 private:
-    const TemporaryHome m_home;
+    /// The store writes the file when it goes.
+    std::unique_ptr<QazSettings> openStore() const
+    {
+        auto store = std::make_unique<QazSettings>(home.path(themeFile));
+        store->sync(true);
+        return store;
+    }
+
     ScopedEnvironment m_path;
-    QString m_manager;
-    QString m_program;
+    QByteArray m_manager;
     std::unique_ptr<SpawnedProcess> m_process;
-    QString m_comptonConfigPath;
 };
 
 // Another run of this test on the same machine must not pass for this one's managers.
@@ -94,54 +94,50 @@ private slots:
     void boxShowsWhetherTheManagerRuns()
     {
         struct Case {
-            const char *stored;
             bool runs;
-            const char *after;
+            QByteArray stored;
+            QByteArray after;
         };
-        const Case cases[] = {{"UseComposite=True\n", true, "UseComposite=True\n"},
-                              {"", true, ""},
-                              {"UseComposite=TRUE\n", true, "UseComposite=true\n"},
-                              {"UseComposite=true\n", false, "UseComposite=false\n"},
-                              {"", false, "UseComposite=false\n"},
-                              {"UseComposite=no\n", false, "UseComposite=no\n"}};
+        const Case cases[] = {{true, "UseComposite=True\n", "UseComposite=True\n"},
+                              {true, "", ""},
+                              {true, "UseComposite=TRUE\n", "UseComposite=true\n"},
+                              {false, "UseComposite=true\n", "UseComposite=false\n"},
+                              {false, "", "UseComposite=false\n"},
+                              {false, "UseComposite=no\n", "UseComposite=no\n"}};
         WmListener windowManager;
         for (const Case &one : cases) {
-            Session session(ownManager);
-            session.writeTheme(one.stored);
-            if (one.runs)
-                session.startManager();
+            Session session(ownManager, one.runs, one.stored);
             QCOMPARE(session.load().managerOn, one.runs);
-            QCOMPARE(session.themeLines(), QByteArray(one.after));
+            QCOMPARE(session.themeLines(), one.after);
         }
         QCOMPARE(windowManager.take(), QStringList());
     }
 
     void managerThatIsNotFoundIsSwitchedOff()
     {
-        Session session(ownManager);
+        Session session(ownManager, true, {});
         WmListener windowManager;
-        session.home().write(themeFile, "CompositeManager=no-%s-compton\nUseComposite=true\n");
+        session.home.write(themeFile, "CompositeManager=no-%s-compton\nUseComposite=true\n");
         const QByteArray kompmgr = "[kompmgr]\nIgnoreTransparency=false\n";
-        session.home().write(kompmgrFile, kompmgr);
+        session.home.write(kompmgrFile, kompmgr);
         StandardError messages;
         const CompositeState state = session.load({true, false, true});
         QCOMPARE(messages.take(),
                  QByteArray("qaz-admin-wm: can't find CompositeManager='no-%s-compton' in PATH\n"));
         QVERIFY(!state.managerOn && !state.transparency && state.shadow);
         QCOMPARE(session.themeLines(), QByteArray("UseComposite=false\n"));
-        QVERIFY(session.comptonConfigPath().isEmpty());
+        QVERIFY(session.comptonConfigPath.isEmpty());
         session.save(state);
-        QVERIFY(!session.home().exists(comptonFile));
+        QVERIFY(!session.home.exists(comptonFile));
 
         // A save to a theme that still says on tells the window manager; kompmgrrc is overwritten, but kept.
-        session.home().write(themeFile, "CompositeManager=gone\nUseComposite=true\n");
+        session.home.write(themeFile, "CompositeManager=gone\nUseComposite=true\n");
         session.save({});
         QCOMPARE(session.themeLines(), QByteArray("UseComposite=false\n"));
         QCOMPARE(windowManager.take(), QStringList{off});
-        QCOMPARE(session.home().read(kompmgrFile), QByteArray("[kompmgr]\nIgnoreTransparency=true\n"));
+        QCOMPARE(session.home.read(kompmgrFile), QByteArray("[kompmgr]\nIgnoreTransparency=true\n"));
         QCOMPARE(session.backups().size(), 1);
-        QCOMPARE(session.home().read(QStringLiteral(".local/state/qaz/backup/") + session.backups().first()),
-                 kompmgr);
+        QCOMPARE(session.home.read(backupDirectory + QLatin1Char('/') + session.backups().first()), kompmgr);
     }
 
     void kompmgrFileIsReadAsNegations()
@@ -151,84 +147,75 @@ private slots:
             {"[kompmgr]\nIgnoreTransparency=TRUE\nCompmode=compsimple\n", true},
             {"[kompmgr]\nIgnoreTransparency=untrue\nCompmode=CompSimple2\n", false}};
         for (const auto &[content, on] : files) {
-            Session session(ownManager);
-            session.writeTheme({});
-            session.home().write(kompmgrFile, content);
+            Session session(ownManager, false, {});
+            session.home.write(kompmgrFile, content);
             const CompositeState state = session.load({false, !on, !on});
             QVERIFY2(state.transparency == on && state.shadow == on, content.constData());
             // What was loaded is saved without a trace, whatever its text.
-            const QString before = session.home().fingerprint();
+            const QString before = session.home.fingerprint();
             session.save(state);
-            QCOMPARE(session.home().fingerprint(), before);
+            QCOMPARE(session.home.fingerprint(), before);
         }
     }
 
     void runningManagerIsRestartedOnlyForAChangedFile_data()
     {
-        QTest::addColumn<QString>("manager");
         QTest::addColumn<QByteArray>("use");
         QTest::addColumn<CompositeState>("state");
         QTest::addColumn<QStringList>("commands");
-        for (const QString &manager : {ownManager, compton}) {
-            const auto row = [&](const char *title, const char *use, const CompositeState &state,
-                                 const QStringList &commands) {
-                QTest::addRow("%s, %s", qPrintable(manager), title)
-                    << manager << QByteArray(use) << state << commands;
-            };
-            row("only the file", "UseComposite=true\n", {true, false, true}, {off, on});
-            row("nothing", "UseComposite=true\n", {true, false, false}, {});
-            row("switched on with the file", "UseComposite=false\n", {true, true, true}, {on});
-            row("switched off with the file", "UseComposite=true\n", {false, true, true}, {off});
-            row("another text for true", "UseComposite=True\n", {true, true, true}, {});
-            row("no text at all", "", {true, true, true}, {on});
-        }
+        const auto row = [](const char *title, const char *use, const CompositeState &state,
+                            const QStringList &commands) {
+            QTest::newRow(title) << QByteArray(use) << state << commands;
+        };
+        row("only the file", "UseComposite=true\n", {true, false, true}, {off, on});
+        row("nothing", "UseComposite=true\n", {true, false, false}, {});
+        row("switched on with the file", "UseComposite=false\n", {true, true, true}, {on});
+        row("switched off with the file", "UseComposite=true\n", {false, true, true}, {off});
+        row("another text for true", "UseComposite=True\n", {true, true, true}, {});
+        row("no text at all", "", {true, true, true}, {on});
     }
     void runningManagerIsRestartedOnlyForAChangedFile()
     {
-        QFETCH(QString, manager);
         QFETCH(QByteArray, use);
         QFETCH(CompositeState, state);
-        Session session(manager);
-        session.writeTheme(use);
-        session.home().write(kompmgrFile, "; mine\n[kompmgr]\nOther=\"a, b\"\n\n[more]\nkey=1\n");
-        session.home().write(comptonFile, "# mine\nshadow = false;\nenable-transparency = false;\n");
-        session.startManager();
-        session.load();
-        session.writeTheme(use);
-        WmListener windowManager;
-        session.save(state);
-        QTEST(windowManager.take(), "commands");
-        const QByteArray expectedUse = state.managerOn == use.contains("rue")
-                                           ? use
-                                           : QByteArray(state.managerOn ? "UseComposite=true\n"
-                                                                        : "UseComposite=false\n");
-        QCOMPARE(session.themeLines(), expectedUse);
-        QCOMPARE(session.backups().size(), state.transparency || state.shadow ? 1 : 0);
-        const CompositeState reloaded = session.load();
-        QCOMPARE(reloaded.transparency, state.transparency);
-        QCOMPARE(reloaded.shadow, state.shadow);
-        QVERIFY(session.home().read(kompmgrFile).contains("Other=\"a, b\""));
-        QVERIFY(session.home().read(comptonFile).startsWith("# mine\n"));
+        for (const QString &manager : {ownManager, compton}) {
+            Session session(manager, true, use);
+            session.home.write(kompmgrFile, "; mine\n[kompmgr]\nOther=\"a, b\"\n\n[more]\nkey=1\n");
+            session.home.write(comptonFile, "# mine\nshadow = false;\nenable-transparency = false;\n");
+            session.load();
+            session.writeTheme(use);
+            WmListener windowManager;
+            session.save(state);
+            QTEST(windowManager.take(), "commands");
+            const QByteArray changedUse = state.managerOn ? "UseComposite=true\n" : "UseComposite=false\n";
+            QCOMPARE(session.themeLines(), state.managerOn == use.contains("rue") ? use : changedUse);
+            QCOMPARE(session.backups().size(), state.transparency || state.shadow ? 1 : 0);
+            const CompositeState reloaded = session.load();
+            QCOMPARE(reloaded.transparency, state.transparency);
+            QCOMPARE(reloaded.shadow, state.shadow);
+            QVERIFY(session.home.read(kompmgrFile).contains("Other=\"a, b\""));
+            QVERIFY(session.home.read(comptonFile).startsWith("# mine\n"));
+        }
     }
 
-    void comptonFileIsMadeAndBothValuesAreWrittenFirst()
+    void comptonFileIsResolvedOnceAndMissingValuesAreWritten()
     {
-        Session session(compton);
-        session.writeTheme({});
-        session.startManager();
+        Session session(compton, true, {});
+        const QString old = session.home.write(QStringLiteral(".compton.conf"), {});
         const CompositeState state = session.load({false, true, true});
         QVERIFY(state.managerOn && !state.transparency && !state.shadow);
-        QCOMPARE(session.home().read(comptonFile), QByteArray(""));
+        session.home.write(comptonFile, "shadow = true;\n");
+        QVERIFY(!session.load().shadow);
+        QCOMPARE(session.comptonConfigPath, old);
         session.save(state);
-        QCOMPARE(session.home().read(comptonFile),
+        QCOMPARE(session.home.read(QStringLiteral(".compton.conf")),
                  QByteArray("enable-transparency = false;\nshadow = false;\n"));
     }
 
     void unreadableComptonFileIsToldAndLeft()
     {
-        Session session(compton);
-        session.writeTheme({});
-        const QByteArray path = QFile::encodeName(session.home().write(comptonFile, "shadow = "));
+        Session session(compton, false, {});
+        const QByteArray path = QFile::encodeName(session.home.write(comptonFile, "shadow = "));
         const QByteArray message = "qaz-admin-theme: Can't read " + path + '\n';
         StandardError messages;
         const CompositeState state = session.load({false, true, true});
@@ -236,18 +223,7 @@ private slots:
         QVERIFY(state.transparency && state.shadow);
         session.save({});
         QCOMPARE(messages.take(), message);
-        QCOMPARE(session.home().read(comptonFile), QByteArray("shadow = "));
-    }
-
-    void comptonFileIsResolvedOnce()
-    {
-        Session session(compton);
-        session.writeTheme({});
-        const QString old = session.home().write(QStringLiteral(".compton.conf"), "shadow = true;\n");
-        QVERIFY(session.load().shadow);
-        session.home().write(comptonFile, "shadow = false;\n");
-        QVERIFY(session.load().shadow);
-        QCOMPARE(session.comptonConfigPath(), old);
+        QCOMPARE(session.home.read(comptonFile), QByteArray("shadow = "));
     }
 
     void comptonPlacesAreTriedInOrder()
