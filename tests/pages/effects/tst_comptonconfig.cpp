@@ -52,19 +52,15 @@ private slots:
             "true;\n");
         row("no separators, no last newline", "shadow=true enable-transparency=false x=1",
             "shadow=false enable-transparency=true x=1");
-        row("another setting's name holds ours", "shadow-radius = 7;\nno-shadow = true;",
-            "shadow-radius = 7;\nno-shadow = true;\nenable-transparency = true;\nshadow = false;\n");
-        row("ours inside a group, a list and a string",
-            "w : { shadow = true; };\nl = ( { shadow = true; } );\ns = \"\\\"shadow = true;\" \"shadow = "
-            "1\";\n",
-            "w : { shadow = true; };\nl = ( { shadow = true; } );\ns = \"\\\"shadow = true;\" \"shadow = "
-            "1\";\n"
-            "enable-transparency = true;\nshadow = false;\n");
-        row("numbers of every form",
+        row("our names elsewhere only",
+            "shadow-radius = 7;no-shadow = true;w : { shadow = true; };l = ( { shadow = true; } );"
+            "s = \"\\\"shadow = true;\" \"shadow = 1\";\n",
+            "shadow-radius = 7;no-shadow = true;w : { shadow = true; };l = ( { shadow = true; } );"
+            "s = \"\\\"shadow = true;\" \"shadow = 1\";\nenable-transparency = true;\nshadow = false;\n");
+        row("numbers of every form, lines of another system",
+            "a = 0x1F; b = 10L; c = 1.23456789012345678; d = 1e-300; e = .5; f = 99999999999;\r\n",
             "a = 0x1F; b = 10L; c = 1.23456789012345678; d = 1e-300; e = .5; f = 99999999999;\r\n"
-            "shadow = false;\r\n",
-            "a = 0x1F; b = 10L; c = 1.23456789012345678; d = 1e-300; e = .5; f = 99999999999;\r\n"
-            "shadow = false;\r\nenable-transparency = true;\r\n");
+            "enable-transparency = true;\r\nshadow = false;\r\n");
         row("values of another type", "shadow = 0;\nenable-transparency = { a = [ 1, 2 ]; };\nz = \"\xfc\";",
             "shadow = false;\nenable-transparency = true;\nz = \"\xfc\";");
         row("values of another type, texts", "shadow = \"n\" \"o\";enable-transparency=\"true\"",
