@@ -4,69 +4,69 @@
 
 #include "tests/support/temporaryhome.h"
 
+namespace {
+
+const QString file = QStringLiteral(".Xresources");
+
+bool setDpi(const TemporaryHome &home, const char *value)
+{
+    return setXrdbParameterInFile(QFile::encodeName(home.path(file)).constData(), "Xft.dpi:", " ", value,
+                                  false);
+}
+
+} // namespace
+
 class TestSetXrdbParameterInFile : public QObject
 {
     Q_OBJECT
 private slots:
-    void editsOneLine_data();
-    void editsOneLine();
-    void makesAndSparesFiles();
-    void keepsWhatCannotBeRead();
+    void editsOneLine()
+    {
+        const struct {
+            const char *before;
+            const char *value; // null: removed
+            const char *after;
+        } rows[] = {
+            {"! mine\nXft.dpi: 96\nx: 1\n", "120", "! mine\nXft.dpi: 120\nx: 1\n"},
+            {"x: 1\n", "120", "x: 1\nXft.dpi: 120\n"},
+            {"x: 1", "120", "x: 1\nXft.dpi: 120\n"}, // an open last line
+            {"a: 1\nXft.dpi: 96", "7", "a: 1\nXft.dpi: 7"},
+            {"a: 1\nXft.dpi: 96\nb: 2", nullptr, "a: 1\nb: 2"},
+            {"a: 1", nullptr, "a: 1"},
+            {" Xft.dpi :\t96\n", "120", "Xft.dpi: 120\n"},
+            {"Xft.dpix: 1\n!Xft.dpi: 2\n", "3", "Xft.dpix: 1\n!Xft.dpi: 2\nXft.dpi: 3\n"},
+            {"Xft.dpi: 1\na: 1\nXft.dpi: 2\nb: 2\n", "3", "a: 1\nXft.dpi: 3\nb: 2\n"}, // the last one counts
+            {"Xft.dpi: \\\n 96\na: \\\nXft.dpi: text\n", nullptr, "a: \\\nXft.dpi: text\n"},
+            {"a: \xff\r\nXft.dpi: 96\r\nb: 1\r\n", "7", "a: \xff\r\nXft.dpi: 7\r\nb: 1\r\n"},
+        };
+        for (const auto &row : rows) {
+            const TemporaryHome home;
+            home.write(file, row.before);
+            QVERIFY(setDpi(home, row.value));
+            QCOMPARE(home.read(file), QByteArray(row.after));
+        }
+    }
+
+    void writesOnlyWhatChanges()
+    {
+        const TemporaryHome home;
+        QVERIFY(setDpi(home, nullptr));
+        QVERIFY(!home.exists(file));
+        QVERIFY(setDpi(home, "96"));
+        QCOMPARE(home.read(file), QByteArray("Xft.dpi: 96\n"));
+        const QString written = home.fingerprint();
+        QVERIFY(setDpi(home, "96"));
+        QCOMPARE(home.fingerprint(), written);
+    }
+
+    void keepsWhatCannotBeRead()
+    {
+        const TemporaryHome home;
+        QVERIFY(home.makeDirectory(file));
+        QVERIFY(!setDpi(home, "96"));
+        QCOMPARE(home.fingerprint(), home.path(file));
+    }
 };
-
-void TestSetXrdbParameterInFile::editsOneLine_data()
-{
-    QTest::addColumn<QByteArray>("before");
-    QTest::addColumn<QByteArray>("value"); // null: removed
-    QTest::addColumn<QByteArray>("after");
-    const QByteArray removed;
-    // clang-format off
-    QTest::newRow("replaced") << QByteArray("! mine\nXft.dpi: 96\nx: 1\n") << QByteArray("120") << QByteArray("! mine\nXft.dpi: 120\nx: 1\n");
-    QTest::newRow("appended") << QByteArray("x: 1\n") << QByteArray("120") << QByteArray("x: 1\nXft.dpi: 120\n");
-    QTest::newRow("appended to an open line") << QByteArray("x: 1") << QByteArray("120") << QByteArray("x: 1\nXft.dpi: 120\n");
-    QTest::newRow("removed") << QByteArray("a: 1\nXft.dpi: 96\nb: 2") << removed << QByteArray("a: 1\nb: 2");
-    QTest::newRow("nothing to remove") << QByteArray("a: 1") << removed << QByteArray("a: 1");
-    QTest::newRow("blanks around the name") << QByteArray(" Xft.dpi :\t96\n") << QByteArray("120") << QByteArray("Xft.dpi: 120\n");
-    QTest::newRow("another parameter's prefix") << QByteArray("Xft.dpix: 1\n!Xft.dpi: 2\n") << QByteArray("3") << QByteArray("Xft.dpix: 1\n!Xft.dpi: 2\nXft.dpi: 3\n");
-    QTest::newRow("the last of several stays") << QByteArray("Xft.dpi: 1\na: 1\nXft.dpi: 2\nb: 2\n") << QByteArray("3") << QByteArray("a: 1\nXft.dpi: 3\nb: 2\n");
-    QTest::newRow("a continued line goes whole") << QByteArray("Xft.dpi: \\\n 96\na: \\\nXft.dpi: text\n") << removed << QByteArray("a: \\\nXft.dpi: text\n");
-    QTest::newRow("line ending and odd bytes") << QByteArray("a: \xff\r\nXft.dpi: 96\r\nb: 1\r\n") << QByteArray("7") << QByteArray("a: \xff\r\nXft.dpi: 7\r\nb: 1\r\n");
-    QTest::newRow("last line, open") << QByteArray("a: 1\nXft.dpi: 96") << QByteArray("7") << QByteArray("a: 1\nXft.dpi: 7");
-    // clang-format on
-}
-
-void TestSetXrdbParameterInFile::editsOneLine()
-{
-    QFETCH(QByteArray, before);
-    QFETCH(QByteArray, value);
-    const TemporaryHome home;
-    const QByteArray path = home.write(QStringLiteral(".Xresources"), before).toLocal8Bit();
-    QVERIFY(setXrdbParameterInFile(path.constData(), "Xft.dpi:", " ",
-                                   value.isNull() ? nullptr : value.constData(), false));
-    QTEST(home.read(QStringLiteral(".Xresources")), "after");
-}
-
-void TestSetXrdbParameterInFile::makesAndSparesFiles()
-{
-    const TemporaryHome home;
-    const QByteArray path = home.path(QStringLiteral(".Xresources")).toLocal8Bit();
-    QVERIFY(setXrdbParameterInFile(path.constData(), "Xft.dpi:", " ", nullptr, false));
-    QVERIFY(!home.exists(QStringLiteral(".Xresources")));
-    QVERIFY(setXrdbParameterInFile(path.constData(), "Xft.dpi:", " ", "96", false));
-    QCOMPARE(home.read(QStringLiteral(".Xresources")), QByteArray("Xft.dpi: 96\n"));
-    const QString written = home.fingerprint();
-    QVERIFY(setXrdbParameterInFile(path.constData(), "Xft.dpi:", " ", "96", false));
-    QCOMPARE(home.fingerprint(), written);
-}
-
-void TestSetXrdbParameterInFile::keepsWhatCannotBeRead()
-{
-    const TemporaryHome home;
-    QVERIFY(home.makeDirectory(QStringLiteral(".Xresources")));
-    const QByteArray path = home.path(QStringLiteral(".Xresources")).toLocal8Bit();
-    QVERIFY(!setXrdbParameterInFile(path.constData(), "Xft.dpi:", " ", "96", false));
-    QCOMPARE(home.fingerprint(), home.path(QStringLiteral(".Xresources")));
-}
 
 QTEST_GUILESS_MAIN(TestSetXrdbParameterInFile)
 #include "tst_setxrdbparameterinfile.moc"
