@@ -324,7 +324,7 @@ Zurücksetzen:</translation>
     </message>
     <message>
         <source>pix</source>
-        <translation> Pixel</translation>
+        <translation> px</translation>
     </message>
     <message>
         <source>Autopaging resistance</source>
@@ -391,7 +391,7 @@ Zurücksetzen:</translation>
     </message>
     <message>
         <source> pix</source>
-        <translation> Pixel</translation>
+        <translation> px</translation>
     </message>
     <message>
         <source> to </source>

@@ -324,7 +324,7 @@ Restablecer:</translation>
     </message>
     <message>
         <source>pix</source>
-        <translation> píxeles</translation>
+        <translation> px</translation>
     </message>
     <message>
         <source>Autopaging resistance</source>
@@ -391,7 +391,7 @@ Restablecer:</translation>
     </message>
     <message>
         <source> pix</source>
-        <translation> píxeles</translation>
+        <translation> px</translation>
     </message>
     <message>
         <source> to </source>

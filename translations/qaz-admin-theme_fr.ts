@@ -29,7 +29,7 @@
     </message>
     <message>
         <source>Qaz Theme Editor</source>
-        <translation>Éditeur de thème Qaz</translation>
+        <translation>Éditeur de thèmes Qaz</translation>
     </message>
     <message>
         <source>Pages</source>
@@ -324,7 +324,7 @@ Réinitialiser :</translation>
     </message>
     <message>
         <source>pix</source>
-        <translation> pixels</translation>
+        <translation> px</translation>
     </message>
     <message>
         <source>Autopaging resistance</source>
@@ -391,7 +391,7 @@ Réinitialiser :</translation>
     </message>
     <message>
         <source> pix</source>
-        <translation> pixels</translation>
+        <translation> px</translation>
     </message>
     <message>
         <source> to </source>
@@ -461,7 +461,7 @@ Réinitialiser :</translation>
     <name>Help</name>
     <message>
         <source>Qaz Theme Editor Help</source>
-        <translation>Aide de l’éditeur de thème Qaz</translation>
+        <translation>Aide de l’éditeur de thèmes Qaz</translation>
     </message>
 </context>
 <context>

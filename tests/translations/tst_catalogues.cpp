@@ -57,6 +57,8 @@ private slots:
     void marksSurviveTranslation();
     void textsLookedUpDiffer_data() { catalogueIsComplete_data(); }
     void textsLookedUpDiffer();
+    void excludedSizesStayPixels_data() { catalogueIsComplete_data(); }
+    void excludedSizesStayPixels();
     void englishAddsOnlyTheUsage();
 };
 
@@ -121,6 +123,19 @@ void TestCatalogues::textsLookedUpDiffer()
     }
     QVERIFY(lookedUp.size() > pages.size());
     QCOMPARE(lookedUp.removeDuplicates(), 0);
+}
+
+void TestCatalogues::excludedSizesStayPixels()
+{
+    // The rendering dialog takes its unit from this suffix: pixels, unless a translation names another unit.
+    QFETCH(QString, language);
+    const QList<Message> all = messages(language);
+    const auto suffix = std::find_if(all.cbegin(), all.cend(), [](const Message &message) {
+        return message.source == QLatin1String(" pix");
+    });
+    QVERIFY(suffix != all.cend());
+    QVERIFY2(suffix->translation.contains(QRegularExpression(QStringLiteral("pix|px"))),
+             qPrintable(suffix->translation));
 }
 
 void TestCatalogues::englishAddsOnlyTheUsage()
