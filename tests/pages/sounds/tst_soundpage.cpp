@@ -324,7 +324,11 @@ private slots:
         const auto chooseFile = [&](const char *name) {
             driver.then([&directories, path = over.path(name)](QDialog *dialog) {
                 directories << qobject_cast<QFileDialog *>(dialog)->directory().path();
-                dialog->findChild<QLineEdit *>()->setText(path);
+                auto *name = dialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+                QApplication::setActiveWindow(dialog);
+                name->setFocus();
+                name->selectAll();
+                QTest::keyClicks(name, path); // as a user does: the dialog treats a text put there otherwise
                 dialog->accept();
             });
             emit over.list()->itemDoubleClicked(over.list()->topLevelItem(0), 1);
