@@ -4,6 +4,7 @@
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QListWidget>
+#include <QPushButton>
 #include <QSpinBox>
 
 #include "app/configdialog.h"

@@ -44,6 +44,7 @@ bool measure(const char *what, const QString &path, const QByteArray &content)
         qFatal("Can't write %s", qPrintable(path));
     file.close();
     std::vector<double> times;
+    times.reserve(rounds);
     for (int round = 0; round < rounds; ++round)
         times.push_back(readAndWrite(round));
     return report(what, median(times), limitMs, "ms");
