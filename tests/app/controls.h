@@ -55,5 +55,7 @@ void visitViews(ConfigDialog *dialog, Visitor visit)
 /// A control's class and object name, for failures.
 inline QString described(const QWidget *widget)
 {
+    if (!widget)
+        return QStringLiteral("part of a control");
     return QLatin1String(widget->metaObject()->className()) + QLatin1Char(' ') + widget->objectName();
 }
