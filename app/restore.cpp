@@ -47,8 +47,12 @@ QString pathOf(const RestoreStep &step, const QString &themeFile)
     return {};
 }
 
+/// Fails for a directory, which is not copied either: it may be large, and stays.
 bool removeFile(const QString &path)
 {
+    const QFileInfo info(path);
+    if (info.isDir() && !info.isSymLink())
+        return false;
     backUp(path);
     return QFile::remove(path);
 }

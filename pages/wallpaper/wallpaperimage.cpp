@@ -53,9 +53,11 @@ bool isCutOff(const QString &path, const QByteArray &format)
     return !data || !isWholeJpeg(data, file.size());
 }
 
+/// Fails for what is no image for sure. The kernel's own files state no size, and some block whoever reads them.
 bool fileStatus(const QString &path, struct stat *status)
 {
-    return ::stat(QFile::encodeName(path).constData(), status) == 0 && S_ISREG(status->st_mode);
+    return ::stat(QFile::encodeName(path).constData(), status) == 0 && S_ISREG(status->st_mode)
+           && status->st_size > 0;
 }
 
 template<typename T>

@@ -154,7 +154,11 @@ void WallpaperPage::selectWallpaperFile()
     QString file = dialog.selectedFiles().constFirst();
     if (needsConversion(file))
         file = convertedFile(file);
-    if (!file.isEmpty() && QFileInfo::exists(file))
+    if (file.isEmpty() || !QFileInfo::exists(file))
+        return;
+    if (file == m_ui->wallpaperLineEdit->text())
+        slotWallpaperType(); // its content may be a new one
+    else
         m_ui->wallpaperLineEdit->setText(file);
 }
 
