@@ -2,6 +2,7 @@
 #include "platform/wallpapersearch.h"
 #include "platform/wallpapersizeforscreen.h"
 #include "tests/support/fakeprogram.h"
+#include "tests/support/literals.h"
 #include "tests/support/temporaryhome.h"
 
 #include <QDateTime>
@@ -11,7 +12,8 @@
 namespace {
 
 const char command[] = "qaz-svg2png -w %d -h %d -i \"%s\" -o \"%s\"";
-const QByteArray fakeConverter = "while [ $# -gt 1 ]; do [ \"$1\" = -o ] && echo png > \"$2\"; shift 2; done";
+const QString converter = "qaz-svg2png"_s;
+const QString own = ".local/share/wallpapers/"_s;
 
 QString find(const QString &name)
 {
@@ -20,10 +22,12 @@ QString find(const QString &name)
     return QFile::decodeName(result);
 }
 
-bool setModificationTime(const QString &path, const QDateTime &time)
+bool makeOlder(const QString &path, int seconds)
 {
     QFile file(path);
-    return file.open(QIODevice::ReadWrite) && file.setFileTime(time, QFileDevice::FileModificationTime);
+    return file.open(QIODevice::ReadWrite)
+           && file.setFileTime(QDateTime::currentDateTime().addSecs(-seconds),
+                               QFileDevice::FileModificationTime);
 }
 
 } // namespace
@@ -32,125 +36,73 @@ class TestWallpaperSearch : public QObject
 {
     Q_OBJECT
 private slots:
-    void standardSizeIsTheNearestRatios_data();
-    void standardSizeIsTheNearestRatios();
-    void argumentsAreFilledInWithoutAShell();
-    void betterPlacesComeFirst();
-    void namesThatAreNoFileNamesFindNothing();
-    void svgIsConvertedUntilItChanges();
-    void failedConversionFindsNothing();
-};
-
-void TestWallpaperSearch::standardSizeIsTheNearestRatios_data()
-{
-    QTest::addColumn<QSize>("screen");
-    QTest::addColumn<QSize>("standard");
-    QTest::addColumn<QSize>("ratio");
-
-    QTest::newRow("5:4") << QSize(1280, 1024) << QSize(1280, 1024) << QSize(5, 4);
-    QTest::newRow("4:3") << QSize(1024, 768) << QSize(1600, 1200) << QSize(4, 3);
-    QTest::newRow("3:2") << QSize(2256, 1504) << QSize(2160, 1440) << QSize(3, 2);
-    QTest::newRow("16:10") << QSize(1440, 900) << QSize(1920, 1200) << QSize(16, 10);
-    QTest::newRow("nearly 16:9") << QSize(1366, 768) << QSize(1920, 1080) << QSize(16, 9);
-    QTest::newRow("21:9") << QSize(3440, 1440) << QSize(2560, 1080) << QSize(21, 9);
-    QTest::newRow("portrait") << QSize(1080, 1920) << QSize(1280, 1024) << QSize(5, 4);
-    QTest::newRow("two screens wide") << QSize(3840, 1080) << QSize(2560, 1080) << QSize(21, 9);
-}
-
-void TestWallpaperSearch::standardSizeIsTheNearestRatios()
-{
-    QFETCH(QSize, screen);
-    int w1 = 0, h1 = 0, w2 = 0, h2 = 0;
-    WallpaperSizeForScreen(screen.width(), screen.height(), &w1, &h1, &w2, &h2);
-    QTEST(QSize(w1, h1), "standard");
-    QTEST(QSize(w2, h2), "ratio");
-    WallpaperSizeForScreen(0, 0, &w1, &h1, &w2, &h2);
-    QVERIFY(w1 > 0 && h1 > 0);
-}
-
-void TestWallpaperSearch::argumentsAreFilledInWithoutAShell()
-{
-    const QString source = QStringLiteral("/a \"b\" $(c) %s %d\n");
-    const QStringList expected = {QStringLiteral("qaz-svg2png"),
-                                  QStringLiteral("-w"),
-                                  QStringLiteral("19"),
-                                  QStringLiteral("-h"),
-                                  QStringLiteral("20"),
-                                  QStringLiteral("-i"),
-                                  source,
-                                  QStringLiteral("-o"),
-                                  QStringLiteral("-t %d")};
-    QCOMPARE(convertArguments(QLatin1String(command), 19, 20, source, QStringLiteral("-t %d")), expected);
-    QCOMPARE(convertArguments(QStringLiteral("x 100%% %dx%d %d %q %"), 1, 2, {}, {}).join(QLatin1Char('|')),
-             QStringLiteral("x|100%|1x2|%d|%q|%"));
-}
-
-void TestWallpaperSearch::betterPlacesComeFirst()
-{
-    const TemporaryHome home;
-    const ScopedEnvironment data("QAZ_DATA_DIR", QFile::encodeName(home.path(QStringLiteral("data"))));
-    const QString own = QStringLiteral(".local/share/wallpapers/");
-    const QString worstFirst[] = {QStringLiteral("data/wallpapers/tst-paper.jpg"),
-                                  QStringLiteral("data/wallpapers/1920x1080/tst-paper.xpm"),
-                                  own + QStringLiteral("tst-paper.jpeg"),
-                                  own + QStringLiteral("tst-paper.png"),
-                                  own + QStringLiteral("tst-paper"),
-                                  own + QStringLiteral("16:9/tst-paper.xpm"),
-                                  own + QStringLiteral("1920x1080/tst-paper.jpeg")};
-    QCOMPARE(find(QStringLiteral("tst-paper")), QString());
-    for (const QString &place : worstFirst) {
-        const QString path = home.write(place, "image");
-        QCOMPARE(find(QStringLiteral("tst-paper")), path);
+    void standardSizeIsTheNearestRatios()
+    {
+        const int rows[][6] = {
+            {1280, 1024, 1280, 1024, 5, 4},  {1024, 768, 1600, 1200, 4, 3},   {2256, 1504, 2160, 1440, 3, 2},
+            {1440, 900, 1920, 1200, 16, 10}, {1366, 768, 1920, 1080, 16, 9},  {3440, 1440, 2560, 1080, 21, 9},
+            {1080, 1920, 1280, 1024, 5, 4},  {3840, 1080, 2560, 1080, 21, 9}, {0, 0, 1280, 1024, 5, 4}};
+        for (const auto &row : rows) {
+            int w1 = 0, h1 = 0, w2 = 0, h2 = 0;
+            WallpaperSizeForScreen(row[0], row[1], &w1, &h1, &w2, &h2);
+            QCOMPARE(QRect(w1, h1, w2, h2), QRect(row[2], row[3], row[4], row[5]));
+        }
     }
-    QCOMPARE(find(QStringLiteral("tst-paper.png")), home.path(own + QStringLiteral("tst-paper.png")));
-}
 
-void TestWallpaperSearch::namesThatAreNoFileNamesFindNothing()
-{
-    const TemporaryHome home;
-    home.write(QStringLiteral(".local/share/secret"), "secret");
-    home.write(QStringLiteral(".local/share/wallpapers/1920x1080/paper.png"), "image");
-    const QString names[] = {QString(), QStringLiteral(".."), QStringLiteral("../secret"),
-                             QStringLiteral("1920x1080"), QString(5000, QLatin1Char('a'))};
-    for (const QString &name : names)
+    void argumentsAreFilledInWithoutAShell()
+    {
+        const QString source = "/a \"b\" $(c) %s %d\n"_s;
+        QCOMPARE(convertArguments(QLatin1String(command), 19, 20, source, "-t %d"_s).join(u'|'),
+                 "qaz-svg2png|-w|19|-h|20|-i|"_s + source + "|-o|-t %d"_s);
+        QCOMPARE(convertArguments("x 100%% %dx%d %d %q %"_s, 1, 2, {}, {}).join(u'|'),
+                 "x|100%|1x2|%d|%q|%"_s);
+    }
+
+    void betterPlacesComeFirst()
+    {
+        const TemporaryHome home;
+        const ScopedEnvironment data("QAZ_DATA_DIR", QFile::encodeName(home.path("data"_s)));
+        const QString worstFirst[] = {"data/wallpapers/tst-paper.jpg"_s,
+                                      "data/wallpapers/1920x1080/tst-paper.xpm"_s,
+                                      own + "tst-paper.jpeg"_s,
+                                      own + "tst-paper.png"_s,
+                                      own + "tst-paper"_s,
+                                      own + "16:9/tst-paper.xpm"_s,
+                                      own + "1920x1080/tst-paper.jpeg"_s};
+        QCOMPARE(find("tst-paper"_s), QString());
+        for (const QString &place : worstFirst) {
+            const QString path = home.write(place, "image");
+            QCOMPARE(find("tst-paper"_s), path);
+        }
+        QCOMPARE(find("tst-paper.png"_s), home.path(own + "tst-paper.png"_s));
+        home.write(".local/share/secret"_s, "secret");
+        for (const QString &name : {QString(), ".."_s, "../secret"_s, "1920x1080"_s, QString(5000, u'a')})
+            QCOMPARE(find(name), QString());
+    }
+
+    void svgIsConvertedUntilItChanges()
+    {
+        const TemporaryHome home;
+        FakePrograms programs;
+        programs.add(converter, "while [ $# -gt 1 ]; do [ \"$1\" = -o ] && echo png > \"$2\"; shift 2; done");
+        const QString name = "a \"quoted\" $(touch x)"_s;
+        const QString source = home.write(own + name + ".svg"_s, "<svg/>");
+        QVERIFY(makeOlder(source, 60));
+        const QString converted = find(name);
+        QVERIFY2(converted.startsWith(home.path(".cache/qaz/wallpapers/"_s)), qPrintable(converted));
+        const QVector<QStringList> calls = {
+            {"-w"_s, "1920"_s, "-h"_s, "1080"_s, "-i"_s, source, "-o"_s, converted}};
+        QCOMPARE(programs.calls(converter), calls);
+        QCOMPARE(find(name), converted);
+        QCOMPARE(programs.calls(converter), calls);
+        QVERIFY(makeOlder(source, -60));
+        QCOMPARE(find(name), converted);
+        QCOMPARE(programs.calls(converter), calls + calls);
+        QVERIFY(makeOlder(source, -60));
+        programs.add(converter, "exit 1");
         QCOMPARE(find(name), QString());
-}
-
-void TestWallpaperSearch::svgIsConvertedUntilItChanges()
-{
-    const TemporaryHome home;
-    FakePrograms programs;
-    programs.add(QStringLiteral("qaz-svg2png"), fakeConverter);
-    const QString name = QStringLiteral("a \"quoted\" $(touch x)");
-    const QString source = home.write(
-        QStringLiteral(".local/share/wallpapers/") + name + QStringLiteral(".svg"), "<svg/>");
-    QVERIFY(setModificationTime(source, QDateTime::currentDateTime().addSecs(-60)));
-
-    const QString converted = find(name);
-    QVERIFY2(converted.startsWith(home.path(QStringLiteral(".cache/qaz/wallpapers/"))),
-             qPrintable(converted));
-    const QStringList arguments = {QStringLiteral("-w"), QStringLiteral("1920"),
-                                   QStringLiteral("-h"), QStringLiteral("1080"),
-                                   QStringLiteral("-i"), source,
-                                   QStringLiteral("-o"), converted};
-    QCOMPARE(programs.calls(QStringLiteral("qaz-svg2png")), QVector<QStringList>{arguments});
-
-    QCOMPARE(find(name), converted);
-    QCOMPARE(programs.calls(QStringLiteral("qaz-svg2png")).size(), 1);
-    QVERIFY(setModificationTime(source, QDateTime::currentDateTime().addSecs(60)));
-    QCOMPARE(find(name), converted);
-    QCOMPARE(programs.calls(QStringLiteral("qaz-svg2png")).size(), 2);
-}
-
-void TestWallpaperSearch::failedConversionFindsNothing()
-{
-    const TemporaryHome home;
-    home.write(QStringLiteral(".local/share/wallpapers/paper.svgz"), "no svg");
-    FakePrograms programs(FakePrograms::Path::Instead);
-    programs.add(QStringLiteral("qaz-svg2png"), "exit 1");
-    QCOMPARE(find(QStringLiteral("paper")), QString());
-    QCOMPARE(programs.calls(QStringLiteral("qaz-svg2png")).size(), 1);
-}
+    }
+};
 
 QTEST_GUILESS_MAIN(TestWallpaperSearch)
 #include "tst_wallpapersearch.moc"

@@ -8,6 +8,8 @@
 #include <QFileInfo>
 #include <QSettings>
 
+#include <algorithm>
+
 namespace {
 
 struct Variable {
@@ -74,6 +76,18 @@ bool TemporaryHome::exists(const QString &relative) const
 bool TemporaryHome::makeDirectory(const QString &relative) const
 {
     return QDir().mkpath(path(relative));
+}
+
+QByteArrayList TemporaryHome::backups() const
+{
+    const QString directory = QStringLiteral(".local/state/qaz/backup/");
+    QByteArrayList contents;
+    for (const QString &name : QDir(path(directory)).entryList(QDir::Files | QDir::Hidden)) {
+        if (name != QLatin1String("manifest"))
+            contents.append(read(directory + name));
+    }
+    std::sort(contents.begin(), contents.end());
+    return contents;
 }
 
 QString TemporaryHome::fingerprint() const

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QByteArray>
+#include <QByteArrayList>
 #include <QString>
 #include <QTemporaryDir>
 
@@ -25,6 +25,8 @@ public:
     QByteArray read(const QString &relative) const;
     bool exists(const QString &relative) const;
     bool makeDirectory(const QString &relative) const;
+    /// The contents of the backups made of single files, sorted.
+    QByteArrayList backups() const;
     /// Every file below the home with its content's digest and modification time, sorted: equal texts mean
     /// that nothing was written.
     QString fingerprint() const;

@@ -1,4 +1,4 @@
-#include "tests/support/environment.h"
+#include "tests/support/literals.h"
 #include "tests/support/temporaryhome.h"
 
 #include <QImage>
@@ -31,12 +31,9 @@ Result run(const QStringList &arguments, const QString &directory)
     return {process.exitCode(), process.readAllStandardError()};
 }
 
-QStringList rendering(const QString &in, const QString &out, int width = 40, int height = 30)
+QStringList rendering(const QString &in, const QString &out, const QString &size)
 {
-    return {QStringLiteral("-w"), QString::number(width),
-            QStringLiteral("-h"), QString::number(height),
-            QStringLiteral("-i"), in,
-            QStringLiteral("-o"), out};
+    return size.split(u' ') + QStringList{"-i"_s, in, "-o"_s, out};
 }
 
 } // namespace
@@ -45,117 +42,73 @@ class TestSvg2Png : public QObject
 {
     Q_OBJECT
 private slots:
-    void imageIsRendered_data();
-    void imageIsRendered();
-    void textIsRenderedWithoutADisplay();
-    void failuresAreToldAndLeaveTheFile_data();
-    void failuresAreToldAndLeaveTheFile();
-    void wrongUsageIsTold_data();
-    void wrongUsageIsTold();
+    void imageIsRendered()
+    {
+        const TemporaryHome home;
+        const QStringList rows[] = {{"a.svg"_s, "b.jpg"_s, "jpeg"_s},
+                                    {"a"_s, "b"_s, "png"_s},
+                                    {"-h $(touch x) \"'\n.svg"_s, "--help;.png"_s, "png"_s}};
+        for (const QStringList &row : rows) {
+            home.write(row[0], svg);
+            const Result result = run(rendering(row[0], row[1], "-w 40 -h 30"_s), home.path());
+            QVERIFY2(result.status == 0, result.diagnostics.constData());
+            QCOMPARE(QString::fromLatin1(QImageReader::imageFormat(home.path(row[1]))), row[2]);
+            const QImage image(home.path(row[1]));
+            QCOMPARE(image.size(), QSize(40, 30));
+            QVERIFY(qRed(image.pixel(5, 15)) > 250 && qGreen(image.pixel(5, 15)) < 5);
+            QCOMPARE(image.pixelColor(35, 15), QColor(Qt::white));
+        }
+    }
+
+    void textIsRenderedWithoutADisplay()
+    {
+        const TemporaryHome home;
+        const auto inkOf = [&home](const QByteArray &text) {
+            home.write("a.svg"_s, "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 100 100'>"
+                                  "<text y='80' font-size='90'>"
+                                      + text + "</text></svg>");
+            run(rendering("a.svg"_s, "a.png"_s, "-w 100 -h 100"_s), home.path());
+            const QImage image = QImage(home.path("a.png"_s)).convertToFormat(QImage::Format_Grayscale8);
+            return std::count_if(image.constBits(), image.constBits() + image.sizeInBytes(),
+                                 [](uchar gray) { return gray < 128; });
+        };
+        // Boxes in place of letters would all be the same.
+        const auto dot = inkOf(".");
+        QVERIFY(dot > 20);
+        QVERIFY(inkOf("W") > 3 * dot);
+    }
+
+    void failuresAreToldAndChangeNothing_data()
+    {
+        QTest::addColumn<QString>("arguments");
+        QTest::addColumn<int>("status");
+        QTest::newRow("no such file") << "-w 1 -h 1 -i missing.svg -o old.png"_s << 1;
+        QTest::newRow("cut off") << "-w 1 -h 1 -i cut.svg -o old.png"_s << 1;
+        QTest::newRow("FIFO as source") << "-w 1 -h 1 -i fifo -o old.png"_s << 1;
+        QTest::newRow("directory as target") << "-w 1 -h 1 -i a.svg -o directory"_s << 1;
+        QTest::newRow("below a file") << "-w 1 -h 1 -i a.svg -o a.svg/b.png"_s << 1;
+        QTest::newRow("no value") << "-w 1 -h 1 -i a.svg -o"_s << 2;
+        QTest::newRow("unknown option") << "-w 1 -h 1 -x 1 -i a.svg -o old.png"_s << 2;
+        QTest::newRow("no width") << "-w 0 -h 1 -i a.svg -o old.png"_s << 2;
+        QTest::newRow("too large") << "-w 32767 -h 32767 -i a.svg -o old.png"_s << 2;
+    }
+
+    void failuresAreToldAndChangeNothing()
+    {
+        QFETCH(QString, arguments);
+        const TemporaryHome home;
+        home.write("a.svg"_s, svg);
+        home.write("cut.svg"_s, svg.chopped(10));
+        home.write("old.png"_s, "old");
+        QVERIFY(home.makeDirectory("directory"_s));
+        QCOMPARE(::mkfifo(QFile::encodeName(home.path("fifo"_s)).constData(), 0600), 0);
+        const QString before = home.fingerprint();
+        const Result result = run(arguments.split(u' '), home.path());
+        QTEST(result.status, "status");
+        QVERIFY2(result.diagnostics.contains("qaz-svg2png"), result.diagnostics.constData());
+        QCOMPARE(home.fingerprint(), before);
+    }
 };
-
-void TestSvg2Png::imageIsRendered_data()
-{
-    QTest::addColumn<QString>("in");
-    QTest::addColumn<QString>("out");
-    QTest::addColumn<QByteArray>("format");
-
-    QTest::newRow("png") << QStringLiteral("a.svg") << QStringLiteral("b.png") << QByteArray("png");
-    QTest::newRow("jpeg") << QStringLiteral("a.svg") << QStringLiteral("b.jpg") << QByteArray("jpeg");
-    QTest::newRow("no ending") << QStringLiteral("a") << QStringLiteral("b") << QByteArray("png");
-    QTest::newRow("options and shell signs as names")
-        << QStringLiteral("-h $(touch x) \"'\n.svg") << QStringLiteral("--help;.png") << QByteArray("png");
-}
-
-void TestSvg2Png::imageIsRendered()
-{
-    QFETCH(QString, in);
-    QFETCH(QString, out);
-    const TemporaryHome home;
-    home.write(in, svg);
-    const Result result = run(rendering(in, out), home.path());
-    QVERIFY2(result.status == 0, result.diagnostics.constData());
-    QTEST(QImageReader::imageFormat(home.path(out)), "format");
-    const QImage image(home.path(out));
-    QCOMPARE(image.size(), QSize(40, 30));
-    QVERIFY(qRed(image.pixel(5, 15)) > 250 && qGreen(image.pixel(5, 15)) < 5);
-    QCOMPARE(image.pixelColor(35, 15), QColor(Qt::white));
-    QVERIFY(!home.exists(QStringLiteral("x")));
-}
-
-void TestSvg2Png::textIsRenderedWithoutADisplay()
-{
-    const TemporaryHome home;
-    const auto inkOf = [&home](const QByteArray &text) {
-        home.write(QStringLiteral("a.svg"), "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 100 100'>"
-                                            "<text y='80' font-size='90'>"
-                                                + text + "</text></svg>");
-        run(rendering(QStringLiteral("a.svg"), QStringLiteral("a.png"), 100, 100), home.path());
-        const QImage image = QImage(home.path(QStringLiteral("a.png")))
-                                 .convertToFormat(QImage::Format_Grayscale8);
-        return std::count_if(image.constBits(), image.constBits() + image.sizeInBytes(),
-                             [](uchar gray) { return gray < 128; });
-    };
-    // Boxes in place of letters would all be the same.
-    const auto dot = inkOf(".");
-    QVERIFY(dot > 20);
-    QVERIFY(inkOf("W") > 3 * dot);
-}
-
-void TestSvg2Png::failuresAreToldAndLeaveTheFile_data()
-{
-    QTest::addColumn<QString>("in");
-    QTest::addColumn<QString>("out");
-    const char *rows[][3] = {
-        {"no such file", "missing.svg", "old.png"}, {"no SVG", "old.png", "old.png"},
-        {"cut off", "cut.svg", "old.png"},          {"directory as source", ".", "old.png"},
-        {"FIFO as source", "fifo", "old.png"},      {"directory as target", "a.svg", "directory"},
-        {"below a file", "a.svg", "a.svg/b.png"}};
-    for (const auto &row : rows)
-        QTest::newRow(row[0]) << QString::fromLatin1(row[1]) << QString::fromLatin1(row[2]);
-}
-
-void TestSvg2Png::failuresAreToldAndLeaveTheFile()
-{
-    QFETCH(QString, in);
-    QFETCH(QString, out);
-    const TemporaryHome home;
-    home.write(QStringLiteral("a.svg"), svg);
-    home.write(QStringLiteral("cut.svg"), svg.left(svg.size() - 10));
-    home.write(QStringLiteral("old.png"), "old");
-    QVERIFY(home.makeDirectory(QStringLiteral("directory")));
-    QCOMPARE(::mkfifo(QFile::encodeName(home.path(QStringLiteral("fifo"))).constData(), 0600), 0);
-    const QString before = home.fingerprint();
-    const Result result = run(rendering(in, out), home.path());
-    QCOMPARE(result.status, 1);
-    QVERIFY2(result.diagnostics.contains("qaz-svg2png: Can't "), result.diagnostics.constData());
-    QCOMPARE(home.fingerprint(), before);
-}
-
-void TestSvg2Png::wrongUsageIsTold_data()
-{
-    QTest::addColumn<QStringList>("arguments");
-    const QString in = QStringLiteral("a.svg");
-    const QString out = QStringLiteral("a.png");
-    QTest::newRow("none") << QStringList();
-    QTest::newRow("no value") << QStringList(rendering(in, out).mid(0, 7));
-    QTest::newRow("unknown option") << rendering(in, out)
-                                           + QStringList{QStringLiteral("-x"), QStringLiteral("1")};
-    QTest::newRow("no width") << rendering(in, out, 0, 10);
-    QTest::newRow("negative height") << rendering(in, out, 10, -1);
-    QTest::newRow("too large") << rendering(in, out, 32767, 32767);
-}
-
-void TestSvg2Png::wrongUsageIsTold()
-{
-    QFETCH(QStringList, arguments);
-    const TemporaryHome home;
-    home.write(QStringLiteral("a.svg"), svg);
-    const Result result = run(arguments, home.path());
-    QCOMPARE(result.status, 2);
-    QVERIFY(!result.diagnostics.isEmpty());
-    QVERIFY(!home.exists(QStringLiteral("a.png")));
-}
 
 QTEST_GUILESS_MAIN(TestSvg2Png)
 #include "tst_svg2png.moc"

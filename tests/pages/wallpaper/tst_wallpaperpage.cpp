@@ -1,81 +1,70 @@
 #include "pages/wallpaper/wallpaperpage.h"
 #include "platform/qazsettings.h"
 #include "resources/registerresources.h"
+#include "tests/support/literals.h"
 #include "tests/support/modaldriver.h"
 #include "tests/support/temporaryhome.h"
 #include "tests/support/wmlistener.h"
 
-#include <QApplication>
-#include <QCheckBox>
-#include <QColorDialog>
-#include <QComboBox>
-#include <QDir>
-#include <QFileDialog>
-#include <QGuiApplication>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMetaMethod>
-#include <QPushButton>
-#include <QScreen>
-#include <QSignalSpy>
-#include <QSpinBox>
-#include <QTest>
-#include <QUrl>
-
-#include <algorithm>
+#include <QtTest>
+#include <QtWidgets>
 
 namespace {
 
-const QString themeFile = QStringLiteral("current.themerc");
-const QString desktopFile = QStringLiteral("Desktops/Desktop1/.directory");
+const QString themeFile = "current.themerc"_s;
+const QString desktopFile = "Desktops/Desktop1/.directory"_s;
+const QString otherDesktop = "Desktops/Desktop2/.directory"_s;
+const QByteArray withWallpaper = "[Desktop Entry]\nX-QAZ-WallPaper=a\n";
 const QByteArray svg = "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 10 10'><path fill='#f00' d='M0 "
                        "0h5v10h-5z'/></svg>";
 
-/// The page and its widgets, loaded from the home's theme file.
+/// A page loaded from the theme file of a home of its own.
 struct Page {
-    explicit Page(const TemporaryHome &home)
-        : home(home)
+    explicit Page(const QByteArray &theme = {}, const QByteArray &desktop = {})
     {
-        QazSettings store(home.path(themeFile));
-        store.sync(true);
-        isLoaded = page.loadValues(&store);
+        home.write(themeFile, theme);
+        home.write(desktopFile, desktop);
+        run(&WallpaperPage::loadValues);
     }
-    void save()
+    void run(bool (WallpaperPage::*loadOrSave)(QazSettings *))
     {
         QazSettings store(home.path(themeFile));
         store.sync(true);
-        page.saveValues(&store);
+        QVERIFY((page.*loadOrSave)(&store) && page.loaded);
     }
     template<typename Widget>
     Widget *child(const char *name) const
     {
         return page.findChild<Widget *>(QLatin1String(name));
     }
-    QColor shownColor() const { return label->pixmap(Qt::ReturnByValue).toImage().pixelColor(0, 0); }
-    QString text() const { return lineEdit->text(); }
+    QString shownColor() const { return label->pixmap(Qt::ReturnByValue).toImage().pixelColor(0, 0).name(); }
+    /// Presses "File...", chooses as a user does who types the path, and gives the answers.
+    void choose(const QString &path, const QList<QMessageBox::StandardButton> &answers = {})
+    {
+        driver.then([path](QDialog *dialog) {
+            auto *name = dialog->findChild<QLineEdit *>("fileNameEdit"_s);
+            QApplication::setActiveWindow(dialog);
+            name->setFocus();
+            name->selectAll();
+            QTest::keyClicks(name, path);
+            dialog->accept();
+        });
+        for (const QMessageBox::StandardButton answer : answers)
+            driver.thenAnswer(answer);
+        child<QPushButton>("wallpaperSelectionBtn")->click();
+    }
 
-    const TemporaryHome &home;
+    TemporaryHome home;
+    WmListener listener;
     WallpaperPage page;
-    bool isLoaded = false;
+    ModalDriver driver;
     QLineEdit *lineEdit = child<QLineEdit>("wallpaperLineEdit");
     QComboBox *position = child<QComboBox>("wallpaperPositionCombo");
     QSpinBox *period = child<QSpinBox>("SlideShowSpinBox");
     QCheckBox *onlyDesktop = child<QCheckBox>("wallpaperForCurrDesktopCheckBox");
     QLabel *label = child<QLabel>("wallpaperPixmapLabel");
-    QPushButton *fileButton = child<QPushButton>("wallpaperSelectionBtn");
-    QPushButton *colorButton = child<QPushButton>("colorSelectionButton");
+    QSignalSpy changed{&page, &WallpaperPage::changedSignal};
 };
-
-QString sizeName()
-{
-    const QSize size = QGuiApplication::primaryScreen()->size();
-    return QStringLiteral("%1x%2").arg(size.width()).arg(size.height());
-}
-
-QString ownPictures(const TemporaryHome &home)
-{
-    return home.path(QStringLiteral(".local/share/wallpapers/")) + sizeName();
-}
 
 QString writeImage(const TemporaryHome &home, const QString &name, const QColor &color)
 {
@@ -87,17 +76,11 @@ QString writeImage(const TemporaryHome &home, const QString &name, const QColor 
     return path;
 }
 
-/// Types the path into the file dialog, as a user does.
-std::function<void(QDialog *)> choosing(const QString &path)
+/// A file of the user's pictures for this screen, below the home.
+QString ownPicture(const QString &name)
 {
-    return [path](QDialog *dialog) {
-        auto *name = dialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
-        QApplication::setActiveWindow(dialog);
-        name->setFocus();
-        name->selectAll();
-        QTest::keyClicks(name, path);
-        dialog->accept();
-    };
+    const QSize size = QGuiApplication::primaryScreen()->size();
+    return ".local/share/wallpapers/%1x%2/"_s.arg(size.width()).arg(size.height()) + name;
 }
 
 } // namespace
@@ -107,328 +90,200 @@ class TestWallpaperPage : public QObject
     Q_OBJECT
 private slots:
     void initTestCase() { registerResources(); }
-    void slotsKeepTheirOrder();
-    void valuesAreLoaded_data();
-    void valuesAreLoaded();
-    void desktopWallpaperIsLoaded();
-    void repeatedLoadsConnectOnce();
-    void onlyChangesAreStored();
-    void desktopModeStoresForOneDesktop();
-    void textsDrawTheirPreview();
-    void colorsThatCantBeReadAreReplaced();
-    void chosenFileIsTaken();
-    void dialogStartsAtTheBestPlace();
-    void svgIsConverted();
-    void declinedConversionsChangeNothing();
-    void chosenColorIsTaken();
+
+    void valuesAreLoaded_data()
+    {
+        QTest::addColumn<QByteArray>("theme");
+        QTest::addColumn<QByteArray>("desktop"); // the wallpaper of its own
+        QTest::addColumn<QString>("state");      // text, position, period, and the colour without a text
+        const auto row = [](const char *title, const char *theme, const char *desktop, const char *state) {
+            QTest::newRow(title) << QByteArray(theme) << QByteArray(desktop) << QString::fromLatin1(state);
+        };
+        row("defaults", nullptr, "", "qaz-default|2|0|#0000ff");
+        row("all set", "WallPaper=/a b.png\nWallPaperPos=Tile\nWallPaperPeriod=15\nDesktopColor=#123456\n",
+            "", "/a b.png|1|15|#123456");
+        row("unknown words", "WallPaperPos=stretch\nWallPaperPeriod=often\nDesktopColor=qvlightgray\n", "",
+            "qaz-default|0|0|#000000");
+        row("out of range", "WallPaperPos=Center\nWallPaperPeriod=9999\n", "", "qaz-default|0|3600|#0000ff");
+        row("the preview adopts a colour", "WallPaper=#a6caf0\nDesktopColor=qvroyalblue\n", "",
+            "#a6caf0|2|0|#a6caf0");
+        row("colour that can't be read", "WallPaper=#zz\nDesktopColor=x\n", "", "#000000|2|0|#000000");
+        row("for this desktop only", "WallPaper=/a\nWallPaperPos=Tile\nWallPaperPeriod=15\n", "\"#a6caf0\"",
+            "#a6caf0|2|0|#a6caf0");
+    }
+
+    void valuesAreLoaded()
+    {
+        QFETCH(QByteArray, theme);
+        QFETCH(QByteArray, desktop);
+        Page page(theme, "[Desktop Entry]\nX-QAZ-WallPaper=" + desktop);
+        QCOMPARE(page.onlyDesktop->isChecked(), !desktop.isEmpty());
+        QCOMPARE(page.position->isEnabled() && page.period->isEnabled(), desktop.isEmpty());
+        QCOMPARE(page.label->pixmap(Qt::ReturnByValue).size(), QSize(242, 181));
+        const QString text = page.lineEdit->text();
+        page.page.clearWallpaper();
+        QTEST("%1|%2|%3|%4"_s.arg(text, QString::number(page.position->currentIndex()),
+                                  QString::number(page.period->value()), page.shownColor()),
+              "state");
+    }
+
+    void repeatedLoadsConnectOnce()
+    {
+        Page page;
+        page.run(&WallpaperPage::loadValues);
+        page.period->setValue(5);
+        page.lineEdit->setText("/x"_s);
+        emit page.position->activated(1);
+        page.onlyDesktop->click();
+        QCOMPARE(page.changed.count(), 4);
+        QVERIFY(!page.position->isEnabled() && !page.period->isEnabled());
+        page.onlyDesktop->click();
+        QVERIFY(page.position->isEnabled() && page.period->isEnabled());
+        QVERIFY(!QGuiApplication::overrideCursor());
+    }
+
+    void onlyChangesAreStored()
+    {
+        Page page;
+        page.home.write(otherDesktop, withWallpaper);
+        page.run(&WallpaperPage::saveValues);
+        QCOMPARE(page.listener.take(), QStringList());
+        QCOMPARE(page.home.read(themeFile), QByteArray(""));
+        QCOMPARE(page.home.read(otherDesktop), QByteArray("[Desktop Entry]\n"));
+
+        page.lineEdit->setText("/a b.png"_s);
+        page.position->setCurrentIndex(1);
+        page.period->setValue(15);
+        page.run(&WallpaperPage::saveValues);
+        QCOMPARE(page.listener.take(),
+                 QStringList({"QAZWM_UPDATE_VAL WallPaper /a b.png"_s, "QAZWM_UPDATE_VAL WallPaperPos Tile"_s,
+                              "QAZWM_UPDATE_VAL WallPaperPeriod 15"_s}));
+        const QByteArray stored = page.home.read(themeFile);
+        for (const char *line : {"WallPaper=/a b.png\n", "WallPaperPos=Tile\n", "WallPaperPeriod=15\n"})
+            QVERIFY2(stored.contains(line), stored.constData());
+        page.run(&WallpaperPage::saveValues);
+        QCOMPARE(page.listener.take(), QStringList());
+
+        page.home.write(otherDesktop, withWallpaper);
+        page.onlyDesktop->click();
+        page.lineEdit->setText("#a6caf0"_s);
+        page.run(&WallpaperPage::saveValues);
+        QCOMPARE(page.listener.take(), QStringList{"QAZWM_UPDATE_VAL WallPaperLocal \"#a6caf0\""_s});
+        QCOMPARE(page.home.read(desktopFile), QByteArray("[Desktop Entry]\nX-QAZ-WallPaper=\"#a6caf0\"\n"));
+        QCOMPARE(page.home.read(otherDesktop), withWallpaper);
+        QCOMPARE(page.home.read(themeFile), stored);
+    }
+
+    void textsDrawTheirPreview()
+    {
+        Page page("WallPaper=#102030\n");
+        const QString red = writeImage(page.home, "red image.png"_s, Qt::red);
+        writeImage(page.home, ".local/share/wallpapers/my paper.png"_s, Qt::green);
+        const QString written = page.home.path(".cache/qaz/wallpapers"_s);
+        QVERIFY(!QFileInfo::exists(written));
+        page.lineEdit->setText(red);
+        const QImage file(written + "/Stretch_#102030_red image.png.png"_s);
+        QCOMPARE(file.size(), QSize(242, 181));
+        QCOMPARE(file.pixelColor(241, 180), QColor(Qt::red));
+        page.position->setCurrentIndex(0);
+        emit page.position->activated(0);
+        const QString colors[][2] = {{red, "#ff0000"_s},          {"my paper"_s, "#00ff00"_s},
+                                     {"no paper"_s, "#102030"_s}, {"#zz"_s, "#102030"_s},
+                                     {"#abcdef"_s, "#abcdef"_s},  {QString(), "#abcdef"_s}};
+        for (const auto &row : colors) {
+            page.lineEdit->setText(row[0]);
+            QCOMPARE(page.shownColor(), row[1]);
+            QCOMPARE(page.lineEdit->text(), row[0] == "#zz"_s ? row[1] : row[0]);
+        }
+        QCOMPARE(QDir(written).entryList(QDir::Files).join(u'|'),
+                 "Center_#102030_my paper.png|Center_#102030_red image.png.png|"
+                 "Stretch_#102030_red image.png.png"_s);
+        page.run(&WallpaperPage::saveValues);
+        QVERIFY(page.home.read(themeFile).startsWith("WallPaper=#abcdef\n"));
+    }
+
+    void chosenFileIsTaken()
+    {
+        Page page("WallPaper=/x\n");
+        const QString own = page.home.write(ownPicture("any"_s), {});
+        const QString path = writeImage(page.home, "a/blank $(x) %1.png"_s, Qt::red);
+        const QString upperCase = page.home.write("a/PICTURE.SVG"_s, svg);
+        QStringList starts;
+        const auto look = [&starts](QDialog *dialog) {
+            auto *files = qobject_cast<QFileDialog *>(dialog);
+            starts += files->directory().path() + u'|' + files->sidebarUrls().last().toString();
+            files->reject();
+        };
+        page.driver.then(look);
+        emit page.label->customContextMenuRequested(QPoint(1, 1)); // starts at the best place
+        page.choose(path);
+        QCOMPARE(page.lineEdit->text(), path);
+        QCOMPARE(page.shownColor(), "#ff0000"_s);
+        QCOMPARE(page.changed.count(), 1);
+        page.choose(upperCase);
+        QCOMPARE(page.lineEdit->text(), upperCase);
+        page.driver.then(look);
+        page.child<QPushButton>("wallpaperSelectionBtn")->click();
+        QCOMPARE(page.lineEdit->text(), upperCase);
+        const QString place = "|file:///usr/share/wallpapers"_s;
+        QCOMPARE(starts, QStringList({QFileInfo(own).path() + place, QFileInfo(upperCase).path() + place}));
+        QVERIFY(page.driver.isDone());
+        QCOMPARE(page.driver.seen().constFirst(), "Select wallpaper image file|QazFileDialog"_s);
+    }
+
+    void svgIsConverted()
+    {
+        Page page("WallPaper=/x\n");
+        const QString source = page.home.write("a/-picture <b>.tar.svg"_s, svg);
+        const QString relative = ownPicture("-picture <b>.png"_s);
+        const QString target = page.home.path(relative);
+        page.choose(source, {QMessageBox::No});
+        QVERIFY(!page.home.exists(".local/share/wallpapers"_s));
+        page.home.write(relative, "older");
+        page.choose(source, {QMessageBox::Yes, QMessageBox::No});
+        QCOMPARE(page.home.read(relative), QByteArray("older"));
+        QCOMPARE(page.changed.count(), 0);
+        QCOMPARE(
+            page.driver.seen().mid(3),
+            QStringList(
+                {"File conversion|Selected file '-picture <b>.tar' is in svg format\nWould you like to "
+                 "convert it to png now?"_s,
+                 "File exists|File '%1' already exists\nWould you like to rewrite it now?"_s.arg(target)}));
+
+        QVERIFY(QFile::remove(target));
+        page.choose(source, {QMessageBox::Yes});
+        QCOMPARE(page.lineEdit->text(), target);
+        const QImage converted(target);
+        QCOMPARE(converted.size(), QGuiApplication::primaryScreen()->size());
+        QCOMPARE(converted.pixelColor(0, 0), QColor(Qt::red));
+        QCOMPARE(converted.pixelColor(converted.width() - 1, 0), QColor(Qt::white));
+        page.home.write("a/-picture <b>.tar.svg"_s, QByteArray(svg).replace("#f00", "#00f"));
+        page.choose(source, {QMessageBox::Yes, QMessageBox::Yes});
+        QCOMPARE(page.shownColor(), "#0000ff"_s);
+        QCOMPARE(page.home.backups().size(), 1);
+        QVERIFY(page.driver.isDone());
+    }
+
+    void chosenColorIsTaken()
+    {
+        Page page("WallPaper=/x\nDesktopColor=#102030\n");
+        page.driver.then([](QDialog *dialog) {
+            auto *colors = qobject_cast<QColorDialog *>(dialog);
+            const QColor initial = colors->currentColor();
+            colors->setCurrentColor(QColor(0xa6, 0xca, 0xf0));
+            colors->accept();
+            QCOMPARE(initial, QColor(0x10, 0x20, 0x30));
+        });
+        auto *button = page.child<QPushButton>("colorSelectionButton");
+        button->click();
+        QCOMPARE(page.lineEdit->text(), "#a6caf0"_s);
+        QCOMPARE(page.shownColor(), "#a6caf0"_s);
+        page.driver.thenReject();
+        button->click();
+        QCOMPARE(page.lineEdit->text(), "#a6caf0"_s);
+        QVERIFY(page.driver.isDone());
+    }
 };
-
-void TestWallpaperPage::slotsKeepTheirOrder()
-{
-    const QMetaObject &meta = WallpaperPage::staticMetaObject;
-    QByteArrayList names;
-    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i)
-        names.append(meta.method(i).methodSignature());
-    QCOMPARE(
-        names.join(' '),
-        QByteArray("changedSignal() selectWallpaperFile() selectWallpaperColor() selectWallpaper(QString) "
-                   "slotWallpaperType() slotCurrDesktop(int) clearWallpaper() loadValues(QazSettings*) "
-                   "saveValues(QazSettings*)"));
-}
-
-void TestWallpaperPage::valuesAreLoaded_data()
-{
-    QTest::addColumn<QByteArray>("theme");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<int>("position");
-    QTest::addColumn<int>("period");
-    QTest::addColumn<QColor>("emptyColor"); // what an emptied line edit shows
-
-    QTest::newRow("defaults") << QByteArray() << QStringLiteral("qaz-default") << 2 << 0 << QColor(Qt::blue);
-    QTest::newRow("all set") << QByteArray("WallPaper=/no such.png\nWallPaperPos=Tile\nWallPaperPeriod=15\n"
-                                           "DesktopColor=#123456\n")
-                             << QStringLiteral("/no such.png") << 1 << 15 << QColor(0x12, 0x34, 0x56);
-    QTest::newRow("unknown words") << QByteArray(
-        "WallPaperPos=stretch\nWallPaperPeriod=often\nDesktopColor=qvlightgray\n")
-                                   << QStringLiteral("qaz-default") << 0 << 0 << QColor(Qt::black);
-    QTest::newRow("centre, out of range")
-        << QByteArray("WallPaperPos=Center\nWallPaperPeriod=9999\nDesktopColor=qvblue\n")
-        << QStringLiteral("qaz-default") << 0 << 3600 << QColor(Qt::blue);
-    QTest::newRow("the preview adopts a colour")
-        << QByteArray("WallPaper=#a6caf0\nDesktopColor=qvroyalblue\n") << QStringLiteral("#a6caf0") << 2 << 0
-        << QColor(0xa6, 0xca, 0xf0);
-}
-
-void TestWallpaperPage::valuesAreLoaded()
-{
-    QFETCH(QByteArray, theme);
-    const TemporaryHome home;
-    home.write(themeFile, theme);
-    Page page(home);
-    QVERIFY(page.isLoaded && page.page.loaded);
-    QTEST(page.text(), "text");
-    QTEST(page.position->currentIndex(), "position");
-    QTEST(page.period->value(), "period");
-    QVERIFY(!page.onlyDesktop->isChecked() && page.position->isEnabled() && page.period->isEnabled());
-    QCOMPARE(page.label->pixmap(Qt::ReturnByValue).size(), QSize(242, 181));
-    page.page.clearWallpaper();
-    QTEST(page.shownColor(), "emptyColor");
-}
-
-void TestWallpaperPage::desktopWallpaperIsLoaded()
-{
-    const TemporaryHome home;
-    home.write(themeFile, "WallPaper=/global.png\nWallPaperPos=Tile\nWallPaperPeriod=15\n");
-    home.write(desktopFile, "[Desktop Entry]\nX-QAZ-WallPaper=\"#a6caf0\"\n");
-    Page page(home);
-    QCOMPARE(page.text(), QStringLiteral("#a6caf0"));
-    QCOMPARE(page.position->currentIndex(), 2);
-    QCOMPARE(page.period->value(), 0);
-    QVERIFY(page.onlyDesktop->isChecked() && !page.position->isEnabled() && !page.period->isEnabled());
-    QCOMPARE(page.shownColor(), QColor(0xa6, 0xca, 0xf0));
-
-    page.onlyDesktop->click();
-    QVERIFY(page.position->isEnabled() && page.period->isEnabled());
-    page.onlyDesktop->click();
-    QVERIFY(!page.position->isEnabled() && !page.period->isEnabled());
-}
-
-void TestWallpaperPage::repeatedLoadsConnectOnce()
-{
-    const TemporaryHome home;
-    Page page(home);
-    QazSettings store(home.path(themeFile));
-    QVERIFY(page.page.loadValues(&store));
-    const QSignalSpy changed(&page.page, &WallpaperPage::changedSignal);
-    page.period->setValue(5);
-    QCOMPARE(changed.count(), 1);
-    page.lineEdit->setText(QStringLiteral("/x"));
-    QCOMPARE(changed.count(), 2);
-    emit page.position->activated(1);
-    QCOMPARE(changed.count(), 3);
-    page.onlyDesktop->click();
-    QCOMPARE(changed.count(), 4);
-    QVERIFY(!QGuiApplication::overrideCursor());
-}
-
-void TestWallpaperPage::onlyChangesAreStored()
-{
-    const TemporaryHome home;
-    home.write(desktopFile, "[Desktop Entry]\nName=1\n");
-    home.write(QStringLiteral("Desktops/Desktop2/.directory"), "[Desktop Entry]\nX-QAZ-WallPaper=a\n");
-    Page page(home);
-    WmListener listener;
-    page.save();
-    QCOMPARE(listener.take(), QStringList());
-    QVERIFY(!home.exists(themeFile));
-    QCOMPARE(home.read(QStringLiteral("Desktops/Desktop2/.directory")), QByteArray("[Desktop Entry]\n"));
-
-    page.lineEdit->setText(QStringLiteral("/a b.png"));
-    page.position->setCurrentIndex(1);
-    page.period->setValue(15);
-    page.save();
-    QCOMPARE(listener.take(), QStringList({QStringLiteral("QAZWM_UPDATE_VAL WallPaper /a b.png"),
-                                           QStringLiteral("QAZWM_UPDATE_VAL WallPaperPos Tile"),
-                                           QStringLiteral("QAZWM_UPDATE_VAL WallPaperPeriod 15")}));
-    QByteArrayList lines = home.read(themeFile).trimmed().split('\n');
-    std::sort(lines.begin(), lines.end());
-    QCOMPARE(lines.join('|'), QByteArray("WallPaper=/a b.png|WallPaperPeriod=15|WallPaperPos=Tile"));
-    page.save();
-    QCOMPARE(listener.take(), QStringList());
-}
-
-void TestWallpaperPage::desktopModeStoresForOneDesktop()
-{
-    const TemporaryHome home;
-    home.write(desktopFile, "[Desktop Entry]\nName=1\n");
-    const QString other = QStringLiteral("Desktops/Desktop2/.directory");
-    home.write(other, "[Desktop Entry]\nX-QAZ-WallPaper=a\n");
-    Page page(home);
-    WmListener listener;
-    page.onlyDesktop->click();
-    page.lineEdit->setText(QStringLiteral("#a6caf0"));
-    page.save();
-    QCOMPARE(listener.take(), QStringList{QStringLiteral("QAZWM_UPDATE_VAL WallPaperLocal \"#a6caf0\"")});
-    QCOMPARE(home.read(desktopFile), QByteArray("[Desktop Entry]\nName=1\nX-QAZ-WallPaper=\"#a6caf0\"\n"));
-    QCOMPARE(home.read(other), QByteArray("[Desktop Entry]\nX-QAZ-WallPaper=a\n"));
-    QVERIFY(!home.exists(themeFile));
-}
-
-void TestWallpaperPage::textsDrawTheirPreview()
-{
-    const TemporaryHome home;
-    home.write(themeFile, "WallPaper=#102030\n");
-    const QString red = writeImage(home, QStringLiteral("red image.png"), Qt::red);
-    writeImage(home, QStringLiteral(".local/share/wallpapers/my paper.jpg"), QColor(0, 255, 0));
-    Page page(home);
-    const QString written = QStringLiteral(".cache/qaz/wallpapers/");
-    QVERIFY(!home.exists(written));
-
-    page.lineEdit->setText(red);
-    QCOMPARE(page.shownColor(), QColor(Qt::red));
-    const QString file = home.path(written + QStringLiteral("Stretch_#102030_red image.png.png"));
-    QCOMPARE(QImage(file).size(), QSize(242, 181));
-    QCOMPARE(QImage(file).pixelColor(241, 180), QColor(Qt::red));
-
-    page.position->setCurrentIndex(0);
-    emit page.position->activated(0);
-    QVERIFY(home.exists(written + QStringLiteral("Center_#102030_red image.png.png")));
-    page.lineEdit->setText(QStringLiteral("my paper"));
-    QVERIFY(page.shownColor().green() > 250 && page.shownColor().red() < 5);
-    QVERIFY(home.exists(written + QStringLiteral("Center_#102030_my paper.png")));
-    page.lineEdit->setText(QStringLiteral("no paper"));
-    QCOMPARE(page.shownColor(), QColor(0x10, 0x20, 0x30));
-    QVERIFY(!home.exists(written + QStringLiteral("Center_#102030_no paper.png")));
-}
-
-void TestWallpaperPage::colorsThatCantBeReadAreReplaced()
-{
-    const TemporaryHome home;
-    home.write(themeFile, "DesktopColor=#102030\n");
-    Page page(home);
-    page.lineEdit->setText(QStringLiteral("#zz"));
-    QCOMPARE(page.text(), QStringLiteral("#102030"));
-    QCOMPARE(page.shownColor(), QColor(0x10, 0x20, 0x30));
-    page.lineEdit->setText(QStringLiteral("#abcdef"));
-    page.lineEdit->setText(QStringLiteral("#abcdeg"));
-    QCOMPARE(page.text(), QStringLiteral("#abcdef"));
-    page.page.clearWallpaper();
-    page.save();
-    QCOMPARE(home.read(themeFile), QByteArray("DesktopColor=#102030\nWallPaper=#abcdef\n"));
-
-    home.write(themeFile, "WallPaper=#zz\nDesktopColor=nothing\n");
-    const Page invalid(home);
-    QCOMPARE(invalid.text(), QStringLiteral("#000000"));
-    QCOMPARE(invalid.shownColor(), QColor(Qt::black));
-}
-
-void TestWallpaperPage::chosenFileIsTaken()
-{
-    const TemporaryHome home;
-    const QString path = writeImage(home, QStringLiteral("a/blank $(x) %1.png"), Qt::red);
-    const QString upperCase = home.write(QStringLiteral("a/PICTURE.SVG"), svg);
-    Page page(home);
-    const QSignalSpy changed(&page.page, &WallpaperPage::changedSignal);
-    ModalDriver driver;
-    driver.then(choosing(path));
-    page.fileButton->click();
-    QCOMPARE(page.text(), path);
-    QCOMPARE(page.shownColor(), QColor(Qt::red));
-    QCOMPARE(changed.count(), 1);
-
-    driver.then(choosing(upperCase));
-    page.fileButton->click();
-    QCOMPARE(page.text(), upperCase);
-    driver.thenReject();
-    page.fileButton->click();
-    QCOMPARE(page.text(), upperCase);
-    QVERIFY(driver.isDone());
-    QCOMPARE(driver.seen().constFirst(), QStringLiteral("Select wallpaper image file|QazFileDialog"));
-}
-
-void TestWallpaperPage::dialogStartsAtTheBestPlace()
-{
-    const TemporaryHome home;
-    const QString path = writeImage(home, QStringLiteral("a/picture.png"), Qt::red);
-    QVERIFY(QDir().mkpath(ownPictures(home)));
-    Page page(home);
-    ModalDriver driver;
-    QStringList starts;
-    QList<QUrl> places;
-    const auto look = [&](QDialog *dialog) {
-        auto *files = qobject_cast<QFileDialog *>(dialog);
-        starts.append(files->directory().path());
-        places = files->sidebarUrls();
-        dialog->reject();
-    };
-    driver.then(look);
-    page.fileButton->click();
-    page.lineEdit->setText(path);
-    driver.then(look);
-    QCOMPARE(page.label->contextMenuPolicy(), Qt::CustomContextMenu);
-    emit page.label->customContextMenuRequested(QPoint(1, 1));
-    QCOMPARE(starts, QStringList({ownPictures(home), home.path(QStringLiteral("a"))}));
-    QCOMPARE(places.last(), QUrl::fromLocalFile(QStringLiteral("/usr/share/wallpapers")));
-}
-
-void TestWallpaperPage::svgIsConverted()
-{
-    const TemporaryHome home;
-    const QString source = home.write(QStringLiteral("a/picture.tar.svg"), svg);
-    const QString target = ownPictures(home) + QStringLiteral("/picture.png");
-    Page page(home);
-    ModalDriver driver;
-    driver.then(choosing(source));
-    driver.thenAnswer(QMessageBox::Yes);
-    page.fileButton->click();
-    QCOMPARE(page.text(), target);
-    const QImage converted(target);
-    QCOMPARE(converted.size(), QGuiApplication::primaryScreen()->size());
-    QCOMPARE(converted.pixelColor(0, 0), QColor(Qt::red));
-    QCOMPARE(converted.pixelColor(converted.width() - 1, 0), QColor(Qt::white));
-
-    home.write(QStringLiteral("a/picture.tar.svg"), QByteArray(svg).replace("#f00", "#00f"));
-    driver.then(choosing(source));
-    driver.thenAnswer(QMessageBox::Yes);
-    driver.thenAnswer(QMessageBox::Yes);
-    page.fileButton->click();
-    QCOMPARE(QImage(target).pixelColor(0, 0), QColor(Qt::blue));
-    QVERIFY(driver.isDone());
-    QCOMPARE(
-        driver.seen().mid(3),
-        QStringList({QStringLiteral("File conversion|Selected file 'picture.tar' is in svg format\n"
-                                    "Would you like to convert it to png now?"),
-                     QStringLiteral("File exists|File '%1' already exists\nWould you like to rewrite it now?")
-                         .arg(target)}));
-}
-
-void TestWallpaperPage::declinedConversionsChangeNothing()
-{
-    const TemporaryHome home;
-    const QString source = home.write(QStringLiteral("a/-picture <b>.svg"), svg);
-    Page page(home);
-    const QSignalSpy changed(&page.page, &WallpaperPage::changedSignal);
-    ModalDriver driver;
-    driver.then(choosing(source));
-    driver.thenAnswer(QMessageBox::No);
-    page.fileButton->click();
-    QVERIFY(!home.exists(QStringLiteral(".local/share/wallpapers")));
-
-    const QString existing = QStringLiteral(".local/share/wallpapers/") + sizeName()
-                             + QStringLiteral("/-picture <b>.png");
-    home.write(existing, "older");
-    driver.then(choosing(source));
-    driver.thenAnswer(QMessageBox::Yes);
-    driver.thenAnswer(QMessageBox::No);
-    page.fileButton->click();
-    QCOMPARE(home.read(existing), QByteArray("older"));
-    QCOMPARE(page.text(), QStringLiteral("qaz-default"));
-    QCOMPARE(changed.count(), 0);
-    QVERIFY(driver.isDone());
-}
-
-void TestWallpaperPage::chosenColorIsTaken()
-{
-    const TemporaryHome home;
-    home.write(themeFile, "WallPaper=/x\nDesktopColor=#102030\n");
-    Page page(home);
-    ModalDriver driver;
-    QColor initial;
-    driver.then([&initial](QDialog *dialog) {
-        auto *colors = qobject_cast<QColorDialog *>(dialog);
-        initial = colors->currentColor();
-        colors->setCurrentColor(QColor(0xa6, 0xca, 0xf0));
-        colors->accept();
-    });
-    page.colorButton->click();
-    QCOMPARE(initial, QColor(0x10, 0x20, 0x30));
-    QCOMPARE(page.text(), QStringLiteral("#a6caf0"));
-    QCOMPARE(page.shownColor(), QColor(0xa6, 0xca, 0xf0));
-    driver.thenReject();
-    page.colorButton->click();
-    QCOMPARE(page.text(), QStringLiteral("#a6caf0"));
-    QVERIFY(driver.isDone());
-}
 
 QTEST_MAIN(TestWallpaperPage)
 #include "tst_wallpaperpage.moc"

@@ -1,6 +1,7 @@
 #include "pages/wallpaper/desktopcolor.h"
 #include "pages/wallpaper/wallpaperimage.h"
 #include "pages/wallpaper/wallpaperpreview.h"
+#include "tests/support/literals.h"
 #include "tests/support/temporaryhome.h"
 
 #include <QBuffer>
@@ -15,7 +16,9 @@ namespace {
 
 const QSize label(252, 191);
 const QSize screen(2520, 1910); // ten times the label
+const QRect canvas(0, 0, 242, 181);
 const QColor fill(Qt::green);
+const Fit fits[] = {Fit::Center, Fit::Tile, Fit::Stretch};
 
 /// Each pixel has its own colour, so that a moved or mirrored part is seen.
 QImage numbered(const QSize &size)
@@ -28,17 +31,12 @@ QImage numbered(const QSize &size)
     return image;
 }
 
-QImage preview(const QImage &image, Fit fit)
-{
-    return drawPreview(image, fit, fill, label, screen);
-}
-
-QByteArray encoded(const QImage &image, const char *format)
+QByteArray encoded(const char *format, const QSize &size = {64, 48})
 {
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
-    if (!QImageWriter(&buffer, format).write(image))
+    if (!QImageWriter(&buffer, format).write(numbered(size)))
         qFatal("Can't write %s", format);
     return bytes;
 }
@@ -49,233 +47,158 @@ class TestWallpaperPreview : public QObject
 {
     Q_OBJECT
 private slots:
-    void oldColorNamesAreTranslated_data();
-    void oldColorNamesAreTranslated();
-    void stretchFillsTheCanvas();
-    void centerPlacesOrCrops();
-    void tilesStartAtTheCorner();
-    void extremeSizesEnd();
-    void pixelsAreCopiedNotBlended();
-    void withoutAnImageOnlyTheColorIsDrawn();
-    void previewFileIsNamedByWhatItShows();
-    void previewFileReplacesOnlyItsOwn();
-    void onlyWholeImagesAreRead_data();
-    void onlyWholeImagesAreRead();
-    void specialFilesAreNoImages();
-    void changedFileIsReadAgain();
+    void oldColorNamesAreTranslated()
+    {
+        const QString colors = "qvgray #c0c0c0|qvgrey #c0c0c0|qvdarkgray #606060|qvdarkgrey #606060|"
+                               "qvlightray #dfdfdf|qvblue #0000ff|qvlightblue #a6caf0|qvroyalblue #3a6ea5|"
+                               "qvyellow #f5db95|qvlightyellow #ffffe1|blue #0000ff|#12Ab34 #12ab34"_s;
+        for (const QString &row : colors.split(u'|'))
+            QCOMPARE(desktopColor(row.section(u' ', 0, 0)).name(), row.section(u' ', 1));
+        for (const QString &unknown : {"qvlightgray"_s, "QvBlue"_s, "qvblue "_s, QString()})
+            QVERIFY2(!desktopColor(unknown).isValid(), qPrintable(unknown));
+    }
+
+    void imageIsPlaced_data()
+    {
+        QTest::addColumn<Fit>("fit");
+        QTest::addColumn<QSize>("size");
+        QTest::addColumn<QRect>("place"); // of the image, or of the first tile, on the canvas
+        QTest::newRow("stretched up") << Fit::Stretch << QSize(2, 2) << canvas;
+        QTest::newRow("stretched down") << Fit::Stretch << screen << canvas;
+        QTest::newRow("smaller than the screen") << Fit::Center << QSize(400, 300) << QRect(101, 75, 40, 30);
+        QTest::newRow("as large as the screen") << Fit::Center << screen << QRect(-5, -5, 252, 191);
+        QTest::newRow("centred, nothing left") << Fit::Center << QSize(4, 500) << QRect();
+        QTest::newRow("tiles") << Fit::Tile << QSize(1000, 700) << QRect(0, 0, 100, 70);
+        QTest::newRow("tile of no width") << Fit::Tile << QSize(4, 500) << QRect(0, 0, 1, 50);
+        QTest::newRow("tile of no height") << Fit::Tile << QSize(500, 4) << QRect(0, 0, 50, 1);
+        for (Fit fit : fits)
+            QTest::addRow("no image, %s", qPrintable(wordFromFit(fit))) << fit << QSize() << QRect();
+    }
+
+    void imageIsPlaced()
+    {
+        QFETCH(Fit, fit);
+        QFETCH(QSize, size);
+        QFETCH(QRect, place);
+        const QImage image = numbered(size);
+        const QImage scaled = image.scaled(place.size(), Qt::IgnoreAspectRatio, Qt::FastTransformation);
+        const QImage preview = drawPreview(image, fit, fill, label, screen);
+        QCOMPARE(preview.rect(), canvas);
+        for (int y = 0; y < canvas.height(); ++y) {
+            for (int x = 0; x < canvas.width(); ++x) {
+                const QPoint point = fit == Fit::Tile && !size.isEmpty()
+                                         ? QPoint(x % place.width(), y % place.height())
+                                         : QPoint(x, y);
+                QCOMPARE(preview.pixel(x, y),
+                         place.contains(point) ? scaled.pixel(point - place.topLeft()) : fill.rgb());
+            }
+        }
+    }
+
+    void extremesAreDrawn()
+    {
+        QImage line(2000000, 20, QImage::Format_RGB32); // Qt's own scaling draws such a one black
+        line.fill(Qt::red);
+        QImage translucent(screen, QImage::Format_ARGB32_Premultiplied);
+        translucent.fill(qRgba(10, 20, 30, 128));
+        for (Fit fit : fits) {
+            QCOMPARE(drawPreview(line, fit, fill, label, screen).pixelColor(120, 90), QColor(Qt::red));
+            QCOMPARE(drawPreview(translucent, fit, fill, label, screen).pixel(120, 90) & RGB_MASK,
+                     QRgb(fit == Fit::Stretch ? translucent.pixel(0, 0) & RGB_MASK : 0x0a141e));
+            QCOMPARE(drawPreview(line, fit, fill, {0, 0}, {0, 0}).size(), QSize(1, 1));
+            QCOMPARE(fitFromWord(wordFromFit(fit)), fit);
+        }
+        QCOMPARE(fitFromWord("stretch"_s), Fit::Center);
+    }
+
+    void previewFileHasAPlaceWithoutACache()
+    {
+        const TemporaryHome home;
+        const ScopedEnvironment cache("XDG_CACHE_HOME", QFile::encodeName(home.write("file"_s, {})));
+        QCOMPARE(previewPath("Center"_s, Qt::blue, "/a/%1 b"_s), "/tmp/Center_#0000ff_%1 b.png"_s);
+    }
+
+    void previewFileReplacesOnlyItsOwn()
+    {
+        const TemporaryHome home;
+        const QImage image = numbered({8, 8});
+        const QString path = home.write("shared/preview.png"_s, "older");
+        QVERIFY(writePreview(path, image));
+        QCOMPARE(QImage(path).convertToFormat(QImage::Format_RGB32), image);
+
+        const QString link = home.path("shared/link.png"_s);
+        QVERIFY(QFile::link(home.write("victim"_s, "precious"), link));
+        if (::geteuid() == 0)
+            QCOMPARE(::chown(QFile::encodeName(path).constData(), 12345, 12345), 0);
+        else
+            QVERIFY(QFile::remove(path) && home.makeDirectory("shared/preview.png"_s));
+        const QString before = home.fingerprint();
+        for (const QString &refused : {link, path, home.path("missing/preview.png"_s)})
+            QVERIFY2(!writePreview(refused, image), qPrintable(refused));
+        QCOMPARE(home.fingerprint(), before);
+    }
+
+    void onlyWholeImagesAreRead_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<bool>("isRead");
+        const QByteArray svg
+            = "<svg xmlns='http://www.w3.org/2000/svg' width='64' height='48'><path d='M0 0h9v9z'/></svg>";
+        for (const char *format : {"png", "jpg", "xpm", "svg"}) {
+            const QByteArray content = qstrcmp(format, "svg") == 0 ? svg : encoded(format);
+            QTest::addRow("whole.%s", format) << content << true;
+            QTest::addRow("cut off.%s", format) << content.left(content.size() * 2 / 3) << false;
+        }
+        const QByteArray jpeg = encoded("jpg");
+        QTest::newRow("last byte missing.jpg") << jpeg.chopped(1) << false;
+        QTest::newRow("foreign bytes behind it.jpg") << jpeg + "\xFF\xFFmore" << true;
+        QTest::newRow("end marker only in a comment.jpg")
+            << QByteArray(jpeg).insert(2, QByteArray("\xFF\xFE\0\4\xFF\xD9", 6)).chopped(2) << false;
+        QTest::newRow("wrong ending.png") << jpeg << true;
+        QTest::newRow("empty.png") << QByteArray() << false;
+        // The header alone tells that decoding would take more than 256 MB.
+        QTest::newRow("16384 x 8193.bmp")
+            << encoded("bmp").replace(18, 8, QByteArray("\0\x40\0\0\1\x20\0\0", 8)) << false;
+        QTest::newRow("too large.svg") << QByteArray(svg).replace("64", "64000000") << false;
+    }
+
+    void onlyWholeImagesAreRead()
+    {
+        QFETCH(QByteArray, content);
+        QFETCH(bool, isRead);
+        const TemporaryHome home;
+        const QString path = home.write(QString::fromLatin1(QTest::currentDataTag()), content);
+        QCOMPARE(readImage(path).size(), isRead ? QSize(64, 48) : QSize(0, 0));
+    }
+
+    void specialFilesAreNoImages()
+    {
+        const TemporaryHome home;
+        const QString fifo = home.path("fifo.png"_s);
+        QCOMPARE(::mkfifo(QFile::encodeName(fifo).constData(), 0600), 0);
+        for (const QString &path : {fifo, "/dev/zero"_s, "/proc/kmsg"_s, home.path(), home.path("missing"_s)})
+            QVERIFY2(readImage(path).isNull(), qPrintable(path));
+    }
+
+    void changedFileIsReadAgain()
+    {
+        const TemporaryHome home;
+        WallpaperImage cache;
+        const QString path = home.write("a.png"_s, encoded("png", {5, 5}));
+        const QImage first = cache.load(path);
+        QCOMPARE(first.size(), QSize(5, 5));
+        // A name that is no file, as while typing, does not cost the decoded image.
+        QVERIFY(cache.load(home.path("b.png"_s)).isNull());
+        QCOMPARE(cache.load(path).cacheKey(), first.cacheKey());
+
+        home.write("a.png"_s, encoded("png", {6, 6}));
+        QCOMPARE(cache.load(path).size(), QSize(6, 6));
+        QVERIFY(QFile::remove(path));
+        QVERIFY(cache.load(path).isNull());
+    }
 };
 
-void TestWallpaperPreview::oldColorNamesAreTranslated_data()
-{
-    QTest::addColumn<QString>("color"); // empty: invalid
-    const char *rows[][2] = {{"qvgray", "#c0c0c0"},
-                             {"qvgrey", "#c0c0c0"},
-                             {"qvdarkgray", "#606060"},
-                             {"qvdarkgrey", "#606060"},
-                             {"qvlightray", "#dfdfdf"},
-                             {"qvblue", "#0000ff"},
-                             {"qvlightblue", "#a6caf0"},
-                             {"qvroyalblue", "#3a6ea5"},
-                             {"qvyellow", "#f5db95"},
-                             {"qvlightyellow", "#ffffe1"},
-                             {"blue", "#0000ff"},
-                             {"#12Ab34", "#12ab34"},
-                             {"qvlightgray", ""},
-                             {"QvBlue", ""},
-                             {"qvblue ", ""},
-                             {"", ""}};
-    for (const auto &row : rows)
-        QTest::newRow(row[0]) << QString::fromLatin1(row[1]);
-}
-
-void TestWallpaperPreview::oldColorNamesAreTranslated()
-{
-    QFETCH(QString, color);
-    const QColor found = desktopColor(QString::fromLatin1(QTest::currentDataTag()));
-    QCOMPARE(found.isValid() ? found.name() : QString(), color);
-}
-
-void TestWallpaperPreview::stretchFillsTheCanvas()
-{
-    QImage image(2, 2, QImage::Format_RGB32);
-    image.setPixel(0, 0, qRgb(255, 0, 0));
-    image.setPixel(1, 0, qRgb(0, 255, 0));
-    image.setPixel(0, 1, qRgb(0, 0, 255));
-    image.setPixel(1, 1, qRgb(255, 255, 255));
-    const QImage stretched = preview(image, Fit::Stretch);
-    QCOMPARE(stretched.size(), QSize(242, 181));
-    for (const QPoint &p : {QPoint(0, 0), QPoint(241, 0), QPoint(0, 180), QPoint(241, 180), QPoint(120, 89)})
-        QCOMPARE(stretched.pixel(p), image.pixel(p.x() / 121, p.y() / 91));
-}
-
-void TestWallpaperPreview::centerPlacesOrCrops()
-{
-    const QImage small = preview(numbered({400, 300}), Fit::Center); // 40x30 at (101, 75)
-    QCOMPARE(small.size(), QSize(242, 181));
-    QCOMPARE(small.pixelColor(100, 75), fill);
-    QCOMPARE(small.pixelColor(101, 74), fill);
-    QVERIFY(small.pixelColor(101, 75) != fill);
-    QVERIFY(small.pixelColor(140, 104) != fill);
-    QCOMPARE(small.pixelColor(141, 104), fill);
-    QCOMPARE(small.pixelColor(140, 105), fill);
-
-    // As large as the screen: the size of the label, of which the canvas crops five pixels on each side.
-    const QImage image = numbered(screen);
-    const QImage scaled = image.scaled(label, Qt::IgnoreAspectRatio, Qt::FastTransformation);
-    const QImage large = preview(image, Fit::Center);
-    QCOMPARE(large.convertToFormat(QImage::Format_RGB32), scaled.copy(5, 5, 242, 181));
-}
-
-void TestWallpaperPreview::tilesStartAtTheCorner()
-{
-    const QImage tiled = preview(numbered({1000, 700}), Fit::Tile); // tiles of 100x70
-    const QImage tile = numbered({1000, 700}).scaled(100, 70, Qt::IgnoreAspectRatio, Qt::FastTransformation);
-    QCOMPARE(tiled.size(), QSize(242, 181));
-    for (int y = 0; y < tiled.height(); ++y) {
-        for (int x = 0; x < tiled.width(); ++x)
-            QCOMPARE(tiled.pixel(x, y), tile.pixel(x % 100, y % 70));
-    }
-}
-
-void TestWallpaperPreview::extremeSizesEnd()
-{
-    for (const QSize &size : {QSize(1, 1), QSize(4, 500), QSize(500, 4)}) {
-        QImage image(size, QImage::Format_RGB32);
-        image.fill(Qt::red);
-        QCOMPARE(preview(image, Fit::Tile).pixelColor(241, 180), QColor(Qt::red));
-        QCOMPARE(preview(image, Fit::Center).pixelColor(0, 0), fill);
-        QCOMPARE(drawPreview(image, Fit::Tile, fill, QSize(0, 0), QSize(0, 0)).size(), QSize(1, 1));
-    }
-    QImage line(2000000, 20, QImage::Format_RGB32);
-    line.fill(Qt::red);
-    for (Fit fit : {Fit::Center, Fit::Tile, Fit::Stretch})
-        QCOMPARE(preview(line, fit).pixelColor(120, 90), QColor(Qt::red));
-}
-
-void TestWallpaperPreview::pixelsAreCopiedNotBlended()
-{
-    QImage image(2520, 1910, QImage::Format_ARGB32_Premultiplied);
-    image.fill(qRgba(10, 20, 30, 128));
-    for (Fit fit : {Fit::Center, Fit::Tile})
-        QCOMPARE(preview(image, fit).pixel(120, 90) & RGB_MASK, QRgb(qRgb(10, 20, 30) & RGB_MASK));
-}
-
-void TestWallpaperPreview::withoutAnImageOnlyTheColorIsDrawn()
-{
-    for (Fit fit : {Fit::Center, Fit::Tile, Fit::Stretch}) {
-        QImage expected(242, 181, QImage::Format_RGB32);
-        expected.fill(fill);
-        QCOMPARE(preview(QImage(), fit), expected);
-        QCOMPARE(fitFromWord(wordFromFit(fit)), fit);
-    }
-    QCOMPARE(fitFromWord(QStringLiteral("stretch")), Fit::Center);
-}
-
-void TestWallpaperPreview::previewFileIsNamedByWhatItShows()
-{
-    const TemporaryHome home;
-    QCOMPARE(previewPath(QStringLiteral("Center"), Qt::blue, QStringLiteral("/a/%1 b.jpg")),
-             home.path(QStringLiteral(".cache/qaz/wallpapers/Center_#0000ff_%1 b.jpg.png")));
-    home.write(QStringLiteral("file"), {});
-    const ScopedEnvironment cache("XDG_CACHE_HOME", QFile::encodeName(home.path(QStringLiteral("file"))));
-    QCOMPARE(previewPath(QStringLiteral("Center"), Qt::blue, QStringLiteral("qaz-default")),
-             QStringLiteral("/tmp/Center_#0000ff_qaz-default.png"));
-}
-
-void TestWallpaperPreview::previewFileReplacesOnlyItsOwn()
-{
-    const TemporaryHome home;
-    const QImage image = numbered({8, 8});
-    const QString path = home.write(QStringLiteral("shared/preview.png"), "older");
-    QVERIFY(writePreview(path, image));
-    QCOMPARE(QImage(path).convertToFormat(QImage::Format_RGB32), image);
-
-    const QString victim = home.write(QStringLiteral("victim"), "precious");
-    const QString link = home.path(QStringLiteral("shared/link.png"));
-    QVERIFY(QFile::link(victim, link));
-    QVERIFY(!writePreview(link, image));
-    QCOMPARE(home.read(QStringLiteral("victim")), QByteArray("precious"));
-
-    if (::geteuid() == 0)
-        QCOMPARE(::chown(QFile::encodeName(path).constData(), 12345, 12345), 0);
-    else
-        QVERIFY(QFile::remove(path) && home.makeDirectory(QStringLiteral("shared/preview.png")));
-    const QString before = home.fingerprint();
-    QVERIFY(!writePreview(path, QImage(3, 3, QImage::Format_RGB32)));
-    QVERIFY(!writePreview(home.path(QStringLiteral("missing/preview.png")), image));
-    QCOMPARE(home.fingerprint(), before);
-}
-
-void TestWallpaperPreview::onlyWholeImagesAreRead_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<QSize>("size"); // empty: not read
-
-    const QImage image = numbered({64, 48});
-    const QByteArray svg
-        = "<svg xmlns='http://www.w3.org/2000/svg' width='64' height='48'><path d='M0 0h9v9z'/></svg>";
-    for (const char *format : {"png", "jpg", "xpm", "svg"}) {
-        const QByteArray content = qstrcmp(format, "svg") == 0 ? svg : encoded(image, format);
-        const QString name = QStringLiteral("image.") + QLatin1String(format);
-        QTest::newRow(format) << name << content << image.size();
-        QTest::addRow("%s, cut off", format) << name << content.left(content.size() * 2 / 3) << QSize(0, 0);
-    }
-    const QByteArray jpeg = encoded(image, "jpg");
-    QTest::newRow("jpg, last byte missing") << QStringLiteral("a.jpg") << jpeg.chopped(1) << QSize(0, 0);
-    QTest::newRow("jpg, foreign bytes behind it")
-        << QStringLiteral("a.jpg") << jpeg + "\xFF\xFFmore" << image.size();
-    QTest::newRow("jpg, end marker only in a comment")
-        << QStringLiteral("a.jpg")
-        << QByteArray(jpeg).insert(2, QByteArray("\xFF\xFE\0\4\xFF\xD9", 6)).chopped(2) << QSize(0, 0);
-    QTest::newRow("wrong ending") << QStringLiteral("a.png") << jpeg << image.size();
-    QTest::newRow("empty file") << QStringLiteral("a.png") << QByteArray() << QSize(0, 0);
-    QTest::newRow("text") << QStringLiteral("a.png") << QByteArray("text") << QSize(0, 0);
-    // The header alone tells that decoding would take more than 256 MB.
-    QByteArray huge = encoded(image, "bmp");
-    huge.replace(18, 8, QByteArray("\0\x40\0\0\1\x20\0\0", 8)); // 16384 x 8193
-    QTest::newRow("too large") << QStringLiteral("a.bmp") << huge << QSize(0, 0);
-    QTest::newRow("svg, too large") << QStringLiteral("a.svg") << QByteArray(svg).replace("64", "64000000")
-                                    << QSize(0, 0);
-}
-
-void TestWallpaperPreview::onlyWholeImagesAreRead()
-{
-    QFETCH(QString, name);
-    QFETCH(QByteArray, content);
-    QFETCH(QSize, size);
-    const TemporaryHome home;
-    QCOMPARE(readImage(home.write(name, content)).size(), size);
-}
-
-void TestWallpaperPreview::specialFilesAreNoImages()
-{
-    const TemporaryHome home;
-    const QString fifo = home.path(QStringLiteral("fifo.png"));
-    QCOMPARE(::mkfifo(QFile::encodeName(fifo).constData(), 0600), 0);
-    for (const QString &path :
-         {fifo, QStringLiteral("/dev/zero"), home.path(), home.path(QStringLiteral("missing"))})
-        QVERIFY2(readImage(path).isNull(), qPrintable(path));
-}
-
-void TestWallpaperPreview::changedFileIsReadAgain()
-{
-    const TemporaryHome home;
-    WallpaperImage cache;
-    const QString path = home.write(QStringLiteral("a.png"), encoded(numbered({5, 5}), "png"));
-    const QImage first = cache.load(path);
-    QCOMPARE(first.size(), QSize(5, 5));
-    QCOMPARE(cache.load(path).cacheKey(), first.cacheKey());
-
-    // A name that is no file, as while typing, does not cost the decoded image.
-    QVERIFY(cache.load(home.path(QStringLiteral("b.png"))).isNull());
-    QCOMPARE(cache.load(path).cacheKey(), first.cacheKey());
-
-    home.write(QStringLiteral("a.png"), encoded(numbered({6, 6}), "png"));
-    QCOMPARE(cache.load(path).size(), QSize(6, 6));
-    QVERIFY(QFile::remove(path));
-    QVERIFY(cache.load(path).isNull());
-}
+Q_DECLARE_METATYPE(Fit)
 
 QTEST_GUILESS_MAIN(TestWallpaperPreview)
 #include "tst_wallpaperpreview.moc"
