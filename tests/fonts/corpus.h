@@ -5,8 +5,12 @@
 
 #include <QDir>
 #include <QFile>
+#include <QRegularExpression>
 #include <QXmlStreamReader>
+#include <QXmlStreamWriter>
 #include <QtTest>
+
+#include <memory>
 
 /// Real-looking fontconfig files, by name.
 inline QMap<QString, QByteArray> corpus()
@@ -32,52 +36,42 @@ inline void addCorpusRows()
         QTest::newRow(qPrintable(file.key())) << file.value();
 }
 
-/// All that stands in \a content outside the elements of our settings, a token a line; whitespace counts where
-/// it is inside an element. The parser is not the one that the program changes files with.
-inline QStringList foreignTokens(const QByteArray &content)
+/// What \a content holds besides the elements of our settings, piece by piece; whitespace counts where it is inside
+/// an element. The parser is not the one that the program changes files with.
+inline QStringList foreignPieces(const QByteArray &content)
 {
-    QStringList tokens;
-    QStringList element; // the child of the root that is being read
-    QDomDocument document;
-    QDomNode node = document;
+    QStringList pieces;
+    QString piece; // a child of the root, or one token outside of them
+    QStringList comments;
+    const QRegularExpression comment(QStringLiteral("<!--.*?-->"),
+                                     QRegularExpression::DotMatchesEverythingOption);
+    std::unique_ptr<QXmlStreamWriter> writer;
     QXmlStreamReader reader(content);
     reader.setNamespaceProcessing(false);
     for (int depth = 0; !reader.atEnd();) {
-        QString token = reader.readNext() == QXmlStreamReader::DTD ? QString() : reader.text().toString();
-        if (reader.isStartElement()) {
-            if (++depth == 2)
-                document = QDomDocument();
-            QDomElement next = document.createElement(reader.name().toString());
-            token = reader.name().toString();
-            for (const QXmlStreamAttribute &attribute : reader.attributes()) {
-                token += QStringLiteral(" %1='%2'").arg(attribute.qualifiedName(), attribute.value());
-                next.setAttribute(attribute.qualifiedName().toString(), attribute.value().toString());
-            }
-            if (depth > 1)
-                node = depth == 2 ? document.appendChild(next) : node.appendChild(next);
-        } else if (reader.isEndElement()) {
-            node = node.parentNode();
-            --depth;
-        } else if (reader.isCharacters() && depth > 1 && !reader.isWhitespace()) {
-            node.appendChild(document.createTextNode(token));
-        } else if (depth < 2) {
-            token = token.simplified();
-            if (reader.isStartDocument() || reader.isDTD() || token.isEmpty())
-                continue;
+        reader.readNext();
+        depth += reader.isStartElement();
+        if (depth < 2 || (depth == 2 && reader.isStartElement())) {
+            piece.clear();
+            comments.clear();
+            writer = std::make_unique<QXmlStreamWriter>(&piece);
         }
-        element.append(reader.tokenString() + QLatin1Char(' ') + token);
-        if (depth > 1)
+        if (!reader.isStartDocument() && !reader.isDTD())
+            writer->writeCurrentToken(reader);
+        if (reader.isComment())
+            comments += QStringLiteral("<!--%1-->").arg(reader.text()).simplified();
+        depth -= reader.isEndElement();
+        if (depth > 1 || reader.isWhitespace())
             continue;
+        QDomDocument document;
+        document.setContent(QString(piece).remove(comment));
         const auto item = readFontsItem(document.documentElement(), QStringLiteral("/home/me"));
-        if (!reader.isEndElement() || depth != 1 || !item || item->kind == FontsItem::Kind::Directory) {
-            tokens += element;
-        } else {
-            for (const QString &comment : element.filter(QStringLiteral("Comment")))
-                tokens += comment.simplified();
-        }
-        element.clear();
+        if (item && item->kind != FontsItem::Kind::Directory)
+            pieces += comments;
+        else
+            pieces += reader.isEndElement() ? piece : piece.simplified();
     }
     if (reader.hasError())
-        tokens.append(reader.errorString());
-    return tokens;
+        pieces += reader.errorString();
+    return pieces;
 }

@@ -106,7 +106,7 @@ private slots:
             const QString wanted = summary(config);
             QVERIFY(config.apply());
             const QByteArray after = home.read(place);
-            QCOMPARE(foreignTokens(after), foreignTokens(content));
+            QCOMPARE(foreignPieces(after), foreignPieces(content));
             QCOMPARE(summary(config), wanted);
             QCOMPARE(summary(KXftConfig(allButDirectories)), wanted);
             QCOMPARE(namesIn(home.path(QStringLiteral(".config/fontconfig"))),
@@ -277,8 +277,8 @@ private slots:
         QVERIFY(config.apply());
         QVERIFY(standardError.take().startsWith(
             "qaz-admin-theme: font config file was rewritten since we last read!\n"));
-        QCOMPARE(foreignTokens(home.read(place)),
-                 foreignTokens(corpus().value(QStringLiteral("near-misses"))));
+        QCOMPARE(foreignPieces(home.read(place)),
+                 foreignPieces(corpus().value(QStringLiteral("near-misses"))));
         QCOMPARE(config.hintStyle(), HintStyle::Full);
         QVERIFY(config.excludePixelRange().equals({3, 10}));
         QVERIFY(!config.changed());
@@ -320,7 +320,7 @@ private slots:
             QVERIFY(editor.waitForFinished(60000));
             QVERIFY2(editor.exitCode() == 0, editor.readAllStandardError().constData());
         }
-        QCOMPARE(foreignTokens(home.read(place)), foreignTokens(content));
+        QCOMPARE(foreignPieces(home.read(place)), foreignPieces(content));
         QCOMPARE(namesIn(home.path(QStringLiteral(".config/fontconfig"))),
                  QStringList(QStringLiteral("fonts.conf")));
     }
