@@ -1,4 +1,6 @@
 #include "fonts/fontaasettings.h"
+#include "fonts/lcdfiltering.h"
+#include "fonts/subpixelswatch.h"
 #include "tests/support/modaldriver.h"
 #include "tests/support/temporaryhome.h"
 
@@ -177,6 +179,41 @@ private slots:
         driver.then([&file](QDialog *) { file.ok()->click(); });
         QCOMPARE(file.dialog->exec(), 1);
         QVERIFY(driver.isDone());
+    }
+
+    void unknownNamesHaveAFallback()
+    {
+        QCOMPARE(FontRendering::fileName(SubPixelOrder::VerticalRgb), QStringLiteral("vrgb"));
+        QCOMPARE(FontRendering::fileName(SubPixelOrder(7)), QStringLiteral("none"));
+        QCOMPARE(FontRendering::fileName(HintStyle(-1)), QStringLiteral("hintmedium"));
+        QCOMPARE(FontRendering::fileName(HintStyle::NotSet), QStringLiteral("hintmedium"));
+        QCOMPARE(FontRendering::subPixelOrder(QStringLiteral("RGB")), SubPixelOrder::None);
+        QCOMPARE(FontRendering::hintStyle(QString()), HintStyle::NotSet);
+    }
+
+    void uncertainAnswerIsAskedForAgain()
+    {
+        QVector<LcdFiltering> answers = {LcdFiltering::Unknown, LcdFiltering::No, LcdFiltering::Yes};
+        LcdFilterSupport support([&answers] { return answers.takeFirst(); });
+        QVERIFY(support.isSupported());
+        QVERIFY(!support.isSupported());
+        QVERIFY(!support.isSupported());
+        QCOMPARE(answers.size(), 1);
+    }
+
+    void swatchesShowTheStripes()
+    {
+        QString stripes;
+        for (int i = 1; i < int(SubPixelOrder::Count); ++i) {
+            const QImage image = subPixelSwatch(SubPixelOrder(i)).toImage();
+            QCOMPARE(image.size(), QSize(12, 12));
+            for (const int at : {1, 6, 10}) {
+                const QColor color = i > 2 ? image.pixelColor(3, at) : image.pixelColor(at, 3);
+                const int most = qMax(color.red(), qMax(color.green(), color.blue()));
+                stripes += QLatin1Char(most == color.red() ? 'r' : most == color.green() ? 'g' : 'b');
+            }
+        }
+        QCOMPARE(stripes, QStringLiteral("rgbbgrrgbbgr"));
     }
 };
 

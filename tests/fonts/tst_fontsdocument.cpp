@@ -38,32 +38,41 @@ QByteArray expected(const char *name, const char *before, const char *after)
     return content.contains(before) ? content.replace(before, after) : QByteArray();
 }
 
+/// What an element reads as, in short; empty for none of ours.
+QString reading(const QString &xml)
+{
+    QDomDocument document;
+    document.setContent(xml);
+    QString text;
+    if (const auto item = readFontsItem(document.documentElement(), QStringLiteral("/home/me")))
+        QTextStream(&text) << int(item->kind) << ' ' << item->text << ' ' << item->range.from << '-'
+                           << item->range.to;
+    return text;
+}
+
+/// The points and pixels that \a points and \a pixels agree on, and whether they are to be written.
+QString agreed(ExcludeRange points, ExcludeRange pixels, double dpi = 96)
+{
+    const bool toBeWritten = bringIntoAgreement(&points, &pixels, dpi);
+    QString text;
+    QTextStream(&text) << points.from << '-' << points.to << ' ' << pixels.from << '-' << pixels.to << ' '
+                       << toBeWritten;
+    return text;
+}
+
 } // namespace
 
 class TestFontsDocument : public QObject
 {
     Q_OBJECT
 private slots:
-    void contentWithoutChangesStays_data() { addCorpusRows(); }
-    void contentWithoutChangesStays()
-    {
-        QFETCH(QByteArray, content);
-        const QByteArray unchanged = parsed(content).withChanges({});
-        content.replace("<?xml version = '1.0'?>", "<?xml version=\"1.0\"?>");
-        content.replace("<!DOCTYPE fontconfig>", "<!DOCTYPE fontconfig SYSTEM \"fonts.dtd\">");
-        if (content.startsWith("<fontconfig>"))
-            content.prepend("<?xml version=\"1.0\"?>\n");
-        QCOMPARE(unchanged, content);
-        QCOMPARE(parsed(unchanged).withChanges({}), unchanged);
-    }
-
     void addedElementLeavesWithoutTrace_data() { addCorpusRows(); }
     void addedElementLeavesWithoutTrace()
     {
         QFETCH(QByteArray, content);
         const QByteArray before = parsed(content).withChanges({});
-        const QString form = directoryForm(QStringLiteral("/added/ü"), {});
-        const FontsDocument document = parsed(parsed(content).withChanges({{{}, form}}));
+        const FontsDocument document = parsed(
+            parsed(content).withChanges({{{}, directoryForm(QStringLiteral("/added/ü"), {})}}));
         QCOMPARE(document.children().size(), parsed(content).children().size() + 1);
         const QDomElement added = document.children().last().node;
         QCOMPARE(added.text(), QStringLiteral("/added/ü"));
@@ -71,6 +80,14 @@ private slots:
         QCOMPARE(foreignPieces(after), foreignPieces(before));
         if (before.contains("\n</fontconfig>"))
             QCOMPARE(after, before);
+
+        // Without a change only the prolog comes into its written form, once.
+        content.replace("<?xml version = '1.0'?>", "<?xml version=\"1.0\"?>");
+        content.replace("<!DOCTYPE fontconfig>", "<!DOCTYPE fontconfig SYSTEM \"fonts.dtd\">");
+        if (content.startsWith("<fontconfig>"))
+            content.prepend("<?xml version=\"1.0\"?>\n");
+        QCOMPARE(before, content);
+        QCOMPARE(parsed(before).withChanges({}), before);
     }
 
     void elementIsReplacedInPlace()
@@ -168,6 +185,50 @@ private slots:
         QVERIFY(!isOurs(comment, ours));
         QVERIFY(!isOurs("<!DOCTYPE fontconfig [<!ENTITY a 'b'>]>", ours));
         QVERIFY(!isOurs({}, ours + ours)); // the older of two
+    }
+
+    void rangesAgree()
+    {
+        QCOMPARE(agreed({}, {}), QStringLiteral("0-0 0-0 0"));
+        QCOMPARE(agreed({1, 2}, {8, 15}), QStringLiteral("6-11 8-15 1")); // pixels win
+        QCOMPARE(agreed({6, 11}, {8, 15}), QStringLiteral("6-11 8-15 1"));
+        QCOMPARE(agreed({6, 11}, {}), QStringLiteral("6-11 8-15 1"));
+        QCOMPARE(agreed({6, 11}, {}, 120), QStringLiteral("6-11 10-18 1"));
+        QCOMPARE(agreed({}, {8.4, 15.5}, 72), QStringLiteral("8-16 8.4-15.5 1"));
+        QCOMPARE(agreed({0, 0.3}, {}), QStringLiteral("0-0.3 0-0 0")); // less than a pixel
+        QCOMPARE(agreed({}, {8, 1e300}, 72), QStringLiteral("8-1e+300 8-1e+300 1"));
+    }
+
+    void formsOfElements()
+    {
+        QCOMPARE(excludeForm(Kind::ExcludePixels, {8, 14.12345678}),
+                 QStringLiteral(
+                     "<match target=\"font\">\n"
+                     "\t<test qual=\"any\" name=\"pixelsize\" compare=\"more_eq\">\n"
+                     "\t\t<double>8</double>\n\t</test>\n"
+                     "\t<test qual=\"any\" name=\"pixelsize\" compare=\"less_eq\">\n"
+                     "\t\t<double>14.1235</double>\n\t</test>\n\t<edit mode=\"assign\" name=\"antialias\">\n"
+                     "\t\t<bool>false</bool>\n\t</edit>\n</match>"));
+        const QString home = QStringLiteral("/home/me");
+        QCOMPARE(directoryForm(home + QLatin1String("/a&b/"), home), QStringLiteral("<dir>~/a&amp;b</dir>"));
+        QCOMPARE(directoryForm(home + QLatin1String("lon/"), home), QStringLiteral("<dir>/home/melon</dir>"));
+        QCOMPARE(reading(QStringLiteral("<dir>~//fonts</dir>")), QStringLiteral("0 /home/me/fonts/ 0-0"));
+    }
+
+    void boundsMayStandInAnyOrder()
+    {
+        const auto match = [](const char *compare, const char *value, const char *otherCompare) {
+            const QString form = QStringLiteral(
+                "<match target='font'><test qual='any' name='size' compare='%1'><double>%2</double></test>"
+                "<test qual='any' name='size' compare='%3'><double>3</double></test>"
+                "<edit mode='assign' name='antialias'><bool>false</bool></edit></match>");
+            return reading(
+                form.arg(QLatin1String(compare), QLatin1String(value), QLatin1String(otherCompare)));
+        };
+        QCOMPARE(match("less", "9", "more"), QStringLiteral("5  3-9"));
+        QVERIFY(match("less", "9", "less_eq").isEmpty());
+        QVERIFY(match("less", "9", "eq").isEmpty());
+        QVERIFY(match("less", "nan", "more").isEmpty());
     }
 };
 

@@ -16,35 +16,51 @@ namespace {
 constexpr int allButDirectories = 0x1E;
 const QString place = QStringLiteral(".config/fontconfig/fonts.conf");
 
-struct Edit {
-    const char *name;
-    std::function<void(KXftConfig *)> change;
-};
+constexpr ExcludeRange otherRange{3, 7};
+const std::function<void(KXftConfig &)> edits[] = {
+    [](KXftConfig &config) { config.setSubPixelType(SubPixelOrder::VerticalRgb); },
+    [](KXftConfig &config) { config.setSubPixelType(SubPixelOrder::None); },
+    [](KXftConfig &config) { config.setHintStyle(HintStyle::Slight); },
+    [](KXftConfig &config) { config.setHintStyle(HintStyle::NotSet); },
+    [](KXftConfig &config) { config.setAntiAliasing(!config.antiAliasing()); },
+    [](KXftConfig &config) { config.setExcludePixelRange(otherRange); },
+    [](KXftConfig &config) { config.setExcludeRange(otherRange); },
+    [](KXftConfig &config) { config.setExcludePixelRange({}); }};
 
-const Edit edits[] = {
-    {"sub-pixel order", [](KXftConfig *config) { config->setSubPixelType(SubPixelOrder::VerticalRgb); }},
-    {"no sub-pixel order", [](KXftConfig *config) { config->setSubPixelType(SubPixelOrder::None); }},
-    {"hint style", [](KXftConfig *config) { config->setHintStyle(HintStyle::Slight); }},
-    {"no hint style", [](KXftConfig *config) { config->setHintStyle(HintStyle::NotSet); }},
-    {"anti-aliasing", [](KXftConfig *config) { config->setAntiAliasing(!config->antiAliasing()); }},
-    {"range",
-     [](KXftConfig *config) {
-         config->setExcludePixelRange({3, 7});
-     }},
-    {"range in points",
-     [](KXftConfig *config) {
-         config->setExcludeRange({3, 6});
-     }},
-    {"no range", [](KXftConfig *config) { config->setExcludePixelRange({}); }}};
+QByteArray sample(const char *name)
+{
+    return corpus().value(QLatin1String(name));
+}
+
+/// A home with a fontconfig file.
+class HomeWithFile : public TemporaryHome
+{
+public:
+    explicit HomeWithFile(const QByteArray &content) { write(place, content); }
+    QByteArray content() const { return read(place); }
+    /// Files of a directory, hidden ones included.
+    QStringList filesIn(const char *directory) const
+    {
+        return QDir(path(QLatin1String(directory))).entryList(QDir::Files | QDir::Hidden);
+    }
+    /// No lock, no temporary file.
+    bool holdsOnlyTheFile() const
+    {
+        return filesIn(".config/fontconfig").join(QString()) == QLatin1String("fonts.conf");
+    }
+    /// Copies and their list.
+    int backups() const { return filesIn(".local/state/qaz/backup").size(); }
+};
 
 QString summary(const KXftConfig &config)
 {
-    return QStringLiteral("%1 %2 %3 %4 %5-%6 %7-%8")
-        .arg(FontRendering::fileName(config.subPixelType()), QString::number(int(config.hintStyle())),
-             QString::number(config.hinting()), QString::number(config.antiAliasing()),
-             QString::number(config.excludeRange().from), QString::number(config.excludeRange().to),
-             QString::number(config.excludePixelRange().from),
-             QString::number(config.excludePixelRange().to));
+    const ExcludeRange points = config.excludeRange();
+    const ExcludeRange pixels = config.excludePixelRange();
+    QString text;
+    QTextStream(&text) << FontRendering::fileName(config.subPixelType()) << ' ' << int(config.hintStyle())
+                       << ' ' << config.hinting() << ' ' << config.antiAliasing() << ' ' << points.from << '-'
+                       << points.to << ' ' << pixels.from << '-' << pixels.to;
+    return text;
 }
 
 /// What the run of another editor does: many changes, one after the other.
@@ -58,11 +74,6 @@ int editRepeatedly(int style)
         applied += config.apply();
     }
     return applied > 0 ? 0 : 1;
-}
-
-QStringList namesIn(const QString &directory)
-{
-    return QDir(directory).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
 }
 
 } // namespace
@@ -98,19 +109,16 @@ private slots:
     void foreignContentSurvivesEveryEdit()
     {
         QFETCH(QByteArray, content);
-        for (const Edit &edit : edits) {
-            const TemporaryHome home;
-            home.write(place, content);
+        for (const auto &edit : edits) {
+            const HomeWithFile home(content);
             KXftConfig config(allButDirectories);
-            edit.change(&config);
+            edit(config);
             const QString wanted = summary(config);
             QVERIFY(config.apply());
-            const QByteArray after = home.read(place);
-            QCOMPARE(foreignPieces(after), foreignPieces(content));
+            QCOMPARE(foreignPieces(home.content()), foreignPieces(content));
             QCOMPARE(summary(config), wanted);
             QCOMPARE(summary(KXftConfig(allButDirectories)), wanted);
-            QCOMPARE(namesIn(home.path(QStringLiteral(".config/fontconfig"))),
-                     QStringList(QStringLiteral("fonts.conf")));
+            QVERIFY(home.holdsOnlyTheFile());
         }
     }
 
@@ -119,13 +127,11 @@ private slots:
         QSet<QByteArray> written;
         for (int seed = 0; seed < 20; ++seed) {
             qSetGlobalQHashSeed(seed ? -1 : 0);
-            const TemporaryHome home;
-            home.write(place, corpus().value(QStringLiteral("unknown-content")));
+            const HomeWithFile home(sample("unknown-content"));
             KXftConfig config(allButDirectories);
-            config.setExcludePixelRange({3, 7});
-            config.setSubPixelType(SubPixelOrder::Rgb);
+            config.setExcludePixelRange(otherRange);
             QVERIFY(config.apply());
-            written.insert(home.read(place));
+            written.insert(home.content());
         }
         QCOMPARE(written.size(), 1);
     }
@@ -133,52 +139,54 @@ private slots:
     void pixelRangeIsRewrittenOnceAtEachRead()
     {
         QCOMPARE(QX11Info::appDpiY(), 96);
-        const TemporaryHome home;
-        home.write(place, corpus().value(QStringLiteral("pixel-range")));
+        const HomeWithFile home(sample("pixel-range"));
+        StandardError standardError;
         KXftConfig config(allButDirectories);
+        const QByteArray told = standardError.take().trimmed();
+        QFile copy(QFile::decodeName(told.mid(told.lastIndexOf(" as ") + 4)));
+        QVERIFY2(copy.open(QIODevice::ReadOnly), told.constData());
+        QCOMPARE(copy.readAll(), sample("pixel-range"));
         QCOMPARE(summary(config).section(QLatin1Char(' '), 4), QStringLiteral("6-11 8-15"));
         QVERIFY(!config.changed());
-        const QByteArray content = home.read(place);
+        const QByteArray content = home.content();
         QVERIFY2(content.contains("name=\"size\"") && content.contains("name=\"pixelsize\""),
                  content.constData());
-        QCOMPARE(namesIn(home.path(QStringLiteral(".local/state/qaz/backup"))).size(), 2); // copy, manifest
+        QCOMPARE(home.backups(), 2);
 
         const QString stamp = fontsFileStamp(home.path(place));
         KXftConfig again(allButDirectories);
         again.setExcludePixelRange({8, 15});
         QVERIFY(!again.changed());
         QVERIFY(fontsFileStamp(home.path(place)) != stamp);
-        QCOMPARE(home.read(place), content);
-        QCOMPARE(namesIn(home.path(QStringLiteral(".local/state/qaz/backup"))).size(), 2);
+        QCOMPARE(home.content(), content);
+        QCOMPARE(home.backups(), 2);
     }
 
     void removalTakesOlderElementsAlong()
     {
-        const TemporaryHome home;
         const QByteArray rgba
             = "<match target='font'><edit mode='assign' name='rgba'><const>rgb</const></edit></match>\n";
-        home.write(place, "<fontconfig>\n" + rgba + rgba + "</fontconfig>\n");
+        const HomeWithFile home("<fontconfig>\n" + rgba + rgba + "</fontconfig>\n");
         KXftConfig config(KXftConfig::SubPixelType);
         config.setSubPixelType(SubPixelOrder::None);
         QVERIFY(config.apply());
-        QCOMPARE(home.read(place), QByteArray("<?xml version=\"1.0\"?>\n<fontconfig>\n</fontconfig>\n"));
+        QCOMPARE(home.content(), QByteArray("<?xml version=\"1.0\"?>\n<fontconfig>\n</fontconfig>\n"));
     }
 
     void directoriesAreAddedAndRemoved()
     {
-        const TemporaryHome home;
-        home.write(place, corpus().value(QStringLiteral("all-settings")));
+        const HomeWithFile home(sample("all-settings"));
         KXftConfig config(KXftConfig::Directories);
         config.addDirectory(home.path(QStringLiteral("my fonts")));
         config.addDirectory(QStringLiteral("/srv/fonts/"));
         QVERIFY(config.apply());
-        QVERIFY(home.read(place).contains("  <dir>~/my fonts</dir>\n  <dir>/srv/fonts</dir>\n</fontconfig>"));
+        QVERIFY(home.content().contains("  <dir>~/my fonts</dir>\n  <dir>/srv/fonts</dir>\n</fontconfig>"));
         QCOMPARE(config.directories(),
                  (QStringList{home.path(QStringLiteral("my fonts/")), QStringLiteral("/srv/fonts/")}));
         config.removeDirectory(QStringLiteral("/srv/fonts"));
         config.removeDirectory(home.path(QStringLiteral("my fonts")));
         QVERIFY(config.apply());
-        QCOMPARE(home.read(place), corpus().value(QStringLiteral("all-settings")));
+        QCOMPARE(home.content(), sample("all-settings"));
     }
 
     void linkAndModeStay()
@@ -194,46 +202,37 @@ private slots:
         QCOMPARE(QFileInfo(home.path(place)).symLinkTarget(), target);
         QVERIFY(home.read(QStringLiteral("dotfiles/fonts")).contains("<const>bgr</const>"));
         QCOMPARE(QFileInfo(target).permissions() & 0x7077, QFile::Permissions(0x6000));
-        QCOMPARE(namesIn(home.path(QStringLiteral("dotfiles"))), QStringList(QStringLiteral("fonts")));
+        QCOMPARE(QDir(home.path(QStringLiteral("dotfiles"))).count(), 3u); // with . and ..
     }
 
-    void whatCannotBeReadIsLeftAlone_data()
-    {
-        QTest::addColumn<QString>("what");
-        for (const char *what :
-             {"malformed", "foreign root", "20 MB", "directory", "dangling link", "link to itself"})
-            QTest::newRow(what) << QString::fromLatin1(what);
-    }
     void whatCannotBeReadIsLeftAlone()
     {
-        QFETCH(QString, what);
-        const TemporaryHome home;
-        home.makeDirectory(QStringLiteral(".config/fontconfig"));
-        if (what == QLatin1String("malformed"))
-            home.write(place, "<fontconfig><match></fontconfig>");
-        else if (what == QLatin1String("foreign root"))
-            home.write(place, "<html/>");
-        else if (what == QLatin1String("20 MB"))
-            home.write(place, "<fontconfig>" + QByteArray(20000000, ' ') + "</fontconfig>");
-        else if (what == QLatin1String("directory"))
-            home.makeDirectory(place);
-        else
-            QFile::link(home.path(what == QLatin1String("dangling link") ? QStringLiteral("away") : place),
-                        home.path(place));
-        const QString before = home.fingerprint();
-        StandardError standardError;
-        KXftConfig config(allButDirectories);
-        QVERIFY(!config.reset());
-        QVERIFY(standardError.take().contains("qaz-admin-theme: Can't use "));
-        config.setSubPixelType(SubPixelOrder::Bgr);
-        QVERIFY(!config.apply());
-        QCOMPARE(home.fingerprint(), before);
+        const auto check = [](const TemporaryHome &home) {
+            const QString before = home.fingerprint();
+            StandardError standardError;
+            KXftConfig config(allButDirectories);
+            QVERIFY(!config.reset());
+            QVERIFY(standardError.take().contains("qaz-admin-theme: Can't use "));
+            config.setSubPixelType(SubPixelOrder::Bgr);
+            QVERIFY(!config.apply());
+            QCOMPARE(home.fingerprint(), before);
+        };
+        check(HomeWithFile("<fontconfig><match></fontconfig>"));
+        check(HomeWithFile("<html/>"));
+        check(HomeWithFile("<fontconfig>" + QByteArray(20000000, ' ') + "</fontconfig>"));
+        TemporaryHome home;
+        QVERIFY(home.makeDirectory(place));
+        check(home);
+        for (const QString &target : {QStringLiteral("nowhere"), place}) { // dangling, and to itself
+            QVERIFY(QDir().rmdir(home.path(place)) || QFile::remove(home.path(place)));
+            QVERIFY(QFile::link(home.path(target), home.path(place)));
+            check(home);
+        }
     }
 
     void readOnlyDirectoryIsLeftAlone()
     {
-        const TemporaryHome home;
-        home.write(place, "<fontconfig/>\n");
+        const HomeWithFile home("<fontconfig/>\n");
         QFile::setPermissions(home.path(), QFile::Permissions(0x7755));
         QFile::setPermissions(home.path(QStringLiteral(".config/fontconfig")), QFile::Permissions(0x5555));
         const QString before = home.fingerprint();
@@ -249,36 +248,18 @@ private slots:
         QFile::setPermissions(home.path(QStringLiteral(".config/fontconfig")), QFile::Permissions(0x7755));
     }
 
-    void foreignFileIsBackedUpFirst()
-    {
-        const TemporaryHome home;
-        const QByteArray content = corpus().value(QStringLiteral("aliases"));
-        home.write(place, content);
-        KXftConfig config(allButDirectories);
-        config.setSubPixelType(SubPixelOrder::Bgr);
-        StandardError standardError;
-        QVERIFY(config.apply());
-        const QList<QByteArray> lines = standardError.take().trimmed().split('\n');
-        QCOMPARE(lines.size(), 1);
-        QFile copy(QFile::decodeName(lines.first().mid(lines.first().lastIndexOf(" as ") + 4)));
-        QVERIFY(copy.open(QIODevice::ReadOnly));
-        QCOMPARE(copy.readAll(), content);
-    }
-
     void bothChangesSurviveARewrite()
     {
-        const TemporaryHome home;
-        home.write(place, "<fontconfig>\n</fontconfig>\n");
+        const HomeWithFile home("<fontconfig>\n</fontconfig>\n");
         KXftConfig config(allButDirectories);
         config.setExcludePixelRange({3, 10});
         config.setHintStyle(HintStyle::Full);
-        home.write(place, corpus().value(QStringLiteral("near-misses")));
+        home.write(place, sample("near-misses"));
         StandardError standardError;
         QVERIFY(config.apply());
         QVERIFY(standardError.take().startsWith(
             "qaz-admin-theme: font config file was rewritten since we last read!\n"));
-        QCOMPARE(foreignPieces(home.read(place)),
-                 foreignPieces(corpus().value(QStringLiteral("near-misses"))));
+        QCOMPARE(foreignPieces(home.content()), foreignPieces(sample("near-misses")));
         QCOMPARE(config.hintStyle(), HintStyle::Full);
         QVERIFY(config.excludePixelRange().equals({3, 10}));
         QVERIFY(!config.changed());
@@ -291,27 +272,23 @@ private slots:
 
     void heldLockIsRespected()
     {
-        const TemporaryHome home;
-        home.write(place, "<fontconfig/>\n");
+        const HomeWithFile home("<fontconfig/>\n");
         KXftConfig config(allButDirectories);
         config.setSubPixelType(SubPixelOrder::Bgr);
         {
             const FontsFileLock lock(home.path(place));
             QVERIFY(lock.isHeld());
             QVERIFY(!config.apply());
-            QCOMPARE(home.read(place), QByteArray("<fontconfig/>\n"));
+            QCOMPARE(home.content(), QByteArray("<fontconfig/>\n"));
         }
         QVERIFY(config.changed());
         QVERIFY(config.apply());
-        QCOMPARE(namesIn(home.path(QStringLiteral(".config/fontconfig"))),
-                 QStringList(QStringLiteral("fonts.conf")));
+        QVERIFY(home.holdsOnlyTheFile());
     }
 
     void editorsAtTheSameTimeLeaveAWholeFile()
     {
-        const TemporaryHome home;
-        const QByteArray content = corpus().value(QStringLiteral("aliases"));
-        home.write(place, content);
+        const HomeWithFile home(sample("aliases"));
         QProcess editors[3];
         for (int i = 0; i < 3; ++i)
             editors[i].start(QCoreApplication::applicationFilePath(),
@@ -320,33 +297,30 @@ private slots:
             QVERIFY(editor.waitForFinished(60000));
             QVERIFY2(editor.exitCode() == 0, editor.readAllStandardError().constData());
         }
-        QCOMPARE(foreignPieces(home.read(place)), foreignPieces(content));
-        QCOMPARE(namesIn(home.path(QStringLiteral(".config/fontconfig"))),
-                 QStringList(QStringLiteral("fonts.conf")));
+        QCOMPARE(foreignPieces(home.content()), foreignPieces(sample("aliases")));
+        QVERIFY(home.holdsOnlyTheFile());
     }
 
     void fileIsChosenAmongFontconfigsOwn()
     {
         const TemporaryHome home;
-        const QString main = home.write(QStringLiteral("system/fonts.conf"), "");
-        const QString other = home.write(QStringLiteral(".config/fontconfig/conf.d/10-mine.conf"), "");
-        const QString own = home.write(QStringLiteral(".fonts.conf"), "");
-        const QString local = home.write(QStringLiteral("system/local.conf"), "");
-        const QString directory = home.path(QStringLiteral("system"));
+        const auto file = [&home](const char *name) { return home.write(QLatin1String(name), ""); };
+        const QString main = file("system/fonts.conf");
+        const QString local = file("system/local.conf");
+        const QString other = file(".config/fontconfig/conf.d/10-mine.conf");
+        const QString own = file(".fonts.conf");
         const QString snippets = home.path(QStringLiteral(".config/fontconfig/conf.d"));
-        QVERIFY(QDir().mkpath(home.path(QStringLiteral("me"))));
-        const QByteArray outer = qgetenv("HOME");
-
         QCOMPARE(chooseFontsFile({other, own}, false), own);
         QCOMPARE(chooseFontsFile({other, home.path(QStringLiteral("missing"))}, false), other);
         QCOMPARE(chooseFontsFile({main, local}, true), local);
         QCOMPARE(chooseFontsFile({main, snippets, local}, true),
                  snippets + QLatin1String("/29-qaz-rendering.conf"));
-        QCOMPARE(chooseFontsFile({directory}, true), QStringLiteral("/etc/fonts/local.conf"));
+        QCOMPARE(chooseFontsFile({home.path()}, true), QStringLiteral("/etc/fonts/local.conf"));
 
         // A home of the same beginning is another home.
-        const ScopedEnvironment inner("HOME", outer + "/me");
-        const QString neighbour = home.write(QStringLiteral("menu/fonts.conf"), "");
+        QVERIFY(home.makeDirectory(QStringLiteral("me")));
+        const QString neighbour = file("menu/fonts.conf");
+        const ScopedEnvironment inner("HOME", qgetenv("HOME") + "/me");
         QCOMPARE(chooseFontsFile({main, own, neighbour}, false), home.path(place));
         const ScopedEnvironment unset("XDG_CONFIG_HOME", {});
         QCOMPARE(chooseFontsFile({}, false), home.path(QStringLiteral("me/.config/fontconfig/fonts.conf")));

@@ -106,13 +106,6 @@ private slots:
         QCOMPARE(kept("! x\\\nXft.dpi: 1\n"), QByteArray("! x\\\n"));
         for (const char *other : {"A.b: x\\\nXft.dpi: 1\nC.d: 2\\", "Xft.dpi2: 1\nmyXft.dpi: 2\n"})
             QCOMPARE(kept(other), QByteArray(other));
-
-        loadServer("Foo.bar: 1\nXft.dpi: 120\nXft.rgba: bgr\n");
-        removeDpiFromServer();
-        QCOMPARE(serverResources(), QByteArray("Foo.bar: 1\nXft.rgba: bgr\n"));
-        loadServer("Xft.dpi: 120\n");
-        removeDpiFromServer();
-        QCOMPARE(serverResources(), QByteArray());
     }
 
     void merging_data()
@@ -173,35 +166,21 @@ private slots:
         const TemporaryHome home;
         FakePrograms programs;
         const QString xrdb = QStringLiteral("xrdb");
-        programs.add(xrdb, "[ \"$1\" = -merge ] && cat \"$2\" >\"$HOME/merged\" || cat >\"$HOME/removed\"");
+        programs.add(xrdb, "[ \"$1\" = -merge ] && cat \"$2\" >\"$HOME/merged\"");
         home.write(QStringLiteral(".Xresources"), "A.a: 1\n");
         QSettings().setValue(QLatin1String(RenderingKey::antialias), true);
         applyXResources(exportXftSettings);
+        QCOMPARE(home.read(QStringLiteral("merged")), QByteArray("A.a: 1\nXft.antialias: 1\n"));
+        applyXResources(0);
+        QCOMPARE(home.read(QStringLiteral("merged")), QByteArray("A.a: 1\n"));
         const QVector<QStringList> calls = programs.calls(xrdb);
-        QCOMPARE(calls.size(), 2);
+        QCOMPARE(calls.size(), 3);
         QCOMPARE(calls.at(0).join(QLatin1Char(' ')), QStringLiteral("-quiet -remove -nocpp"));
         QCOMPARE(calls.at(1).value(0), QStringLiteral("-merge"));
         QVERIFY2(!QFile::exists(calls.at(1).value(1)), "the merged file is temporary");
-        QCOMPARE(home.read(QStringLiteral("removed")), QByteArray("Xft.dpi\n"));
-        QCOMPARE(home.read(QStringLiteral("merged")), QByteArray("A.a: 1\nXft.antialias: 1\n"));
         const QByteArray property = "_QT_SETTINGS_TIMESTAMP_" + qgetenv("DISPLAY");
         const QByteArray stamp = run("xprop", {QStringLiteral("-root"), QString::fromLocal8Bit(property)});
         QVERIFY2(stamp.startsWith(property + '(' + property + ") = 0x"), stamp.constData());
-
-        applyXResources(0);
-        QCOMPARE(programs.calls(xrdb).size(), 3);
-        QCOMPARE(home.read(QStringLiteral("merged")), QByteArray("A.a: 1\n"));
-    }
-
-    void currentDpiIsAskedOfTheServer()
-    {
-        const TemporaryHome home;
-        for (const QByteArray resource : {"120", "130"}) {
-            loadServer("Xft.dpi: " + resource);
-            QCOMPARE(xftDpiResource(), resource);
-        }
-        loadServer("A.a: 1\n");
-        QVERIFY(xftDpiResource().isNull());
     }
 };
 
