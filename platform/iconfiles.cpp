@@ -133,6 +133,8 @@ QByteArray iconFile(ThemeDirectories &directories, const QByteArray &theme, cons
         return file;
     if (QByteArray file = lookup.inThemeAndParents(QByteArrayLiteral("hicolor")); !file.isEmpty())
         return file;
+    if (!context.isEmpty())
+        return {};
     for (const QByteArray &base : directories.searchPath(iconSearchPath)) {
         if (QByteArray file = fileIn(directories, base, name); !file.isEmpty())
             return file;

@@ -9,7 +9,7 @@ class ThemeDirectories;
 QByteArrayList iconSearchPath();
 
 /// The file of the icon \a name for \a size pixels in \a theme, by the standard's lookup: the theme, its
-/// parents, "hicolor", icons outside themes. Only directories of \a context count, and those that state
-/// none; an empty one means any. Empty when there is none.
+/// parents, "hicolor". Only directories of \a context count, and those that state none. An empty context means
+/// any; then icons outside all themes come last. Empty when there is none.
 QByteArray iconFile(ThemeDirectories &directories, const QByteArray &theme, const QByteArray &name, int size,
                     const QByteArray &context);

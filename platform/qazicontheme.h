@@ -25,8 +25,8 @@ public:
     bool load();
 
     /// Finds the icon \a name for \a size pixels among the directories of \a context ("Places",
-    /// "Applications"; null: any) of the theme, its parents and "hicolor", then outside all themes. Directories that
-    /// state no context count as any. False, with an empty \a resultPath, when there is none.
+    /// "Applications"; null: any) of the theme, its parents and "hicolor". Directories that state no context count
+    /// as any; icons outside all themes are of none. False, with an empty \a resultPath, when there is no such icon.
     bool getIcon(const char *name, int size, const char *context, QString *resultPath) const;
 
     /// Appends the names of all icon themes to \a list, each once. False when there is none.

@@ -1,5 +1,8 @@
 #include "pages/theme/colorelements.h"
 
+#include "platform/qazsettings.h"
+#include "settings/updatevalues.h"
+
 #include <algorithm>
 #include <cstring>
 
@@ -57,6 +60,23 @@ QString currentColorText(const QString &stored, const QString &defaultColor)
             return QLatin1String(old.color);
     }
     return stored;
+}
+
+QStringList storedColors(const ColorElement &element, const QazSettings &settings)
+{
+    const QStringList keys = colorKeys(element);
+    QStringList colors = defaultColors(element);
+    for (int i = 0; i < keys.size(); ++i)
+        colors[i] = currentColorText(settings.value(keys.at(i), colors.at(i)).toString(), colors.at(i));
+    return colors;
+}
+
+void saveColors(const ColorElement &element, const QStringList &colors, QazSettings *settings)
+{
+    const QStringList keys = colorKeys(element);
+    const QStringList defaults = defaultColors(element);
+    for (int i = 0; i < keys.size(); ++i)
+        updateStringValue(settings, keys.at(i), defaults.at(i), colors.at(i));
 }
 
 QString colorItemData(const QString &key, const QStringList &colors)

@@ -6,6 +6,8 @@
 #include <iterator>
 #include <vector>
 
+class QazSettings;
+
 /// A desktop element that has a colour, or, with a second key, a gradient between two.
 struct ColorElement {
     const char *name; ///< as shown, in the translation context of the page
@@ -67,6 +69,12 @@ QStringList defaultColors(const ColorElement &element);
 /// The colour text that stands for \a stored: "Qt" means the default, old colour-scheme names are
 /// translated, every other text is itself, whether it names a colour or not.
 QString currentColorText(const QString &stored, const QString &defaultColor);
+
+/// The colours of \a element in \a settings as they are shown: current texts, as many as it has keys.
+QStringList storedColors(const ColorElement &element, const QazSettings &settings);
+
+/// Stores and announces those of \a colors, as many as \a element has keys, that differ from \a settings.
+void saveColors(const ColorElement &element, const QStringList &colors, QazSettings *settings);
 
 /// The data of an element's entry: the key and its colours, joined by commas.
 QString colorItemData(const QString &key, const QStringList &colors);

@@ -7,24 +7,17 @@
 #include "pages/theme/sizeelements.h"
 #include "pages/theme/themelists.h"
 #include "pages/theme/xserver.h"
-#include "platform/qazicontheme.h"
 #include "platform/qazinit.h"
 #include "platform/qazsettings.h"
 #include "settings/updatevalues.h"
 #include "settings/waitcursor.h"
-#include "settings/wmcommands.h"
 #include "ui_themeform.h"
 
 #include <QColorDialog>
 #include <QComboBox>
-#include <QFile>
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QPushButton>
-
-#include <algorithm>
-#include <array>
-#include <cstdio>
 
 namespace {
 
@@ -41,27 +34,26 @@ constexpr char iconThemeKey[] = "IconTheme";
 constexpr char iconThemeSaveDefault[] = "qaz-tirsk"; // on load the default is empty, on purpose
 constexpr char decorThemeKey[] = "DecorTheme";
 constexpr int noDecorThemeIndex = 0;
+constexpr char nobodysName[] = "/"; // tells a key that is missing from an empty text; no theme has this name
 
 constexpr int comboIconHeight = 32; // at 96 dpi
-constexpr std::size_t commandSize = 4096;
 
-QString storedText(const QazSettings *settings, const char *key, const QString &defaultText = QString())
+QString storedText(const QazSettings *settings, const char *key, const QString &defaultText)
 {
     return settings->value(QLatin1String(key), defaultText).toString();
 }
 
-/// The position of \a name in \a entries; -1 when it isn't listed.
-int indexOf(const QVector<ThemeEntry> &entries, const QString &name)
+/// Adds \a entries to those of \a combo, and selects the added one named \a current, or nothing.
+void addThemes(QComboBox *combo, const QVector<ThemeEntry> &entries, const QString &current)
 {
-    const auto found = std::find_if(entries.cbegin(), entries.cend(),
-                                    [&name](const ThemeEntry &entry) { return entry.name == name; });
-    return found == entries.cend() ? -1 : int(found - entries.cbegin());
-}
-
-void addEntries(QComboBox *combo, const QVector<ThemeEntry> &entries)
-{
-    for (const ThemeEntry &entry : entries)
+    int selected = -1;
+    for (const ThemeEntry &entry : entries) {
+        if (entry.name == current)
+            selected = combo->count();
         combo->addItem(entry.preview, entry.name);
+    }
+    combo->setCurrentIndex(selected);
+    combo->setEnabled(combo->count() > 0);
 }
 
 QColor colorAt(const QStringList &colors, int index)
@@ -115,43 +107,30 @@ void ThemePage::loadCursorThemes()
     QVector<ThemeEntry> entries;
     if (serverHasExtension("RENDER")) // the previews need it, and so do coloured cursors
         entries = cursorThemeEntries(combo->iconSize());
-    addEntries(combo, entries);
-    combo->setCurrentIndex(indexOf(entries, currentCursorTheme()));
-    combo->setEnabled(combo->count() > 0);
+    addThemes(combo, entries, currentCursorTheme());
 }
 
 void ThemePage::loadIconThemes(const QazSettings *settings)
 {
     QComboBox *combo = m_ui->iconThemeCombo;
-    const QVector<ThemeEntry> entries = iconThemeEntries(combo->iconSize());
-    addEntries(combo, entries);
-    combo->setCurrentIndex(indexOf(entries, storedText(settings, iconThemeKey)));
-    combo->setEnabled(combo->count() > 0);
+    addThemes(combo, iconThemeEntries(combo->iconSize()), storedText(settings, iconThemeKey, QString()));
 }
 
 void ThemePage::loadDecorThemes(const QazSettings *settings)
 {
     QComboBox *combo = m_ui->decorThemeCombo;
-    const QVector<ThemeEntry> entries = decorThemeEntries(combo->iconSize());
-    const QString configured = storedText(settings, decorThemeKey);
+    const QString configured = storedText(settings, decorThemeKey, QLatin1String(nobodysName));
     combo->addItem(previewIcon(solidSwatch(combo->iconSize(), QColor())), tr("No theme"));
-    addEntries(combo, entries);
-    // By position: a theme may have the name of the first entry.
-    const int listed = indexOf(entries, configured);
-    combo->setCurrentIndex(configured.isEmpty() ? noDecorThemeIndex
-                           : listed < 0         ? -1
-                                                : noDecorThemeIndex + 1 + listed);
-    combo->setEnabled(combo->count() > 0);
+    addThemes(combo, decorThemeEntries(combo->iconSize()), configured);
+    if (configured.isEmpty())
+        combo->setCurrentIndex(noDecorThemeIndex);
 }
 
 void ThemePage::loadColors(const QazSettings *settings)
 {
     QComboBox *combo = m_ui->elementComboBox;
     for (const ColorElement *element : colorElementsByKey()) {
-        const QStringList keys = colorKeys(*element);
-        QStringList colors = defaultColors(*element);
-        for (int i = 0; i < keys.size(); ++i)
-            colors[i] = currentColorText(settings->value(keys.at(i), colors.at(i)).toString(), colors.at(i));
+        const QStringList colors = storedColors(*element, *settings);
         combo->addItem(tr(element->name), colorItemData(QLatin1String(element->key), colors));
         combo->setItemData(combo->count() - 1, colors, storedRole);
         combo->setItemIcon(combo->count() - 1, previewIcon(colorSwatch(combo->iconSize(), colorAt(colors, 0),
@@ -287,7 +266,10 @@ bool ThemePage::saveValues(QazSettings *settings)
     if (const int index = m_ui->decorThemeCombo->currentIndex(); index >= 0)
         updateStringValue(settings, QLatin1String(decorThemeKey), QString(),
                           index == noDecorThemeIndex ? QString() : m_ui->decorThemeCombo->currentText());
-    saveColors(settings);
+    const std::vector<const ColorElement *> elements = colorElementsByKey(); // the entries' order
+    for (int index = 0; index < m_ui->elementComboBox->count(); ++index)
+        saveColors(*elements[std::size_t(index)],
+                   m_ui->elementComboBox->itemData(index, storedRole).toStringList(), settings);
     saveSizes(settings);
     return true;
 }
@@ -297,29 +279,11 @@ void ThemePage::saveCursorTheme()
     const QString name = m_ui->cursorThemeCombo->currentText();
     if (name.isEmpty() || name == currentCursorTheme())
         return;
-    if (!QazIconTheme::setCurrentCursorThemeName(QFile::encodeName(name).constData())) {
+    if (setCursorTheme(name))
+        QMessageBox::warning(this, tr("Warning"),
+                             tr("New cursor theme will be applied to newly started apps"));
+    else
         QMessageBox::warning(this, tr("Error"), tr("The cursor theme '%1' can't be set.").arg(name));
-        return;
-    }
-    std::array<char, commandSize> command{};
-    std::snprintf(command.data(), command.size(), "QAZWM_UPDATE_VAL CursorTheme %s\n",
-                  name.toLocal8Bit().constData());
-    sendToWindowManager(QByteArray(command.data()));
-    QMessageBox::warning(this, tr("Warning"), tr("New cursor theme will be applied to newly started apps"),
-                         QMessageBox::Ok);
-}
-
-void ThemePage::saveColors(QazSettings *settings)
-{
-    const QComboBox *combo = m_ui->elementComboBox;
-    const std::vector<const ColorElement *> elements = colorElementsByKey(); // the entries' order
-    for (int index = 0; index < combo->count(); ++index) {
-        const QStringList keys = colorKeys(*elements[std::size_t(index)]);
-        const QStringList defaults = defaultColors(*elements[std::size_t(index)]);
-        const QStringList colors = combo->itemData(index, storedRole).toStringList();
-        for (int i = 0; i < keys.size(); ++i)
-            updateStringValue(settings, keys.at(i), defaults.at(i), colors.at(i));
-    }
 }
 
 void ThemePage::saveSizes(QazSettings *settings)

@@ -54,7 +54,6 @@ private:
     void connectChanges();
 
     void saveCursorTheme();
-    void saveColors(QazSettings *settings);
     void saveSizes(QazSettings *settings);
 
     void setColors(int index, const QStringList &colors);

@@ -2,17 +2,22 @@
 
 #include "platform/finddpi.h"
 #include "platform/qazicontheme.h"
+#include "settings/wmcommands.h"
 
 #include <QFile>
 #include <QX11Info>
 
 #include <algorithm>
+#include <array>
+#include <cstdio>
 #include <cstring>
 #include <memory>
 
 #include <X11/Xlib.h>
 
 namespace {
+
+constexpr std::size_t commandSize = 4096;
 
 struct FreeExtensionList {
     void operator()(char **list) const { XFreeExtensionList(list); }
@@ -48,4 +53,15 @@ QString currentCursorTheme()
 {
     const QByteArray name(QazIconTheme::getCurrentCursorThemeName(applicationDisplay()));
     return name.isEmpty() ? QStringLiteral("default") : QFile::decodeName(name);
+}
+
+bool setCursorTheme(const QString &name)
+{
+    if (!QazIconTheme::setCurrentCursorThemeName(QFile::encodeName(name).constData()))
+        return false;
+    std::array<char, commandSize> command{};
+    std::snprintf(command.data(), command.size(), "QAZWM_UPDATE_VAL CursorTheme %s\n",
+                  name.toLocal8Bit().constData());
+    sendToWindowManager(QByteArray(command.data()));
+    return true;
 }

@@ -11,3 +11,7 @@ double screenDpi();
 
 /// The name of the cursor theme of new programs, "default" when the desktop reports none.
 QString currentCursorTheme();
+
+/// Makes \a name the cursor theme of new programs and announces it to the window manager. False, with nothing
+/// announced, when it can't be set.
+[[nodiscard]] bool setCursorTheme(const QString &name);

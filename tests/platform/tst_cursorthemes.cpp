@@ -3,14 +3,11 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <QProcess>
 #include <QTest>
 #include <QX11Info>
 
 #include <algorithm>
 #include <memory>
-
-#include <unistd.h>
 
 #include "tests/support/environment.h"
 #include "tests/support/samplethemes.h"
@@ -54,9 +51,8 @@ private slots:
     void cleanup() { QCoreApplication::processEvents(); } // ends the reading pass
     void listsEveryDirectoryWithCursors();
     void findsCursorsAsXcursorDoes();
+    void settingReachesNewClients_data();
     void settingReachesNewClients();
-    void settingKeepsForeignLines();
-    void defaultInheritsNotFromItself();
     void linkedDefaultThemeStaysWhole();
     void linksThemesThatClientsWouldNotFind();
     void runningProgramsGetTheCursor();
@@ -99,40 +95,38 @@ void TestCursorThemes::findsCursorsAsXcursorDoes()
     QCOMPARE(cursorFile("../icons/A", "left_ptr"), QByteArray());
 }
 
+void TestCursorThemes::settingReachesNewClients_data()
+{
+    QTest::addColumn<QByteArray>("theme");
+    QTest::addColumn<QByteArray>("before"); // of the user's "default" theme; null: there is none
+    QTest::addColumn<QByteArray>("after");
+    const auto row = [](const char *name, const char *theme, const char *before, const char *after) {
+        QTest::newRow(name) << QByteArray(theme) << QByteArray(before) << QByteArray(after);
+    };
+    row("new file", "Red One", nullptr, "[Icon Theme]\nInherits=Red One\n");
+    row("replaced in place", "A", "# c\n[Icon Theme]\nName=D\n Inherits = B\nX=1\n[Other]\nInherits=z\n",
+        "# c\n[Icon Theme]\nName=D\nInherits=A\nX=1\n[Other]\nInherits=z\n");
+    row("added to the group", "A", "[Other]\nInherits=z\n[Icon Theme]\nName=D",
+        "[Other]\nInherits=z\n[Icon Theme]\nInherits=A\nName=D");
+    row("group added", "A", "[Other]\na=1", "[Other]\na=1\n[Icon Theme]\nInherits=A\n");
+    row("default inherits not from itself", "default", "[Icon Theme]\nInherits=B\nName=D\nInherits=C\n",
+        "[Icon Theme]\nName=D\n");
+}
+
 void TestCursorThemes::settingReachesNewClients()
 {
+    QFETCH(QByteArray, theme);
+    QFETCH(QByteArray, before);
     const TemporaryHome home;
-    makeCursorTheme(home, QStringLiteral(".icons/Red One"), Qt::red);
-    QVERIFY(QazIconTheme::setCurrentCursorThemeName("Red One"));
-    QCOMPARE(home.read(defaultIndex), QByteArray("[Icon Theme]\nInherits=Red One\n"));
-    QCOMPARE(home.read(resources), QByteArray("Xcursor.theme: Red One\n"));
-    QCOMPARE(themeOfNewClient(), QByteArray("Red One"));
-    QCOMPARE(QByteArray(QazIconTheme::getCurrentCursorThemeName(QX11Info::display())), QByteArray("Red One"));
-}
-
-void TestCursorThemes::settingKeepsForeignLines()
-{
-    const TemporaryHome home;
-    makeCursorTheme(home, QStringLiteral(".icons/Blue"), Qt::blue);
-    home.write(defaultIndex,
-               "# mine\n[Icon Theme]\nName=Default\nInherits=Old\nComment=kept\n[Other]\nInherits=z\n");
-    home.write(resources, "! mine\nXft.dpi: 96\nXcursor.theme: Old\nXcursor.size: 24\n");
-    QVERIFY(QazIconTheme::setCurrentCursorThemeName("Blue"));
-    QCOMPARE(
-        home.read(defaultIndex),
-        QByteArray("# mine\n[Icon Theme]\nName=Default\nInherits=Blue\nComment=kept\n[Other]\nInherits=z\n"));
-    QCOMPARE(home.read(resources),
-             QByteArray("! mine\nXft.dpi: 96\nXcursor.theme: Blue\nXcursor.size: 24\n"));
-}
-
-void TestCursorThemes::defaultInheritsNotFromItself()
-{
-    const TemporaryHome home;
-    makeCursorTheme(home, QStringLiteral(".icons/default"), Qt::blue);
-    home.write(defaultIndex, "[Icon Theme]\nName=Default\nInherits=Old\n");
-    QVERIFY(QazIconTheme::setCurrentCursorThemeName("default"));
-    QCOMPARE(home.read(defaultIndex), QByteArray("[Icon Theme]\nName=Default\n"));
-    QCOMPARE(themeOfNewClient(), QByteArray("default"));
+    makeCursorTheme(home, QStringLiteral(".icons/") + QString::fromLatin1(theme), Qt::red);
+    if (!before.isNull())
+        home.write(defaultIndex, before);
+    home.write(resources, "! mine\nXcursor.theme: Old\nXcursor.size: 24\n");
+    QVERIFY(QazIconTheme::setCurrentCursorThemeName(theme.constData()));
+    QTEST(home.read(defaultIndex), "after");
+    QCOMPARE(home.read(resources), "! mine\nXcursor.theme: " + theme + "\nXcursor.size: 24\n");
+    QCOMPARE(themeOfNewClient(), theme);
+    QCOMPARE(QByteArray(QazIconTheme::getCurrentCursorThemeName(QX11Info::display())), theme);
 }
 
 void TestCursorThemes::linkedDefaultThemeStaysWhole()
