@@ -23,47 +23,36 @@ class TestDesktopEntry : public QObject
 {
     Q_OBJECT
 private slots:
-    void oneKeyChanges_data()
-    {
-        QTest::addColumn<QByteArray>("before");
-        QTest::addColumn<QByteArray>("value"); // null: no such key
-        QTest::addColumn<QByteArray>("after"); // with "new" as the value
-        const auto row = [](const char *title, const QByteArray &before, const char *value,
-                            const QByteArray &after) {
-            QTest::newRow(title) << before << QByteArray(value) << after;
-        };
-        row("foreign content", around("Key =  a b \t\r\n"), "a b", around("Key =  new \t\r\n"));
-        row("group in two parts, twice", "[Desktop Entry]\nKey=1\n[A]\nKey=a\n[Desktop Entry]\nKey=2\nKey=3",
-            "3", "[Desktop Entry]\nKey=new\n[A]\nKey=a\n[Desktop Entry]\nKey=new\nKey=new");
-        row("empty value", "[Desktop Entry]\nKey=\nNext=1", "", "[Desktop Entry]\nKey=new\nNext=1");
-        row("lone carriage returns", "[Desktop Entry]\rKey=1\rNext=2", "1",
-            "[Desktop Entry]\rKey=new\rNext=2");
-        row("lines that are skipped", "[Desktop Entry]\n[Broken\nKey\n=1\nKey=a=b", "a=b",
-            "[Desktop Entry]\n[Broken\nKey\n=1\nKey=new");
-        row("only elsewhere", around({}), nullptr, around({}).replace("case\r\n", "case\r\nKey=new\r\n"));
-        row("new key before the group's end", "[Desktop Entry]\nName=a\n\n# end\n[X]\n", nullptr,
-            "[Desktop Entry]\nName=a\nKey=new\n\n# end\n[X]\n");
-        row("new key, last line open", "[Desktop Entry]\r\nName=a", nullptr,
-            "[Desktop Entry]\r\nName=a\r\nKey=new\r\n");
-        row("unclosed header", "[Desktop Entry\nKey=1", nullptr,
-            "[Desktop Entry\nKey=1\n[Desktop Entry]\nKey=new\n");
-        row("empty file", "", nullptr, "[Desktop Entry]\nKey=new\n");
-    }
-
     void oneKeyChanges()
     {
-        QFETCH(QByteArray, before);
-        QFETCH(QByteArray, value);
-        QFETCH(QByteArray, after);
-        DesktopEntryText text(before);
-        QCOMPARE(text.value("Key").has_value(), !value.isNull());
-        QCOMPARE(text.value("Key").value_or(QByteArray()), value);
-        text.setValue("Key", "new");
-        QCOMPARE(text.content(), after);
-        QVERIFY(text.removeKey("Key"));
-        QString without = QString::fromLatin1(after);
-        without.remove(QRegularExpression("Key *= *new[ \\t]*(\\r\\n|\\r|\\n|$)"_s));
-        QCOMPARE(QString::fromLatin1(text.content()), without);
+        const struct {
+            QByteArray before;
+            QByteArray value; // null: no such key
+            QByteArray after; // with "new" as the value
+        } rows[] = {
+            {around("Key =  a b \t\r\n"), "a b", around("Key =  new \t\r\n")},
+            {around({}), {}, around({}).replace("case\r\n", "case\r\nKey=new\r\n")},
+            {"[Desktop Entry]\nKey=1\n[A]\nKey=a\n[Desktop Entry]\nKey=2\nKey=3", "3",
+             "[Desktop Entry]\nKey=new\n[A]\nKey=a\n[Desktop Entry]\nKey=new\nKey=new"},
+            {"[Desktop Entry]\nKey=\nNext=1", "", "[Desktop Entry]\nKey=new\nNext=1"},
+            {"[Desktop Entry]\rKey=1\rNext=2", "1", "[Desktop Entry]\rKey=new\rNext=2"},
+            {"[Desktop Entry]\n[Broken\nKey\n=1\nKey=a=b", "a=b",
+             "[Desktop Entry]\n[Broken\nKey\n=1\nKey=new"},
+            {"[Desktop Entry]\nA=a\n\n# end\n[X]\n", {}, "[Desktop Entry]\nA=a\nKey=new\n\n# end\n[X]\n"},
+            {"[Desktop Entry]\r\nA=a", {}, "[Desktop Entry]\r\nA=a\r\nKey=new\r\n"},
+            {"[Desktop Entry\nKey=1", {}, "[Desktop Entry\nKey=1\n[Desktop Entry]\nKey=new\n"},
+            {"", {}, "[Desktop Entry]\nKey=new\n"}};
+        for (const auto &row : rows) {
+            DesktopEntryText text(row.before);
+            QCOMPARE(text.value("Key").has_value(), !row.value.isNull());
+            QCOMPARE(text.value("Key").value_or(QByteArray()), row.value);
+            text.setValue("Key", "new");
+            QCOMPARE(text.content(), row.after);
+            QVERIFY(text.removeKey("Key"));
+            QString without = QString::fromLatin1(row.after);
+            without.remove(QRegularExpression("Key *= *new[ \\t]*(\\r\\n|\\r|\\n|$)"_s));
+            QCOMPARE(QString::fromLatin1(text.content()), without);
+        }
     }
 
     void savingKeepsWhatOthersWrote()

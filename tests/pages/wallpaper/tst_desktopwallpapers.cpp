@@ -72,36 +72,26 @@ private slots:
         QCOMPARE(currentDesktopWallpaper(), QString());
     }
 
-    void settingChangesOneLineAndTells_data()
-    {
-        QTest::addColumn<QString>("wallpaper");
-        QTest::addColumn<QString>("stored"); // null: refused
-        QTest::newRow("path with blanks") << "/a b/\\n c.png"_s
-                                          << "/a b/\\n c.png"_s;
-        QTest::newRow("colour") << "#a6caf0"_s
-                                << "\"#a6caf0\""_s;
-        QTest::newRow("longest") << QString(4095, u'a') << QString(4095, u'a');
-        QTest::newRow("too long") << QString(4096, u'a') << QString();
-        QTest::newRow("too long with its quotes") << u'#' + QString(4093, u'a') << QString();
-        QTest::newRow("a line of its own") << "/a\nIcon=b"_s << QString();
-    }
-
     void settingChangesOneLineAndTells()
     {
-        QFETCH(QString, wallpaper);
-        QFETCH(QString, stored);
-        const TemporaryHome home;
-        const QByteArray before = "# mine\n[Desktop Entry]\nName=One  \n\n[Other]\nA=1";
-        home.write(first, before);
-        const QByteArray line = stored.isNull() ? "" : "X-QAZ-WallPaper=" + stored.toLatin1() + '\n';
-        const QStringList command = {"QAZWM_UPDATE_VAL WallPaperLocal "_s + stored};
-        WmListener listener;
-        for (int times = 0; times < 2; ++times) {
-            setCurrentDesktopWallpaper(wallpaper);
-            QCOMPARE(home.read(first), QByteArray(before).replace("\n\n", '\n' + line + '\n'));
-            QCOMPARE(listener.take(), stored.isNull() ? QStringList() : command);
+        const QString wallpapers[][2] = {
+            {"/a b/\\n c.png"_s, "/a b/\\n c.png"_s},   {"#a6caf0"_s, "\"#a6caf0\""_s},
+            {QString(4095, u'a'), QString(4095, u'a')}, {QString(4096, u'a'), {}}, // refused, as all below
+            {u'#' + QString(4093, u'a'), {}},           {"/a\nIcon=b"_s, {}}};
+        for (const auto &[wallpaper, stored] : wallpapers) {
+            const TemporaryHome home;
+            const QByteArray before = "# mine\n[Desktop Entry]\nName=One  \n\n[Other]\nA=1";
+            home.write(first, before);
+            const QByteArray line = stored.isNull() ? "" : "X-QAZ-WallPaper=" + stored.toLatin1() + '\n';
+            const QStringList command = {"QAZWM_UPDATE_VAL WallPaperLocal "_s + stored};
+            WmListener listener;
+            for (int times = 0; times < 2; ++times) {
+                setCurrentDesktopWallpaper(wallpaper);
+                QCOMPARE(home.read(first), QByteArray(before).replace("\n\n", '\n' + line + '\n'));
+                QCOMPARE(listener.take(), stored.isNull() ? QStringList() : command);
+            }
+            QCOMPARE(currentDesktopWallpaper(), stored);
         }
-        QCOMPARE(currentDesktopWallpaper(), stored);
     }
 };
 

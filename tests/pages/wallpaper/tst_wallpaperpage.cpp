@@ -66,14 +66,10 @@ struct Page {
     QSignalSpy changed{&page, &WallpaperPage::changedSignal};
 };
 
-QString writeImage(const TemporaryHome &home, const QString &name, const QColor &color)
+/// An image file of one colour and one pixel.
+QByteArray picture(const char *color)
 {
-    QImage image(QGuiApplication::primaryScreen()->size(), QImage::Format_RGB32);
-    image.fill(color);
-    const QString path = home.write(name, {});
-    if (!image.save(path))
-        qFatal("Can't write %s", qPrintable(path));
-    return path;
+    return QByteArray("/* XPM */\nstatic char *x[] = {\"1 1 1 1\", \"a c ") + color + "\", \"a\"};\n";
 }
 
 /// A file of the user's pictures for this screen, below the home.
@@ -177,16 +173,16 @@ private slots:
     void textsDrawTheirPreview()
     {
         Page page("WallPaper=#102030\n");
-        const QString red = writeImage(page.home, "red image.png"_s, Qt::red);
-        writeImage(page.home, ".local/share/wallpapers/my paper.png"_s, Qt::green);
+        const QString red = page.home.write("red image.xpm"_s, picture("red"));
+        page.home.write(".local/share/wallpapers/my paper.xpm"_s, picture("#00ff00"));
         const QString written = page.home.path(".cache/qaz/wallpapers"_s);
         QVERIFY(!QFileInfo::exists(written));
         page.lineEdit->setText(red);
-        const QImage file(written + "/Stretch_#102030_red image.png.png"_s);
+        const QImage file(written + "/Stretch_#102030_red image.xpm.png"_s);
         QCOMPARE(file.size(), QSize(242, 181));
         QCOMPARE(file.pixelColor(241, 180), QColor(Qt::red));
-        page.position->setCurrentIndex(0);
-        emit page.position->activated(0);
+        page.position->setCurrentIndex(1);
+        emit page.position->activated(1);
         const QString colors[][2] = {{red, "#ff0000"_s},          {"my paper"_s, "#00ff00"_s},
                                      {"no paper"_s, "#102030"_s}, {"#zz"_s, "#102030"_s},
                                      {"#abcdef"_s, "#abcdef"_s},  {QString(), "#abcdef"_s}};
@@ -195,9 +191,9 @@ private slots:
             QCOMPARE(page.shownColor(), row[1]);
             QCOMPARE(page.lineEdit->text(), row[0] == "#zz"_s ? row[1] : row[0]);
         }
-        QCOMPARE(QDir(written).entryList(QDir::Files).join(u'|'),
-                 "Center_#102030_my paper.png|Center_#102030_red image.png.png|"
-                 "Stretch_#102030_red image.png.png"_s);
+        QCOMPARE(
+            QDir(written).entryList(QDir::Files).join(u'|'),
+            "Stretch_#102030_red image.xpm.png|Tile_#102030_my paper.png|Tile_#102030_red image.xpm.png"_s);
         page.run(&WallpaperPage::saveValues);
         QVERIFY(page.home.read(themeFile).startsWith("WallPaper=#abcdef\n"));
     }
@@ -206,7 +202,7 @@ private slots:
     {
         Page page("WallPaper=/x\n");
         const QString own = page.home.write(ownPicture("any"_s), {});
-        const QString path = writeImage(page.home, "a/blank $(x) %1.png"_s, Qt::red);
+        const QString path = page.home.write("a/blank $(x) %1.xpm"_s, picture("red"));
         const QString upperCase = page.home.write("a/PICTURE.SVG"_s, svg);
         QStringList starts;
         const auto look = [&starts](QDialog *dialog) {
