@@ -1,10 +1,8 @@
 #include "tests/support/literals.h"
 #include "tests/support/temporaryhome.h"
 
-#include <QImage>
-#include <QImageReader>
-#include <QProcess>
-#include <QTest>
+#include <QtGui>
+#include <QtTest>
 
 #include <algorithm>
 
@@ -26,11 +24,6 @@ std::pair<int, QByteArray> run(const QStringList &arguments, const QString &dire
     return {ended ? process.exitCode() : -1, process.readAllStandardError()};
 }
 
-QStringList rendering(const QString &in, const QString &out, const QString &size)
-{
-    return size.split(u' ') + QStringList{"-i"_s, in, "-o"_s, out};
-}
-
 } // namespace
 
 class TestSvg2Png : public QObject
@@ -45,7 +38,8 @@ private slots:
                                     {"-h $(touch x) \"'\n.svg"_s, "--help;.png"_s, "png"_s}};
         for (const QStringList &row : rows) {
             home.write(row[0], svg);
-            const auto [status, printed] = run(rendering(row[0], row[1], "-w 40 -h 30"_s), home.path());
+            const auto [status, printed] = run(
+                {"-w"_s, "40"_s, "-h"_s, "30"_s, "-i"_s, row[0], "-o"_s, row[1]}, home.path());
             QVERIFY2(status == 0, printed.constData());
             QCOMPARE(QString::fromLatin1(QImageReader::imageFormat(home.path(row[1]))), row[2]);
             const QImage image(home.path(row[1]));
@@ -62,7 +56,7 @@ private slots:
             home.write("a.svg"_s, "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 100 100'>"
                                   "<text y='80' font-size='90'>"
                                       + text + "</text></svg>");
-            run(rendering("a.svg"_s, "a.png"_s, "-w 100 -h 100"_s), home.path());
+            run("-w 100 -h 100 -i a.svg -o a.png"_s.split(u' '), home.path());
             const QImage image = QImage(home.path("a.png"_s)).convertToFormat(QImage::Format_Grayscale8);
             return std::count_if(image.constBits(), image.constBits() + image.sizeInBytes(),
                                  [](uchar gray) { return gray < 128; });
