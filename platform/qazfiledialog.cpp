@@ -28,9 +28,14 @@ void QazFileDialog::letTypedPathsCount()
 {
     auto *name = findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
     auto *files = findChild<QListView *>(QStringLiteral("listView"));
-    connect(name, &QLineEdit::textChanged, files, [files](const QString &text) {
-        if (text.contains(QLatin1Char('/')) || files->selectionModel()->selectedRows().size() > 1)
-            files->selectionModel()->clearSelection();
+    connect(name, &QLineEdit::textChanged, files, [name, files](const QString &text) {
+        if (!text.contains(QLatin1Char('/')) && files->selectionModel()->selectedRows().size() <= 1)
+            return;
+        if (name->text() != text) { // a row selected while the field has no focus puts its bare name there
+            const QSignalBlocker blocker(name);
+            name->setText(text);
+        }
+        files->selectionModel()->clearSelection();
     });
 }
 
