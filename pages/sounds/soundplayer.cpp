@@ -8,8 +8,6 @@ namespace {
 
 constexpr int endTimeoutMs = 1000; // for a killed process to be gone
 
-} // namespace
-
 QStringList playerArguments(const QString &program, const QString &path)
 {
     QStringList arguments;
@@ -17,6 +15,8 @@ QStringList playerArguments(const QString &program, const QString &path)
         arguments << QStringLiteral("-q");
     return arguments << path;
 }
+
+} // namespace
 
 SoundPlayer::SoundPlayer(QObject *owner, const QString &program)
     : m_owner(owner)

@@ -36,6 +36,3 @@ private:
     QString m_program;
     QPointer<QProcess> m_process;
 };
-
-/// The arguments with which \a program plays the file at \a path.
-QStringList playerArguments(const QString &program, const QString &path);
