@@ -6,7 +6,6 @@
 #include <QTest>
 #include <QX11Info>
 
-#include <algorithm>
 #include <memory>
 
 #include "tests/support/environment.h"
@@ -64,15 +63,14 @@ void TestCursorThemes::listsEveryDirectoryWithCursors()
     const TemporaryHome home;
     const ScopedEnvironment path("XCURSOR_PATH",
                                  QFile::encodeName(home.path(QStringLiteral("extra"))) + ":~/.icons");
-    home.write(QStringLiteral(".icons/WithCursorTheme/cursor.theme"), "[Icon Theme]\nInherits=x\n");
-    for (const char *theme : {".icons/WithCursorTheme", ".icons/WithoutIndex", "extra/OnPath",
-                              "extra/WithoutIndex", ".local/share/icons/InData"})
+    home.write(QStringLiteral(".icons/Described/cursor.theme"), "[Icon Theme]\nInherits=x\n");
+    for (const char *theme : {".icons/Described", ".icons/WithoutIndex", "extra/OnPath", "extra/WithoutIndex",
+                              ".local/share/icons/InData"})
         QVERIFY(home.makeDirectory(QLatin1String(theme) + QLatin1String("/cursors")));
     home.write(QStringLiteral(".icons/IconsOnly/index.theme"), "[Icon Theme]\nDirectories=a\n");
     home.write(QStringLiteral(".icons/File/cursors"), "not a directory");
-    QByteArrayList names = cursorThemeNames();
-    std::sort(names.begin(), names.end());
-    for (const char *listed : {"InData", "OnPath", "WithCursorTheme", "WithoutIndex"})
+    const QByteArrayList names = cursorThemeNames();
+    for (const char *listed : {"InData", "OnPath", "Described", "WithoutIndex"})
         QCOMPARE(names.count(listed), 1);
     for (const char *other : {"IconsOnly", "File", "default"})
         QVERIFY2(!names.contains(other), other);
@@ -88,7 +86,7 @@ void TestCursorThemes::findsCursorsAsXcursorDoes()
     home.write(QStringLiteral(".icons/C/cursors/watch"), "x");
     home.write(QStringLiteral(".icons/default/cursors/xterm"), "x");
     const QByteArray icons = QFile::encodeName(home.path(QStringLiteral(".icons/")));
-    QCOMPARE(cursorFile("A", "left_ptr"), icons + "A/cursors/left_ptr");
+    QCOMPARE(cursorFile("B", "left_ptr"), icons + "A/cursors/left_ptr");
     QCOMPARE(cursorFile("A", "watch"), icons + "C/cursors/watch");
     QCOMPARE(cursorFile("A", "xterm"), icons + "default/cursors/xterm");
     QCOMPARE(cursorFile("A", "nowhere"), QByteArray());
@@ -169,20 +167,15 @@ void TestCursorThemes::runningProgramsGetTheCursor()
     makeCursorTheme(home, QStringLiteral(".icons/Blue"), Qt::blue, names);
     const std::unique_ptr<Display, CloseDisplay> other(XOpenDisplay(nullptr));
     XcursorSetTheme(other.get(), "Green");
-    XSetWindowAttributes attributes = {};
-    attributes.override_redirect = True;
-    const Window window = XCreateWindow(other.get(), DefaultRootWindow(other.get()), 0, 0, 100, 100, 0,
-                                        CopyFromParent, InputOutput, nullptr, CWOverrideRedirect,
-                                        &attributes);
+    const Window root = DefaultRootWindow(other.get());
+    const Window window = XCreateSimpleWindow(other.get(), root, 0, 0, 100, 100, 0, 0, 0);
     XDefineCursor(other.get(), window, XcursorLibraryLoadCursor(other.get(), "hand2"));
     XMapRaised(other.get(), window);
-    XWarpPointer(other.get(), 0, DefaultRootWindow(other.get()), 0, 0, 0, 0, 50, 50);
-    XSync(other.get(), False);
+    XWarpPointer(other.get(), 0, root, 0, 0, 0, 0, 50, 50);
     QTRY_COMPARE(shownCursor(other.get()), QColor(Qt::green));
     QVERIFY(QazIconTheme::setCurrentCursorThemeName("Blue"));
     QTRY_COMPARE(shownCursor(other.get()), QColor(Qt::blue));
-    XWarpPointer(other.get(), 0, DefaultRootWindow(other.get()), 0, 0, 0, 0, 500, 500);
-    XSync(other.get(), False);
+    XWarpPointer(other.get(), 0, root, 0, 0, 0, 0, 500, 500);
     QTRY_COMPARE(shownCursor(other.get()), QColor(Qt::blue)); // the root window's
 }
 
