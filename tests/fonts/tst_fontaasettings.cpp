@@ -55,16 +55,16 @@ public:
     /// All that the widgets show, brackets around what is disabled.
     QString shown() const
     {
-        const auto text = [](const QWidget *widget, const QString &shown) {
-            return widget->isEnabled() ? shown : QLatin1Char('(') + shown + QLatin1Char(')');
-        };
+        const QPair<const char *, const char *> parts[] = {
+            {"excludeRangeCheckBox", "checked"},  {"useSubPixelCheckBox", "checked"},
+            {"excludeFromSpinBox", "text"},       {"excludeToSpinBox", "text"},
+            {"subPixelTypeCombo", "currentText"}, {"hintStyleCombo", "currentText"}};
         QStringList texts;
-        for (const char *name : {"excludeRangeCheckBox", "useSubPixelCheckBox"})
-            texts += text(find<QCheckBox>(name), QString::number(find<QCheckBox>(name)->isChecked()));
-        for (const char *name : {"excludeFromSpinBox", "excludeToSpinBox"})
-            texts += text(find<QDoubleSpinBox>(name), find<QDoubleSpinBox>(name)->text());
-        for (const char *name : {"subPixelTypeCombo", "hintStyleCombo"})
-            texts += text(find<QComboBox>(name), find<QComboBox>(name)->currentText());
+        for (const auto &[name, property] : parts) {
+            const auto *widget = find<QWidget>(name);
+            const QString text = widget->property(property).toString();
+            texts += widget->isEnabled() ? text : QLatin1Char('(') + text + QLatin1Char(')');
+        }
         return texts.join(QLatin1Char(' '));
     }
     /// The sub-pixel order, the anti-aliasing and the hint style of the program's own settings.
@@ -89,7 +89,7 @@ private slots:
     void emptyFileShowsTheDefaults()
     {
         DialogOverFile file({});
-        QCOMPARE(file.shown(), QStringLiteral("0 0 (0.0 pix) (14.0 pix) (RGB) Medium"));
+        QCOMPARE(file.shown(), QStringLiteral("false false (0.0 pix) (14.0 pix) (RGB) Medium"));
         QVERIFY(!file.find<QLabel>("excludeToLabel")->isEnabled());
         QVERIFY(!file.ok()->isEnabled());
         QVERIFY(file.dialog->isModal());
@@ -112,17 +112,17 @@ private slots:
         DialogOverFile file(pixelRange("8", "15") + value("rgba", "const", "vbgr")
                             + value("hintstyle", "const", "hintslight")
                             + value("antialias", "bool", "false"));
-        QCOMPARE(file.shown(), QStringLiteral("1 1 8.0 pix 15.0 pix Vertical BGR Slight"));
+        QCOMPARE(file.shown(), QStringLiteral("true true 8.0 pix 15.0 pix Vertical BGR Slight"));
         QVERIFY(!file.dialog->load());
         QCOMPARE(DialogOverFile::stored(), QStringLiteral("- - -"));
 
         file.write(value("antialias", "bool", "true"));
         QVERIFY(file.dialog->load());
-        QCOMPARE(file.shown(), QStringLiteral("0 0 (0.0 pix) (14.0 pix) (Vertical BGR) Medium"));
+        QCOMPARE(file.shown(), QStringLiteral("false false (0.0 pix) (14.0 pix) (Vertical BGR) Medium"));
         QVERIFY(!file.ok()->isEnabled()); // what was read is no edit
 
         file.dialog->defaults();
-        QCOMPARE(file.shown(), QStringLiteral("1 0 0.0 pix 14.0 pix (Vertical BGR) Medium"));
+        QCOMPARE(file.shown(), QStringLiteral("true false 0.0 pix 14.0 pix (Vertical BGR) Medium"));
     }
 
     void editsAreSaved()

@@ -35,18 +35,8 @@ public:
         load();
     }
 
-    void load()
-    {
-        QazSettings store(m_themeFile);
-        store.sync(true);
-        page.loadValues(&store);
-    }
-    void save()
-    {
-        QazSettings store(m_themeFile);
-        store.sync(true);
-        page.saveValues(&store);
-    }
+    void load() { run(&FontPage::loadValues); }
+    void save() { run(&FontPage::saveValues); }
     FontUseItem *role(const char *key) const { return page.findChild<FontUseItem *>(QLatin1String(key)); }
     QComboBox *antiAliasing() const { return page.findChild<QComboBox *>(QStringLiteral("aaComboBox")); }
     QSpinBox *dpi() const { return page.findChild<QSpinBox *>(); }
@@ -61,6 +51,13 @@ public:
     FontPage page;
 
 private:
+    void run(bool (FontPage::*pass)(QazSettings *))
+    {
+        QazSettings store(m_themeFile);
+        store.sync(true);
+        (page.*pass)(&store);
+    }
+
     QString m_themeFile;
 };
 
@@ -215,24 +212,23 @@ private slots:
     {
         const TemporaryHome home;
         const QString resources = home.write(QStringLiteral(".Xresources"), "Xft.dpi: 119.9\nA.a: 1\n");
-        QProcess::execute(QStringLiteral("xrdb"), {QStringLiteral("-merge"), resources});
+        const QString xrdb = QStringLiteral("xrdb");
+        QProcess::execute(xrdb, {QStringLiteral("-merge"), resources});
         QSettings().setValue(QStringLiteral("forceFontDPI"), 120);
         Editor editor(home);
         QCOMPARE(editor.dpi()->text(), QStringLiteral("119dpi"));
         FakePrograms programs;
-        const QString xrdb = QStringLiteral("xrdb");
         programs.add(xrdb, "[ \"$1\" = -merge ] || cat >>\"$HOME/removed\"");
         ModalDriver driver;
-        int callsBeforeTheMessage = 0;
+        // The resources are merged last, after the message; merging without a DPI removes once more.
         driver.then([&](QDialog *box) {
-            callsBeforeTheMessage = programs.calls(xrdb).size();
             box->accept();
+            QCOMPARE(programs.calls(xrdb).size(), 1);
         });
         editor.dpi()->setValue(0);
         editor.save();
+        QVERIFY(driver.isDone());
         QCOMPARE(home.read(QStringLiteral(".Xresources")), QByteArray("A.a: 1\n"));
-        // The resources are merged last, after the message; merging without a DPI removes once more.
-        QCOMPARE(callsBeforeTheMessage, 1);
         QCOMPARE(programs.calls(xrdb).size(), 3);
         QCOMPARE(home.read(QStringLiteral("removed")), QByteArray("Xft.dpi\nXft.dpi\n"));
     }

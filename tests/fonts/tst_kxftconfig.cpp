@@ -14,6 +14,7 @@
 namespace {
 
 constexpr int allButDirectories = 0x1E;
+constexpr auto everything = QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot;
 const QString place = QStringLiteral(".config/fontconfig/fonts.conf");
 
 constexpr ExcludeRange otherRange{3, 7};
@@ -38,18 +39,17 @@ class HomeWithFile : public TemporaryHome
 public:
     explicit HomeWithFile(const QByteArray &content) { write(place, content); }
     QByteArray content() const { return read(place); }
-    /// Files of a directory, hidden ones included.
-    QStringList filesIn(const char *directory) const
+    QStringList namesIn(const char *directory) const
     {
-        return QDir(path(QLatin1String(directory))).entryList(QDir::Files | QDir::Hidden);
+        return QDir(path(QLatin1String(directory))).entryList(everything);
     }
     /// No lock, no temporary file.
     bool holdsOnlyTheFile() const
     {
-        return filesIn(".config/fontconfig").join(QString()) == QLatin1String("fonts.conf");
+        return namesIn(".config/fontconfig").join(QString()) == QLatin1String("fonts.conf");
     }
     /// Copies and their list.
-    int backups() const { return filesIn(".local/state/qaz/backup").size(); }
+    int backups() const { return namesIn(".local/state/qaz/backup").size(); }
 };
 
 QString summary(const KXftConfig &config)
