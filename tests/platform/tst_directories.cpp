@@ -9,6 +9,7 @@
 #include <QtTest>
 
 #include <memory>
+#include <utility>
 
 #include <X11/Xatom.h>
 #include <X11/Xlib.h>
@@ -27,12 +28,6 @@ uint modeOf(const QString &path)
     return ::stat(QFile::encodeName(path).constData(), &status) == 0 ? uint(status.st_mode & 07777) : 0;
 }
 
-QString sessionSuffix()
-{
-    const std::unique_ptr<char[]> suffix(qazSessionConfigSuffix(0));
-    return QString::fromLocal8Bit(suffix.get());
-}
-
 } // namespace
 
 class TestDirectories : public QObject
@@ -40,118 +35,95 @@ class TestDirectories : public QObject
     Q_OBJECT
 
 private slots:
-    void kindsFollowTheEnvironment();
-    void unsetEmptyAndRelativeVariablesFallBack();
-    void aTextStaysValidUntilTheNextCallOfItsKind();
-    void theCurrentDesktopIsTheRootWindows();
-    void renderedWallpapersAreMadePrivate();
-    void theSessionSuffixTakesSafeNamesOnly_data();
-    void theSessionSuffixTakesSafeNamesOnly();
-    void initMakesThePersonalDirectoryOnly();
-};
-
-void TestDirectories::kindsFollowTheEnvironment()
-{
-    const TemporaryHome home;
-    const ScopedEnvironment data("QAZ_DATA_DIR", "/data/root/");
-    QCOMPARE(directory(2), home.path(QStringLiteral(".config/qaz")));
-    QCOMPARE(directory(3), home.path(QStringLiteral(".config/qaz")));
-    QCOMPARE(directory(14), QStringLiteral("/data/root/sounds"));
-    QCOMPARE(directory(18), home.path());
-    QCOMPARE(directory(21), home.path(QStringLiteral(".local/share/wallpapers")));
-    QCOMPARE(directory(27), QStringLiteral("/data/root/themes"));
-    for (const int unknown : {0, 4, 5, 7, 13, 22, 99, -1})
-        QCOMPARE(directory(unknown), QString());
-    const ScopedEnvironment config("XDG_CONFIG_HOME", "/elsewhere");
-    QCOMPARE(directory(2), QStringLiteral("/elsewhere/qaz"));
-}
-
-void TestDirectories::unsetEmptyAndRelativeVariablesFallBack()
-{
-    const TemporaryHome home;
-    for (const QByteArray &value : {QByteArray(), QByteArray(""), QByteArray("relative")}) {
-        const ScopedEnvironment config("XDG_CONFIG_HOME", value);
-        const ScopedEnvironment data("XDG_DATA_HOME", value);
+    void kindsFollowTheEnvironment()
+    {
+        const TemporaryHome home;
+        const ScopedEnvironment data("QAZ_DATA_DIR", "/data/root/");
         QCOMPARE(directory(2), home.path(QStringLiteral(".config/qaz")));
+        QCOMPARE(directory(3), home.path(QStringLiteral(".config/qaz")));
+        QCOMPARE(directory(14), QStringLiteral("/data/root/sounds"));
+        QCOMPARE(directory(18), home.path());
         QCOMPARE(directory(21), home.path(QStringLiteral(".local/share/wallpapers")));
+        QCOMPARE(directory(27), QStringLiteral("/data/root/themes"));
+        for (const int unknown : {0, 4, 5, 7, 13, 22, 99, -1})
+            QCOMPARE(directory(unknown), QString());
+        const char *personal = GetQazDir(2);
+        const ScopedEnvironment config("XDG_CONFIG_HOME", "/elsewhere");
+        GetQazDir(14);
+        GetQazDir(18);
+        QCOMPARE(QByteArray(personal), QFile::encodeName(home.path(QStringLiteral(".config/qaz"))));
+        QCOMPARE(directory(2), QStringLiteral("/elsewhere/qaz"));
     }
-    const ScopedEnvironment unset("HOME", QByteArray());
-    QVERIFY2(directory(18).startsWith(QLatin1Char('/')), "the password database knows a home");
-}
 
-void TestDirectories::aTextStaysValidUntilTheNextCallOfItsKind()
-{
-    const TemporaryHome home;
-    const char *personal = GetQazDir(2);
-    GetQazDir(14);
-    GetQazDir(18);
-    QCOMPARE(QString::fromLocal8Bit(personal), home.path(QStringLiteral(".config/qaz")));
-}
-
-void TestDirectories::theCurrentDesktopIsTheRootWindows()
-{
-    const TemporaryHome home;
-    QCOMPARE(directory(6), home.path(QStringLiteral("Desktops/Desktop1")));
-    Display *display = QX11Info::display();
-    const Atom current = XInternAtom(display, "_NET_CURRENT_DESKTOP", False);
-    const long number = 2;
-    XChangeProperty(display, DefaultRootWindow(display), current, XA_CARDINAL, 32, PropModeReplace,
-                    reinterpret_cast<const unsigned char *>(&number), 1);
-    QCOMPARE(directory(6), home.path(QStringLiteral("Desktops/Desktop3")));
-    XChangeProperty(display, DefaultRootWindow(display), current, XA_STRING, 8, PropModeReplace,
-                    reinterpret_cast<const unsigned char *>("7"), 1);
-    QCOMPARE(directory(6), home.path(QStringLiteral("Desktops/Desktop1")));
-    XDeleteProperty(display, DefaultRootWindow(display), current);
-}
-
-void TestDirectories::renderedWallpapersAreMadePrivate()
-{
-    const TemporaryHome home;
-    QCOMPARE(directory(1), home.path(QStringLiteral(".cache/qaz/wallpapers")));
-    QCOMPARE(modeOf(directory(1)), 0700U);
-    home.write(QStringLiteral("file"), "");
-    const ScopedEnvironment cache("XDG_CACHE_HOME", QFile::encodeName(home.path(QStringLiteral("file"))));
-    QCOMPARE(directory(1), QString());
-}
-
-void TestDirectories::theSessionSuffixTakesSafeNamesOnly_data()
-{
-    QTest::addColumn<QByteArray>("session");
-    QTest::addColumn<QString>("suffix");
-    QTest::newRow("unset") << QByteArray() << QString();
-    QTest::newRow("empty") << QByteArray("") << QString();
-    QTest::newRow("name") << QByteArray("work") << QStringLiteral("-work");
-    QTest::newRow("every kind of character") << QByteArray("aZ0_.-") << QStringLiteral("-aZ0_.-");
-    QTest::newRow("slash") << QByteArray("../x") << QString();
-    QTest::newRow("blank") << QByteArray("a b") << QString();
-    QTest::newRow("not ASCII") << QByteArray("\xc3\xa4") << QString();
-}
-
-void TestDirectories::theSessionSuffixTakesSafeNamesOnly()
-{
-    QFETCH(QByteArray, session);
-    QFETCH(QString, suffix);
-    const ScopedEnvironment name("QAZ_SESSION", session);
-    QCOMPARE(sessionSuffix(), suffix);
-}
-
-void TestDirectories::initMakesThePersonalDirectoryOnly()
-{
-    const TemporaryHome home;
-    QVERIFY(qazInit("1.2-3", "A title"));
-    QCOMPARE(modeOf(home.path(QStringLiteral(".config/qaz"))), 0700U);
-    QCOMPARE(QDir(home.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
-             QStringList{QStringLiteral(".config")});
-    QCOMPARE(QCoreApplication::organizationName(), QStringLiteral("qaz"));
-    QCOMPARE(QCoreApplication::applicationName(), QStringLiteral("qaz-admin-theme"));
-    QCOMPARE(QCoreApplication::applicationVersion(), QStringLiteral("1.2-3"));
-    for (const QByteArray &mode : {QByteArray("1"), QByteArray("true")}) {
-        const ScopedEnvironment tablet("QAZ_TABLET_MODE", mode);
-        QVERIFY(qazInTabletMode());
+    void unsetEmptyAndRelativeVariablesFallBack()
+    {
+        const TemporaryHome home;
+        for (const QByteArray &value : {QByteArray(), QByteArray(""), QByteArray("relative")}) {
+            const ScopedEnvironment config("XDG_CONFIG_HOME", value);
+            const ScopedEnvironment data("XDG_DATA_HOME", value);
+            QCOMPARE(directory(2), home.path(QStringLiteral(".config/qaz")));
+            QCOMPARE(directory(21), home.path(QStringLiteral(".local/share/wallpapers")));
+        }
+        const ScopedEnvironment unset("HOME", QByteArray());
+        QVERIFY2(directory(18).startsWith(QLatin1Char('/')), "the password database knows a home");
     }
-    const ScopedEnvironment off("QAZ_TABLET_MODE", "yes");
-    QVERIFY(!qazInTabletMode());
-}
+
+    void theCurrentDesktopIsTheRootWindows()
+    {
+        const TemporaryHome home;
+        QCOMPARE(directory(6), home.path(QStringLiteral("Desktops/Desktop1")));
+        Display *display = QX11Info::display();
+        const Atom current = XInternAtom(display, "_NET_CURRENT_DESKTOP", False);
+        const auto set = [&](Atom type, int format, const void *value) {
+            XChangeProperty(display, DefaultRootWindow(display), current, type, format, PropModeReplace,
+                            static_cast<const unsigned char *>(value), 1);
+        };
+        const long number = 2;
+        set(XA_CARDINAL, 32, &number);
+        QCOMPARE(directory(6), home.path(QStringLiteral("Desktops/Desktop3")));
+        set(XA_STRING, 8, "7");
+        QCOMPARE(directory(6), home.path(QStringLiteral("Desktops/Desktop1")));
+        XDeleteProperty(display, DefaultRootWindow(display), current);
+    }
+
+    void renderedWallpapersAreMadePrivate()
+    {
+        const TemporaryHome home;
+        QCOMPARE(directory(1), home.path(QStringLiteral(".cache/qaz/wallpapers")));
+        QCOMPARE(modeOf(directory(1)), 0700U);
+        const ScopedEnvironment cache("XDG_CACHE_HOME",
+                                      QFile::encodeName(home.write(QStringLiteral("file"), "")));
+        QCOMPARE(directory(1), QString());
+    }
+
+    void theSessionSuffixTakesSafeNamesOnly()
+    {
+        const std::pair<QByteArray, QByteArray> names[] = {
+            {{}, ""},     {"", ""},    {"work", "-work"}, {"aZ0_.-", "-aZ0_.-"},
+            {"../x", ""}, {"a b", ""}, {"ä", ""}};
+        for (const auto &[session, expected] : names) {
+            const ScopedEnvironment name("QAZ_SESSION", session);
+            const std::unique_ptr<char[]> suffix(qazSessionConfigSuffix(0));
+            QCOMPARE(QByteArray(suffix.get()), expected);
+        }
+    }
+
+    void initMakesThePersonalDirectoryOnly()
+    {
+        const TemporaryHome home;
+        QVERIFY(qazInit("1.2-3", "A title"));
+        QCOMPARE(modeOf(home.path(QStringLiteral(".config/qaz"))), 0700U);
+        QCOMPARE(QDir(home.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+                 QStringList{QStringLiteral(".config")});
+        QCOMPARE(QCoreApplication::organizationName(), QStringLiteral("qaz"));
+        QCOMPARE(QCoreApplication::applicationName(), QStringLiteral("qaz-admin-theme"));
+        QCOMPARE(QCoreApplication::applicationVersion(), QStringLiteral("1.2-3"));
+        for (const QByteArray &mode : {QByteArray("1"), QByteArray("true"), QByteArray("yes")}) {
+            const ScopedEnvironment tablet("QAZ_TABLET_MODE", mode);
+            QCOMPARE(qazInTabletMode(), mode != "yes");
+        }
+    }
+};
 
 QTEST_MAIN(TestDirectories)
 #include "tst_directories.moc"

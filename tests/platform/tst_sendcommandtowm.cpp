@@ -12,94 +12,72 @@ class TestSendCommandToWm : public QObject
     Q_OBJECT
 
 private slots:
-    void everyTextArrivesWhole_data();
-    void everyTextArrivesWhole();
-    void tooLongOrNoDisplaySendsNothing();
-    void messagesHaveTheFixedForm();
-    void interleavedSendersAreKeptApart();
+    void everyTextArrivesWhole()
+    {
+        WmListener listener;
+        // At 19 bytes the final NUL still fits the first message, at 20 it goes alone.
+        for (const QByteArray &text :
+             {QByteArray(""), QByteArray("QAZWM_RESTART"), QByteArray(18, 'a'), QByteArray(19, 'b'),
+              QByteArray("a\nb"), QByteArray("K Größe %s"), QByteArray(65535, 'x')}) {
+            SendCommandToWM(QX11Info::display(), (text + '\n').constData());
+            QCOMPARE(listener.take(), QStringList{QString::fromLocal8Bit(text)});
+        }
+        SendCommandToWM(QX11Info::display(), QByteArray(65537, 'x').constData());
+        SendCommandToWM(nullptr, "QAZWM_RESTART\n");
+        QCOMPARE(listener.take(), QStringList());
+    }
+
+    void messagesHaveTheFixedForm()
+    {
+        Display *receiver = XOpenDisplay(nullptr);
+        QVERIFY(receiver);
+        XSelectInput(receiver, DefaultRootWindow(receiver), SubstructureNotifyMask);
+        XSync(receiver, False);
+        SendCommandToWM(QX11Info::display(), "0123456789012345678901234\n");
+        XSync(QX11Info::display(), False);
+        XSync(receiver, False);
+
+        QVector<XClientMessageEvent> messages;
+        while (XPending(receiver) > 0) {
+            XEvent event;
+            XNextEvent(receiver, &event);
+            if (event.type == ClientMessage)
+                messages.append(event.xclient);
+        }
+        QCOMPARE(messages.size(), 2);
+        QCOMPARE(messages[0].message_type, XInternAtom(receiver, "_QAZWM_COMMAND_BEGIN", True));
+        QCOMPARE(messages[1].message_type, XInternAtom(receiver, "_QAZWM_COMMAND", True));
+        for (const XClientMessageEvent &message : qAsConst(messages)) {
+            QCOMPARE(message.format, 8);
+            XWindowAttributes attributes = {};
+            QVERIFY(XGetWindowAttributes(receiver, message.window, &attributes));
+            QCOMPARE(attributes.map_state, IsUnmapped);
+        }
+        QCOMPARE(QByteArray(messages[0].data.b, 20), QByteArray("01234567890123456789"));
+        QCOMPARE(QByteArray(messages[1].data.b, 20), QByteArray("01234\n") + QByteArray(14, '\0'));
+        XCloseDisplay(receiver);
+    }
+
+    void interleavedSendersAreKeptApart()
+    {
+        const auto padded = [](const char *text) { return QByteArray(text).leftJustified(20, '\0', true); };
+        const QByteArray full(20, 'a');
+        CommandReceiver receiver;
+        const auto take = [&receiver](int sender, bool begins, const QByteArray &bytes) {
+            return receiver.take(quint64(sender), begins, bytes.constData());
+        };
+        QVERIFY(take(1, true, full).isNull());
+        QVERIFY(take(2, true, full).isNull());
+        QCOMPARE(take(2, false, padded("two")), full + "two");
+        QCOMPARE(take(1, false, padded("one")), full + "one");
+        QVERIFY2(take(1, false, padded("x")).isNull(), "a following message without a first one");
+        QVERIFY(take(1, true, full).isNull());
+        QCOMPARE(take(1, true, padded("again")), QByteArray("again"));
+        for (int bytes = 0; bytes <= CommandReceiver::longestCommand; bytes += 20)
+            QVERIFY(take(3, bytes == 0, full).isNull());
+        QVERIFY2(take(3, false, padded("end")).isNull(), "too long a command is dropped");
+    }
 };
-
-void TestSendCommandToWm::everyTextArrivesWhole_data()
-{
-    QTest::addColumn<QByteArray>("text");
-    QTest::newRow("empty") << QByteArray("");
-    QTest::newRow("short") << QByteArray("QAZWM_RESTART\n");
-    QTest::newRow("19 bytes and the NUL") << QByteArray(19, 'a');
-    QTest::newRow("20 bytes, the NUL alone") << QByteArray(20, 'b');
-    QTest::newRow("inner line breaks") << QByteArray("a\nb\n");
-    QTest::newRow("not ASCII") << QByteArray("K Gr\xc3\xb6\xc3\x9f"
-                                             "e %s\n");
-    QTest::newRow("the longest") << QByteArray(65536, 'x');
-}
-
-void TestSendCommandToWm::everyTextArrivesWhole()
-{
-    QFETCH(QByteArray, text);
-    WmListener listener;
-    SendCommandToWM(QX11Info::display(), text.constData());
-    if (text.endsWith('\n'))
-        text.chop(1);
-    QCOMPARE(listener.take(), QStringList{QString::fromLocal8Bit(text)});
-}
-
-void TestSendCommandToWm::tooLongOrNoDisplaySendsNothing()
-{
-    WmListener listener;
-    SendCommandToWM(QX11Info::display(), QByteArray(65537, 'x').constData());
-    SendCommandToWM(nullptr, "QAZWM_RESTART\n");
-    QCOMPARE(listener.take(), QStringList());
-}
-
-void TestSendCommandToWm::messagesHaveTheFixedForm()
-{
-    Display *receiver = XOpenDisplay(nullptr);
-    QVERIFY(receiver);
-    XSelectInput(receiver, DefaultRootWindow(receiver), SubstructureNotifyMask);
-    XSync(receiver, False);
-    SendCommandToWM(QX11Info::display(), "0123456789012345678901234\n");
-    XSync(QX11Info::display(), False);
-    XSync(receiver, False);
-
-    QVector<XClientMessageEvent> messages;
-    while (XPending(receiver) > 0) {
-        XEvent event;
-        XNextEvent(receiver, &event);
-        if (event.type == ClientMessage)
-            messages.append(event.xclient);
-    }
-    QCOMPARE(messages.size(), 2);
-    QCOMPARE(messages[0].message_type, XInternAtom(receiver, "_QAZWM_COMMAND_BEGIN", True));
-    QCOMPARE(messages[1].message_type, XInternAtom(receiver, "_QAZWM_COMMAND", True));
-    for (const XClientMessageEvent &message : qAsConst(messages)) {
-        QCOMPARE(message.format, 8);
-        XWindowAttributes attributes = {};
-        QVERIFY(XGetWindowAttributes(receiver, message.window, &attributes));
-        QCOMPARE(attributes.map_state, IsUnmapped);
-    }
-    QCOMPARE(QByteArray(messages[0].data.b, 20), QByteArray("01234567890123456789"));
-    QCOMPARE(QByteArray(messages[1].data.b, 20), QByteArray("01234\n") + QByteArray(14, '\0'));
-    XCloseDisplay(receiver);
-}
-
-void TestSendCommandToWm::interleavedSendersAreKeptApart()
-{
-    const auto padded = [](const char *text) { return QByteArray(text).leftJustified(20, '\0', true); };
-    const QByteArray full(20, 'a');
-    CommandReceiver receiver;
-    const auto take = [&receiver](int sender, bool begins, const QByteArray &bytes) {
-        return receiver.take(quint64(sender), begins, bytes.constData());
-    };
-    QVERIFY(take(1, true, full).isNull());
-    QVERIFY(take(2, true, full).isNull());
-    QCOMPARE(take(2, false, padded("two")), full + "two");
-    QCOMPARE(take(1, false, padded("one")), full + "one");
-    QVERIFY2(take(1, false, padded("x")).isNull(), "a following message without a first one");
-    QVERIFY(take(1, true, full).isNull());
-    QCOMPARE(take(1, true, padded("again")), QByteArray("again"));
-    for (int bytes = 0; bytes <= CommandReceiver::longestCommand; bytes += 20)
-        QVERIFY(take(3, bytes == 0, full).isNull());
-    QVERIFY2(take(3, false, padded("end")).isNull(), "too long a command is dropped");
-}
 
 QTEST_MAIN(TestSendCommandToWm)
 #include "tst_sendcommandtowm.moc"

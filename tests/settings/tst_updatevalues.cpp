@@ -1,5 +1,4 @@
 #include "platform/qazsettings.h"
-#include "settings/textvalues.h"
 #include "settings/updatevalues.h"
 #include "tests/support/temporaryhome.h"
 #include "tests/support/wmlistener.h"
@@ -11,102 +10,64 @@ class TestUpdateValues : public QObject
     Q_OBJECT
 
 private slots:
-    void onlyDifferencesAreStoredAndAnnounced_data();
-    void onlyDifferencesAreStoredAndAnnounced();
-    void oddTextsReachFileAndWindowManager_data();
-    void oddTextsReachFileAndWindowManager();
-};
-
-void TestUpdateValues::onlyDifferencesAreStoredAndAnnounced_data()
-{
-    QTest::addColumn<QByteArray>("before");
-    QTest::addColumn<QString>("defaultText");
-    QTest::addColumn<QVariant>("value");
-    QTest::addColumn<QByteArray>("after"); // the same as before: nothing is sent, either
-
-    QTest::newRow("int changes") << QByteArray("K=600\n") << QStringLiteral("0") << QVariant(300)
-                                 << QByteArray("K=300\n");
-    QTest::newRow("int stays") << QByteArray("K=600\n") << QStringLiteral("0") << QVariant(600)
-                               << QByteArray("K=600\n");
-    QTest::newRow("int is the default")
-        << QByteArray() << QStringLiteral("600") << QVariant(600) << QByteArray();
-    QTest::newRow("int differs from the default")
-        << QByteArray() << QStringLiteral("600") << QVariant(-5) << QByteArray("K=-5\n");
-    QTest::newRow("no number is 0") << QByteArray("K=abc\n") << QStringLiteral("7") << QVariant(0)
-                                    << QByteArray("K=abc\n");
-    QTest::newRow("true stays") << QByteArray("K=true\n") << QStringLiteral("false") << QVariant(true)
-                                << QByteArray("K=true\n");
-    QTest::newRow("True is true") << QByteArray("K=True\n") << QStringLiteral("false") << QVariant(true)
-                                  << QByteArray("K=True\n");
-    QTest::newRow("TRUE is false") << QByteArray("K=TRUE\n") << QStringLiteral("true") << QVariant(true)
-                                   << QByteArray("K=true\n");
-    QTest::newRow("1 and yes are false")
-        << QByteArray("K=yes\n") << QStringLiteral("true") << QVariant(false) << QByteArray("K=yes\n");
-    QTest::newRow("bool is the default")
-        << QByteArray() << QStringLiteral("true") << QVariant(true) << QByteArray();
-    QTest::newRow("bool changes") << QByteArray("K=true\n") << QStringLiteral("true") << QVariant(false)
-                                  << QByteArray("K=false\n");
-    QTest::newRow("text stays") << QByteArray("K=a b\n") << QStringLiteral("")
-                                << QVariant(QStringLiteral("a b")) << QByteArray("K=a b\n");
-    QTest::newRow("text differs in case")
-        << QByteArray("K=a\n") << QStringLiteral("") << QVariant(QStringLiteral("A")) << QByteArray("K=A\n");
-    QTest::newRow("text becomes empty")
-        << QByteArray("K=a\n") << QStringLiteral("") << QVariant(QStringLiteral("")) << QByteArray("K=\n");
-}
-
-void TestUpdateValues::onlyDifferencesAreStoredAndAnnounced()
-{
-    QFETCH(QByteArray, before);
-    QFETCH(QString, defaultText);
-    QFETCH(QVariant, value);
-    QFETCH(QByteArray, after);
-    const TemporaryHome home;
-    const QString path = home.write(QStringLiteral("t"), before);
-    WmListener listener;
-    bool changed = false;
+    void onlyDifferencesAreStoredAndAnnounced_data()
     {
+        const auto text = [](const char *value) { return QVariant(QString::fromUtf8(value)); };
+        const struct {
+            const char *name;
+            const char *before;
+            const char *defaultText;
+            QVariant value;
+            const char *after; // the same as before: nothing is sent, either
+        } rows[] = {{"int changes", "K=600\n", "0", 300, "K=300\n"},
+                    {"int stays", "K=600\n", "0", 600, "K=600\n"},
+                    {"int is the default", "", "600", 600, ""},
+                    {"int differs from the default", "", "600", -5, "K=-5\n"},
+                    {"no number is 0", "K=abc\n", "7", 0, "K=abc\n"},
+                    {"true stays", "K=true\n", "false", true, "K=true\n"},
+                    {"True is true", "K=True\n", "false", true, "K=True\n"},
+                    {"TRUE is false", "K=TRUE\n", "true", true, "K=true\n"},
+                    {"yes is false", "K=yes\n", "true", false, "K=yes\n"},
+                    {"bool is the default", "", "true", true, ""},
+                    {"bool changes", "K=true\n", "true", false, "K=false\n"},
+                    {"text stays", "K=a b\n", "", text("a b"), "K=a b\n"},
+                    {"text differs in case", "K=a\n", "", text("A"), "K=A\n"},
+                    {"text becomes empty", "K=a\n", "", text(""), "K=\n"},
+                    {"odd text", "", "", text(" 字%n%s%1\nß "), "K=\\s字%n%s%1\\nß\\s\n"}};
+        QTest::addColumn<QByteArray>("before");
+        QTest::addColumn<QString>("defaultText");
+        QTest::addColumn<QVariant>("value");
+        QTest::addColumn<QByteArray>("after");
+        for (const auto &row : rows)
+            QTest::newRow(row.name) << QByteArray(row.before) << QString::fromLatin1(row.defaultText)
+                                    << row.value << QByteArray(row.after);
+    }
+    void onlyDifferencesAreStoredAndAnnounced()
+    {
+        QFETCH(QByteArray, before);
+        QFETCH(QString, defaultText);
+        QFETCH(QVariant, value);
+        QFETCH(QByteArray, after);
+        const TemporaryHome home;
         const QString key = QStringLiteral("K");
-        QazSettings store(path);
-        store.sync(true);
-        if (value.type() == QVariant::Bool)
-            changed = updateBoolValue(&store, key, defaultText, value.toBool());
-        else if (value.type() == QVariant::Int)
-            changed = updateIntValue(&store, key, defaultText, value.toInt());
-        else
-            changed = updateStringValue(&store, key, defaultText, value.toString());
+        WmListener listener;
+        bool changed = false;
+        {
+            QazSettings store(home.write(QStringLiteral("t"), before));
+            store.sync(true);
+            if (value.type() == QVariant::Bool)
+                changed = updateBoolValue(&store, key, defaultText, value.toBool());
+            else if (value.type() == QVariant::Int)
+                changed = updateIntValue(&store, key, defaultText, value.toInt());
+            else
+                changed = updateStringValue(&store, key, defaultText, value.toString());
+        }
+        QCOMPARE(home.read(QStringLiteral("t")), after);
+        QCOMPARE(changed, before != after);
+        const QString command = QLatin1String("QAZWM_UPDATE_VAL K ") + value.toString();
+        QCOMPARE(listener.take(), changed ? QStringList{command} : QStringList());
     }
-    QCOMPARE(home.read(QStringLiteral("t")), after);
-    QCOMPARE(changed, before != after);
-    const QStringList expected = changed
-                                     ? QStringList{QLatin1String("QAZWM_UPDATE_VAL K ") + value.toString()}
-                                     : QStringList();
-    QCOMPARE(listener.take(), expected);
-}
-
-void TestUpdateValues::oddTextsReachFileAndWindowManager_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::newRow("blanks at the ends") << QStringLiteral("  x ");
-    QTest::newRow("percent signs") << QStringLiteral("%n%s%1 100%");
-    QTest::newRow("line break") << QStringLiteral("a\nb");
-    QTest::newRow("not ASCII") << QStringLiteral("Größe 字");
-    QTest::newRow("10,000 characters") << QString(10000, QLatin1Char('z'));
-}
-
-void TestUpdateValues::oddTextsReachFileAndWindowManager()
-{
-    QFETCH(QString, text);
-    const TemporaryHome home;
-    WmListener listener;
-    {
-        QazSettings store(home.path(QStringLiteral("t")));
-        QVERIFY(updateStringValue(&store, QStringLiteral("Key"), QString(), text));
-    }
-    QCOMPARE(listener.take(), QStringList{QLatin1String("QAZWM_UPDATE_VAL Key ") + text});
-    QazSettings store(home.path(QStringLiteral("t")));
-    store.sync(true);
-    QCOMPARE(store.value(QStringLiteral("Key")).toString(), text);
-}
+};
 
 QTEST_MAIN(TestUpdateValues)
 #include "tst_updatevalues.moc"
