@@ -5,10 +5,11 @@
 #include "pages/sounds/soundpage.h"
 #include "pages/theme/themepage.h"
 #include "pages/wallpaper/wallpaperpage.h"
-#include "platform/qazhelp.h"
 #include "platform/qazinit.h"
 #include "platform/slidingstackedwidget.h"
 #include "resources/registerresources.h"
+#include "tests/support/fakeprogram.h"
+#include "tests/support/literals.h"
 #include "tests/support/modaldriver.h"
 #include "tests/support/temporaryhome.h"
 #include "tests/support/wmlistener.h"
@@ -24,386 +25,358 @@
 #include <QWheelEvent>
 #include <QtTest>
 
+#include <malloc.h>
+#if defined(__SANITIZE_ADDRESS__)
+extern "C" std::size_t __sanitizer_get_current_allocated_bytes(); // GCC ships no header for it
+#endif
+
+namespace {
+
+/// Bytes that this process has allocated and not freed.
+qint64 bytesInUse()
+{
+#if defined(__SANITIZE_ADDRESS__)
+    return qint64(__sanitizer_get_current_allocated_bytes());
+#else
+    const struct mallinfo2 info = ::mallinfo2();
+    return qint64(info.uordblks + info.hblkhd);
+#endif
+}
+
+/// Turns the wheel over \a widget by one step.
+void turnWheel(QWidget *widget)
+{
+    QWheelEvent event(QPointF(5, 5), widget->mapToGlobal(QPoint(5, 5)), QPoint(), QPoint(0, -120),
+                      Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(widget, &event);
+}
+
+} // namespace
+
 class TestConfigDialog : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void init();
-    void cleanup();
-    void itOpensCleanOnTheFirstPage();
-    void sizesAreKept_data();
-    void sizesAreKept();
-    void pagesAreLoadedOnceWhenFirstShown();
-    void editsSurviveSwitchingPages();
-    void onlyVisitedPagesAreSavedInOrder();
-    void applyingTwiceWritesAndSendsNothing();
-    void unsavedEditsAreGuarded_data();
-    void unsavedEditsAreGuarded();
-    void returnPressesOkOnEveryPage();
-    void theWheelChangesNothingUnfocused();
-    void fastClicksSlideToTheLastPage();
-    void theWindowCanBeSmall();
-    void whateverTheFileIsNothingBreaks_data();
-    void whateverTheFileIsNothingBreaks();
-    void helpOpensAtThePageInView();
-    void aMessageBringsTheWindowUp();
+    void initTestCase()
+    {
+        const TemporaryHome home;
+        registerResources();
+        qazInit("1", "title");
+    }
+
+    void init() { m_home = std::make_unique<TemporaryHome>(); }
+
+    void cleanup()
+    {
+        m_dialog.reset();
+        m_home.reset();
+    }
+
+    void itOpensCleanAndLoadsPagesWhenFirstShown()
+    {
+        open();
+        QStringList rows;
+        QStringList pages;
+        for (int row = 0; row < m_list->count(); ++row) {
+            rows.append(m_list->item(row)->text());
+            pages.append(QLatin1String(m_stack->widget(row)->metaObject()->className()));
+            QCOMPARE(m_list->item(row)->flags(), Qt::ItemIsSelectable | Qt::ItemIsEnabled);
+            QVERIFY2(!m_list->item(row)->icon().isNull(), "the fallback icon theme has every icon");
+        }
+        QCOMPARE(rows.join(u' '), "Wallpaper Theme Fonts Screensaver Effects Sounds"_s);
+        QCOMPARE(pages.join(u' '), "WallpaperPage ThemePage FontPage ScreensaverPage EffectPage SoundPage"_s);
+        QCOMPARE(m_list->currentRow(), 0);
+        QCOMPARE(m_stack->currentIndex(), 0);
+        QCOMPARE(m_list->width(), m_list->gridSize().width() + 20);
+        QCOMPARE(m_dialog->windowTitle(), "Qaz Theme Editor - t[*]"_s);
+        verifyEdited(false);
+        QVERIFY(button(QDialogButtonBox::Ok)->isDefault());
+        QVERIFY(button(QDialogButtonBox::Close)->isEnabled());
+        QVERIFY(button(QDialogButtonBox::Help)->isEnabled());
+        QCOMPARE(m_dialog->requestToSave(true), int(QMessageBox::No));
+
+        const auto loaded = [this] {
+            return QList<bool>{find<WallpaperPage>()->loaded, find<ThemePage>()->loaded,
+                               find<FontPage>()->loaded,      find<ScreensaverPage>()->loaded,
+                               find<EffectPage>()->loaded,    find<SoundPage>()->loaded};
+        };
+        QList<bool> expected{true, false, false, false, false, false};
+        QCOMPARE(loaded(), expected);
+        for (int row = 5; row > 0; --row) {
+            m_list->setCurrentRow(row);
+            expected[row] = true;
+            QCOMPARE(loaded(), expected);
+            QCOMPARE(m_stack->currentIndex(), row);
+            QVERIFY2(!m_dialog->isWindowModified(), qPrintable(rows.at(row)));
+        }
+        QVERIFY2(!QGuiApplication::overrideCursor(), "every page gives the cursor back");
+    }
+
+    void sizesAreKept_data()
+    {
+        QTest::addColumn<QByteArray>("stored");
+        QTest::addColumn<QSize>("size"); // invalid: the default
+        QTest::newRow("nothing stored") << QByteArray() << QSize();
+        QTest::newRow("stored") << QByteArray("width=1000\nheight=900\n") << QSize(1000, 900);
+        QTest::newRow("garbage") << QByteArray("width=wide\nheight=-3\n") << QSize();
+        QTest::newRow("beyond X") << QByteArray("width=99999999\nheight=0\n") << QSize();
+    }
+    void sizesAreKept()
+    {
+        QFETCH(QByteArray, stored);
+        QFETCH(QSize, size);
+        m_home->write(".config/qaz/qaz-admin-theme.conf"_s, "[General]\n" + stored);
+        open();
+        if (!size.isValid())
+            size = QSize(qMax(800, m_dialog->minimumSizeHint().width()),
+                         (m_list->fontMetrics().height() + 74) * 7);
+        QCOMPARE(m_dialog->size(), size);
+        m_dialog.reset();
+        const QSettings settings;
+        QCOMPARE(settings.value("width"_s).toInt(), size.width());
+        QCOMPARE(settings.value("height"_s).toInt(), size.height());
+    }
+
+    void editsSurviveSwitchingPages()
+    {
+        open("ScreenSaverDelay=600\n");
+        editTheDelay(7);
+        m_home->write("t"_s, "ScreenSaverDelay=900\n");
+        showPage("Wallpaper");
+        showPage("Screensaver");
+        QCOMPARE(delay()->value(), 7);
+        verifyEdited(true);
+    }
+
+    void onlyVisitedPagesAreSavedInOrderAndOnce()
+    {
+        open("ScreenSaverDelay=90\nOpaqueMove=false\nEnableSound=TRUE\n");
+        WmListener listener;
+        showPage("Screensaver");
+        showPage("Effects");
+        find<QCheckBox>("opaqueMoveCheckBox")->click();
+        find<QComboBox>("wallpaperPositionCombo")->setCurrentIndex(1);
+        button(QDialogButtonBox::Apply)->click();
+        QStringList keys;
+        for (const QString &command : listener.take())
+            keys.append(command.section(u' ', 1, 1));
+        QVERIFY2(keys.indexOf("WallPaperPos"_s) == 0, qPrintable(keys.join(u' ')));
+        QVERIFY(keys.indexOf("OpaqueMove"_s) > 0);
+        QCOMPARE(keys.last(), "ScreenSaverDelay"_s);
+        const QByteArray saved = m_home->read("t"_s);
+        QVERIFY2(saved.contains("\nEnableSound=TRUE\n") && !saved.contains("Color"), saved.constData());
+        verifyEdited(false);
+
+        const QString before = m_home->fingerprint();
+        m_dialog->applySlot();
+        QCOMPARE(listener.take(), QStringList());
+        QCOMPARE(m_home->fingerprint(), before);
+    }
+
+    void unsavedEditsAreGuarded_data()
+    {
+        QTest::addColumn<int>("answer");
+        QTest::addColumn<int>("saved");
+        QTest::newRow("Yes") << int(QMessageBox::Yes) << 300;
+        QTest::newRow("No") << int(QMessageBox::No) << 600;
+        QTest::newRow("Cancel") << int(QMessageBox::Cancel) << 600;
+    }
+    void unsavedEditsAreGuarded()
+    {
+        QFETCH(int, answer);
+        QFETCH(int, saved);
+        open("ScreenSaverDelay=600\n");
+        editTheDelay(5);
+        ModalDriver driver;
+        if (answer == QMessageBox::Cancel)
+            driver.then([](QDialog *box) { QTest::keyClick(box, Qt::Key_Escape); });
+        else
+            driver.thenAnswer(QMessageBox::StandardButton(answer));
+        QTest::keyClick(m_dialog.get(), Qt::Key_Escape);
+        QVERIFY(driver.isDone());
+        QCOMPARE(driver.seen(), QStringList{"Save ?|Save changes?"_s});
+        QCOMPARE(m_dialog->isVisible(), answer == QMessageBox::Cancel);
+        QCOMPARE(m_home->read("t"_s), "ScreenSaverDelay=" + QByteArray::number(saved) + '\n');
+
+        m_dialog->changedSlot();
+        driver.then([](QDialog *dialog) {
+            auto *box = qobject_cast<QMessageBox *>(dialog);
+            QVERIFY(box && box->buttons().size() == 2 && !box->button(QMessageBox::Cancel));
+            box->button(QMessageBox::No)->click();
+        });
+        QCOMPARE(m_dialog->requestToSave(false), int(QMessageBox::No));
+        QVERIFY(driver.isDone());
+    }
+
+    void returnPressesOkOnEveryPage()
+    {
+        open();
+        for (int row = 0; row < m_list->count(); ++row) {
+            m_list->setCurrentRow(row);
+            m_dialog->changedSlot();
+            const auto buttons = m_stack->currentWidget()->findChildren<QPushButton *>();
+            for (QPushButton *pageButton : buttons) {
+                if (!pageButton->isVisible() || !pageButton->isEnabled())
+                    continue;
+                pageButton->setFocus();
+                QVERIFY(pageButton->hasFocus());
+                QVERIFY2(button(QDialogButtonBox::Ok)->isDefault() && !pageButton->isDefault(),
+                         qPrintable(pageButton->objectName()));
+            }
+        }
+        editTheDelay(5);
+        delay()->setFocus();
+        QTest::keyClick(delay(), Qt::Key_Return);
+        QVERIFY(!m_dialog->isVisible());
+        QVERIFY(m_home->read("t"_s).contains("ScreenSaverDelay=300\n"));
+    }
+
+    void theWheelChangesNothingUnfocused()
+    {
+        open();
+        int turned = 0;
+        for (int row = 0; row < m_list->count(); ++row) {
+            m_list->setCurrentRow(row);
+            m_list->setFocus();
+            for (auto *widget : m_stack->currentWidget()->findChildren<QWidget *>()) {
+                const char *property = qobject_cast<QSpinBox *>(widget)    ? "value"
+                                       : qobject_cast<QComboBox *>(widget) ? "currentIndex"
+                                                                           : nullptr;
+                if (!property)
+                    continue;
+                const QVariant before = widget->property(property);
+                turnWheel(widget);
+                QVERIFY2(widget->property(property) == before && !widget->hasFocus(),
+                         qPrintable(widget->objectName()));
+                ++turned;
+            }
+        }
+        QVERIFY(turned > 20);
+        verifyEdited(false);
+        showPage("Screensaver");
+        delay()->setFocus();
+        turnWheel(delay());
+        QCOMPARE(delay()->value(), 9);
+    }
+
+    void fastClicksSlideToTheLastPage()
+    {
+        const ScopedEnvironment tablet("QAZ_TABLET_MODE", "1");
+        open();
+        QSignalSpy finished(m_stack, &SlidingStackedWidget::animationFinished);
+        const QList<int> rows{3, 4, 5, 3, 0, 4};
+        for (const int row : rows)
+            QTest::mouseClick(m_list->viewport(), Qt::LeftButton, {},
+                              m_list->visualItemRect(m_list->item(row)).center());
+        QTRY_COMPARE(finished.count(), rows.size());
+        QCOMPARE(m_list->currentRow(), rows.last());
+        QCOMPARE(m_stack->currentIndex(), rows.last());
+        QVERIFY(find<EffectPage>()->isVisible());
+    }
+
+    void theWindowCanBeSmall()
+    {
+        open();
+        for (int row = 0; row < m_list->count(); ++row)
+            m_list->setCurrentRow(row);
+        m_dialog->resize(1024, 560);
+        QTRY_COMPARE(m_dialog->size(), QSize(1024, 560));
+        for (const QAbstractButton *each : m_dialog->buttonBox()->buttons())
+            QVERIFY(m_dialog->rect().contains(QRect(each->mapTo(m_dialog.get(), QPoint()), each->size())));
+    }
+
+    void aMessageBringsTheWindowUp()
+    {
+        open();
+        m_dialog->showMinimized();
+        QVERIFY(m_dialog->messageReceived("anything"_s));
+        QVERIFY(!m_dialog->isMinimized());
+        m_dialog->hide();
+        QVERIFY(m_dialog->messageReceived(QString()));
+        QVERIFY(m_dialog->isVisible());
+    }
+
+    /// As after hours of use.
+    void memoryStaysFlat_data()
+    {
+        QTest::addColumn<bool>("isApplying"); // else switching pages
+        QTest::addColumn<int>("count");
+        QTest::newRow("page switches") << false << 1000;
+        QTest::newRow("applies") << true << 200;
+    }
+    void memoryStaysFlat()
+    {
+        QFETCH(bool, isApplying);
+        QFETCH(int, count);
+        FakePrograms programs;
+        programs.add("xrdb"_s);
+        open();
+        const auto act = [&](int times) {
+            for (int i = 0; i < times; ++i) {
+                m_list->setCurrentRow(isApplying ? 3 : (m_list->currentRow() + 1) % m_list->count());
+                if (isApplying) {
+                    delay()->setValue(delay()->value() == 10 ? 20 : 10);
+                    button(QDialogButtonBox::Apply)->click();
+                }
+                QCoreApplication::processEvents();
+            }
+        };
+        for (int row = 0; row < m_list->count(); ++row)
+            m_list->setCurrentRow(row);
+        act(count / 10);
+        const qint64 before = bytesInUse();
+        act(count);
+        const qint64 growth = bytesInUse() - before;
+        // Caches grow a little; a leak of 100 bytes each time would show.
+        QVERIFY2(growth < 100 * count, qPrintable("grew by %1 bytes"_s.arg(growth)));
+    }
 
 private:
-    void open(const QString &file);
-    void showPage(const QString &name);
+    /// Opens the window over the theme file "t" with \a content; a null array makes no file.
+    void open(const QByteArray &content = {})
+    {
+        if (!content.isNull())
+            m_home->write("t"_s, content);
+        m_dialog = std::make_unique<ConfigDialog>(m_home->path("t"_s));
+        m_list = find<QListWidget>("contentsWidget");
+        m_stack = find<SlidingStackedWidget>();
+        m_dialog->show();
+        QVERIFY(QTest::qWaitForWindowExposed(m_dialog.get()));
+        m_dialog->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_dialog.get()));
+    }
+    void showPage(const char *name)
+    {
+        m_list->setCurrentItem(m_list->findItems(QLatin1String(name), Qt::MatchExactly).value(0));
+    }
+    void editTheDelay(int minutes)
+    {
+        showPage("Screensaver");
+        delay()->setValue(minutes);
+    }
+    void verifyEdited(bool isEdited)
+    {
+        QCOMPARE(m_dialog->isWindowModified(), isEdited);
+        QCOMPARE(button(QDialogButtonBox::Ok)->isEnabled(), isEdited);
+        QCOMPARE(button(QDialogButtonBox::Apply)->isEnabled(), isEdited);
+    }
     QPushButton *button(QDialogButtonBox::StandardButton which)
     {
         return m_dialog->buttonBox()->button(which);
     }
-    QListWidget *list() { return m_dialog->findChild<QListWidget *>(QStringLiteral("contentsWidget")); }
-    SlidingStackedWidget *stack() { return m_dialog->findChild<SlidingStackedWidget *>(); }
-    template<typename Page>
-    Page *page()
+    template<typename Widget>
+    Widget *find(const char *name = nullptr)
     {
-        return m_dialog->findChild<Page *>();
+        return m_dialog->findChild<Widget *>(QLatin1String(name));
     }
-    QSpinBox *delay() { return m_dialog->findChild<QSpinBox *>(QStringLiteral("minutesToStartSpinBox")); }
+    QSpinBox *delay() { return find<QSpinBox>("minutesToStartSpinBox"); }
 
     std::unique_ptr<TemporaryHome> m_home;
     std::unique_ptr<ConfigDialog> m_dialog;
+    QListWidget *m_list = nullptr;
+    SlidingStackedWidget *m_stack = nullptr;
 };
-
-void TestConfigDialog::initTestCase()
-{
-    const TemporaryHome home;
-    registerResources();
-    qazInit("1", "title");
-}
-
-void TestConfigDialog::init()
-{
-    m_home = std::make_unique<TemporaryHome>();
-}
-
-void TestConfigDialog::cleanup()
-{
-    m_dialog.reset();
-    m_home.reset();
-}
-
-void TestConfigDialog::open(const QString &file)
-{
-    m_dialog = std::make_unique<ConfigDialog>(file);
-    m_dialog->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_dialog.get()));
-    m_dialog->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(m_dialog.get()));
-}
-
-void TestConfigDialog::showPage(const QString &name)
-{
-    const QList<QListWidgetItem *> items = list()->findItems(name, Qt::MatchExactly);
-    QCOMPARE(items.size(), 1);
-    list()->setCurrentItem(items.first());
-}
-
-void TestConfigDialog::itOpensCleanOnTheFirstPage()
-{
-    open(m_home->path(QStringLiteral("none.themerc")));
-    QStringList rows;
-    for (int row = 0; row < list()->count(); ++row) {
-        rows.append(list()->item(row)->text());
-        QCOMPARE(list()->item(row)->flags(), Qt::ItemIsSelectable | Qt::ItemIsEnabled);
-        QVERIFY2(!list()->item(row)->icon().isNull(), "the fallback icon theme has every icon");
-    }
-    QCOMPARE(rows.join(QLatin1Char(' ')), QStringLiteral("Wallpaper Theme Fonts Screensaver Effects Sounds"));
-    const QWidgetList pages = {page<WallpaperPage>(),   page<ThemePage>(),  page<FontPage>(),
-                               page<ScreensaverPage>(), page<EffectPage>(), page<SoundPage>()};
-    for (int index = 0; index < pages.size(); ++index)
-        QCOMPARE(stack()->widget(index), pages.at(index));
-    QCOMPARE(list()->currentRow(), 0);
-    QCOMPARE(stack()->currentIndex(), 0);
-    QCOMPARE(list()->width(), list()->gridSize().width() + 20);
-    QCOMPARE(m_dialog->windowTitle(), QStringLiteral("Qaz Theme Editor - none.themerc[*]"));
-    QVERIFY(!m_dialog->isWindowModified());
-    QVERIFY(!button(QDialogButtonBox::Ok)->isEnabled());
-    QVERIFY(button(QDialogButtonBox::Ok)->isDefault());
-    QVERIFY(!button(QDialogButtonBox::Apply)->isEnabled());
-    QVERIFY(button(QDialogButtonBox::Close)->isEnabled());
-    QVERIFY(button(QDialogButtonBox::Help)->isEnabled());
-    QCOMPARE(m_dialog->requestToSave(true), int(QMessageBox::No));
-}
-
-void TestConfigDialog::sizesAreKept_data()
-{
-    QTest::addColumn<QByteArray>("stored");
-    QTest::addColumn<QSize>("size"); // invalid: the default
-    QTest::newRow("nothing stored") << QByteArray() << QSize();
-    QTest::newRow("stored") << QByteArray("[General]\nwidth=1000\nheight=900\n") << QSize(1000, 900);
-    QTest::newRow("garbage") << QByteArray("[General]\nwidth=wide\nheight=-3\n") << QSize();
-    QTest::newRow("beyond X") << QByteArray("[General]\nwidth=99999999\nheight=0\n") << QSize();
-}
-
-void TestConfigDialog::sizesAreKept()
-{
-    QFETCH(QByteArray, stored);
-    QFETCH(QSize, size);
-    m_home->write(QStringLiteral(".config/qaz/qaz-admin-theme.conf"), stored);
-    open(m_home->path(QStringLiteral("t")));
-    const int row = QFontMetrics(list()->font()).height() + 74;
-    const QSize expected = size.isValid() ? size
-                                          : QSize(qMax(800, m_dialog->minimumSizeHint().width()), row * 7);
-    QCOMPARE(m_dialog->size(), expected);
-    m_dialog.reset();
-    const QSettings settings;
-    QCOMPARE(settings.value(QStringLiteral("width")).toInt(), expected.width());
-    QCOMPARE(settings.value(QStringLiteral("height")).toInt(), expected.height());
-}
-
-void TestConfigDialog::pagesAreLoadedOnceWhenFirstShown()
-{
-    open(m_home->path(QStringLiteral("t")));
-    const auto loaded = [this] {
-        return QList<bool>{page<WallpaperPage>()->loaded, page<ThemePage>()->loaded,
-                           page<FontPage>()->loaded,      page<ScreensaverPage>()->loaded,
-                           page<EffectPage>()->loaded,    page<SoundPage>()->loaded};
-    };
-    QList<bool> expected{true, false, false, false, false, false};
-    QCOMPARE(loaded(), expected);
-    for (int row = 5; row > 0; --row) {
-        list()->setCurrentRow(row);
-        expected[row] = true;
-        QCOMPARE(loaded(), expected);
-        QCOMPARE(stack()->currentIndex(), row);
-        QVERIFY2(!m_dialog->isWindowModified(), qPrintable(list()->currentItem()->text()));
-    }
-    QVERIFY2(!QGuiApplication::overrideCursor(), "every page gives the cursor back");
-}
-
-void TestConfigDialog::editsSurviveSwitchingPages()
-{
-    open(m_home->write(QStringLiteral("t"), "ScreenSaverDelay=600\n"));
-    showPage(QStringLiteral("Screensaver"));
-    delay()->setValue(7);
-    m_home->write(QStringLiteral("t"), "ScreenSaverDelay=900\n");
-    showPage(QStringLiteral("Wallpaper"));
-    showPage(QStringLiteral("Screensaver"));
-    QCOMPARE(delay()->value(), 7);
-    QVERIFY(m_dialog->isWindowModified());
-    QVERIFY(button(QDialogButtonBox::Ok)->isEnabled());
-    QVERIFY(button(QDialogButtonBox::Apply)->isEnabled());
-}
-
-void TestConfigDialog::onlyVisitedPagesAreSavedInOrder()
-{
-    open(m_home->write(QStringLiteral("t"), "ScreenSaverDelay=90\nOpaqueMove=false\nEnableSound=TRUE\n"));
-    WmListener listener;
-    showPage(QStringLiteral("Screensaver"));
-    showPage(QStringLiteral("Effects"));
-    m_dialog->findChild<QCheckBox *>(QStringLiteral("opaqueMoveCheckBox"))->click();
-    m_dialog->findChild<QComboBox *>(QStringLiteral("wallpaperPositionCombo"))->setCurrentIndex(1);
-    button(QDialogButtonBox::Apply)->click();
-    QStringList keys;
-    for (const QString &command : listener.take())
-        keys.append(command.section(QLatin1Char(' '), 1, 1));
-    QVERIFY2(keys.indexOf(QStringLiteral("WallPaperPos")) == 0, qPrintable(keys.join(QLatin1Char(' '))));
-    QVERIFY(keys.indexOf(QStringLiteral("OpaqueMove")) > 0);
-    QCOMPARE(keys.last(), QStringLiteral("ScreenSaverDelay"));
-    const QByteArray saved = m_home->read(QStringLiteral("t"));
-    QVERIFY2(saved.contains("\nEnableSound=TRUE\n") && !saved.contains("Color"), saved.constData());
-    QVERIFY(!m_dialog->isWindowModified());
-    QVERIFY(!button(QDialogButtonBox::Apply)->isEnabled());
-}
-
-void TestConfigDialog::applyingTwiceWritesAndSendsNothing()
-{
-    open(m_home->path(QStringLiteral("t")));
-    WmListener listener;
-    showPage(QStringLiteral("Screensaver"));
-    delay()->setValue(5);
-    m_dialog->applySlot();
-    QCOMPARE(listener.take(), QStringList{QStringLiteral("QAZWM_UPDATE_VAL ScreenSaverDelay 300")});
-    const QString before = m_home->fingerprint();
-    m_dialog->applySlot();
-    QCOMPARE(listener.take(), QStringList());
-    QCOMPARE(m_home->fingerprint(), before);
-}
-
-void TestConfigDialog::unsavedEditsAreGuarded_data()
-{
-    QTest::addColumn<int>("answer");
-    QTest::addColumn<bool>("closes");
-    QTest::addColumn<QByteArray>("saved");
-    QTest::newRow("Yes") << int(QMessageBox::Yes) << true << QByteArray("ScreenSaverDelay=300\n");
-    QTest::newRow("No") << int(QMessageBox::No) << true << QByteArray("ScreenSaverDelay=600\n");
-    QTest::newRow("Cancel") << int(QMessageBox::Cancel) << false << QByteArray("ScreenSaverDelay=600\n");
-}
-
-void TestConfigDialog::unsavedEditsAreGuarded()
-{
-    QFETCH(int, answer);
-    QFETCH(bool, closes);
-    QFETCH(QByteArray, saved);
-    open(m_home->write(QStringLiteral("t"), "ScreenSaverDelay=600\n"));
-    showPage(QStringLiteral("Screensaver"));
-    delay()->setValue(5);
-    ModalDriver driver;
-    driver.thenAnswer(QMessageBox::StandardButton(answer));
-    QTest::keyClick(m_dialog.get(), Qt::Key_Escape);
-    QVERIFY(driver.isDone());
-    QCOMPARE(driver.seen(), QStringList{QStringLiteral("Save ?|Save changes?")});
-    QCOMPARE(m_dialog->isVisible(), !closes);
-    QCOMPARE(m_home->read(QStringLiteral("t")), saved);
-
-    m_dialog->changedSlot();
-    driver.then([](QDialog *dialog) {
-        auto *box = qobject_cast<QMessageBox *>(dialog);
-        QVERIFY(box && box->buttons().size() == 2 && !box->button(QMessageBox::Cancel));
-        box->button(QMessageBox::No)->click();
-    });
-    QCOMPARE(m_dialog->requestToSave(false), int(QMessageBox::No));
-    QVERIFY(driver.isDone());
-}
-
-void TestConfigDialog::returnPressesOkOnEveryPage()
-{
-    open(m_home->path(QStringLiteral("t")));
-    for (int row = 0; row < list()->count(); ++row) {
-        list()->setCurrentRow(row);
-        m_dialog->changedSlot();
-        const QList<QPushButton *> buttons = stack()->currentWidget()->findChildren<QPushButton *>();
-        for (QPushButton *pageButton : buttons) {
-            if (!pageButton->isVisible() || !pageButton->isEnabled())
-                continue;
-            pageButton->setFocus();
-            QVERIFY(pageButton->hasFocus());
-            QVERIFY2(button(QDialogButtonBox::Ok)->isDefault() && !pageButton->isDefault(),
-                     qPrintable(pageButton->objectName()));
-        }
-    }
-    showPage(QStringLiteral("Screensaver"));
-    delay()->setFocus();
-    QSignalSpy accepted(m_dialog->buttonBox(), &QDialogButtonBox::accepted);
-    QTest::keyClick(delay(), Qt::Key_Return);
-    QCOMPARE(accepted.count(), 1);
-    QVERIFY(!m_dialog->isVisible());
-}
-
-void TestConfigDialog::theWheelChangesNothingUnfocused()
-{
-    open(m_home->path(QStringLiteral("t")));
-    const auto turn = [](QWidget *widget) {
-        QWheelEvent event(QPointF(5, 5), widget->mapToGlobal(QPoint(5, 5)), QPoint(), QPoint(0, -120),
-                          Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-        QCoreApplication::sendEvent(widget, &event);
-    };
-    int turned = 0;
-    for (int row = 0; row < list()->count(); ++row) {
-        list()->setCurrentRow(row);
-        list()->setFocus();
-        for (auto *spinBox : stack()->currentWidget()->findChildren<QSpinBox *>()) {
-            const int before = spinBox->value();
-            turn(spinBox);
-            QVERIFY2(spinBox->value() == before && !spinBox->hasFocus(), qPrintable(spinBox->objectName()));
-            ++turned;
-        }
-        for (auto *comboBox : stack()->currentWidget()->findChildren<QComboBox *>()) {
-            const int before = comboBox->currentIndex();
-            turn(comboBox);
-            QVERIFY2(comboBox->currentIndex() == before && !comboBox->hasFocus(),
-                     qPrintable(comboBox->objectName()));
-            ++turned;
-        }
-    }
-    QVERIFY(turned > 20);
-    QVERIFY(!m_dialog->isWindowModified());
-    showPage(QStringLiteral("Screensaver"));
-    delay()->setFocus();
-    turn(delay());
-    QCOMPARE(delay()->value(), 9);
-}
-
-void TestConfigDialog::fastClicksSlideToTheLastPage()
-{
-    const ScopedEnvironment tablet("QAZ_TABLET_MODE", "1");
-    open(m_home->path(QStringLiteral("t")));
-    QSignalSpy finished(stack(), &SlidingStackedWidget::animationFinished);
-    const QList<int> rows{3, 4, 5, 3, 0, 4};
-    for (const int row : rows)
-        QTest::mouseClick(list()->viewport(), Qt::LeftButton, {},
-                          list()->visualItemRect(list()->item(row)).center());
-    QTRY_COMPARE(finished.count(), rows.size());
-    QCOMPARE(list()->currentRow(), rows.last());
-    QCOMPARE(stack()->currentIndex(), rows.last());
-    for (int index = 0; index < stack()->count(); ++index)
-        QCOMPARE(stack()->widget(index)->isVisible(), index == rows.last());
-    QCOMPARE(stack()->currentWidget()->pos(), stack()->contentsRect().topLeft());
-}
-
-void TestConfigDialog::theWindowCanBeSmall()
-{
-    open(m_home->path(QStringLiteral("t")));
-    for (int row = 0; row < list()->count(); ++row)
-        list()->setCurrentRow(row);
-    m_dialog->resize(1024, 560);
-    QTRY_COMPARE(m_dialog->size(), QSize(1024, 560));
-    for (const QAbstractButton *each : m_dialog->buttonBox()->buttons())
-        QVERIFY(m_dialog->rect().contains(QRect(each->mapTo(m_dialog.get(), QPoint()), each->size())));
-}
-
-void TestConfigDialog::whateverTheFileIsNothingBreaks_data()
-{
-    QTest::addColumn<QByteArray>("content"); // null: a directory stands there
-    QTest::newRow("a directory") << QByteArray();
-    QTest::newRow("binary") << QByteArray("\0\xff\x01=\x02\n=\n[", 9);
-    QTest::newRow("no final newline") << QByteArray("ScreenSaverDelay=600");
-    QTest::newRow("CRLF") << QByteArray("A=1\r\nScreenSaverDelay=600\r\n");
-    QTest::newRow("50 MB") << "ScreenSaverDelay=600\n"
-                                  + QByteArray("# a long comment line\n").repeated(2400000);
-}
-
-void TestConfigDialog::whateverTheFileIsNothingBreaks()
-{
-    QFETCH(QByteArray, content);
-    const QString path = m_home->path(QStringLiteral("t"));
-    if (content.isNull())
-        m_home->makeDirectory(QStringLiteral("t"));
-    else
-        m_home->write(QStringLiteral("t"), content);
-    open(path);
-    showPage(QStringLiteral("Screensaver"));
-    delay()->setValue(5);
-    m_dialog->applySlot();
-    const QByteArray saved = m_home->read(QStringLiteral("t"));
-    if (content.contains("=600"))
-        QVERIFY(saved == content.replace("=600", "=300"));
-    else if (!content.isNull())
-        QVERIFY2(saved.contains("ScreenSaverDelay=300") && saved.contains("\xff\x01=\x02"),
-                 saved.constData());
-    else
-        QVERIFY(QFileInfo(path).isDir());
-}
-
-void TestConfigDialog::helpOpensAtThePageInView()
-{
-    open(m_home->path(QStringLiteral("t")));
-    showPage(QStringLiteral("Screensaver"));
-    QCOMPARE(qazHelpLookForWidget(), QStringLiteral("screensaver"));
-    button(QDialogButtonBox::Help)->click();
-    QWidget *help = nullptr;
-    for (QWidget *window : QApplication::topLevelWidgets())
-        help = window->objectName() == QLatin1String("helpWindow") ? window : help;
-    QVERIFY(help && help->isVisible() && !help->isModal());
-    help->close();
-}
-
-void TestConfigDialog::aMessageBringsTheWindowUp()
-{
-    open(m_home->path(QStringLiteral("t")));
-    m_dialog->showMinimized();
-    QVERIFY(m_dialog->messageReceived(QStringLiteral("anything")));
-    QVERIFY(!m_dialog->isMinimized());
-    m_dialog->hide();
-    QVERIFY(m_dialog->messageReceived(QString()));
-    QVERIFY(m_dialog->isVisible());
-}
 
 QTEST_MAIN(TestConfigDialog)
 #include "tst_configdialog.moc"

@@ -2,6 +2,7 @@
 #include "platform/qazinit.h"
 #include "resources/registerresources.h"
 #include "tests/support/fakeprogram.h"
+#include "tests/support/literals.h"
 #include "tests/support/modaldriver.h"
 #include "tests/support/temporaryhome.h"
 
@@ -72,14 +73,14 @@ private:
     std::unique_ptr<ConfigDialog> m_dialog;
     // clang-format off
     QVector<File> m_files = {
-        {QStringLiteral("current.themerc"),
+        {"current.themerc"_s,
          remarks("# mine\n") + "ScreenSaverDelay=600\nWallPaper=qaz-lagoon\nCompositeManager=compton\n[Other]\nx=1\n", {}},
-        {QStringLiteral(".config/fontconfig/fonts.conf"),
+        {".config/fontconfig/fonts.conf"_s,
          "<?xml version=\"1.0\"?>\n<!DOCTYPE fontconfig SYSTEM \"fonts.dtd\">\n<fontconfig>\n <dir>/fonts</dir>\n"
              + remarks(" <!-- mine -->\n") + "</fontconfig>\n", {}},
-        {QStringLiteral(".config/compton.conf"), remarks("# mine\n") + "shadow = false;\nfade = true;\n", {}},
-        {QStringLiteral(".Xresources"), remarks("! mine\n") + "Xft.dpi: 96\nother: 1\n", {}},
-        {QStringLiteral("Desktops/Desktop1/.directory"),
+        {".config/compton.conf"_s, remarks("# mine\n") + "shadow = false;\nfade = true;\n", {}},
+        {".Xresources"_s, remarks("! mine\n") + "Xft.dpi: 96\nother: 1\n", {}},
+        {"Desktops/Desktop1/.directory"_s,
          "[Desktop Entry]\nName=Desk\nX-QAZ-WallPaper=\"/a.png\"\n" + remarks("# mine\n"), {}}};
     // clang-format on
 };
@@ -108,7 +109,7 @@ void TestKilledApply::editEveryPage()
     antiAliasing->setCurrentIndex(0);
     emit antiAliasing->activated(0);
     child<QCheckBox>("wallpaperForCurrDesktopCheckBox")->setChecked(true);
-    child<QLineEdit>("wallpaperLineEdit")->setText(QStringLiteral("#204060"));
+    child<QLineEdit>("wallpaperLineEdit")->setText("#204060"_s);
     m_dialog->changedSlot();
 }
 
@@ -158,9 +159,8 @@ void TestKilledApply::everyFileIsOldOrNew()
         for (const File &file : m_files) {
             const QByteArray content = m_home.read(file.path);
             QVERIFY2(content == file.before || content == file.after,
-                     qPrintable(QStringLiteral("%1 has %2 bytes and ends with %3")
-                                    .arg(file.path, QString::number(content.size()),
-                                         QString::fromUtf8(content.right(300)))));
+                     qPrintable("%1 has %2 bytes and ends with %3"_s.arg(
+                         file.path, QString::number(content.size()), QString::fromUtf8(content.right(300)))));
         }
     }
     QVERIFY2(finished < rounds, "no process was killed");

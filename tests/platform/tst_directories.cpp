@@ -2,6 +2,7 @@
 #include "platform/getqazdir.h"
 #include "platform/qazinit.h"
 #include "tests/support/environment.h"
+#include "tests/support/literals.h"
 #include "tests/support/temporaryhome.h"
 
 #include <QFileInfo>
@@ -39,20 +40,20 @@ private slots:
     {
         const TemporaryHome home;
         const ScopedEnvironment data("QAZ_DATA_DIR", "/data/root/");
-        QCOMPARE(directory(2), home.path(QStringLiteral(".config/qaz")));
-        QCOMPARE(directory(3), home.path(QStringLiteral(".config/qaz")));
-        QCOMPARE(directory(14), QStringLiteral("/data/root/sounds"));
+        QCOMPARE(directory(2), home.path(".config/qaz"_s));
+        QCOMPARE(directory(3), home.path(".config/qaz"_s));
+        QCOMPARE(directory(14), "/data/root/sounds"_s);
         QCOMPARE(directory(18), home.path());
-        QCOMPARE(directory(21), home.path(QStringLiteral(".local/share/wallpapers")));
-        QCOMPARE(directory(27), QStringLiteral("/data/root/themes"));
+        QCOMPARE(directory(21), home.path(".local/share/wallpapers"_s));
+        QCOMPARE(directory(27), "/data/root/themes"_s);
         for (const int unknown : {0, 4, 5, 7, 13, 22, 99, -1})
             QCOMPARE(directory(unknown), QString());
         const char *personal = GetQazDir(2);
         const ScopedEnvironment config("XDG_CONFIG_HOME", "/elsewhere");
         GetQazDir(14);
         GetQazDir(18);
-        QCOMPARE(QByteArray(personal), QFile::encodeName(home.path(QStringLiteral(".config/qaz"))));
-        QCOMPARE(directory(2), QStringLiteral("/elsewhere/qaz"));
+        QCOMPARE(QByteArray(personal), QFile::encodeName(home.path(".config/qaz"_s)));
+        QCOMPARE(directory(2), "/elsewhere/qaz"_s);
     }
 
     void unsetEmptyAndRelativeVariablesFallBack()
@@ -61,17 +62,17 @@ private slots:
         for (const QByteArray &value : {QByteArray(), QByteArray(""), QByteArray("relative")}) {
             const ScopedEnvironment config("XDG_CONFIG_HOME", value);
             const ScopedEnvironment data("XDG_DATA_HOME", value);
-            QCOMPARE(directory(2), home.path(QStringLiteral(".config/qaz")));
-            QCOMPARE(directory(21), home.path(QStringLiteral(".local/share/wallpapers")));
+            QCOMPARE(directory(2), home.path(".config/qaz"_s));
+            QCOMPARE(directory(21), home.path(".local/share/wallpapers"_s));
         }
         const ScopedEnvironment unset("HOME", QByteArray());
-        QVERIFY2(directory(18).startsWith(QLatin1Char('/')), "the password database knows a home");
+        QVERIFY2(directory(18).startsWith(u'/'), "the password database knows a home");
     }
 
     void theCurrentDesktopIsTheRootWindows()
     {
         const TemporaryHome home;
-        QCOMPARE(directory(6), home.path(QStringLiteral("Desktops/Desktop1")));
+        QCOMPARE(directory(6), home.path("Desktops/Desktop1"_s));
         Display *display = QX11Info::display();
         const Atom current = XInternAtom(display, "_NET_CURRENT_DESKTOP", False);
         const auto set = [&](Atom type, int format, const void *value) {
@@ -80,19 +81,18 @@ private slots:
         };
         const long number = 2;
         set(XA_CARDINAL, 32, &number);
-        QCOMPARE(directory(6), home.path(QStringLiteral("Desktops/Desktop3")));
+        QCOMPARE(directory(6), home.path("Desktops/Desktop3"_s));
         set(XA_STRING, 8, "7");
-        QCOMPARE(directory(6), home.path(QStringLiteral("Desktops/Desktop1")));
+        QCOMPARE(directory(6), home.path("Desktops/Desktop1"_s));
         XDeleteProperty(display, DefaultRootWindow(display), current);
     }
 
     void renderedWallpapersAreMadePrivate()
     {
         const TemporaryHome home;
-        QCOMPARE(directory(1), home.path(QStringLiteral(".cache/qaz/wallpapers")));
+        QCOMPARE(directory(1), home.path(".cache/qaz/wallpapers"_s));
         QCOMPARE(modeOf(directory(1)), 0700U);
-        const ScopedEnvironment cache("XDG_CACHE_HOME",
-                                      QFile::encodeName(home.write(QStringLiteral("file"), "")));
+        const ScopedEnvironment cache("XDG_CACHE_HOME", QFile::encodeName(home.write("file"_s, "")));
         QCOMPARE(directory(1), QString());
     }
 
@@ -112,12 +112,12 @@ private slots:
     {
         const TemporaryHome home;
         QVERIFY(qazInit("1.2-3", "A title"));
-        QCOMPARE(modeOf(home.path(QStringLiteral(".config/qaz"))), 0700U);
+        QCOMPARE(modeOf(home.path(".config/qaz"_s)), 0700U);
         QCOMPARE(QDir(home.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
-                 QStringList{QStringLiteral(".config")});
-        QCOMPARE(QCoreApplication::organizationName(), QStringLiteral("qaz"));
-        QCOMPARE(QCoreApplication::applicationName(), QStringLiteral("qaz-admin-theme"));
-        QCOMPARE(QCoreApplication::applicationVersion(), QStringLiteral("1.2-3"));
+                 QStringList{".config"_s});
+        QCOMPARE(QCoreApplication::organizationName(), "qaz"_s);
+        QCOMPARE(QCoreApplication::applicationName(), "qaz-admin-theme"_s);
+        QCOMPARE(QCoreApplication::applicationVersion(), "1.2-3"_s);
         for (const QByteArray &mode : {QByteArray("1"), QByteArray("true"), QByteArray("yes")}) {
             const ScopedEnvironment tablet("QAZ_TABLET_MODE", mode);
             QCOMPARE(qazInTabletMode(), mode != "yes");

@@ -1,6 +1,7 @@
 #include "platform/findfileinpath.h"
 #include "platform/findinps.h"
 #include "tests/support/environment.h"
+#include "tests/support/literals.h"
 #include "tests/support/spawnedprocess.h"
 #include "tests/support/temporaryhome.h"
 
@@ -20,7 +21,7 @@ QString inPath(const QString &name)
 {
     char buffer[PATH_MAX] = "untouched";
     const bool found = FindFileInPATH(QFile::encodeName(name).constData(), buffer);
-    return found == (buffer[0] != '\0') ? QFile::decodeName(buffer) : QStringLiteral("contradiction");
+    return found == (buffer[0] != '\0') ? QFile::decodeName(buffer) : "contradiction"_s;
 }
 
 bool isRunning(const QString &name)
@@ -31,7 +32,7 @@ bool isRunning(const QString &name)
 /// A name that no other run of this test on the same machine has.
 QString unique(const QString &name)
 {
-    return QStringLiteral("%1-%2").arg(name).arg(::getpid());
+    return "%1-%2"_s.arg(name).arg(::getpid());
 }
 
 } // namespace
@@ -43,21 +44,20 @@ private slots:
     void firstExecutableFileInPathIsFound()
     {
         const TemporaryHome home;
-        home.write(QStringLiteral("a/manager"), "not executable");
-        home.makeDirectory(QStringLiteral("b/manager"));
-        const QString program = installWaitingProgram(home.path(QStringLiteral("c d/manager")));
-        installWaitingProgram(home.path(QStringLiteral("e/manager")));
-        const QString path = home.path(QStringLiteral("a:")) + home.path(QStringLiteral("b:"))
-                             + home.path(QStringLiteral("c d:")) + home.path(QStringLiteral("e"));
+        home.write("a/manager"_s, "not executable");
+        home.makeDirectory("b/manager"_s);
+        const QString program = installWaitingProgram(home.path("c d/manager"_s));
+        installWaitingProgram(home.path("e/manager"_s));
+        const QString path = home.path("a:"_s) + home.path("b:"_s) + home.path("c d:"_s) + home.path("e"_s);
         const ScopedEnvironment search("PATH", QFile::encodeName(path));
-        QCOMPARE(inPath(QStringLiteral("manager")), program);
-        QCOMPARE(inPath(QStringLiteral("anager")), QString());
+        QCOMPARE(inPath("manager"_s), program);
+        QCOMPARE(inPath("anager"_s), QString());
         QCOMPARE(inPath(QString()), QString());
         // A name with a slash stands for itself, wherever PATH leads.
         QCOMPARE(inPath(program), program);
-        QCOMPARE(inPath(home.path(QStringLiteral("a/manager"))), QString());
-        QCOMPARE(inPath(home.path(QStringLiteral("b/manager"))), QString());
-        QCOMPARE(inPath(QLatin1Char('/') + QString(2 * PATH_MAX, QLatin1Char('x'))), QString());
+        QCOMPARE(inPath(home.path("a/manager"_s)), QString());
+        QCOMPARE(inPath(home.path("b/manager"_s)), QString());
+        QCOMPARE(inPath(u'/' + QString(2 * PATH_MAX, u'x')), QString());
     }
 
     void runningProcessIsFoundByName()
@@ -68,14 +68,14 @@ private slots:
             bool found;
         };
         // Longer than the fifteen characters that the kernel keeps, and made to mislead a reader of its tables.
-        const QString file = unique(QStringLiteral("qaz) Z (test-manager"));
-        const QString alias = unique(QStringLiteral("qaz-test-alias"));
-        const QString wait = QStringLiteral("3600");
-        const Case cases[] = {{QStringLiteral("something else"), file, true},
-                              {QStringLiteral("/opt/x/") + alias, alias, true},
+        const QString file = unique("qaz) Z (test-manager"_s);
+        const QString alias = unique("qaz-test-alias"_s);
+        const QString wait = "3600"_s;
+        const Case cases[] = {{"something else"_s, file, true},
+                              {"/opt/x/"_s + alias, alias, true},
                               {file, file.mid(4), false},
                               {file, file.left(15), false},
-                              {QLatin1Char('/') + alias + QLatin1String("/x"), alias, false},
+                              {u'/' + alias + "/x"_s, alias, false},
                               {{}, {}, false},
                               {file, wait, false}};
         const TemporaryHome home;
@@ -83,17 +83,16 @@ private slots:
         for (const Case &one : cases) {
             QVERIFY(!isRunning(one.name));
             const SpawnedProcess process(program, {one.argument0, wait});
-            QVERIFY2(isRunning(one.name) == one.found,
-                     qPrintable(one.argument0 + QLatin1Char(' ') + one.name));
+            QVERIFY2(isRunning(one.name) == one.found, qPrintable(one.argument0 + u' ' + one.name));
         }
     }
 
     void replacedProgramRunsOnAndZombieDoesNot()
     {
         const TemporaryHome home;
-        const QString name = unique(QStringLiteral("qaz-test-upgraded"));
+        const QString name = unique("qaz-test-upgraded"_s);
         const QString program = installWaitingProgram(home.path(name));
-        SpawnedProcess process(program, {QStringLiteral("x"), QStringLiteral("3600")});
+        SpawnedProcess process(program, {"x"_s, "3600"_s});
         QVERIFY(QFile::remove(program));
         QVERIFY(isRunning(name));
         process.makeZombie();
@@ -103,9 +102,9 @@ private slots:
     void vanishingProcessesDisturbNothing()
     {
         const TemporaryHome home;
-        const QString name = unique(QStringLiteral("qaz-test-steady"));
+        const QString name = unique("qaz-test-steady"_s);
         const QString program = installWaitingProgram(home.path(name));
-        const SpawnedProcess steady(program, {program, QStringLiteral("3600")});
+        const SpawnedProcess steady(program, {program, "3600"_s});
         const pid_t spawner = ::fork();
         if (spawner == 0) {
             ::prctl(PR_SET_PDEATHSIG, SIGKILL); // also when the test itself fails

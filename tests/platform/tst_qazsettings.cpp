@@ -1,4 +1,5 @@
 #include "platform/qazsettings.h"
+#include "tests/support/literals.h"
 #include "tests/support/standarderror.h"
 #include "tests/support/temporaryhome.h"
 
@@ -17,20 +18,20 @@
 
 namespace {
 
-const QString file = QStringLiteral("t");
+const QString file = "t"_s;
 
-void save(const QString &path, const QString &value, const QString &key = QStringLiteral("Key"))
+void save(const QString &path, const QString &value, const QString &key = "Key"_s)
 {
     QazSettings store(path);
     store.sync(true);
     store.setValue(key, value);
 }
 
-QString load(const QString &path, const QString &key = QStringLiteral("Key"))
+QString load(const QString &path, const QString &key = "Key"_s)
 {
     QazSettings store(path);
     store.sync(true);
-    return store.value(key, QStringLiteral("default")).toString();
+    return store.value(key, "default"_s).toString();
 }
 
 /// What a file held, and what it must hold or give afterwards; of a given length, as NUL bytes may be inside.
@@ -87,9 +88,9 @@ private slots:
         QFETCH(QByteArray, after);
         const TemporaryHome home;
         const QString path = home.write(file, before);
-        save(path, QStringLiteral("300"));
+        save(path, "300"_s);
         QCOMPARE(home.read(file), after);
-        QCOMPARE(load(path), QStringLiteral("300"));
+        QCOMPARE(load(path), "300"_s);
     }
 
     void valuesAreReadAsTheyStand_data()
@@ -117,21 +118,15 @@ private slots:
 
     void everyTextSurvivesTheFile()
     {
-        const QStringList texts{QString(),
-                                QStringLiteral(" "),
-                                QStringLiteral("  a b  "),
-                                QStringLiteral("%1 %s %%"),
-                                QStringLiteral("\\s\\\\n \\"),
-                                QStringLiteral("\ta\r\nb\n\n"),
-                                QStringLiteral("[x]"),
-                                QStringLiteral("Größe 字 😀"),
-                                QString(10000, QLatin1Char('x'))};
+        const QStringList texts{{},           " "_s,           "  a b  "_s,
+                                "%1 %s %%"_s, "\\s\\\\n \\"_s, "\ta\r\nb\n\n"_s,
+                                "[x]"_s,      "Größe 字 😀"_s,  QString(10000, u'x')};
         for (const QString &text : texts) {
             const TemporaryHome home;
             const QString path = home.write(file, "Key=old\nAfter=1\n");
             save(path, text);
             QCOMPARE(load(path), text);
-            QCOMPARE(load(path, QStringLiteral("After")), QStringLiteral("1"));
+            QCOMPARE(load(path, "After"_s), "1"_s);
         }
     }
 
@@ -141,51 +136,51 @@ private slots:
         const QString path = home.write(file, "Key=a\n");
         const QString before = home.fingerprint();
         load(path);
-        save(path, QStringLiteral("a"));
+        save(path, "a"_s);
         QCOMPARE(home.fingerprint(), before);
 
         QazSettings store(path);
         store.sync(true);
-        const QString key = QStringLiteral("Key");
-        store.setValue(key, QStringLiteral("b"));
-        QCOMPARE(store.value(key).toString(), QStringLiteral("b"));
+        const QString key = "Key"_s;
+        store.setValue(key, "b"_s);
+        QCOMPARE(store.value(key).toString(), "b"_s);
         store.setValue(key, false);
-        QCOMPARE(store.value(key).toString(), QStringLiteral("false"));
+        QCOMPARE(store.value(key).toString(), "false"_s);
         QCOMPARE(home.fingerprint(), before);
     }
 
     void writingFollowsLinksKeepsTheModeAndMakesDirectories()
     {
         const TemporaryHome home;
-        const QString target = home.write(QStringLiteral("real/t"), "Key=a\n");
+        const QString target = home.write("real/t"_s, "Key=a\n");
         QFile::setPermissions(target, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup);
-        QVERIFY(QFile::link(QStringLiteral("real/t"), home.path(QStringLiteral("link"))));
-        save(home.path(QStringLiteral("link")), QStringLiteral("b"));
-        QVERIFY(QFileInfo(home.path(QStringLiteral("link"))).isSymLink());
-        QCOMPARE(home.read(QStringLiteral("real/t")), QByteArray("Key=b\n"));
+        QVERIFY(QFile::link("real/t"_s, home.path("link"_s)));
+        save(home.path("link"_s), "b"_s);
+        QVERIFY(QFileInfo(home.path("link"_s)).isSymLink());
+        QCOMPARE(home.read("real/t"_s), QByteArray("Key=b\n"));
         struct stat status = {};
         QCOMPARE(::stat(QFile::encodeName(target).constData(), &status), 0);
         QCOMPARE(uint(status.st_mode & 07777), 0640U);
 
-        QVERIFY(QFile::link(QStringLiteral("later"), home.path(QStringLiteral("dangling"))));
-        save(home.path(QStringLiteral("dangling")), QStringLiteral("c"));
-        QCOMPARE(home.read(QStringLiteral("later")), QByteArray("Key=c\n"));
-        save(home.path(QStringLiteral("a/b/t")), QStringLiteral("x"));
-        QCOMPARE(home.read(QStringLiteral("a/b/t")), QByteArray("Key=x\n"));
+        QVERIFY(QFile::link("later"_s, home.path("dangling"_s)));
+        save(home.path("dangling"_s), "c"_s);
+        QCOMPARE(home.read("later"_s), QByteArray("Key=c\n"));
+        save(home.path("a/b/t"_s), "x"_s);
+        QCOMPARE(home.read("a/b/t"_s), QByteArray("Key=x\n"));
     }
 
     void whatIsNoRegularFileStays()
     {
         const TemporaryHome home;
-        QVERIFY(home.makeDirectory(QStringLiteral("directory")));
-        QCOMPARE(::mkfifo(QFile::encodeName(home.path(QStringLiteral("fifo"))).constData(), 0600), 0);
-        QVERIFY(QFile::link(home.path(QStringLiteral("loop")), home.path(QStringLiteral("loop"))));
+        QVERIFY(home.makeDirectory("directory"_s));
+        QCOMPARE(::mkfifo(QFile::encodeName(home.path("fifo"_s)).constData(), 0600), 0);
+        QVERIFY(QFile::link(home.path("loop"_s), home.path("loop"_s)));
         const QString before = home.fingerprint();
         for (const char *name : {"directory", "fifo", "loop"}) {
             const QString path = home.path(QLatin1String(name));
             StandardError errors;
-            QCOMPARE(load(path), QStringLiteral("default"));
-            save(path, QStringLiteral("x"));
+            QCOMPARE(load(path), "default"_s);
+            save(path, "x"_s);
             QCOMPARE(home.fingerprint(), before);
             const QByteArray printed = errors.take();
             const QByteArray lastLine = "\nqaz-admin-theme: Can't write " + QFile::encodeName(path) + ": ";
@@ -205,7 +200,7 @@ private slots:
             ::setrlimit(RLIMIT_FSIZE, &limit);
             if (!std::freopen("/dev/null", "w", stderr))
                 ::_exit(1);
-            save(path, QStringLiteral("b"));
+            save(path, "b"_s);
             ::_exit(0);
         }
         int status = -1;
@@ -225,7 +220,7 @@ private slots:
         for (int writer = 0; writer < writers; ++writer) {
             threads.emplace_back([path, writer] {
                 for (int round = 0; round < rounds; ++round)
-                    save(path, QStringLiteral("1"), QStringLiteral("Key%1x%2").arg(writer).arg(round));
+                    save(path, "1"_s, "Key%1x%2"_s.arg(writer).arg(round));
             });
         }
         for (std::thread &thread : threads)
@@ -239,7 +234,7 @@ private slots:
         {
             QazSettings store(home.write(file, "A=1\nB=1\n"));
             store.sync(true);
-            store.setValue(QStringLiteral("A"), QStringLiteral("2"));
+            store.setValue("A"_s, "2"_s);
             home.write(file, "# new\nB=3\nA=1\nC=4\n");
         }
         QCOMPARE(home.read(file), QByteArray("# new\nB=3\nA=2\nC=4\n"));

@@ -1,4 +1,5 @@
 #include "settings/backup.h"
+#include "tests/support/literals.h"
 #include "tests/support/temporaryhome.h"
 
 #include <QDir>
@@ -9,8 +10,8 @@
 
 namespace {
 
-const QString backups = QStringLiteral(".local/state/qaz/backup/");
-const QString manifest = backups + QLatin1String("manifest");
+const QString backups = ".local/state/qaz/backup/"_s;
+const QString manifest = backups + "manifest"_s;
 
 QByteArray contentOf(const QString &path)
 {
@@ -29,45 +30,44 @@ private slots:
     {
         const TemporaryHome home;
         const QByteArray content("a\0b\r\n\xff", 6);
-        const QString original = home.write(QStringLiteral("docs/fonts.conf"), content);
+        const QString original = home.write("docs/fonts.conf"_s, content);
         const QString copy = backUp(original);
-        const QRegularExpression form(QLatin1Char('^') + home.path(backups)
-                                      + QLatin1String("\\d{8}T\\d{6}\\.\\d{3}Z-fonts\\.conf$"));
+        const QRegularExpression form(u'^' + home.path(backups) + "\\d{8}T\\d{6}\\.\\d{3}Z-fonts\\.conf$"_s);
         QVERIFY2(form.match(copy).hasMatch(), qPrintable(copy));
         QCOMPARE(contentOf(copy), content);
         QCOMPARE(contentOf(original), content);
         QCOMPARE(home.read(manifest),
-                 QFile::encodeName(QFileInfo(copy).fileName() + QLatin1Char('\t') + original) + '\n');
+                 QFile::encodeName(QFileInfo(copy).fileName() + u'\t' + original) + '\n');
 
-        QVERIFY(QFile::link(original, home.path(QStringLiteral("link"))));
-        QCOMPARE(contentOf(backUp(home.path(QStringLiteral("link")))), content);
-        QCOMPARE(backUp(home.path(QStringLiteral("missing"))), QString());
+        QVERIFY(QFile::link(original, home.path("link"_s)));
+        QCOMPARE(contentOf(backUp(home.path("link"_s))), content);
+        QCOMPARE(backUp(home.path("missing"_s)), QString());
     }
 
     void aTreeIsCopiedWithItsLinks()
     {
         const TemporaryHome home;
-        home.write(QStringLiteral("qaz/a"), "1");
-        home.write(QStringLiteral("qaz/sub/.hidden"), "2");
-        home.write(QStringLiteral("outside"), "3");
-        QVERIFY(QFile::link(home.path(QStringLiteral("outside")), home.path(QStringLiteral("qaz/link"))));
-        QVERIFY(QFile::link(QStringLiteral("nowhere"), home.path(QStringLiteral("qaz/dangling"))));
-        QCOMPARE(::mkfifo(QFile::encodeName(home.path(QStringLiteral("qaz/fifo"))).constData(), 0600), 0);
-        const QString copy = backUp(home.path(QStringLiteral("qaz/")));
+        home.write("qaz/a"_s, "1");
+        home.write("qaz/sub/.hidden"_s, "2");
+        home.write("outside"_s, "3");
+        QVERIFY(QFile::link(home.path("outside"_s), home.path("qaz/link"_s)));
+        QVERIFY(QFile::link("nowhere"_s, home.path("qaz/dangling"_s)));
+        QCOMPARE(::mkfifo(QFile::encodeName(home.path("qaz/fifo"_s)).constData(), 0600), 0);
+        const QString copy = backUp(home.path("qaz/"_s));
         QVERIFY(!copy.isEmpty());
-        QCOMPARE(contentOf(copy + QLatin1String("/a")), QByteArray("1"));
-        QCOMPARE(contentOf(copy + QLatin1String("/sub/.hidden")), QByteArray("2"));
-        QCOMPARE(QFile::symLinkTarget(copy + QLatin1String("/link")), home.path(QStringLiteral("outside")));
-        QVERIFY(QFileInfo(copy + QLatin1String("/dangling")).isSymLink());
+        QCOMPARE(contentOf(copy + "/a"_s), QByteArray("1"));
+        QCOMPARE(contentOf(copy + "/sub/.hidden"_s), QByteArray("2"));
+        QCOMPARE(QFile::symLinkTarget(copy + "/link"_s), home.path("outside"_s));
+        QVERIFY(QFileInfo(copy + "/dangling"_s).isSymLink());
     }
 
     void theNewestTenOfEachOriginalAreKept()
     {
         const TemporaryHome home;
-        const QString otherCopy = backUp(home.write(QStringLiteral("other"), "x"));
+        const QString otherCopy = backUp(home.write("other"_s, "x"));
         QStringList copies;
         for (int i = 0; i < 13; ++i)
-            copies.append(backUp(home.write(QStringLiteral("file"), QByteArray::number(i))));
+            copies.append(backUp(home.write("file"_s, QByteArray::number(i))));
         for (int i = 0; i < copies.size(); ++i) {
             QCOMPARE(QFileInfo::exists(copies.at(i)), i >= 3);
             if (i >= 3)
@@ -80,8 +80,8 @@ private slots:
     void aBackupThatFailsStopsNothing()
     {
         const TemporaryHome home;
-        const QString original = home.write(QStringLiteral("file"), "x");
-        home.write(QStringLiteral(".local/state"), "in the way");
+        const QString original = home.write("file"_s, "x");
+        home.write(".local/state"_s, "in the way");
         QCOMPARE(backUp(original), QString());
         QCOMPARE(contentOf(original), QByteArray("x"));
     }
@@ -90,7 +90,7 @@ private slots:
     {
         const TemporaryHome home;
         for (int i = 0; i < 12; ++i)
-            QVERIFY(!backUp(home.write(QStringLiteral("a\tb\nc\\d"), QByteArray::number(i))).isEmpty());
+            QVERIFY(!backUp(home.write("a\tb\nc\\d"_s, QByteArray::number(i))).isEmpty());
         QCOMPARE(home.read(manifest).count('\n'), 10);
         QCOMPARE(QDir(home.path(backups)).entryList(QDir::Files).size(), 11);
     }

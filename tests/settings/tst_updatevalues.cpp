@@ -1,5 +1,6 @@
 #include "platform/qazsettings.h"
 #include "settings/updatevalues.h"
+#include "tests/support/literals.h"
 #include "tests/support/temporaryhome.h"
 #include "tests/support/wmlistener.h"
 
@@ -49,11 +50,11 @@ private slots:
         QFETCH(QVariant, value);
         QFETCH(QByteArray, after);
         const TemporaryHome home;
-        const QString key = QStringLiteral("K");
+        const QString key = "K"_s;
         WmListener listener;
         bool changed = false;
         {
-            QazSettings store(home.write(QStringLiteral("t"), before));
+            QazSettings store(home.write("t"_s, before));
             store.sync(true);
             if (value.type() == QVariant::Bool)
                 changed = updateBoolValue(&store, key, defaultText, value.toBool());
@@ -62,9 +63,9 @@ private slots:
             else
                 changed = updateStringValue(&store, key, defaultText, value.toString());
         }
-        QCOMPARE(home.read(QStringLiteral("t")), after);
+        QCOMPARE(home.read("t"_s), after);
         QCOMPARE(changed, before != after);
-        const QString command = QLatin1String("QAZWM_UPDATE_VAL K ") + value.toString();
+        const QString command = "QAZWM_UPDATE_VAL K "_s + value.toString();
         QCOMPARE(listener.take(), changed ? QStringList{command} : QStringList());
     }
 };

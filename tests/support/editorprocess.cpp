@@ -9,14 +9,9 @@ constexpr int patienceMs = 60000; // a loaded machine is no fault of the program
 
 } // namespace
 
-QString EditorProcess::program()
-{
-    return QStringLiteral(QAZ_BINARY_DIR "/bin/qaz-admin-theme");
-}
-
 EditorProcess::EditorProcess(const QStringList &arguments)
 {
-    m_process.start(program(), arguments);
+    m_process.start(QStringLiteral(QAZ_BINARY_DIR "/bin/qaz-admin-theme"), arguments);
     m_process.waitForStarted();
 }
 
@@ -35,9 +30,8 @@ bool EditorProcess::waitForWindow(const QString &title)
     const QString pid = QString::number(m_process.processId());
     m_window.clear();
     while (m_window.isEmpty() && m_process.state() == QProcess::Running && !timer.hasExpired(patienceMs)) {
-        m_window = xdotool({QStringLiteral("search"), QStringLiteral("--onlyvisible"),
-                            QStringLiteral("--all"), QStringLiteral("--pid"), pid, QStringLiteral("--name"),
-                            title});
+        const QString search = QStringLiteral("search --onlyvisible --all --pid %1 --name").arg(pid);
+        m_window = xdotool(search.split(QLatin1Char(' ')) << title);
         m_process.waitForFinished(20);
     }
     if (!m_window.isEmpty())
@@ -45,9 +39,10 @@ bool EditorProcess::waitForWindow(const QString &title)
     return !m_window.isEmpty();
 }
 
-bool EditorProcess::waitForEnd()
+int EditorProcess::exitCode()
 {
-    return m_process.state() == QProcess::NotRunning || m_process.waitForFinished(patienceMs);
+    const bool ended = m_process.state() == QProcess::NotRunning || m_process.waitForFinished(patienceMs);
+    return ended && m_process.exitStatus() == QProcess::NormalExit ? m_process.exitCode() : -1;
 }
 
 QString EditorProcess::xdotool(const QStringList &arguments)
@@ -58,9 +53,9 @@ QString EditorProcess::xdotool(const QStringList &arguments)
     return QString::fromUtf8(tool.readAllStandardOutput()).trimmed();
 }
 
-void EditorProcess::press(const QStringList &keys)
+void EditorProcess::press(const char *keys)
 {
-    xdotool(QStringList{QStringLiteral("key"), QStringLiteral("--clearmodifiers")} + keys);
+    xdotool((QLatin1String("key --clearmodifiers ") + QLatin1String(keys)).split(QLatin1Char(' ')));
 }
 
 QString EditorProcess::title() const

@@ -1,3 +1,5 @@
+#include "tests/support/literals.h"
+
 #include <QDomDocument>
 #include <QRegularExpression>
 #include <QtTest>
@@ -19,15 +21,15 @@ QList<Message> messages(const QString &language)
     QList<Message> found;
     if (!file.open(QIODevice::ReadOnly) || !document.setContent(&file))
         return found;
-    const QDomNodeList elements = document.elementsByTagName(QStringLiteral("message"));
+    const QDomNodeList elements = document.elementsByTagName("message"_s);
     for (int i = 0; i < elements.size(); ++i) {
         const QDomNode message = elements.at(i);
         const auto text = [](const QDomNode &node, const char *name) {
             return node.firstChildElement(QLatin1String(name)).text();
         };
-        const QDomElement translation = message.firstChildElement(QStringLiteral("translation"));
+        const QDomElement translation = message.firstChildElement("translation"_s);
         found.append({text(message.parentNode(), "name"), text(message, "source"), text(message, "comment"),
-                      translation.text(), !translation.hasAttribute(QStringLiteral("type"))});
+                      translation.text(), !translation.hasAttribute("type"_s)});
     }
     return found;
 }
@@ -76,18 +78,18 @@ void TestCatalogues::catalogueIsComplete()
     QVERIFY(all.size() > 250);
     for (const Message &message : all)
         QVERIFY2(message.isFinished && !message.translation.isEmpty(),
-                 qPrintable(message.context + QLatin1String(": ") + message.source));
+                 qPrintable(message.context + ": "_s + message.source));
 }
 
 void TestCatalogues::marksSurviveTranslation_data()
 {
     QTest::addColumn<QString>("pattern");
-    QTest::newRow("values filled in") << QStringLiteral("%[1-9]");
-    QTest::newRow("accelerators") << QStringLiteral("&(?=\\w)(?!\\w+;)");
-    QTest::newRow("markup") << QStringLiteral("</?\\w+ ?/?>|&\\w+;");
-    QTest::newRow("file name patterns") << QStringLiteral("\\(\\*.*\\)");
-    QTest::newRow("lines of plain text") << QStringLiteral("\\n");
-    QTest::newRow("colon of a label") << QStringLiteral(":\\s*$");
+    QTest::newRow("values filled in") << "%[1-9]"_s;
+    QTest::newRow("accelerators") << "&(?=\\w)(?!\\w+;)"_s;
+    QTest::newRow("markup") << "</?\\w+ ?/?>|&\\w+;"_s;
+    QTest::newRow("file name patterns") << "\\(\\*.*\\)"_s;
+    QTest::newRow("lines of plain text") << "\\n"_s;
+    QTest::newRow("colon of a label") << ":\\s*$"_s;
 }
 
 void TestCatalogues::marksSurviveTranslation()
@@ -99,7 +101,7 @@ void TestCatalogues::marksSurviveTranslation()
         for (const Message &message : all) {
             const QStringList expected = matches(message.source, pattern);
             QVERIFY2(matches(message.translation, pattern) == expected,
-                     qPrintable(message.source + QLatin1String(" -> ") + message.translation));
+                     qPrintable(message.source + " -> "_s + message.translation));
             marks += expected.size();
         }
     }
@@ -110,16 +112,13 @@ void TestCatalogues::textsLookedUpDiffer()
 {
     // The rows of the page list and the names in the rendering dialog are found by their texts.
     QFETCH(QString, language);
-    const QStringList pages{QStringLiteral("Wallpaper"), QStringLiteral("Theme"),
-                            QStringLiteral("Fonts"),     QStringLiteral("Screensaver"),
-                            QStringLiteral("Effects"),   QStringLiteral("Sounds")};
+    const QStringList pages{"Wallpaper"_s, "Theme"_s, "Fonts"_s, "Screensaver"_s, "Effects"_s, "Sounds"_s};
     QStringList lookedUp;
     const QList<Message> all = messages(language);
     for (const Message &message : all) {
-        const bool isPage = message.context == QLatin1String("ConfigDialog")
-                            && pages.contains(message.source);
-        if (isPage || message.context == QLatin1String("FontRendering"))
-            lookedUp.append(message.context + QLatin1Char('|') + message.translation);
+        const bool isPage = message.context == "ConfigDialog"_s && pages.contains(message.source);
+        if (isPage || message.context == "FontRendering"_s)
+            lookedUp.append(message.context + u'|' + message.translation);
     }
     QVERIFY(lookedUp.size() > pages.size());
     QCOMPARE(lookedUp.removeDuplicates(), 0);
@@ -130,17 +129,15 @@ void TestCatalogues::excludedSizesStayPixels()
     // The rendering dialog takes its unit from this suffix: pixels, unless a translation names another unit.
     QFETCH(QString, language);
     const QList<Message> all = messages(language);
-    const auto suffix = std::find_if(all.cbegin(), all.cend(), [](const Message &message) {
-        return message.source == QLatin1String(" pix");
-    });
+    const auto suffix = std::find_if(all.cbegin(), all.cend(),
+                                     [](const Message &message) { return message.source == " pix"_s; });
     QVERIFY(suffix != all.cend());
-    QVERIFY2(suffix->translation.contains(QRegularExpression(QStringLiteral("pix|px"))),
-             qPrintable(suffix->translation));
+    QVERIFY2(suffix->translation.contains(QRegularExpression("pix|px"_s)), qPrintable(suffix->translation));
 }
 
 void TestCatalogues::englishAddsOnlyTheUsage()
 {
-    const QList<Message> all = messages(QStringLiteral("en"));
+    const QList<Message> all = messages("en"_s);
     for (const Message &message : all) {
         if (message.comment.isEmpty())
             QCOMPARE(message.translation, message.source);
@@ -150,4 +147,5 @@ void TestCatalogues::englishAddsOnlyTheUsage()
 }
 
 QTEST_GUILESS_MAIN(TestCatalogues)
+#include "tests/support/literals.h"
 #include "tst_catalogues.moc"

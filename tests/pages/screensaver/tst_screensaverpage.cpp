@@ -1,5 +1,6 @@
 #include "pages/screensaver/screensaverpage.h"
 #include "platform/qazsettings.h"
+#include "tests/support/literals.h"
 #include "tests/support/temporaryhome.h"
 #include "tests/support/wmlistener.h"
 
@@ -10,7 +11,7 @@
 
 namespace {
 
-const QString themeFile = QStringLiteral("t");
+const QString themeFile = "t"_s;
 
 } // namespace
 
@@ -85,11 +86,9 @@ private slots:
         check("lockTTYCheckBox")->setChecked(false);
         check("lockXaccessCheckBox")->setChecked(true);
         save();
-        QCOMPARE(listener.take()
-                     .replaceInStrings(QStringLiteral("QAZWM_UPDATE_VAL "), QString())
-                     .join(QLatin1Char(' ')),
-                 QStringLiteral("ScreenSaverDelay 900 LockerDpmsOffTimeout 1200 LockerWrongPasswdTimeout 3 "
-                                "LockerBellLevel 4 LockerTTYLock false LockerXaccessLock true"));
+        QCOMPARE(
+            listener.take().replaceInStrings("QAZWM_UPDATE_VAL "_s, QString()).join(u' '),
+            "ScreenSaverDelay 900 LockerDpmsOffTimeout 1200 LockerWrongPasswdTimeout 3 LockerBellLevel 4 LockerTTYLock false LockerXaccessLock true"_s);
     }
 
     void aClearedCheckBoxSwitchesTheScreensaverOff()
@@ -133,16 +132,15 @@ private:
     QCheckBox *check(const char *name) { return m_page->findChild<QCheckBox *>(QLatin1String(name)); }
     QString shown()
     {
-        QStringList texts{check("startAutomaticallyCheckBox")->isChecked() ? QStringLiteral("on")
-                                                                           : QStringLiteral("off")};
+        QStringList texts{check("startAutomaticallyCheckBox")->isChecked() ? "on"_s : "off"_s};
         for (const char *name : {"minutesToStartSpinBox", "dpmsOffSpinBox", "wrongPasswordTimeoutSpinBox",
                                  "wrongPasswordBellSpinBox"})
             texts.append(spin(name)->text());
         if (check("lockTTYCheckBox")->isChecked())
-            texts.append(QStringLiteral("tty"));
+            texts.append("tty"_s);
         if (check("lockXaccessCheckBox")->isChecked())
-            texts.append(QStringLiteral("x"));
-        return texts.join(QLatin1Char(' '));
+            texts.append("x"_s);
+        return texts.join(u' ');
     }
 
     std::unique_ptr<TemporaryHome> m_home;
