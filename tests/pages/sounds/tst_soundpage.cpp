@@ -107,8 +107,10 @@ private slots:
             = "EnableSound=True\nEnableAlsa=true\nSoundTheme=oga\nOpenSound=/not there.wav\n"
               "CloseSound=window-close\nPagingSound=built.wav\n";
         PageOverFile over(content);
+        over.assign(4, "edited"_s);
+        over.group->setChecked(false);
         QSignalSpy changes(over.page.get(), &SoundPage::changedSignal);
-        over.visitFile(&SoundPage::loadValues);
+        over.visitFile(&SoundPage::loadValues); // a repeated load is no edit
         QCOMPARE(over.themes->currentText(), "oga"_s);
         QCOMPARE(over.assignments(), "2=/not there.wav 3=window-close 13=built.wav"_s);
         QCOMPARE(over.save(), QString());
