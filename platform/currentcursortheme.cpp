@@ -96,6 +96,9 @@ bool makeReachable(const QByteArray &name)
             continue;
         const QString link = userIconsDirectory() + QLatin1Char('/') + QFile::decodeName(name);
         QDir().mkpath(userIconsDirectory());
+        // A link to a theme that has moved, as one made here before, is in the way.
+        if (const QFileInfo old(link); old.isSymLink() && !old.exists())
+            QFile::remove(link);
         return QFile::link(QFile::decodeName(base + '/' + name), link)
                || reportFailure(link, QStringLiteral("the cursor theme can't be linked"));
     }

@@ -2,7 +2,6 @@
 #include "platform/qazicontheme.h"
 
 #include <QFile>
-#include <QFileInfo>
 #include <QTest>
 #include <QX11Info>
 
@@ -138,7 +137,6 @@ void TestCursorThemes::linkedDefaultThemeStaysWhole()
     QVERIFY(QFile::link(QStringLiteral("Linked"), home.path(QStringLiteral(".icons/default"))));
     QVERIFY(QazIconTheme::setCurrentCursorThemeName("Red"));
     QCOMPARE(home.read(index), content);
-    QVERIFY(!QFileInfo(home.path(QStringLiteral(".icons/default"))).isSymLink());
     QCOMPARE(home.read(defaultIndex), QByteArray("[Icon Theme]\nInherits=Red\n"));
 
     QVERIFY(QFile::remove(home.path(defaultIndex)));
@@ -153,6 +151,8 @@ void TestCursorThemes::linksThemesThatClientsWouldNotFind()
     const TemporaryHome home;
     const ScopedEnvironment data("QAZ_DATA_DIR", QFile::encodeName(home.path(QStringLiteral("data"))));
     makeCursorTheme(home, QStringLiteral("data/icons/Far"), Qt::red);
+    QVERIFY(home.makeDirectory(QStringLiteral(".icons")));
+    QVERIFY(QFile::link(QStringLiteral("gone"), home.path(QStringLiteral(".icons/Far"))));
     QVERIFY(QazIconTheme::setCurrentCursorThemeName("Far"));
     QCOMPARE(QFile::symLinkTarget(home.path(QStringLiteral(".icons/Far"))),
              home.path(QStringLiteral("data/icons/Far")));
