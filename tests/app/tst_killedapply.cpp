@@ -97,6 +97,8 @@ void TestKilledApply::initTestCase()
     auto *list = child<QListWidget>("contentsWidget");
     for (int row = 0; row < list->count(); ++row)
         list->setCurrentRow(row);
+    for (File &file : m_files)
+        file.before = m_home.read(file.path); // loading notes there that no compositing manager runs
     editEveryPage();
 }
 
@@ -134,12 +136,16 @@ void TestKilledApply::putBack() const
 
 void TestKilledApply::everyFileIsOldOrNew()
 {
-    QElapsedTimer timer;
-    timer.start();
     int status = -1;
-    QVERIFY(::waitpid(applyInAnotherProcess(), &status, 0) > 0);
-    QCOMPARE(status, 0);
-    const qint64 duration = timer.elapsed() + 1;
+    qint64 duration = 0;
+    for (const char *time : {"first", "warm"}) {
+        QElapsedTimer timer;
+        timer.start();
+        putBack();
+        QVERIFY2(::waitpid(applyInAnotherProcess(), &status, 0) > 0, time);
+        QCOMPARE(status, 0);
+        duration = timer.elapsed() + 1;
+    }
     for (File &file : m_files) {
         file.after = m_home.read(file.path);
         QVERIFY2(file.after != file.before, qPrintable(file.path)); // else it would prove nothing
@@ -151,7 +157,7 @@ void TestKilledApply::everyFileIsOldOrNew()
         putBack();
         const pid_t process = applyInAnotherProcess();
         QVERIFY(process > 0);
-        waitForRandomMoment(duration, &random);
+        waitForRandomMoment(duration * 5 / 4, &random); // some rounds reach the end
         ::kill(-process, SIGKILL);
         ::kill(process, SIGKILL);
         QVERIFY(::waitpid(process, &status, 0) > 0);
@@ -163,7 +169,8 @@ void TestKilledApply::everyFileIsOldOrNew()
                          file.path, QString::number(content.size()), QString::fromUtf8(content.right(300)))));
         }
     }
-    QVERIFY2(finished < rounds, "no process was killed");
+    qInfo("%d of %d were killed", rounds - finished, rounds);
+    QVERIFY(finished < rounds);
 }
 
 int main(int argc, char **argv)
