@@ -1,6 +1,7 @@
 #include "platform/qazfiledialog.h"
 
 #include <QFileInfo>
+#include <QFileSystemModel>
 #include <QLineEdit>
 #include <QListView>
 
@@ -37,6 +38,21 @@ void QazFileDialog::letTypedPathsCount()
         }
         files->selectionModel()->clearSelection();
     });
+}
+
+/// Qt reads quotes as marks between several names. A name that holds quotes itself is given by its row.
+void QazFileDialog::accept()
+{
+    const QString name = findChild<QLineEdit *>(QStringLiteral("fileNameEdit"))->text();
+    const QFileInfo info(directory(), name);
+    if (name.contains(QLatin1Char('"')) && info.isFile()) {
+        setDirectory(info.path());
+        auto *files = findChild<QListView *>(QStringLiteral("listView"));
+        if (const auto *model = qobject_cast<QFileSystemModel *>(files->model()))
+            files->selectionModel()->select(model->index(info.filePath()),
+                                            QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    }
+    QFileDialog::accept();
 }
 
 QString QazFileDialog::getOpenFileName(QWidget *parent, const QString &caption, const QString &location,

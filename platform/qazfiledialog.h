@@ -15,6 +15,9 @@ public:
     static QString getOpenFileName(QWidget *parent, const QString &caption, const QString &location,
                                    const QString &filter);
 
+protected:
+    void accept() override;
+
 private:
     void letTypedPathsCount();
 };

@@ -15,8 +15,8 @@
 namespace {
 
 constexpr int margin = 10; // of the label, in both directions
-constexpr int pngQuality
-    = 80; // of a lossless format it means effort: this one takes a quarter of the default's time
+// Of a lossless format it means effort: this one takes a quarter of the default's time.
+constexpr int pngQuality = 80;
 constexpr int painterLimit = 32767; // Qt scales in 16-bit fixed point: what is larger comes out black
 constexpr const char *fitWords[] = {"Center", "Tile", "Stretch"};
 

@@ -50,7 +50,7 @@ private slots:
         };
         row("cancelled", theme, {}, {}, "TDXQKO"_s, 0);
         row("theme only", theme, "Theme only"_s, "Y"_s, "-DX--O"_s, 3);
-        row("all", theme, "All Qaz settings"_s, "N"_s, "-----O"_s, 3);
+        row("all", theme, "All Qaz settings"_s, "N"_s, "-----O"_s, 4);
         row("no theme file", "missing <b>%1"_s, "Theme only"_s, "ON"_s, "TDX--O"_s, 2);
         row("a directory as theme file", ".config/qaz/a"_s, "Theme only"_s, "OY"_s, "TDX--O"_s, 2);
         row("close cancelled", theme, "Theme only"_s, "YC"_s, "-DX--O"_s, 3);

@@ -82,7 +82,8 @@ QByteArrayList TemporaryHome::backups() const
 {
     const QString directory = QStringLiteral(".local/state/qaz/backup/");
     QByteArrayList contents;
-    for (const QString &name : QDir(path(directory)).entryList(QDir::Files | QDir::Hidden)) {
+    for (const QString &name :
+         QDir(path(directory)).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot)) {
         if (name != QLatin1String("manifest"))
             contents.append(read(directory + name));
     }

@@ -25,7 +25,7 @@ public:
     QByteArray read(const QString &relative) const;
     bool exists(const QString &relative) const;
     bool makeDirectory(const QString &relative) const;
-    /// The contents of the backups made of single files, sorted.
+    /// The contents of the backups, sorted; empty for a directory.
     QByteArrayList backups() const;
     /// Every file below the home with its content's digest and modification time, sorted: equal texts mean
     /// that nothing was written.

@@ -103,7 +103,7 @@ private slots:
         row("out of range", "WallPaperPos=Center\nWallPaperPeriod=9999\n", "", "qaz-default|0|3600|#0000ff");
         row("the preview adopts a colour", "WallPaper=#a6caf0\nDesktopColor=qvroyalblue\n", "",
             "#a6caf0|2|0|#a6caf0");
-        row("colour that can't be read", "WallPaper=#zz\nDesktopColor=x\n", "", "#000000|2|0|#000000");
+        row("colour that can't be read", "DesktopColor=red\n", "\"#zz\"", "#000000|2|0|#000000");
         row("for this desktop only", "WallPaper=/a\nWallPaperPos=Tile\nWallPaperPeriod=15\n", "\"#a6caf0\"",
             "#a6caf0|2|0|#a6caf0");
     }
@@ -201,7 +201,7 @@ private slots:
     {
         Page page("WallPaper=/x\n");
         const QString own = page.home.write(ownPicture("any"_s), {});
-        const QString path = page.home.write("a/blank $(x) %1.xpm"_s, picture("red"));
+        const QString path = page.home.write("a/blank \"q\" $(x) %1.xpm"_s, picture("red"));
         const QString upperCase = page.home.write("a/PICTURE.SVG"_s, svg);
         QStringList starts;
         const auto look = [&starts](QDialog *dialog) {
