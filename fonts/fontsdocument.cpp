@@ -263,7 +263,7 @@ QByteArray FontsDocument::lineIndentation(int position) const
 QByteArray FontsDocument::indentationStep() const
 {
     for (const Child &child : children()) {
-        const QByteArray indentation = lineIndentation(child.start);
+        QByteArray indentation = lineIndentation(child.start);
         if (!indentation.isEmpty())
             return indentation;
     }

@@ -22,7 +22,7 @@ QString dataRoot()
     const QByteArray named = qgetenv("QAZ_DATA_DIR");
     if (!named.isEmpty())
         return QDir::cleanPath(QFile::decodeName(named));
-    const QString installed = QDir::cleanPath(executableDirectory() + QLatin1String("/../share/qaz"));
+    QString installed = QDir::cleanPath(executableDirectory() + QLatin1String("/../share/qaz"));
 #ifdef QAZ_SOURCE_DATA_DIR
     if (!QFile::exists(installed))
         return QStringLiteral(QAZ_SOURCE_DATA_DIR);

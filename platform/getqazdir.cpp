@@ -18,7 +18,7 @@ namespace {
 
 QString renderedWallpapers()
 {
-    const QString path = xdgDirectory("XDG_CACHE_HOME", "/.cache") + QLatin1String("/qaz/wallpapers");
+    QString path = xdgDirectory("XDG_CACHE_HOME", "/.cache") + QLatin1String("/qaz/wallpapers");
     if (QDir(path).exists())
         return path;
     QDir().mkpath(path.left(path.lastIndexOf(QLatin1Char('/'))));

@@ -45,7 +45,7 @@ QString localisedName(const QHash<QString, QString> &group)
     for (const QString &locale : localeVariants({})) {
         const QString key = locale.isEmpty() ? QStringLiteral("Name")
                                              : QStringLiteral("Name[%1]").arg(locale);
-        if (const QString name = group.value(key); !name.isEmpty())
+        if (QString name = group.value(key); !name.isEmpty())
             return name;
     }
     return {};
@@ -165,7 +165,7 @@ std::optional<SoundCandidate> QazSoundTheme::Private::findInTheme(const ThemeInd
         const QStringList directories = theme.directoriesOfProfile.value(profile);
         for (const QString &locale : locales) {
             for (const QString &placement : theme.placements) {
-                if (const auto found = findBest(placement, directories, locale, name))
+                if (auto found = findBest(placement, directories, locale, name))
                     return found;
             }
         }

@@ -194,7 +194,7 @@ QString backUp(const QString &path)
     }
     const DirectoryLock lock(directory + QLatin1String("/manifest"));
     const QString name = freeName(directory, QFileInfo(original).fileName());
-    const QString copy = directory + QLatin1Char('/') + name;
+    QString copy = directory + QLatin1Char('/') + name;
     // A link to a file is backed up as the file: its bytes are what can get lost.
     const bool asFile = QFileInfo(original).isFile();
     const bool copied = lock.isHeld()

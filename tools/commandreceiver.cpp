@@ -13,7 +13,7 @@ QByteArray CommandReceiver::take(std::uint64_t sender, bool begins, const char *
     command->append(data, end ? int(end - data) : messageBytes);
     if (!end && command->size() <= longestCommand)
         return {};
-    const QByteArray finished = end && command->size() <= longestCommand ? *command : QByteArray();
+    QByteArray finished = end && command->size() <= longestCommand ? *command : QByteArray();
     m_unfinished.erase(command);
     return finished;
 }

@@ -34,8 +34,7 @@ QByteArray themeOfNewClient()
 QColor shownCursor(Display *display)
 {
     XFixesCursorImage *image = XFixesGetCursorImage(display);
-    const QColor color = QColor::fromRgba(
-        QRgb(image->pixels[image->height / 2 * image->width + image->width / 2]));
+    QColor color = QColor::fromRgba(QRgb(image->pixels[image->height / 2 * image->width + image->width / 2]));
     XFree(image);
     return color;
 }

@@ -11,9 +11,9 @@ ModalDriver::ModalDriver(QObject *parent)
     m_timer.start(5);
 }
 
-void ModalDriver::then(std::function<void(QDialog *)> step)
+void ModalDriver::then(const std::function<void(QDialog *)> &step)
 {
-    m_steps.append(std::move(step));
+    m_steps.append(step);
 }
 
 void ModalDriver::thenAnswer(QMessageBox::StandardButton answer)

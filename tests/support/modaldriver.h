@@ -18,7 +18,7 @@ public:
     explicit ModalDriver(QObject *parent = nullptr);
 
     /// The next modal dialog is handed to \a step, which must end it (accept, reject, click a button).
-    void then(std::function<void(QDialog *)> step);
+    void then(const std::function<void(QDialog *)> &step);
     /// The next modal dialog is a message box; its button \a answer is clicked, its texts are recorded.
     void thenAnswer(QMessageBox::StandardButton answer);
     /// The next modal dialog is rejected, as by Escape.

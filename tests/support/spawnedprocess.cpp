@@ -14,6 +14,7 @@
 SpawnedProcess::SpawnedProcess(const QString &program, const QStringList &arguments)
 {
     std::vector<QByteArray> texts;
+    texts.reserve(std::size_t(arguments.size()));
     for (const QString &argument : arguments)
         texts.push_back(QFile::encodeName(argument));
     std::vector<char *> argv;

@@ -26,7 +26,7 @@ QByteArray StandardError::take()
     QFile reader(m_file.fileName());
     if (!reader.open(QIODevice::ReadOnly) || !reader.seek(m_taken))
         return {};
-    const QByteArray text = reader.readAll();
+    QByteArray text = reader.readAll();
     m_taken += text.size();
     return text;
 }

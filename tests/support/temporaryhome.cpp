@@ -51,7 +51,7 @@ QString TemporaryHome::path(const QString &relative) const
 
 QString TemporaryHome::write(const QString &relative, const QByteArray &content) const
 {
-    const QString name = path(relative);
+    QString name = path(relative);
     QDir().mkpath(QFileInfo(name).path());
     QFile file(name);
     if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())

@@ -37,7 +37,7 @@ QStringList WmListener::commands()
 
 QStringList WmListener::take()
 {
-    const QStringList fresh = commands().mid(m_taken);
+    QStringList fresh = commands().mid(m_taken);
     m_taken = m_commands.size();
     return fresh;
 }

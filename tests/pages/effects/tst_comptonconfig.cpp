@@ -125,8 +125,7 @@ private slots:
 
     void whatIsNoConfigurationIsLeftAlone()
     {
-        const QByteArray contents[] = {"\x7f"
-                                       "ELF\x02 =\n",
+        const QByteArray contents[] = {QByteArray("\x7f") + "ELF\x02 =\n",
                                        "a : {",
                                        "a = \"b\\",
                                        QByteArray("shadow = true;\0", 15),
