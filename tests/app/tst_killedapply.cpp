@@ -6,15 +6,10 @@
 #include "tests/support/modaldriver.h"
 #include "tests/support/temporaryhome.h"
 
-#include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
-#include <QElapsedTimer>
-#include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
-#include <QRandomGenerator>
-#include <QSpinBox>
 #include <QtTest>
 
 #include <csignal>
@@ -55,18 +50,94 @@ class TestKilledApply : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void everyFileIsOldOrNew();
+    void initTestCase()
+    {
+        for (const char *name : {"compton", "xrdb"})
+            m_programs.add(QLatin1String(name));
+        putBack();
+        registerResources();
+        qazInit("1", "title");
+        m_dialog = std::make_unique<ConfigDialog>(m_home.path(m_files.first().path));
+        m_dialog->show();
+        auto *list = m_dialog->findChild<QListWidget *>("contentsWidget"_s);
+        for (int row = 0; row < list->count(); ++row)
+            list->setCurrentRow(row);
+        for (File &file : m_files)
+            file.before = m_home.read(file.path); // loading notes there that no compositing manager runs
+
+        // On each page whose settings go to a file of its own.
+        set("minutesToStartSpinBox", "value", 5);
+        set("shadowCheckBox", "checked", true);
+        set("dpiSpinBox", "value", 120);
+        set("aaComboBox", "currentIndex", 0);
+        emit m_dialog->findChild<QComboBox *>("aaComboBox"_s)->activated(0);
+        set("wallpaperForCurrDesktopCheckBox", "checked", true);
+        set("wallpaperLineEdit", "text", "#204060"_s);
+        m_dialog->changedSlot();
+    }
+
+    void everyFileIsOldOrNew()
+    {
+        int status = -1;
+        qint64 duration = 0;
+        for (const char *time : {"first", "warm"}) {
+            QElapsedTimer timer;
+            timer.start();
+            putBack();
+            QVERIFY2(::waitpid(applyInAnotherProcess(), &status, 0) > 0, time);
+            QCOMPARE(status, 0);
+            duration = timer.elapsed() + 1;
+        }
+        for (File &file : m_files) {
+            file.after = m_home.read(file.path);
+            QVERIFY2(file.after != file.before, qPrintable(file.path)); // else it would prove nothing
+        }
+
+        QRandomGenerator random(1);
+        int finished = 0;
+        for (int round = 0; round < rounds; ++round) {
+            putBack();
+            const pid_t process = applyInAnotherProcess();
+            QVERIFY(process > 0);
+            waitForRandomMoment(duration * 5 / 4, &random); // some rounds reach the end
+            ::kill(-process, SIGKILL);
+            ::kill(process, SIGKILL);
+            QVERIFY(::waitpid(process, &status, 0) > 0);
+            finished += WIFEXITED(status) ? 1 : 0;
+            for (const File &file : m_files) {
+                const QByteArray content = m_home.read(file.path);
+                QVERIFY2(
+                    content == file.before || content == file.after,
+                    qPrintable("%1 has %2 bytes and ends with %3"_s.arg(
+                        file.path, QString::number(content.size()), QString::fromUtf8(content.right(300)))));
+            }
+        }
+        qInfo("%d of %d were killed", rounds - finished, rounds);
+        QVERIFY(finished < rounds);
+    }
 
 private:
-    template<typename Widget>
-    Widget *child(const char *name)
+    void set(const char *name, const char *property, const QVariant &value)
     {
-        return m_dialog->findChild<Widget *>(QLatin1String(name));
+        m_dialog->findChild<QWidget *>(QLatin1String(name))->setProperty(property, value);
     }
-    void editEveryPage();
-    pid_t applyInAnotherProcess();
-    void putBack() const;
+    void putBack() const
+    {
+        for (const File &file : m_files)
+            m_home.write(file.path, file.before);
+    }
+    /// A copy of this process presses Apply and ends.
+    pid_t applyInAnotherProcess()
+    {
+        const pid_t process = ::fork();
+        if (process != 0)
+            return process;
+        ::setpgid(0, 0);
+        ModalDriver driver;
+        driver.thenAnswer(QMessageBox::Ok); // "Some changes such as anti-aliasing or DPI ..."
+        m_dialog->buttonBox()->button(QDialogButtonBox::Apply)->click();
+        ::_exit(0);
+    }
 
     TemporaryHome m_home;
     FakePrograms m_programs;
@@ -84,94 +155,6 @@ private:
          "[Desktop Entry]\nName=Desk\nX-QAZ-WallPaper=\"/a.png\"\n" + remarks("# mine\n"), {}}};
     // clang-format on
 };
-
-void TestKilledApply::initTestCase()
-{
-    for (const char *name : {"compton", "xrdb"})
-        m_programs.add(QLatin1String(name));
-    putBack();
-    registerResources();
-    qazInit("1", "title");
-    m_dialog = std::make_unique<ConfigDialog>(m_home.path(m_files.first().path));
-    m_dialog->show();
-    auto *list = child<QListWidget>("contentsWidget");
-    for (int row = 0; row < list->count(); ++row)
-        list->setCurrentRow(row);
-    for (File &file : m_files)
-        file.before = m_home.read(file.path); // loading notes there that no compositing manager runs
-    editEveryPage();
-}
-
-void TestKilledApply::editEveryPage()
-{
-    child<QSpinBox>("minutesToStartSpinBox")->setValue(5);
-    child<QCheckBox>("shadowCheckBox")->setChecked(true);
-    child<QSpinBox>("dpiSpinBox")->setValue(120);
-    auto *antiAliasing = child<QComboBox>("aaComboBox");
-    antiAliasing->setCurrentIndex(0);
-    emit antiAliasing->activated(0);
-    child<QCheckBox>("wallpaperForCurrDesktopCheckBox")->setChecked(true);
-    child<QLineEdit>("wallpaperLineEdit")->setText("#204060"_s);
-    m_dialog->changedSlot();
-}
-
-/// A copy of this process presses Apply and ends.
-pid_t TestKilledApply::applyInAnotherProcess()
-{
-    const pid_t process = ::fork();
-    if (process != 0)
-        return process;
-    ::setpgid(0, 0);
-    ModalDriver driver;
-    driver.thenAnswer(QMessageBox::Ok); // "Some changes such as anti-aliasing or DPI ..."
-    m_dialog->buttonBox()->button(QDialogButtonBox::Apply)->click();
-    ::_exit(0);
-}
-
-void TestKilledApply::putBack() const
-{
-    for (const File &file : m_files)
-        m_home.write(file.path, file.before);
-}
-
-void TestKilledApply::everyFileIsOldOrNew()
-{
-    int status = -1;
-    qint64 duration = 0;
-    for (const char *time : {"first", "warm"}) {
-        QElapsedTimer timer;
-        timer.start();
-        putBack();
-        QVERIFY2(::waitpid(applyInAnotherProcess(), &status, 0) > 0, time);
-        QCOMPARE(status, 0);
-        duration = timer.elapsed() + 1;
-    }
-    for (File &file : m_files) {
-        file.after = m_home.read(file.path);
-        QVERIFY2(file.after != file.before, qPrintable(file.path)); // else it would prove nothing
-    }
-
-    QRandomGenerator random(1);
-    int finished = 0;
-    for (int round = 0; round < rounds; ++round) {
-        putBack();
-        const pid_t process = applyInAnotherProcess();
-        QVERIFY(process > 0);
-        waitForRandomMoment(duration * 5 / 4, &random); // some rounds reach the end
-        ::kill(-process, SIGKILL);
-        ::kill(process, SIGKILL);
-        QVERIFY(::waitpid(process, &status, 0) > 0);
-        finished += WIFEXITED(status) ? 1 : 0;
-        for (const File &file : m_files) {
-            const QByteArray content = m_home.read(file.path);
-            QVERIFY2(content == file.before || content == file.after,
-                     qPrintable("%1 has %2 bytes and ends with %3"_s.arg(
-                         file.path, QString::number(content.size()), QString::fromUtf8(content.right(300)))));
-        }
-    }
-    qInfo("%d of %d were killed", rounds - finished, rounds);
-    QVERIFY(finished < rounds);
-}
 
 int main(int argc, char **argv)
 {

@@ -5,8 +5,6 @@
 #include "tests/support/temporaryhome.h"
 #include "tests/support/wmlistener.h"
 
-#include <QDirIterator>
-#include <QSettings>
 #include <QtTest>
 
 #include <vector>
@@ -69,38 +67,27 @@ private slots:
         }
     }
 
-    void theArgumentNamesTheThemeFile_data()
-    {
-        struct Row {
-            const char *name;
-            const char *arguments; // with bars between them
-            const char *file;
-        };
-        constexpr Row rows[] = {{"none", "", "current.themerc"},
-                                {"an odd name", "[*] ö.rc", "[*] ö.rc"},
-                                {"Qt takes its own", "-style|fusion|mine.themerc", "mine.themerc"},
-                                {"no such file", "missing.themerc", "current.themerc"},
-                                {"a directory", "directory", "current.themerc"},
-                                {"two files", "mine.themerc|mine.themerc", "current.themerc"},
-                                {"help comes second", "mine.themerc|--help", "current.themerc"}};
-        QTest::addColumn<QString>("arguments");
-        QTest::addColumn<QString>("file");
-        for (const Row &row : rows)
-            QTest::newRow(row.name) << QString::fromUtf8(row.arguments) << QString::fromUtf8(row.file);
-    }
     void theArgumentNamesTheThemeFile()
     {
-        QFETCH(QString, arguments);
-        QFETCH(QString, file);
+        // The arguments, with bars between them, and the file that is edited.
+        const std::pair<QString, QString> rows[] = {{""_s, "current.themerc"_s},
+                                                    {"[*] ö.rc"_s, "[*] ö.rc"_s},
+                                                    {"-style|fusion|mine.themerc"_s, "mine.themerc"_s},
+                                                    {"missing.themerc"_s, "current.themerc"_s},
+                                                    {"directory"_s, "current.themerc"_s},
+                                                    {"mine.themerc|mine.themerc"_s, "current.themerc"_s},
+                                                    {"mine.themerc|--help"_s, "current.themerc"_s}};
         m_home->write("mine.themerc"_s, "");
         m_home->write("[*] ö.rc"_s, "");
         m_home->makeDirectory("directory"_s);
         const QString before = QDir::currentPath();
-        QDir::setCurrent(m_home->path());
-        EditorProcess editor(arguments.split(u'|', Qt::SkipEmptyParts));
-        QDir::setCurrent(before);
-        QVERIFY(editor.waitForWindow());
-        QCOMPARE(editor.title(), "Qaz Theme Editor - "_s + file);
+        for (const auto &[arguments, file] : rows) {
+            QDir::setCurrent(m_home->path());
+            EditorProcess editor(arguments.split(u'|', Qt::SkipEmptyParts));
+            QDir::setCurrent(before);
+            QVERIFY2(editor.waitForWindow(), qPrintable(arguments));
+            QCOMPARE(editor.title(), "Qaz Theme Editor - "_s + file);
+        }
     }
 
     void aSecondStartFindsTheFirst()

@@ -5,7 +5,6 @@
 #include "tests/support/literals.h"
 #include "tests/support/temporaryhome.h"
 
-#include <QFileInfo>
 #include <QX11Info>
 #include <QtTest>
 

@@ -5,7 +5,6 @@
 #include "tests/support/spawnedprocess.h"
 #include "tests/support/temporaryhome.h"
 
-#include <QFile>
 #include <QtTest>
 
 #include <climits>

@@ -3,12 +3,9 @@
 #include "tests/support/standarderror.h"
 #include "tests/support/temporaryhome.h"
 
-#include <QFile>
-#include <QFileInfo>
 #include <QtTest>
 
 #include <cstdio>
-#include <string_view>
 #include <thread>
 
 #include <sys/resource.h>
@@ -34,18 +31,6 @@ QString load(const QString &path, const QString &key = "Key"_s)
     return store.value(key, "default"_s).toString();
 }
 
-/// What a file held, and what it must hold or give afterwards; of a given length, as NUL bytes may be inside.
-struct Row {
-    const char *name;
-    std::string_view before;
-    std::string_view after;
-};
-
-QByteArray bytes(std::string_view text)
-{
-    return {text.data(), int(text.size())};
-}
-
 } // namespace
 
 class TestQazSettings : public QObject
@@ -53,67 +38,49 @@ class TestQazSettings : public QObject
     Q_OBJECT
 
 private slots:
-    void onlyTheLinesOfSetKeysChange_data()
-    {
-        using namespace std::string_view_literals;
-        // clang-format off
-        constexpr Row rows[] = {
-            {"comments, unknown lines and groups stay", "# c\n;d=1\nnonsense\nKey=600\n=x\n[Group]\nKey=7\n",
-             "# c\n;d=1\nnonsense\nKey=300\n=x\n[Group]\nKey=7\n"},
-            {"the last of two lines counts", "Key=1\nA=2\nKey=3\n", "Key=1\nA=2\nKey=300\n"},
-            {"blanks around stay", "  Key \t=  600 \t\n", "  Key \t=  300 \t\n"},
-            {"CRLF", "A=1\r\nKey=600\r\n", "A=1\r\nKey=300\r\n"},
-            {"CRLF, new key", "A=1\r\n[G]\r\n", "A=1\r\nKey=300\r\n[G]\r\n"},
-            {"no final newline", "Key=600", "Key=300"},
-            {"no final newline, new key", "A=1", "A=1\nKey=300\n"},
-            {"new key goes below the last ungrouped one", "A=1\nB=2\n\n# for G\n[G]\nx=1\n",
-             "A=1\nB=2\nKey=300\n\n# for G\n[G]\nx=1\n"},
-            {"no key yet, a group", "# c\n[G]\nx=1\n", "# c\nKey=300\n[G]\nx=1\n"},
-            {"a lone bracket starts no group", "[\nKey=1\n", "[\nKey=300\n"},
-            {"empty value", "Key=\nB=1\n", "Key=300\nB=1\n"},
-            {"case matters", "key=1\n", "key=1\nKey=300\n"},
-            {"no UTF-8", "A=\xff\xfe\n\x80\x81\nKey=6\n", "A=\xff\xfe\n\x80\x81\nKey=300\n"},
-            {"NUL bytes", "A=\0b\n\0\nKey=6\n"sv, "A=\0b\n\0\nKey=300\n"sv},
-            {"byte order mark", "\xEF\xBB\xBFKey=6\n", "\xEF\xBB\xBFKey=300\n"},
-            {"empty file", "", "Key=300\n"}};
-        // clang-format on
-        QTest::addColumn<QByteArray>("before");
-        QTest::addColumn<QByteArray>("after");
-        for (const Row &row : rows)
-            QTest::newRow(row.name) << bytes(row.before) << bytes(row.after);
-    }
     void onlyTheLinesOfSetKeysChange()
     {
-        QFETCH(QByteArray, before);
-        QFETCH(QByteArray, after);
-        const TemporaryHome home;
-        const QString path = home.write(file, before);
-        save(path, "300"_s);
-        QCOMPARE(home.read(file), after);
-        QCOMPARE(load(path), "300"_s);
+        // clang-format off
+        const std::pair<QByteArray, QByteArray> rows[] = {
+            {"# c\n;d=1\nnonsense\nKey=600\n=x\n[Group]\nKey=7\n", "# c\n;d=1\nnonsense\nKey=300\n=x\n[Group]\nKey=7\n"},
+            {"Key=1\nA=2\nKey=3\n", "Key=1\nA=2\nKey=300\n"}, // the last of two counts
+            {"  Key \t=  600 \t\n", "  Key \t=  300 \t\n"},
+            {"A=1\r\nKey=600\r\n", "A=1\r\nKey=300\r\n"},
+            {"A=1\r\n[G]\r\n", "A=1\r\nKey=300\r\n[G]\r\n"},
+            {"Key=600", "Key=300"},
+            {"A=1", "A=1\nKey=300\n"},
+            // a new key goes below the last ungrouped one, if any
+            {"A=1\nB=2\n\n# for G\n[G]\nx=1\n", "A=1\nB=2\nKey=300\n\n# for G\n[G]\nx=1\n"},
+            {"# c\n[G]\nx=1\n", "# c\nKey=300\n[G]\nx=1\n"},
+            {"[\nKey=1\n", "[\nKey=300\n"}, // no group
+            {"Key=\nB=1\n", "Key=300\nB=1\n"},
+            {"key=1\n", "key=1\nKey=300\n"},
+            {"A=\xff\xfe\n\x80\x81\nKey=6\n", "A=\xff\xfe\n\x80\x81\nKey=300\n"},
+            {{"A=\0b\n\0\nKey=6\n", 13}, {"A=\0b\n\0\nKey=300\n", 15}},
+            {"\xEF\xBB\xBFKey=6\n", "\xEF\xBB\xBFKey=300\n"},
+            {"", "Key=300\n"}};
+        // clang-format on
+        for (const auto &[before, after] : rows) {
+            const TemporaryHome home;
+            const QString path = home.write(file, before);
+            save(path, "300"_s);
+            QCOMPARE(home.read(file), after);
+            QCOMPARE(load(path), "300"_s);
+        }
     }
 
-    void valuesAreReadAsTheyStand_data()
-    {
-        constexpr Row rows[] = {{"missing", "Other=1\n", "default"},
-                                {"empty is no default", "Key=\n", ""},
-                                {"in a group", "[G]\nKey=1\n", "default"},
-                                {"bracket in a value", "A=[x]\nKey=1\n", "1"},
-                                {"signs of other lines in the value", "Key=#a=b;=c\n", "#a=b;=c"},
-                                {"escapes", "Key=\\sa\\\\b\\nc\\td\\re\\s\n", " a\\b\nc\td\re "},
-                                {"unknown escapes", "Key=\\x\\\"\\\n", "\\x\\\"\\"},
-                                {"UTF-8", "Key=\xc3\xa4\xe2\x82\xac\n", "ä€"}};
-        QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<QString>("value");
-        for (const Row &row : rows)
-            QTest::newRow(row.name) << bytes(row.before) << QString::fromUtf8(bytes(row.after));
-    }
     void valuesAreReadAsTheyStand()
     {
-        QFETCH(QByteArray, text);
-        QFETCH(QString, value);
-        const TemporaryHome home;
-        QCOMPARE(load(home.write(file, text)), value);
+        // clang-format off
+        const std::pair<QByteArray, QByteArray> rows[] = {
+            {"Other=1\n", "default"}, {"Key=\n", ""}, {"[G]\nKey=1\n", "default"}, {"A=[x]\nKey=1\n", "1"},
+            {"Key=#a=b;=c\n", "#a=b;=c"}, {"Key=\\sa\\\\b\\nc\\td\\re\\s\n", " a\\b\nc\td\re "},
+            {"Key=\\x\\\"\\\n", "\\x\\\"\\"}, {"Key=\xc3\xa4\xe2\x82\xac\n", "ä€"}};
+        // clang-format on
+        for (const auto &[before, after] : rows) {
+            const TemporaryHome home;
+            QCOMPARE(load(home.write(file, before)).toUtf8(), after);
+        }
     }
 
     void everyTextSurvivesTheFile()

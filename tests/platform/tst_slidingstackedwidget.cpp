@@ -1,7 +1,6 @@
 #include "platform/slidingstackedwidget.h"
 
 #include <QLabel>
-#include <QSignalSpy>
 #include <QtTest>
 
 class TestSlidingStackedWidget : public QObject

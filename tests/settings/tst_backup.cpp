@@ -2,8 +2,6 @@
 #include "tests/support/literals.h"
 #include "tests/support/temporaryhome.h"
 
-#include <QDir>
-#include <QFileInfo>
 #include <QtTest>
 
 #include <sys/stat.h>
@@ -66,15 +64,13 @@ private slots:
         const TemporaryHome home;
         const QString otherCopy = backUp(home.write("other"_s, "x"));
         QStringList copies;
-        for (int i = 0; i < 13; ++i)
-            copies.append(backUp(home.write("file"_s, QByteArray::number(i))));
-        for (int i = 0; i < copies.size(); ++i) {
-            QCOMPARE(QFileInfo::exists(copies.at(i)), i >= 3);
-            if (i >= 3)
-                QCOMPARE(contentOf(copies.at(i)), QByteArray::number(i));
-        }
+        for (int i = 0; i < 13; ++i) // under a name that could break the manifest's lines
+            copies.append(backUp(home.write("a\tb\nc\\d"_s, QByteArray::number(i))));
+        for (int i = 0; i < copies.size(); ++i)
+            QCOMPARE(contentOf(copies.at(i)), i < 3 ? QByteArray() : QByteArray::number(i));
         QVERIFY(QFileInfo::exists(otherCopy));
         QCOMPARE(home.read(manifest).count('\n'), 11);
+        QCOMPARE(QDir(home.path(backups)).entryList(QDir::Files).size(), 12);
     }
 
     void aBackupThatFailsStopsNothing()
@@ -84,15 +80,6 @@ private slots:
         home.write(".local/state"_s, "in the way");
         QCOMPARE(backUp(original), QString());
         QCOMPARE(contentOf(original), QByteArray("x"));
-    }
-
-    void oddNamesKeepTheManifestInLines()
-    {
-        const TemporaryHome home;
-        for (int i = 0; i < 12; ++i)
-            QVERIFY(!backUp(home.write("a\tb\nc\\d"_s, QByteArray::number(i))).isEmpty());
-        QCOMPARE(home.read(manifest).count('\n'), 10);
-        QCOMPARE(QDir(home.path(backups)).entryList(QDir::Files).size(), 11);
     }
 };
 
