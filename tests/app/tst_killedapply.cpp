@@ -20,8 +20,6 @@
 
 namespace {
 
-constexpr int rounds = 300;
-
 struct File {
     QString path; // below the home
     QByteArray before;
@@ -32,14 +30,6 @@ struct File {
 QByteArray remarks(const char *line)
 {
     return QByteArray(line).repeated(10000);
-}
-
-/// Lets a random part of \a longestMs pass.
-void waitForRandomMoment(qint64 longestMs, QRandomGenerator *random)
-{
-    const qint64 nanoseconds = qint64(random->bounded(double(longestMs) * 1e6));
-    const timespec moment = {time_t(nanoseconds / 1000000000), long(nanoseconds % 1000000000)};
-    ::ppoll(nullptr, 0, &moment, nullptr);
 }
 
 } // namespace
@@ -79,14 +69,14 @@ private slots:
     void everyFileIsOldOrNew()
     {
         int status = -1;
-        qint64 duration = 0;
+        int duration = 0;
         for (const char *time : {"first", "warm"}) {
             QElapsedTimer timer;
             timer.start();
             putBack();
             QVERIFY2(::waitpid(applyInAnotherProcess(), &status, 0) > 0, time);
             QCOMPARE(status, 0);
-            duration = timer.elapsed() + 1;
+            duration = int(timer.elapsed()) + 1;
         }
         for (File &file : m_files) {
             file.after = m_home.read(file.path);
@@ -94,12 +84,13 @@ private slots:
         }
 
         QRandomGenerator random(1);
+        constexpr int rounds = 300;
         int finished = 0;
         for (int round = 0; round < rounds; ++round) {
             putBack();
             const pid_t process = applyInAnotherProcess();
             QVERIFY(process > 0);
-            waitForRandomMoment(duration * 5 / 4, &random); // some rounds reach the end
+            ::poll(nullptr, 0, random.bounded(duration * 5 / 4)); // some rounds reach the end
             ::kill(-process, SIGKILL);
             ::kill(process, SIGKILL);
             QVERIFY(::waitpid(process, &status, 0) > 0);

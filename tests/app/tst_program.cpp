@@ -7,6 +7,7 @@
 
 #include <QtTest>
 
+#include <optional>
 #include <vector>
 
 namespace {
@@ -51,11 +52,7 @@ class TestProgram : public QObject
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        m_home.reset(); // the old home's environment goes first
-        m_home = std::make_unique<TemporaryHome>();
-    }
+    void init() { m_home.emplace(); }
 
     void helpPrintsOneLine()
     {
@@ -133,37 +130,31 @@ private slots:
         }
     }
 
-    void anEndFromOutsideStoresTheSize_data()
-    {
-        QTest::addColumn<bool>("serverEnds"); // else the program gets the signal of termination
-        QTest::addColumn<bool>("inModalDialog");
-        QTest::newRow("terminated") << false << false;
-        QTest::newRow("terminated in a modal dialog") << false << true;
-        QTest::newRow("no server any more") << true << false;
-        QTest::newRow("no server any more in a modal dialog") << true << true;
-    }
     void anEndFromOutsideStoresTheSize()
     {
-        QFETCH(bool, serverEnds);
-        QFETCH(bool, inModalDialog);
-        PrivateServer server;
-        EditorProcess editor;
-        QVERIFY2(editor.waitForWindow(), qPrintable(editor.errors()));
-        if (inModalDialog) {
-            editTheDelay();
-            EditorProcess::press("Escape");
-            QVERIFY(editor.waitForWindow("Save \\?"_s));
+        for (const bool serverEnds : {false, true}) { // else the program gets the signal of termination
+            for (const bool inModalDialog : {false, true}) {
+                init();
+                PrivateServer server;
+                EditorProcess editor;
+                QVERIFY2(editor.waitForWindow(), qPrintable(editor.errors()));
+                if (inModalDialog) {
+                    editTheDelay();
+                    EditorProcess::press("Escape");
+                    QVERIFY(editor.waitForWindow("Save \\?"_s));
+                }
+                QVERIFY(!m_home->read(ownSettings).contains("width"));
+                if (serverEnds)
+                    server.end();
+                else
+                    editor.process().terminate();
+                QCOMPARE(editor.exitCode(), serverEnds ? 1 : 0);
+                const QSettings stored(m_home->path(ownSettings), QSettings::IniFormat);
+                QVERIFY2(stored.value("width"_s).toInt() >= 800, m_home->read(ownSettings).constData());
+                QVERIFY(stored.value("height"_s).toInt() > 0);
+                QVERIFY(!m_home->exists(".config/qaz/current.themerc"_s));
+            }
         }
-        QVERIFY(!m_home->read(ownSettings).contains("width"));
-        if (serverEnds)
-            server.end();
-        else
-            editor.process().terminate();
-        QCOMPARE(editor.exitCode(), serverEnds ? 1 : 0);
-        const QSettings stored(m_home->path(ownSettings), QSettings::IniFormat);
-        QVERIFY2(stored.value("width"_s).toInt() >= 800, m_home->read(ownSettings).constData());
-        QVERIFY(stored.value("height"_s).toInt() > 0);
-        QVERIFY(!m_home->exists(".config/qaz/current.themerc"_s));
     }
 
     void withoutXItEditsAllTheSame()
@@ -219,7 +210,7 @@ private slots:
     }
 
 private:
-    std::unique_ptr<TemporaryHome> m_home;
+    std::optional<TemporaryHome> m_home;
 };
 
 QTEST_MAIN(TestProgram)

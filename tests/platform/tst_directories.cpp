@@ -114,8 +114,6 @@ private slots:
         QCOMPARE(modeOf(home.path(".config/qaz"_s)), 0700U);
         QCOMPARE(QDir(home.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
                  QStringList{".config"_s});
-        QCOMPARE(QCoreApplication::organizationName(), "qaz"_s);
-        QCOMPARE(QCoreApplication::applicationName(), "qaz-admin-theme"_s);
         QCOMPARE(QCoreApplication::applicationVersion(), "1.2-3"_s);
         for (const QByteArray &mode : {QByteArray("1"), QByteArray("true"), QByteArray("yes")}) {
             const ScopedEnvironment tablet("QAZ_TABLET_MODE", mode);

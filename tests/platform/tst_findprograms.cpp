@@ -61,49 +61,33 @@ private slots:
 
     void runningProcessIsFoundByName()
     {
-        struct Case {
-            QString argument0;
-            QString name;
-            bool found;
-        };
-        // Longer than the fifteen characters that the kernel keeps, and made to mislead a reader of its tables.
+        // With argv[0], a name and whether it is found. The program's is longer than the fifteen characters that the kernel keeps, and made to mislead a reader of its tables.
         const QString file = unique("qaz) Z (test-manager"_s);
         const QString alias = unique("qaz-test-alias"_s);
         const QString wait = "3600"_s;
-        const Case cases[] = {{"something else"_s, file, true},
-                              {"/opt/x/"_s + alias, alias, true},
-                              {file, file.mid(4), false},
-                              {file, file.left(15), false},
-                              {u'/' + alias + "/x"_s, alias, false},
-                              {{}, {}, false},
-                              {file, wait, false}};
+        const std::tuple<QString, QString, bool> cases[] = {{"something else"_s, file, true},
+                                                            {"/opt/x/"_s + alias, alias, true},
+                                                            {file, file.mid(4), false},
+                                                            {file, file.left(15), false},
+                                                            {u'/' + alias + "/x"_s, alias, false},
+                                                            {{}, {}, false},
+                                                            {file, wait, false}};
         const TemporaryHome home;
         const QString program = installWaitingProgram(home.path(file));
-        for (const Case &one : cases) {
-            QVERIFY(!isRunning(one.name));
-            const SpawnedProcess process(program, {one.argument0, wait});
-            QVERIFY2(isRunning(one.name) == one.found, qPrintable(one.argument0 + u' ' + one.name));
+        for (const auto &[argument0, name, found] : cases) {
+            QVERIFY(!isRunning(name));
+            const SpawnedProcess process(program, {argument0, wait});
+            QVERIFY2(isRunning(name) == found, qPrintable(argument0 + u' ' + name));
         }
     }
 
-    void replacedProgramRunsOnAndZombieDoesNot()
-    {
-        const TemporaryHome home;
-        const QString name = unique("qaz-test-upgraded"_s);
-        const QString program = installWaitingProgram(home.path(name));
-        SpawnedProcess process(program, {"x"_s, "3600"_s});
-        QVERIFY(QFile::remove(program));
-        QVERIFY(isRunning(name));
-        process.makeZombie();
-        QVERIFY(!isRunning(name));
-    }
-
-    void vanishingProcessesDisturbNothing()
+    void removedProgramIsFoundAmongVanishingProcesses()
     {
         const TemporaryHome home;
         const QString name = unique("qaz-test-steady"_s);
         const QString program = installWaitingProgram(home.path(name));
-        const SpawnedProcess steady(program, {program, "3600"_s});
+        SpawnedProcess steady(program, {"x"_s, "3600"_s});
+        QVERIFY(QFile::remove(program));
         const pid_t spawner = ::fork();
         if (spawner == 0) {
             ::prctl(PR_SET_PDEATHSIG, SIGKILL); // also when the test itself fails
@@ -119,6 +103,8 @@ private slots:
         ::kill(spawner, SIGKILL);
         ::waitpid(spawner, nullptr, 0);
         QCOMPARE(seen, 100);
+        steady.makeZombie();
+        QVERIFY(!isRunning(name));
     }
 };
 

@@ -14,26 +14,23 @@ private slots:
     void onlyDifferencesAreStoredAndAnnounced()
     {
         const QString key = "K"_s;
-        const struct {
-            const char *before;
-            QString defaultText;
-            QVariant value;
-            const char *after; // the same as before: nothing is sent, either
-        } rows[] = {{"K=600\n", "0"_s, 300, "K=300\n"},
-                    {"K=600\n", "0"_s, 600, "K=600\n"},
-                    {"", "600"_s, 600, ""},
-                    {"", "600"_s, -5, "K=-5\n"},
-                    {"K=abc\n", "7"_s, 0, "K=abc\n"},
-                    {"K=true\n", "false"_s, true, "K=true\n"},
-                    {"K=True\n", "false"_s, true, "K=True\n"},
-                    {"K=TRUE\n", "true"_s, true, "K=true\n"},
-                    {"K=yes\n", "true"_s, false, "K=yes\n"},
-                    {"", "true"_s, true, ""},
-                    {"K=true\n", "true"_s, false, "K=false\n"},
-                    {"K=a b\n", {}, "a b"_s, "K=a b\n"},
-                    {"K=a\n", {}, "A"_s, "K=A\n"},
-                    {"K=a\n", {}, ""_s, "K=\n"},
-                    {"", {}, " 字%n%s%1\nß "_s, "K=\\s字%n%s%1\\nß\\s\n"}};
+        // The file before, a default, the value and the file after; where both are the same, nothing is sent.
+        const std::tuple<QByteArray, QString, QVariant, QByteArray> rows[] = {
+            {"K=600\n", "0"_s, 300, "K=300\n"},
+            {"K=600\n", "0"_s, 600, "K=600\n"},
+            {"", "600"_s, 600, ""},
+            {"", "600"_s, -5, "K=-5\n"},
+            {"K=abc\n", "7"_s, 0, "K=abc\n"},
+            {"K=true\n", "false"_s, true, "K=true\n"},
+            {"K=True\n", "false"_s, true, "K=True\n"},
+            {"K=TRUE\n", "true"_s, true, "K=true\n"},
+            {"K=yes\n", "true"_s, false, "K=yes\n"},
+            {"", "true"_s, true, ""},
+            {"K=true\n", "true"_s, false, "K=false\n"},
+            {"K=a b\n", {}, "a b"_s, "K=a b\n"},
+            {"K=a\n", {}, "A"_s, "K=A\n"},
+            {"K=a\n", {}, ""_s, "K=\n"},
+            {"", {}, " 字%n%s%1\nß "_s, "K=\\s字%n%s%1\\nß\\s\n"}};
         for (const auto &[before, defaultText, value, after] : rows) {
             const TemporaryHome home;
             WmListener listener;
@@ -48,8 +45,8 @@ private slots:
                 else
                     changed = updateStringValue(&store, key, defaultText, value.toString());
             }
-            QCOMPARE(home.read("t"_s), QByteArray(after));
-            QCOMPARE(changed, qstrcmp(before, after) != 0);
+            QCOMPARE(home.read("t"_s), after);
+            QCOMPARE(changed, before != after);
             const QString command = "QAZWM_UPDATE_VAL K "_s + value.toString();
             QCOMPARE(listener.take(), changed ? QStringList{command} : QStringList());
         }

@@ -14,19 +14,15 @@ private slots:
     {
         const QByteArray german("Aufruf: qaz-admin-theme Designdatei - Designdatei öffnen und bearbeiten\n");
         const QByteArray english("Usage: qaz-admin-theme themefile - open and edit theme file\n");
-        const struct {
-            const char *locale;
-            const char *languages;
-            QByteArray line;
-        } rows[] = {{"C", "", "Qaz\n"},           {"ru_RU.UTF-8", "", "Qaz\n"},
-                    {"en_GB.UTF-8", "", english}, {"de_AT.UTF-8", "", german},
-                    {"C.UTF-8", "de:fr", german}, {"ru_RU.UTF-8", "ru:de", german}};
-        for (const auto &row : rows) {
-            const ScopedEnvironment all("LC_ALL", row.locale);
-            const ScopedEnvironment preferred("LANGUAGE", row.languages);
+        const std::tuple<QByteArray, QByteArray, QByteArray> rows[] = {
+            {"C", "", "Qaz\n"},          {"ru_RU.UTF-8", "", "Qaz\n"}, {"en_GB.UTF-8", "", english},
+            {"de_AT.UTF-8", "", german}, {"C.UTF-8", "de:fr", german}, {"ru_RU.UTF-8", "ru:de", german}};
+        for (const auto &[locale, languages, line] : rows) {
+            const ScopedEnvironment all("LC_ALL", locale);
+            const ScopedEnvironment preferred("LANGUAGE", languages);
             EditorProcess editor({"--help"_s});
             QCOMPARE(editor.exitCode(), 1);
-            QCOMPARE(editor.process().readAllStandardOutput(), row.line);
+            QCOMPARE(editor.process().readAllStandardOutput(), line);
         }
     }
 

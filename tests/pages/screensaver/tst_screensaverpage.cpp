@@ -8,6 +8,8 @@
 #include <QSpinBox>
 #include <QtTest>
 
+#include <optional>
+
 namespace {
 
 const QString themeFile = "t"_s;
@@ -21,8 +23,7 @@ class TestScreensaverPage : public QObject
 private slots:
     void init()
     {
-        m_home.reset(); // the old home's environment goes first
-        m_home = std::make_unique<TemporaryHome>();
+        m_home.emplace();
         m_page = std::make_unique<ScreensaverPage>();
     }
 
@@ -132,7 +133,7 @@ private:
         return texts.join(u' ');
     }
 
-    std::unique_ptr<TemporaryHome> m_home;
+    std::optional<TemporaryHome> m_home;
     std::unique_ptr<ScreensaverPage> m_page;
 };
 
