@@ -61,10 +61,11 @@ private slots:
 
     void runningProcessIsFoundByName()
     {
-        // With argv[0], a name and whether it is found. The program's is longer than the fifteen characters that the kernel keeps, and made to mislead a reader of its tables.
+        // Longer than the fifteen characters that the kernel keeps, and made to mislead a reader of its tables.
         const QString file = unique("qaz) Z (test-manager"_s);
         const QString alias = unique("qaz-test-alias"_s);
         const QString wait = "3600"_s;
+        // argv[0], a name, and whether it is found.
         const std::tuple<QString, QString, bool> cases[] = {{"something else"_s, file, true},
                                                             {"/opt/x/"_s + alias, alias, true},
                                                             {file, file.mid(4), false},
