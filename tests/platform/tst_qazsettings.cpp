@@ -39,7 +39,8 @@ private slots:
     {
         // clang-format off
         const std::pair<QByteArray, QByteArray> rows[] = {
-            {"# c\n;d=1\nnonsense\nKey=600\n=x\n[Group]\nKey=7\n", "# c\n;d=1\nnonsense\nKey=300\n=x\n[Group]\nKey=7\n"},
+            {"# c\n;d=1\nnonsense\nKey=600\n=x\n[Group]\nKey=7\n",
+             "# c\n;d=1\nnonsense\nKey=300\n=x\n[Group]\nKey=7\n"},
             {"Key=1\nA=2\nKey=3\n", "Key=1\nA=2\nKey=300\n"}, // the last of two counts
             {"  Key \t=  600 \t\n", "  Key \t=  300 \t\n"},
             {"A=1\r\nKey=600\r\n", "A=1\r\nKey=300\r\n"},

@@ -76,9 +76,9 @@ private slots:
         check("lockTTYCheckBox")->setChecked(false);
         check("lockXaccessCheckBox")->setChecked(true);
         save();
-        QCOMPARE(
-            listener.take().replaceInStrings("QAZWM_UPDATE_VAL "_s, QString()).join(u' '),
-            "ScreenSaverDelay 900 LockerDpmsOffTimeout 1200 LockerWrongPasswdTimeout 3 LockerBellLevel 4 LockerTTYLock false LockerXaccessLock true"_s);
+        QCOMPARE(listener.take().replaceInStrings("QAZWM_UPDATE_VAL "_s, QString()).join(u' '),
+                 "ScreenSaverDelay 900 LockerDpmsOffTimeout 1200 LockerWrongPasswdTimeout 3 "
+                 "LockerBellLevel 4 LockerTTYLock false LockerXaccessLock true"_s);
     }
 
     void aClearedCheckBoxSwitchesTheScreensaverOff()
