@@ -31,7 +31,7 @@ namespace {
 qint64 bytesInUse()
 {
     const struct mallinfo2 info = ::mallinfo2();
-    return qint64(info.uordblks + info.hblkhd);
+    return qint64(info.uordblks) + qint64(info.hblkhd);
 }
 
 /// Turns the wheel over \a widget by one step.

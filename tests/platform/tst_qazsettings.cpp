@@ -172,6 +172,7 @@ private slots:
         const TemporaryHome home;
         const QString path = home.write(file, "");
         std::vector<std::thread> threads;
+        threads.reserve(4);
         for (int writer = 0; writer < 4; ++writer) {
             threads.emplace_back([path, writer] {
                 for (int round = 0; round < 25; ++round)

@@ -18,6 +18,7 @@ SpawnedProcess::SpawnedProcess(const QString &program, const QStringList &argume
     for (const QString &argument : arguments)
         texts.push_back(QFile::encodeName(argument));
     std::vector<char *> argv;
+    argv.reserve(texts.size() + 1);
     for (QByteArray &text : texts)
         argv.push_back(text.data());
     argv.push_back(nullptr);

@@ -126,7 +126,7 @@ void TestPreviews::swatches()
 
 void TestPreviews::iconsKeepTheirPixels()
 {
-    const QImage image = gradientSwatch(canvasSize, QColor(1, 2, 3, 4), Qt::red);
+    QImage image = gradientSwatch(canvasSize, QColor(1, 2, 3, 4), Qt::red);
     QCOMPARE(unpackImage(packImage(image), canvasSize), image);
     QVERIFY(unpackImage(packImage(image), QSize(110, 33)).isNull());
     QVERIFY(unpackImage("garbage", canvasSize).isNull());
