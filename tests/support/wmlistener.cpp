@@ -2,22 +2,18 @@
 
 #include "tools/commandreceiver.h"
 
-#include <QSocketNotifier>
 #include <QX11Info>
 
 #include <X11/Xlib.h>
 
-WmListener::WmListener(QObject *parent)
-    : QObject(parent)
-    , m_display(XOpenDisplay(nullptr))
+WmListener::WmListener()
+    : m_display(XOpenDisplay(nullptr))
     , m_receiver(std::make_unique<CommandReceiver>())
 {
     if (!m_display)
         qFatal("The test needs an X server");
     XSelectInput(m_display, DefaultRootWindow(m_display), SubstructureNotifyMask);
     XSync(m_display, False);
-    auto *notifier = new QSocketNotifier(ConnectionNumber(m_display), QSocketNotifier::Read, this);
-    connect(notifier, &QSocketNotifier::activated, this, &WmListener::readEvents);
 }
 
 WmListener::~WmListener()
@@ -58,6 +54,5 @@ void WmListener::readEvents()
         if (command.endsWith('\n'))
             command.chop(1);
         m_commands.append(QString::fromLocal8Bit(command));
-        emit commandArrived(m_commands.last());
     }
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QObject>
 #include <QStringList>
 
 #include <memory>
@@ -10,21 +9,19 @@ struct _XDisplay;
 
 /// The window manager's ears: a real X client, on a connection of its own, that receives commands from the
 /// root window. Construct it before the program sends.
-class WmListener : public QObject
+class WmListener
 {
-    Q_OBJECT
 public:
-    explicit WmListener(QObject *parent = nullptr);
-    ~WmListener() override;
+    WmListener();
+    ~WmListener();
+    WmListener(const WmListener &) = delete;
+    WmListener &operator=(const WmListener &) = delete;
 
     /// All commands that have arrived so far, each with its final newline cut off.
     QStringList commands();
     /// The commands that arrived since the last call. Asks the server first, so that every command sent
     /// before this call by this process, or by one that has ended, is among them.
     QStringList take();
-
-signals:
-    void commandArrived(const QString &command);
 
 private:
     void readEvents();
