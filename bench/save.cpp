@@ -59,7 +59,7 @@ int applyRepeatedly(int count)
 /// What strace saw in one phase.
 struct Writes {
     int replacements = 0; // files put in place
-    int others = 0;       // everything else that changes a file or directory
+    int others = 0;       // everything else that changes a file or directory, but for temporary ones
 };
 
 Writes writesIn(const QString &record, const char *begin, const char *end)
@@ -74,7 +74,8 @@ Writes writesIn(const QString &record, const char *begin, const char *end)
          record.mid(from, record.indexOf(QLatin1String(end), from) - from).split(QLatin1Char('\n'))) {
         if (line.contains(replaces))
             ++seen.replacements;
-        else if (line.contains(writes) && !line.contains(QLatin1String("/dev/")))
+        else if (line.contains(writes) && !line.contains(QLatin1String("/dev/"))
+                 && !line.contains(QDir::tempPath()))
             ++seen.others;
     }
     return seen;
