@@ -3,10 +3,16 @@
 #include "platform/base/chandle.h"
 
 #include <algorithm>
+#include <atomic>
 #include <cerrno>
 #include <climits>
 #include <cstring>
+#include <future>
+#include <memory>
+#include <string>
 #include <string_view>
+#include <thread>
+#include <vector>
 
 #include <dirent.h>
 #include <fcntl.h>
@@ -93,20 +99,55 @@ bool isProcessId(const char *name)
     return name[0] >= '1' && name[0] <= '9';
 }
 
+/// The processes of a moment; some may be gone when they are looked at.
+class ProcessList
+{
+public:
+    ProcessList()
+        : m_proc(::opendir("/proc"))
+    {
+        while (const dirent *entry = m_proc ? ::readdir(m_proc.get()) : nullptr) {
+            if (isProcessId(entry->d_name))
+                m_ids.emplace_back(entry->d_name);
+        }
+    }
+
+    bool contains(std::string_view name) const
+    {
+        std::atomic<std::size_t> next = 0;
+        std::atomic<bool> isFound = false;
+        const auto search = [&] {
+            for (std::size_t i = next++; i < m_ids.size() && !isFound; i = next++) {
+                Process process(::dirfd(m_proc.get()), m_ids[i].c_str());
+                if (process.isNamed(name) && process.isAlive())
+                    isFound = true;
+            }
+        };
+        std::vector<std::future<void>> helpers;
+        for (unsigned i = 1; i < searcherCount(); ++i)
+            helpers.push_back(std::async(search)); // without a free thread there is no help, and no failure
+        search();
+        helpers.clear(); // waits for them
+        return isFound;
+    }
+
+private:
+    /// The kernel takes 10 us to tell about a process: a desktop's few hundred are not worth a thread.
+    unsigned searcherCount() const
+    {
+        constexpr std::size_t worthAThread = 500;
+        constexpr unsigned most = 4;
+        const auto wanted = unsigned(std::min<std::size_t>(m_ids.size() / worthAThread, most));
+        return std::max(1U, std::min(wanted, std::thread::hardware_concurrency()));
+    }
+
+    std::unique_ptr<DIR, Release<::closedir>> m_proc;
+    std::vector<std::string> m_ids;
+};
+
 } // namespace
 
 bool findInPS(const char *name)
 {
-    const std::string_view wanted(name);
-    const std::unique_ptr<DIR, Release<::closedir>> directory(::opendir("/proc"));
-    if (wanted.empty() || !directory)
-        return false;
-    while (const dirent *entry = ::readdir(directory.get())) {
-        if (!isProcessId(entry->d_name))
-            continue;
-        Process process(::dirfd(directory.get()), entry->d_name);
-        if (process.isNamed(wanted) && process.isAlive())
-            return true;
-    }
-    return false;
+    return *name && ProcessList().contains(name);
 }
