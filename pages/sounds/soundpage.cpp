@@ -1,6 +1,7 @@
 #include "pages/sounds/soundpage.h"
 
 #include "pages/sounds/soundassignments.h"
+#include "pages/sounds/soundoutput.h"
 #include "pages/sounds/soundplayer.h"
 #include "pages/sounds/wavconverter.h"
 #include "platform/qazfiledialog.h"
@@ -16,7 +17,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSignalBlocker>
-#include <QSound>
 
 namespace {
 
@@ -36,11 +36,7 @@ SoundPage::SoundPage(QWidget *parent)
     connect(m_player.get(), &SoundPlayer::ended, this, &SoundPage::stopItem);
 }
 
-SoundPage::~SoundPage()
-{
-    if (m_sound)
-        m_sound->stop();
-}
+SoundPage::~SoundPage() = default;
 
 void SoundPage::createRows()
 {

@@ -5,10 +5,10 @@
 
 #include <memory>
 
-class QSound;
 class QTreeWidgetItem;
 class QazSettings;
 class QazSoundTheme;
+class SoundOutput;
 class SoundPlayer;
 class WaitCursor;
 struct SoundFormats;
@@ -77,7 +77,7 @@ private:
     std::unique_ptr<Ui::SoundForm> m_ui;
     std::unique_ptr<QazSoundTheme> m_theme; // none before the user chooses one
     std::unique_ptr<SoundPlayer> m_player;
-    std::unique_ptr<QSound> m_sound;
+    std::unique_ptr<SoundOutput> m_sound;
     std::unique_ptr<WaitCursor> m_startCursor; // until the player has started
     bool useQSound = false;
 };

@@ -1,4 +1,5 @@
 #include "pages/sounds/soundassignments.h"
+#include "pages/sounds/soundoutput.h"
 #include "pages/sounds/soundpage.h"
 #include "pages/sounds/soundplayer.h"
 #include "platform/qazsoundtheme.h"
@@ -7,7 +8,6 @@
 
 #include <QFileInfo>
 #include <QProcess>
-#include <QSound>
 
 void SoundPage::playItem()
 {
@@ -22,9 +22,10 @@ void SoundPage::playItem()
                                 "for example ogg/oga to wav by oggdev utility.");
         showMessage(QMessageBox::Critical, tr("Warning"), text.arg(sound.path));
     } else if (useQSound) {
-        m_sound = std::make_unique<QSound>(sound.path);
+        m_sound = createQSound(sound.path);
         m_ui->stopButton->setEnabled(true);
-        m_sound->play();
+        if (m_sound)
+            m_sound->play();
     } else if (!m_player->isInstalled()) {
         showMessage(QMessageBox::Critical, tr("Error"), tr("Program %1 not found").arg(m_player->program()));
     } else if (!QFileInfo::exists(sound.path)) {

@@ -1,3 +1,4 @@
+#include "pages/sounds/soundoutput.h"
 #include "pages/sounds/soundplayer.h"
 #include "pages/sounds/wavconverter.h"
 #include "tests/support/childprocesses.h"
@@ -5,6 +6,7 @@
 #include "tests/support/literals.h"
 #include "tests/support/standarderror.h"
 
+#include <QLibrary>
 #include <QtTest>
 
 #include <sys/stat.h>
@@ -40,6 +42,19 @@ private slots:
         QCOMPARE(programs.calls(name).value(0).join(QLatin1Char(' ')), row.at(2));
         const QString told = QString::fromLocal8Bit(errors.take());
         QVERIFY2(told.contains(diagnostic) && told.isEmpty() == diagnostic.isEmpty(), qPrintable(told));
+    }
+
+    void findsQSoundInItsModule()
+    {
+        // Of the editor, which has the module beside it; this program has not.
+        QCOMPARE(createQSound("/nowhere.wav"_s), nullptr);
+        QLibrary module(QStringLiteral(QAZ_BINARY_DIR "/lib/qaz-admin-theme/qsound"));
+        using Create = SoundOutput *(*)(const QString &);
+        const auto create = reinterpret_cast<Create>(module.resolve("createQSoundOutput"));
+        QVERIFY2(create, qPrintable(module.errorString()));
+        const std::unique_ptr<SoundOutput> sound(create("/nowhere.wav"_s));
+        sound->play();
+        sound->stop();
     }
 
     void leavesALongConversionAlone()
