@@ -88,7 +88,7 @@ bool FontAASettings::load()
     if (config.hintStyle() == HintStyle::NotSet) {
         config.setHintStyle(HintStyle::Medium);
         QSettings store;
-        store.setValue(QLatin1String(RenderingKey::hintStyle), FontRendering::fileName(HintStyle::Medium));
+        storeValue(&store, RenderingKey::hintStyle, FontRendering::fileName(HintStyle::Medium));
         store.sync();
     }
     m_ui->hintStyleCombo->setCurrentText(FontRendering::displayName(config.hintStyle()));
