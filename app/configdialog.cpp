@@ -60,6 +60,13 @@ int storedExtent(const QSettings &settings, const QString &key, int defaultExten
     return extent > 0 && extent <= largestExtent ? extent : defaultExtent;
 }
 
+WallpaperImage wallpaperAhead(const QString &themeFile)
+{
+    QazSettings store(themeFile);
+    store.sync(true);
+    return WallpaperPage::imageAhead(&store);
+}
+
 /// A file name may itself hold the place mark of the modified sign.
 QString titleText(const QString &fileName)
 {
@@ -74,9 +81,11 @@ ConfigDialog::ConfigDialog(const QString &fileName, QWidget *parent, Qt::WindowF
     , pagesWidget(new SlidingStackedWidget(this))
     , themeFile(fileName)
 {
+    // Decoding takes as long as the fonts and the pages together: another processor does it meanwhile.
+    WallpaperImage wallpaper = wallpaperAhead(themeFile);
     fillContents();
     connect(pagesWidget, &SlidingStackedWidget::animationFinished, this, &ConfigDialog::animationDone);
-    createPages();
+    createPages(std::move(wallpaper));
     contentsWidget->setCurrentRow(0);
     createButtons();
     createLayout();
@@ -131,10 +140,10 @@ void ConfigDialog::fillContents()
     contentsWidget->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 }
 
-void ConfigDialog::createPages()
+void ConfigDialog::createPages(WallpaperImage wallpaper)
 {
     pagesWidget->setObjectName(QStringLiteral("pagesWidget"));
-    wallpaperPage = new WallpaperPage(pagesWidget);
+    wallpaperPage = new WallpaperPage(pagesWidget, std::move(wallpaper));
     themePage = new ThemePage(pagesWidget);
     fontPage = new FontPage(pagesWidget);
     screensaverPage = new ScreensaverPage(pagesWidget);

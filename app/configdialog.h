@@ -11,6 +11,7 @@ class ScreensaverPage;
 class SlidingStackedWidget;
 class SoundPage;
 class ThemePage;
+class WallpaperImage;
 class WallpaperPage;
 
 /// The program's only main window: a list of six pages, the pages in a sliding stack, and the buttons. A page
@@ -55,7 +56,7 @@ protected:
 
 private:
     void fillContents();
-    void createPages();
+    void createPages(WallpaperImage wallpaper);
     void createButtons();
     void createLayout();
     void restoreSize();

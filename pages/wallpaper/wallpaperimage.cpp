@@ -66,6 +66,16 @@ QByteArray bytesOf(const T &value)
     return QByteArray(reinterpret_cast<const char *>(&value), sizeof value);
 }
 
+/// Differs when the file or its content does; empty for what is no image for sure.
+QByteArray fileKey(const QString &path)
+{
+    struct stat status = {};
+    if (!fileStatus(path, &status))
+        return {};
+    return QFile::encodeName(path) + '\0' + bytesOf(status.st_dev) + bytesOf(status.st_ino)
+           + bytesOf(status.st_size) + bytesOf(status.st_mtim);
+}
+
 } // namespace
 
 QImage readImage(const QString &path)
@@ -83,15 +93,24 @@ QImage readImage(const QString &path)
 
 QImage WallpaperImage::load(const QString &path)
 {
-    struct stat status = {};
-    if (!fileStatus(path, &status))
+    const QByteArray key = fileKey(path);
+    if (key.isEmpty())
         return {};
-    const QByteArray key = QFile::encodeName(path) + '\0' + bytesOf(status.st_dev) + bytesOf(status.st_ino)
-                           + bytesOf(status.st_size) + bytesOf(status.st_mtim);
     if (key != m_key) {
         m_image = QImage(); // freed before the next one is decoded
+        m_ahead = {};
         m_image = readImage(path);
         m_key = key;
+    } else if (m_ahead.valid()) {
+        m_image = m_ahead.get();
     }
     return m_image;
+}
+
+void WallpaperImage::loadAhead(const QString &path)
+{
+    m_key = fileKey(path);
+    m_image = QImage();
+    if (!m_key.isEmpty())
+        m_ahead = std::async(readImage, path);
 }

@@ -15,8 +15,10 @@
 #include <QCompleter>
 #include <QDirModel>
 #include <QFileInfo>
+#include <QGuiApplication>
 #include <QMessageBox>
 #include <QScreen>
+#include <QTimer>
 #include <QUrl>
 
 namespace {
@@ -38,6 +40,21 @@ QString storedText(const QazSettings *settings, const Setting &setting)
     return settings->value(setting.key, QString(setting.defaultText)).toString();
 }
 
+/// A desktop's own wallpaper may stand in quotation marks.
+QString unquoted(QString wallpaper)
+{
+    return wallpaper.remove(QLatin1Char('"'));
+}
+
+/// The file of the wallpaper that is called \a name; empty when there is none.
+QString foundWallpaper(const QString &name, const QSize &screen)
+{
+    char found[pathBufferSize] = "";
+    FindWallPaperByName(name.toLocal8Bit().constData(), found, screen.width(), screen.height(),
+                        convertCommand);
+    return QFile::decodeName(found);
+}
+
 /// Completes typed paths. The model belongs to the completer.
 QCompleter *createPathCompleter(QObject *parent)
 {
@@ -51,16 +68,32 @@ QCompleter *createPathCompleter(QObject *parent)
 
 } // namespace
 
-WallpaperPage::WallpaperPage(QWidget *parent)
+WallpaperPage::WallpaperPage(QWidget *parent, WallpaperImage image)
     : QWidget(parent)
     , m_ui(std::make_unique<Ui::WallpaperForm>())
+    , m_image(std::move(image))
 {
     m_ui->setupUi(this);
     m_ui->wallpaperLineEdit->setCompleter(createPathCompleter(this));
     m_ui->wallpaperLineEdit->setClearButtonEnabled(true);
 }
 
-WallpaperPage::~WallpaperPage() = default;
+WallpaperPage::~WallpaperPage()
+{
+    writeShownPreview();
+}
+
+WallpaperImage WallpaperPage::imageAhead(const QazSettings *settings)
+{
+    WallpaperImage image;
+    const QString own = currentDesktopWallpaper();
+    const QString text = own.isEmpty() ? storedText(settings, wallpaperSetting) : unquoted(own);
+    if (text.isEmpty() || isColorText(text))
+        return image;
+    const QSize screen = QGuiApplication::primaryScreen()->geometry().size();
+    image.loadAhead(QFileInfo(text).isFile() ? text : foundWallpaper(text, screen));
+    return image;
+}
 
 bool WallpaperPage::loadValues(QazSettings *settings)
 {
@@ -83,7 +116,7 @@ bool WallpaperPage::loadValues(QazSettings *settings)
 
 void WallpaperPage::loadDesktopValues(const QString &wallpaper)
 {
-    m_ui->wallpaperLineEdit->setText(QString(wallpaper).remove(QLatin1Char('"')));
+    m_ui->wallpaperLineEdit->setText(unquoted(wallpaper));
     m_ui->wallpaperForCurrDesktopCheckBox->setChecked(true);
     m_ui->wallpaperPositionCombo->setCurrentIndex(int(Fit::Stretch));
     m_ui->wallpaperPositionCombo->setEnabled(false);
@@ -208,9 +241,29 @@ void WallpaperPage::selectWallpaper(const QString &text)
     m_ui->wallpaperPixmapLabel->setPixmap(m_preview);
     if (image.isNull())
         return;
+    writeShownPreview(); // the last one, if the page was hidden since
+    m_unwrittenPreview = preview;
+    m_unwrittenPath = previewPath(m_ui->wallpaperPositionCombo->currentText(), fill, text);
     // Writing takes longer than all the rest: the user sees the picture first.
+    if (!isVisible())
+        return;
     m_ui->wallpaperPixmapLabel->repaint();
-    writePreview(previewPath(m_ui->wallpaperPositionCombo->currentText(), fill, text), preview);
+    writeShownPreview();
+}
+
+void WallpaperPage::writeShownPreview()
+{
+    if (!m_unwrittenPreview.isNull())
+        writePreview(m_unwrittenPath, m_unwrittenPreview);
+    m_unwrittenPreview = QImage();
+}
+
+/// A preview that was drawn before the page came into view is written when all of the window is painted.
+void WallpaperPage::paintEvent(QPaintEvent *event)
+{
+    QWidget::paintEvent(event);
+    if (!m_unwrittenPreview.isNull())
+        QTimer::singleShot(0, this, &WallpaperPage::writeShownPreview);
 }
 
 /// A colour that can't be read is replaced by the page's in the line edit, which draws the preview again.
@@ -231,11 +284,8 @@ QImage WallpaperPage::wallpaperImage(const QString &text)
     QImage image = m_image.load(text);
     if (!image.isNull())
         return image;
-    char found[pathBufferSize] = "";
-    const QSize screen = screenSize();
-    FindWallPaperByName(text.toLocal8Bit().constData(), found, screen.width(), screen.height(),
-                        convertCommand);
-    return found[0] ? m_image.load(QFile::decodeName(found)) : QImage();
+    const QString found = foundWallpaper(text, screenSize());
+    return found.isEmpty() ? QImage() : m_image.load(found);
 }
 
 QSize WallpaperPage::screenSize() const

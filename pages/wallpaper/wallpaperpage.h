@@ -20,8 +20,12 @@ class WallpaperPage : public QWidget
 {
     Q_OBJECT
 public:
-    explicit WallpaperPage(QWidget *parent = nullptr);
+    /// \a image may have been loaded ahead; the page keeps the image of its last preview in it.
+    explicit WallpaperPage(QWidget *parent = nullptr, WallpaperImage image = {});
     ~WallpaperPage() override;
+
+    /// Begins to decode what loadValues() will show, for the page that is yet to be built.
+    static WallpaperImage imageAhead(const QazSettings *settings);
 
     bool loaded = false;
 
@@ -44,6 +48,9 @@ public slots:
     /// Stores and announces what changed; always true.
     bool saveValues(QazSettings *settings);
 
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
 private:
     void loadDesktopValues(const QString &wallpaper);
     void loadGlobalValues(const QazSettings *settings);
@@ -54,9 +61,12 @@ private:
     void adoptColor(const QString &text);
     QImage wallpaperImage(const QString &text);
     QSize screenSize() const;
+    void writeShownPreview();
 
     std::unique_ptr<Ui::WallpaperForm> m_ui;
     QPixmap m_preview;
+    QImage m_unwrittenPreview;
+    QString m_unwrittenPath;
     QPixmap m_sparePreview; // these two are part of the page's state, but nothing reads them
     QColor m_spareColor;
     QColor m_color;
