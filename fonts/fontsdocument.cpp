@@ -36,7 +36,8 @@ QStringList remarksIn(const QString &element)
 /// The element without what two writings of the same settings may differ in.
 QString essence(const QByteArray &text)
 {
-    static const QRegularExpression gaps(QStringLiteral("(?<=>)\\s+|\\s+(?=<)"));
+    // Blanks around a value are part of it: it may well mean something else without them.
+    static const QRegularExpression gaps(QStringLiteral("(?<=>)\\s+(?=<)"));
     QString element = QString::fromUtf8(text);
     for (const QString &remark : remarksIn(element))
         element.remove(remark);
