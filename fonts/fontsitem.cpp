@@ -40,15 +40,22 @@ bool holdsOnlyText(const QDomElement &element)
     return true;
 }
 
-/// The text of the one child \a tag of an "edit" that assigns \a name.
+/// The text of the one child \a tag; nothing when the child holds more, which a new value would overwrite.
+std::optional<QString> onlyValue(const QDomElement &element, QLatin1String tag)
+{
+    const QVector<QDomElement> children = childElements(element);
+    const bool fits = children.size() == 1 && children.first().tagName() == tag
+                      && children.first().attributes().isEmpty() && holdsOnlyText(children.first());
+    return fits ? std::make_optional(children.first().text()) : std::nullopt;
+}
+
+/// The value \a tag of an "edit" that assigns \a name.
 std::optional<QString> assignedValue(const QDomElement &edit, QLatin1String name, QLatin1String tag)
 {
-    const QVector<QDomElement> children = childElements(edit);
     const bool fits = edit.tagName() == QLatin1String("edit") && edit.attributes().size() == 2
                       && edit.attribute(QStringLiteral("mode")) == QLatin1String("assign")
-                      && edit.attribute(QStringLiteral("name")) == name && children.size() == 1
-                      && children.first().tagName() == tag && holdsOnlyText(children.first());
-    return fits ? std::make_optional(children.first().text()) : std::nullopt;
+                      && edit.attribute(QStringLiteral("name")) == name;
+    return fits ? onlyValue(edit, tag) : std::nullopt;
 }
 
 std::optional<FontsItem> readValue(const QDomElement &edit)
@@ -72,14 +79,12 @@ std::optional<Bound> readBound(const QDomElement &test)
     const QString compare = test.attribute(QStringLiteral("compare"));
     const bool isLower = compare == QLatin1String("more") || compare == QLatin1String("more_eq");
     const bool isUpper = compare == QLatin1String("less") || compare == QLatin1String("less_eq");
-    const QVector<QDomElement> children = childElements(test);
     if (test.tagName() != QLatin1String("test") || test.attributes().size() != 3
         || test.attribute(QStringLiteral("qual")) != QLatin1String("any")
-        || (name != QLatin1String("size") && name != QLatin1String("pixelsize")) || (!isLower && !isUpper)
-        || children.size() != 1 || children.first().tagName() != QLatin1String("double"))
+        || (name != QLatin1String("size") && name != QLatin1String("pixelsize")) || (!isLower && !isUpper))
         return {};
     bool isNumber = false;
-    const double value = children.first().text().toDouble(&isNumber);
+    const double value = onlyValue(test, QLatin1String("double")).value_or(QString()).toDouble(&isNumber);
     if (!isNumber || !std::isfinite(value))
         return {};
     return Bound{name, isLower, value};
