@@ -10,8 +10,6 @@
 #include <QSettings>
 #include <QSignalBlocker>
 
-#include <cmath>
-
 namespace {
 
 constexpr int required = KXftConfig::SubPixelType | KXftConfig::ExcludedRange | KXftConfig::AntiAlias
@@ -33,8 +31,9 @@ bool isLcdFilteringSupported()
 /// The value that \a spinBox shows for \a value.
 double shownValue(const QDoubleSpinBox *spinBox, double value)
 {
-    const double scale = std::pow(10, spinBox->decimals());
-    return qBound(spinBox->minimum(), std::round(value * scale) / scale, spinBox->maximum());
+    // Rounded as text, as the spin box does it: 8.35 lies below its decimal digits and shows as 8.3.
+    const double rounded = QString::number(value, 'f', spinBox->decimals()).toDouble();
+    return qBound(spinBox->minimum(), rounded, spinBox->maximum());
 }
 
 } // namespace

@@ -151,15 +151,20 @@ private slots:
 
     void rangeThatWasNotEditedStays()
     {
-        DialogOverFile file(pixelRange("8.25", "60") + value("hintstyle", "const", "hintfull")
-                            + value("antialias", "bool", "true"));
-        QCOMPARE(file.find<QDoubleSpinBox>("excludeToSpinBox")->value(), 48.0);
-        QVERIFY(file.dialog->save(true)); // the hint style is new to the store
-        QVERIFY(!file.dialog->save(true));
-        QVERIFY(file.home.read(place).contains("<double>8.25</double>"));
-        file.find<QDoubleSpinBox>("excludeFromSpinBox")->setValue(4);
-        file.dialog->save(true);
-        QVERIFY(!file.home.read(place).contains("<double>60</double>"));
+        for (const char *from : {"8.25", "8.35"}) { // one shows as 8.3 by rounding up, one by rounding down
+            const QByteArray elements = pixelRange(from, "60") + value("hintstyle", "const", "hintfull")
+                                        + value("antialias", "bool", "true");
+            DialogOverFile file(elements);
+            auto *fromBox = file.find<QDoubleSpinBox>("excludeFromSpinBox");
+            auto *toBox = file.find<QDoubleSpinBox>("excludeToSpinBox");
+            QCOMPARE(toBox->value(), 48.0);
+            QVERIFY(file.dialog->save(true)); // the hint style is new to the store
+            QVERIFY(!file.dialog->save(true));
+            QVERIFY(file.home.read(place).contains(QByteArray("<double>") + from + "</double>"));
+            fromBox->setValue(4);
+            file.dialog->save(true);
+            QVERIFY(!file.home.read(place).contains("<double>60</double>"));
+        }
     }
 
     void rejectedDialogShowsTheFileAgain()
