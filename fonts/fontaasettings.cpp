@@ -54,10 +54,11 @@ FontAASettings::FontAASettings(QWidget *parent)
     load();
     enableWidgets();
 
-    connect(m_ui->excludeRangeCheckBox, &QCheckBox::toggled, this, &FontAASettings::changed);
+    connect(m_ui->excludeRangeCheckBox, &QCheckBox::toggled, this, &FontAASettings::rangeChanged);
     connect(m_ui->useSubPixelCheckBox, &QCheckBox::toggled, this, &FontAASettings::changed);
     for (QDoubleSpinBox *spinBox : {m_ui->excludeFromSpinBox, m_ui->excludeToSpinBox})
-        connect(spinBox, qOverload<double>(&QDoubleSpinBox::valueChanged), this, &FontAASettings::changed);
+        connect(spinBox, qOverload<double>(&QDoubleSpinBox::valueChanged), this,
+                &FontAASettings::rangeChanged);
     for (QComboBox *combo : {m_ui->subPixelTypeCombo, m_ui->hintStyleCombo})
         connect(combo, &QComboBox::textActivated, this, &FontAASettings::changed);
 }
@@ -75,6 +76,7 @@ bool FontAASettings::load()
     const ExcludeRange range = showsPixels() ? config.excludePixelRange() : config.excludeRange();
     m_ui->excludeRangeCheckBox->setChecked(!range.isZero());
     showExcludeRange(range.isZero() ? defaultRange() : range);
+    m_rangeEdited = false;
 
     const SubPixelOrder order = config.subPixelType();
     const int orderIndex = order == SubPixelOrder::None
@@ -117,7 +119,8 @@ bool FontAASettings::save(bool useAntiAliasing)
     store.sync();
 
     const bool fileChanged = config.changed();
-    config.apply(); // says itself why it fails
+    if (config.apply()) // says itself why it fails
+        m_rangeEdited = false;
     return hintStyleChanged || fileChanged;
 }
 
@@ -144,6 +147,12 @@ void FontAASettings::changed()
     enableWidgets();
 }
 
+void FontAASettings::rangeChanged()
+{
+    m_rangeEdited = true;
+    changed();
+}
+
 bool FontAASettings::showsPixels() const
 {
     const QString suffix = m_ui->excludeFromSpinBox->suffix();
@@ -168,9 +177,9 @@ std::optional<ExcludeRange> FontAASettings::editedRange(const KXftConfig &config
     const ExcludeRange inFile = showsPixels() ? config.excludePixelRange() : config.excludeRange();
     const ExcludeRange shown{m_ui->excludeFromSpinBox->value(), m_ui->excludeToSpinBox->value()};
     // The spin boxes show fewer digits and a smaller range than a file may hold: what was not edited stays.
-    const bool isUnedited = shown.equals(
+    const bool showsFile = shown.equals(
         {shownValue(m_ui->excludeFromSpinBox, inFile.from), shownValue(m_ui->excludeToSpinBox, inFile.to)});
-    return isUnedited ? std::nullopt : std::make_optional(shown);
+    return showsFile && !m_rangeEdited ? std::nullopt : std::make_optional(shown);
 }
 
 SubPixelOrder FontAASettings::chosenOrder() const

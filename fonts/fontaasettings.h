@@ -41,7 +41,8 @@ private:
     bool showsPixels() const;
     ExcludeRange defaultRange() const;
     void showExcludeRange(const ExcludeRange &range);
-    /// The range to store; nothing while the file's own range is shown.
+    void rangeChanged();
+    /// The range to store; nothing while the file's own range is shown and was not edited.
     std::optional<ExcludeRange> editedRange(const KXftConfig &config) const;
     SubPixelOrder chosenOrder() const;
     HintStyle chosenHintStyle() const;
@@ -49,4 +50,5 @@ private:
 
     std::unique_ptr<Ui::FontAASettingsForm> m_ui;
     bool m_changesMade = false;
+    bool m_rangeEdited = false; // since it was last read or written
 };

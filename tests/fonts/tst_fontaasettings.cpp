@@ -164,6 +164,19 @@ private slots:
             fromBox->setValue(4);
             file.dialog->save(true);
             QVERIFY(!file.home.read(place).contains("<double>60</double>"));
+
+            fromBox->setValue(5);
+            file.write(elements);
+            file.dialog->load();
+            QVERIFY(!file.dialog->save(true)); // the edit was taken back
+            toBox->selectAll();
+            QTest::keyClicks(toBox, QStringLiteral("48")); // what is shown already, but now on purpose
+            QVERIFY(file.dialog->save(true));
+            const QByteArray content = file.home.read(place);
+            QVERIFY2(content.contains("<double>8.3</double>") && content.contains("<double>48</double>"),
+                     content.constData());
+            file.write(elements);
+            QVERIFY(!file.dialog->save(true)); // nor is what was saved an edit
         }
     }
 
