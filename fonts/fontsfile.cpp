@@ -30,15 +30,13 @@ bool matches(const QString &path, const char *pattern)
 
 QString userDefault()
 {
-    QString directory = QFile::decodeName(qgetenv("XDG_CONFIG_HOME"));
-    if (directory.isEmpty())
-        directory = directoryPath(DirectoryKind::Home) + QLatin1String("/.config");
-    directory += QLatin1String("/fontconfig");
+    QString file = userFontsFile();
+    const QString directory = QFileInfo(file).path();
     if (!QFileInfo(directory).isDir()) {
         QDir().mkpath(QFileInfo(directory).path());
         ::mkdir(QFile::encodeName(directory).constData(), 0700);
     }
-    return directory + QLatin1String("/fonts.conf");
+    return file;
 }
 
 QString systemErrorText()
@@ -57,6 +55,14 @@ QStringList fontconfigFiles()
     while (const FcChar8 *file = FcStrListNext(list.get()))
         files.append(QFile::decodeName(reinterpret_cast<const char *>(file)));
     return files;
+}
+
+QString userFontsFile()
+{
+    QString configuration = QFile::decodeName(qgetenv("XDG_CONFIG_HOME"));
+    if (configuration.isEmpty())
+        configuration = directoryPath(DirectoryKind::Home) + QLatin1String("/.config");
+    return configuration + QLatin1String("/fontconfig/fonts.conf");
 }
 
 QString chooseFontsFile(const QStringList &configFiles, bool system)

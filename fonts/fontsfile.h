@@ -13,6 +13,9 @@
 /// The files that make up fontconfig's current configuration, directories included.
 QStringList fontconfigFiles();
 
+/// The user's own file in the configuration directory, whether it exists or not.
+QString userFontsFile();
+
 /// Which of \a configFiles (see fontconfigFiles()) the rendering settings belong into; the default place when
 /// there is none yet. The directory of the user's default place is created with mode 0700.
 QString chooseFontsFile(const QStringList &configFiles, bool system);

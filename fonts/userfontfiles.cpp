@@ -1,9 +1,11 @@
 #include "fonts/userfontfiles.h"
 
+#include "fonts/fontsfile.h"
 #include "platform/base/diagnostics.h"
 #include "settings/backup.h"
+#include "settings/directories.h"
 
-#include <QDir>
+#include <QFile>
 #include <QFileInfo>
 
 namespace {
@@ -21,9 +23,6 @@ void removeFile(const QString &path)
 
 void removeUserFontconfigFiles()
 {
-    QString configuration = QFile::decodeName(qgetenv("XDG_CONFIG_HOME"));
-    if (configuration.isEmpty())
-        configuration = QDir::homePath() + QLatin1String("/.config");
-    removeFile(QDir::homePath() + QLatin1String("/.fonts.conf"));
-    removeFile(configuration + QLatin1String("/fontconfig/fonts.conf"));
+    removeFile(directoryPath(DirectoryKind::Home) + QLatin1String("/.fonts.conf"));
+    removeFile(userFontsFile());
 }

@@ -1,5 +1,6 @@
 #include "fonts/fontsfile.h"
 #include "fonts/kxftconfig.h"
+#include "settings/directories.h"
 #include "tests/fonts/corpus.h"
 #include "tests/support/standarderror.h"
 #include "tests/support/temporaryhome.h"
@@ -324,6 +325,10 @@ private slots:
         QCOMPARE(chooseFontsFile({main, own, neighbour}, false), home.path(place));
         const ScopedEnvironment unset("XDG_CONFIG_HOME", {});
         QCOMPARE(chooseFontsFile({}, false), home.path(QStringLiteral("me/.config/fontconfig/fonts.conf")));
+
+        const ScopedEnvironment homeless("HOME", {}); // the password database knows a home
+        QCOMPARE(userFontsFile(),
+                 directoryPath(DirectoryKind::Home) + QLatin1String("/.config/fontconfig/fonts.conf"));
     }
 };
 
