@@ -2,6 +2,7 @@
 
 #include "platform/base/atomicfile.h"
 #include "platform/base/diagnostics.h"
+#include "settings/directories.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -28,8 +29,9 @@ struct Entry {
 QString backupDirectory()
 {
     const QByteArray state = qgetenv("XDG_STATE_HOME");
-    const QString base = state.startsWith('/') ? QFile::decodeName(state)
-                                               : QDir::homePath() + QLatin1String("/.local/state");
+    const QString base = state.startsWith('/')
+                             ? QFile::decodeName(state)
+                             : directoryPath(DirectoryKind::Home) + QLatin1String("/.local/state");
     return base + QLatin1String("/qaz/backup");
 }
 
