@@ -7,6 +7,8 @@ install(TARGETS qaz-qsound LIBRARY DESTINATION lib/qaz-admin-theme)
 # The program looks for its data in ../share/qaz beside its own directory, wherever it was moved to.
 set(data share/qaz)
 install(DIRECTORY data/icons data/sounds data/themes DESTINATION ${data} PATTERN "*.py" EXCLUDE)
+install(DIRECTORY ${QAZ_STAGED_DATA}/icons/qaz-tirsk/16x16 ${QAZ_STAGED_DATA}/icons/qaz-tirsk/64x64
+    DESTINATION ${data}/icons/qaz-tirsk FILES_MATCHING PATTERN "*.png")
 install(DIRECTORY data/wallpapers DESTINATION ${data} PATTERN sources EXCLUDE)
 install(FILES ${QAZ_STAGED_DATA}/wallpapers/qaz-default.jpg DESTINATION ${data}/wallpapers)
 install(DIRECTORY ${QAZ_STAGED_DATA}/translations DESTINATION ${data} OPTIONAL FILES_MATCHING PATTERN "*.qm")

@@ -1,6 +1,8 @@
 #include "resources/registerresources.h"
 
-#include <QtGlobal>
+#include <QtPlugin>
+
+Q_IMPORT_PLUGIN(PngReader)
 
 void registerResources()
 {

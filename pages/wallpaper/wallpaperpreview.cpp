@@ -9,14 +9,13 @@
 
 #include <cstdio>
 
+#include <png.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
 
-constexpr int margin = 10; // of the label, in both directions
-// Of a lossless format it means effort: this one takes a quarter of the default's time.
-constexpr int pngQuality = 80;
+constexpr int margin = 10;          // of the label, in both directions
 constexpr int painterLimit = 32767; // Qt scales in 16-bit fixed point: what is larger comes out black
 constexpr const char *fitWords[] = {"Center", "Tile", "Stretch"};
 
@@ -42,6 +41,26 @@ QImage fastScaled(const QImage &image, const QSize &size)
             line[x] = image.pixel(int(qint64(x) * image.width() / size.width()), sourceY);
     }
     return result;
+}
+
+/// Not by Qt, which would load all its image plug-ins first and compress harder than a file for a moment is worth.
+QByteArray pngOf(const QImage &preview)
+{
+    const bool hasAlpha = preview.hasAlphaChannel();
+    const QImage pixels = preview.convertToFormat(hasAlpha ? QImage::Format_RGBA8888 : QImage::Format_RGB888);
+    png_image header = {};
+    header.version = PNG_IMAGE_VERSION;
+    header.width = png_uint_32(pixels.width());
+    header.height = png_uint_32(pixels.height());
+    header.format = hasAlpha ? PNG_FORMAT_RGBA : PNG_FORMAT_RGB;
+    header.flags = PNG_IMAGE_FLAG_FAST;
+    png_alloc_size_t size = PNG_IMAGE_PNG_SIZE_MAX(header);
+    QByteArray png(int(size), Qt::Uninitialized);
+    if (!png_image_write_to_memory(&header, png.data(), &size, 0, pixels.constBits(), pixels.bytesPerLine(),
+                                   nullptr))
+        return {};
+    png.truncate(int(size));
+    return png;
 }
 
 bool mayReplace(const QByteArray &path)
@@ -115,8 +134,9 @@ bool writePreview(const QString &path, const QImage &preview)
     const QByteArray target = QFile::encodeName(path);
     if (!mayReplace(target))
         return false;
+    const QByteArray png = pngOf(preview);
     QTemporaryFile file(QFileInfo(path).path() + QLatin1String("/.qaz-preview-XXXXXX"));
-    if (!file.open() || !preview.save(&file, "PNG", pngQuality) || !file.flush())
+    if (png.isEmpty() || !file.open() || file.write(png) != png.size() || !file.flush())
         return false;
     if (std::rename(QFile::encodeName(file.fileName()).constData(), target.constData()) != 0)
         return false;
