@@ -12,7 +12,8 @@
 #include <QFile>
 #include <QTextCodec>
 
-#define SI_NO_CONVERSION // only the 8-bit class is used; the others need a file that Debian does not ship
+#define SI_NO_CONVERSION  // only the 8-bit class is used; the others need a file that Debian does not ship
+#define SI_IMPLEMENTATION // here: one library less to load at every start
 #include <SimpleIni.h>
 
 namespace {
