@@ -23,7 +23,7 @@
 
 namespace {
 
-constexpr int rounds = 15;
+constexpr int rounds = 31;
 constexpr double timeLimit = 0.75;
 constexpr double memoryLimit = 0.6;
 
