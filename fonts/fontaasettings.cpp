@@ -130,6 +130,7 @@ void FontAASettings::defaults()
     showExcludeRange(defaultRange());
     m_ui->useSubPixelCheckBox->setChecked(false);
     m_ui->hintStyleCombo->setCurrentText(FontRendering::displayName(HintStyle::Medium));
+    m_rangeEdited = true; // also when the boxes show the default already, for something near it
     enableWidgets();
 }
 

@@ -8,10 +8,10 @@
 #include "fonts/userfontfiles.h"
 #include "fonts/xresources.h"
 #include "platform/setxrdbparameterinfile.h"
+#include "settings/directories.h"
 
 #include <QComboBox>
 #include <QCoreApplication>
-#include <QDir>
 #include <QFontDialog>
 #include <QLabel>
 #include <QLineEdit>
@@ -67,7 +67,8 @@ void widenToTexts(QComboBox *comboBox)
 
 void writeDpiToResourceFile(int dpi)
 {
-    const QByteArray file = QFile::encodeName(QDir::homePath() + QLatin1String("/.Xresources"));
+    const QByteArray file = QFile::encodeName(directoryPath(DirectoryKind::Home)
+                                              + QLatin1String("/.Xresources"));
     const QByteArray value = QByteArray::number(dpi);
     setXrdbParameterInFile(file.constData(), "Xft.dpi:", " ", dpi != 0 ? value.constData() : nullptr, false);
 }

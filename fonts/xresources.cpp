@@ -2,6 +2,7 @@
 
 #include "fonts/renderingstore.h"
 #include "fonts/serverresources.h"
+#include "settings/directories.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -17,8 +18,9 @@ constexpr char xrdb[] = "xrdb";
 
 QString userResourceFile()
 {
-    const QString file = QDir::homePath() + QLatin1String("/.Xresources");
-    return QFileInfo::exists(file) ? file : QDir::homePath() + QLatin1String("/.Xdefaults");
+    const QString home = directoryPath(DirectoryKind::Home);
+    const QString file = home + QLatin1String("/.Xresources");
+    return QFileInfo::exists(file) ? file : home + QLatin1String("/.Xdefaults");
 }
 
 /// Where the merged file goes. xrdb hands its name to a shell without quotes, so the path must not need any.

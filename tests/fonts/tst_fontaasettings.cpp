@@ -123,6 +123,12 @@ private slots:
 
         file.dialog->defaults();
         QCOMPARE(file.shown(), QStringLiteral("true false 0.0 pix 14.0 pix (Vertical BGR) Medium"));
+
+        file.write(pixelRange("0", "14.04")); // shows as the default's 14, which is meant exactly
+        file.dialog->load();
+        file.dialog->defaults();
+        QVERIFY(file.dialog->save(true));
+        QVERIFY(file.home.read(place).contains("<double>14</double>"));
     }
 
     void editsAreSaved()
