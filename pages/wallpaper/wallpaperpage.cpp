@@ -91,7 +91,10 @@ WallpaperImage WallpaperPage::imageAhead(const QazSettings *settings)
     if (text.isEmpty() || isColorText(text))
         return image;
     const QSize screen = QGuiApplication::primaryScreen()->geometry().size();
-    image.loadAhead(QFileInfo(text).isFile() ? text : foundWallpaper(text, screen));
+    const QString path = QFileInfo(text).isFile() ? text : foundWallpaper(text, screen);
+    // A drawing may hold text, and the fonts are being set up meanwhile.
+    if (!needsConversion(path.toLower()))
+        image.loadAhead(path);
     return image;
 }
 
