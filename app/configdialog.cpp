@@ -60,8 +60,12 @@ int storedExtent(const QSettings &settings, const QString &key, int defaultExten
     return extent > 0 && extent <= largestExtent ? extent : defaultExtent;
 }
 
+/// Reading a theme file twice is worth its time when the file has an ordinary size.
 WallpaperImage wallpaperAhead(const QString &themeFile)
 {
+    constexpr qint64 largestOrdinary = 256 * 1024;
+    if (QFileInfo(themeFile).size() > largestOrdinary)
+        return {};
     QazSettings store(themeFile);
     store.sync(true);
     return WallpaperPage::imageAhead(&store);
