@@ -12,6 +12,7 @@
 
 #include <QComboBox>
 #include <QCoreApplication>
+#include <QFile>
 #include <QFontDialog>
 #include <QLabel>
 #include <QLineEdit>
