@@ -48,7 +48,7 @@ private slots:
     {
         // Of the editor, which has the module beside it; this program has not.
         QCOMPARE(createQSound("/nowhere.wav"_s), nullptr);
-        QLibrary module(QStringLiteral(QAZ_BINARY_DIR "/lib/qaz-admin-theme/qsound"));
+        QLibrary module(QStringLiteral(QAZ_BINARY_DIR "/lib/qaz-admin-theme/modules/qsound"));
         using Create = SoundOutput *(*)(const QString &);
         const auto create = reinterpret_cast<Create>(module.resolve("createQSoundOutput"));
         QVERIFY2(create, qPrintable(module.errorString()));
