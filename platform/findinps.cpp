@@ -123,11 +123,11 @@ public:
                     isFound = true;
             }
         };
-        std::vector<std::future<void>> helpers;
+        std::vector<std::future<void>> searchers;
         for (unsigned i = 1; i < searcherCount(); ++i)
-            helpers.push_back(std::async(search)); // without a free thread there is no help, and no failure
+            searchers.push_back(std::async(search)); // without a free thread this one does it all
         search();
-        helpers.clear(); // waits for them
+        searchers.clear(); // waits for them
         return isFound;
     }
 
