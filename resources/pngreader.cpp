@@ -1,6 +1,5 @@
 #define QT_STATICPLUGIN
 
-#include <QFile>
 #include <QImageIOPlugin>
 #include <QImageReader>
 

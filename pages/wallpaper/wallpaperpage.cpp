@@ -80,7 +80,7 @@ WallpaperPage::WallpaperPage(QWidget *parent, WallpaperImage image)
 
 WallpaperPage::~WallpaperPage()
 {
-    writeShownPreview();
+    writePendingPreview();
 }
 
 WallpaperImage WallpaperPage::imageAhead(const QazSettings *settings)
@@ -244,29 +244,29 @@ void WallpaperPage::selectWallpaper(const QString &text)
     m_ui->wallpaperPixmapLabel->setPixmap(m_preview);
     if (image.isNull())
         return;
-    writeShownPreview(); // the last one, if the page was hidden since
-    m_unwrittenPreview = preview;
-    m_unwrittenPath = previewPath(m_ui->wallpaperPositionCombo->currentText(), fill, text);
+    writePendingPreview(); // the last one, if the page was hidden since
+    m_pendingPreview = preview;
+    m_pendingPath = previewPath(m_ui->wallpaperPositionCombo->currentText(), fill, text);
     // Writing takes longer than all the rest: the user sees the picture first.
     if (!isVisible())
         return;
     m_ui->wallpaperPixmapLabel->repaint();
-    writeShownPreview();
+    writePendingPreview();
 }
 
-void WallpaperPage::writeShownPreview()
+void WallpaperPage::writePendingPreview()
 {
-    if (!m_unwrittenPreview.isNull())
-        writePreview(m_unwrittenPath, m_unwrittenPreview);
-    m_unwrittenPreview = QImage();
+    if (!m_pendingPreview.isNull())
+        writePreview(m_pendingPath, m_pendingPreview);
+    m_pendingPreview = QImage();
 }
 
 /// A preview that was drawn before the page came into view is written when all of the window is painted.
 void WallpaperPage::paintEvent(QPaintEvent *event)
 {
     QWidget::paintEvent(event);
-    if (!m_unwrittenPreview.isNull())
-        QTimer::singleShot(0, this, &WallpaperPage::writeShownPreview);
+    if (!m_pendingPreview.isNull())
+        QTimer::singleShot(0, this, &WallpaperPage::writePendingPreview);
 }
 
 /// A colour that can't be read is replaced by the page's in the line edit, which draws the preview again.

@@ -61,12 +61,12 @@ private:
     void adoptColor(const QString &text);
     QImage wallpaperImage(const QString &text);
     QSize screenSize() const;
-    void writeShownPreview();
+    void writePendingPreview();
 
     std::unique_ptr<Ui::WallpaperForm> m_ui;
     QPixmap m_preview;
-    QImage m_unwrittenPreview;
-    QString m_unwrittenPath;
+    QImage m_pendingPreview;
+    QString m_pendingPath;
     QPixmap m_sparePreview; // these two are part of the page's state, but nothing reads them
     QColor m_spareColor;
     QColor m_color;
