@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/base/atomicfile.h"
-#include "platform/base/chandle.h"
+#include "base/atomicfile.h"
+#include "base/chandle.h"
 
 #include <QString>
 #include <QStringList>

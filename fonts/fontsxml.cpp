@@ -1,7 +1,7 @@
 #include "fonts/fontsxml.h"
 
+#include "base/chandle.h"
 #include "fonts/fontsitem.h"
-#include "platform/base/chandle.h"
 
 #include <memory>
 #include <type_traits>

@@ -1,6 +1,6 @@
 #include "fonts/lcdfiltering.h"
 
-#include "platform/base/chandle.h"
+#include "base/chandle.h"
 
 #include <memory>
 #include <type_traits>

@@ -1,7 +1,7 @@
 #include "fonts/nearestfont.h"
 
-#include "platform/base/chandle.h"
-#include "platform/base/diagnostics.h"
+#include "base/chandle.h"
+#include "base/diagnostics.h"
 
 #include <QFontDatabase>
 #include <QFontInfo>

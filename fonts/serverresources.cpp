@@ -1,6 +1,6 @@
 #include "fonts/serverresources.h"
 
-#include "platform/base/chandle.h"
+#include "base/chandle.h"
 
 #include <QDataStream>
 #include <QDateTime>

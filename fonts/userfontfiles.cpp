@@ -1,7 +1,7 @@
 #include "fonts/userfontfiles.h"
 
+#include "base/diagnostics.h"
 #include "fonts/fontsfile.h"
-#include "platform/base/diagnostics.h"
 #include "settings/backup.h"
 #include "settings/directories.h"
 

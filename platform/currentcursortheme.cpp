@@ -1,10 +1,10 @@
 #include "platform/currentcursortheme.h"
 
-#include "platform/base/atomicfile.h"
-#include "platform/base/diagnostics.h"
-#include "platform/cursorfiles.h"
-#include "platform/dataroot.h"
-#include "platform/iconthemeindex.h"
+#include "base/atomicfile.h"
+#include "base/diagnostics.h"
+#include "base/xdgdirectories.h"
+#include "freedesktop/cursorfiles.h"
+#include "freedesktop/iconthemeindex.h"
 #include "platform/livecursors.h"
 #include "platform/setxrdbparameterinfile.h"
 

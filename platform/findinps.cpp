@@ -1,6 +1,6 @@
 #include "platform/findinps.h"
 
-#include "platform/base/chandle.h"
+#include "base/chandle.h"
 
 #include <algorithm>
 #include <atomic>

@@ -1,7 +1,7 @@
 #include "platform/findwallpaperbyname.h"
 
-#include "platform/base/diagnostics.h"
-#include "platform/dataroot.h"
+#include "base/diagnostics.h"
+#include "freedesktop/dataroot.h"
 #include "platform/getqazdir.h"
 #include "platform/wallpapersearch.h"
 

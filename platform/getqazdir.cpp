@@ -1,6 +1,7 @@
 #include "platform/getqazdir.h"
 
-#include "platform/dataroot.h"
+#include "base/xdgdirectories.h"
+#include "freedesktop/dataroot.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,6 +1,6 @@
 #include "platform/livecursors.h"
 
-#include "platform/cursorfiles.h"
+#include "freedesktop/cursorfiles.h"
 
 #include <X11/Xcursor/Xcursor.h>
 #include <X11/extensions/Xfixes.h>

@@ -1,9 +1,9 @@
 #include "platform/qazicontheme.h"
 
+#include "freedesktop/cursorfiles.h"
+#include "freedesktop/iconfiles.h"
+#include "freedesktop/themedirectories.h"
 #include "platform/currentcursortheme.h"
-#include "platform/cursorfiles.h"
-#include "platform/iconfiles.h"
-#include "platform/themedirectories.h"
 
 #include <QFile>
 #include <QSet>

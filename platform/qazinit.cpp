@@ -1,6 +1,6 @@
 #include "platform/qazinit.h"
 
-#include "platform/dataroot.h"
+#include "freedesktop/dataroot.h"
 #include "platform/getqazdir.h"
 
 #include <QApplication>

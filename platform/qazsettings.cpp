@@ -1,7 +1,7 @@
 #include "platform/qazsettings.h"
 
-#include "platform/base/atomicfile.h"
-#include "platform/base/diagnostics.h"
+#include "base/atomicfile.h"
+#include "base/diagnostics.h"
 #include "platform/themefiletext.h"
 
 #include <QDir>

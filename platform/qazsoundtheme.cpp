@@ -1,8 +1,8 @@
 #include "platform/qazsoundtheme.h"
 
-#include "platform/base/atomicfile.h"
-#include "platform/indextheme.h"
-#include "platform/sounddirectories.h"
+#include "base/atomicfile.h"
+#include "freedesktop/indextheme.h"
+#include "freedesktop/sounddirectories.h"
 
 #include <QDir>
 #include <QDirIterator>

@@ -1,6 +1,6 @@
 #include "platform/sendcommandtowm.h"
 
-#include "platform/base/diagnostics.h"
+#include "base/diagnostics.h"
 
 #include <algorithm>
 #include <cstring>

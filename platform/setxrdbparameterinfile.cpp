@@ -1,7 +1,7 @@
 #include "platform/setxrdbparameterinfile.h"
 
-#include "platform/base/atomicfile.h"
-#include "platform/base/diagnostics.h"
+#include "base/atomicfile.h"
+#include "base/diagnostics.h"
 
 #include <QByteArray>
 #include <QFile>

@@ -1,7 +1,7 @@
 #include "settings/backup.h"
 
-#include "platform/base/atomicfile.h"
-#include "platform/base/diagnostics.h"
+#include "base/atomicfile.h"
+#include "base/diagnostics.h"
 #include "settings/directories.h"
 
 #include <QDateTime>

@@ -1,8 +1,8 @@
 // Renders an SVG image to a file, as the desktop asks for it when a wallpaper's name means an SVG:
 // qaz-svg2png -w WIDTH -h HEIGHT -i IN -o OUT
 
-#include "platform/base/atomicfile.h"
-#include "platform/base/diagnostics.h"
+#include "base/atomicfile.h"
+#include "base/diagnostics.h"
 
 #include <QBuffer>
 #include <QFile>

@@ -1,6 +1,6 @@
 // Prints every window-manager command that arrives on the display, one a line: the reference receiver.
 
-#include "tools/commandreceiver.h"
+#include "platform/commandreceiver.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>

@@ -1,7 +1,7 @@
 #include "pages/effects/compositesettings.h"
 
+#include "base/diagnostics.h"
 #include "pages/effects/comptonconfig.h"
-#include "platform/base/diagnostics.h"
 #include "platform/findfileinpath.h"
 #include "platform/findinps.h"
 #include "platform/qazsettings.h"

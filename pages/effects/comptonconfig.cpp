@@ -1,8 +1,8 @@
 #include "pages/effects/comptonconfig.h"
 
+#include "base/atomicfile.h"
+#include "base/chandle.h"
 #include "pages/effects/libconfigtext.h"
-#include "platform/base/atomicfile.h"
-#include "platform/base/chandle.h"
 
 #include <QFileInfo>
 

@@ -1,6 +1,6 @@
 #include "pages/effects/libconfigtext.h"
 
-#include "platform/base/atomicfile.h"
+#include "base/atomicfile.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,6 +1,6 @@
 #include "pages/sounds/soundplayer.h"
 
-#include "platform/base/diagnostics.h"
+#include "base/diagnostics.h"
 
 #include <QFileInfo>
 

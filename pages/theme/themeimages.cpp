@@ -1,9 +1,9 @@
 #include "pages/theme/themeimages.h"
 
-#include "platform/base/atomicfile.h"
-#include "platform/base/chandle.h"
-#include "platform/cursorfiles.h"
-#include "platform/themedirectories.h"
+#include "base/atomicfile.h"
+#include "base/chandle.h"
+#include "freedesktop/cursorfiles.h"
+#include "freedesktop/themedirectories.h"
 #include "settings/directories.h"
 
 #include <QBuffer>

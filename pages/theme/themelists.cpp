@@ -1,8 +1,8 @@
 #include "pages/theme/themelists.h"
 
+#include "base/diagnostics.h"
 #include "pages/theme/previewicon.h"
 #include "pages/theme/themeimages.h"
-#include "platform/base/diagnostics.h"
 #include "platform/qazicontheme.h"
 
 #include <QFile>

@@ -1,8 +1,8 @@
 #include "pages/wallpaper/desktopwallpapers.h"
 
-#include "platform/base/atomicfile.h"
-#include "platform/base/desktopentrytext.h"
-#include "platform/base/diagnostics.h"
+#include "base/atomicfile.h"
+#include "base/desktopentrytext.h"
+#include "base/diagnostics.h"
 #include "platform/qazdesktopentry.h"
 #include "settings/backup.h"
 #include "settings/directories.h"

@@ -1,6 +1,6 @@
 #include "pages/wallpaper/wallpaperselection.h"
 
-#include "platform/base/atomicfile.h"
+#include "base/atomicfile.h"
 #include "platform/wallpapersizeforscreen.h"
 #include "settings/backup.h"
 #include "settings/directories.h"

@@ -1,5 +1,5 @@
+#include "platform/commandreceiver.h"
 #include "tests/fuzz/fuzzing.h"
-#include "tools/commandreceiver.h"
 
 #include <cstring>
 

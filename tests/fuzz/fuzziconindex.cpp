@@ -1,4 +1,4 @@
-#include "platform/iconthemeindex.h"
+#include "freedesktop/iconthemeindex.h"
 #include "tests/fuzz/fuzzing.h"
 
 // A theme that was set as the inherited one is the inherited one, in whatever file.

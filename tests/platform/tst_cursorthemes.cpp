@@ -1,4 +1,4 @@
-#include "platform/cursorfiles.h"
+#include "freedesktop/cursorfiles.h"
 #include "platform/qazicontheme.h"
 
 #include <QFile>

@@ -1,4 +1,4 @@
-#include "platform/base/desktopentrytext.h"
+#include "base/desktopentrytext.h"
 #include "platform/qazdesktopentry.h"
 #include "tests/support/literals.h"
 #include "tests/support/temporaryhome.h"

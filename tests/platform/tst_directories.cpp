@@ -1,4 +1,4 @@
-#include "platform/dataroot.h"
+#include "freedesktop/dataroot.h"
 #include "platform/getqazdir.h"
 #include "platform/qazinit.h"
 #include "tests/support/environment.h"

@@ -1,6 +1,6 @@
 #include "platform/qazicontheme.h"
 
-#include "platform/iconthemeindex.h"
+#include "freedesktop/iconthemeindex.h"
 
 #include <QTest>
 

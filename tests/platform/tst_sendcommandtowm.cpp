@@ -1,6 +1,6 @@
+#include "platform/commandreceiver.h"
 #include "platform/sendcommandtowm.h"
 #include "tests/support/wmlistener.h"
-#include "tools/commandreceiver.h"
 
 #include <QX11Info>
 #include <QtTest>

@@ -1,6 +1,6 @@
 #include "tests/support/wmlistener.h"
 
-#include "tools/commandreceiver.h"
+#include "platform/commandreceiver.h"
 
 #include <QX11Info>
 

@@ -1,4 +1,4 @@
-#include "platform/indextheme.h"
+#include "freedesktop/indextheme.h"
 
 #include <QStringList>
 

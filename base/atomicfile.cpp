@@ -1,4 +1,4 @@
-#include "platform/base/atomicfile.h"
+#include "base/atomicfile.h"
 
 #include <QDir>
 #include <QElapsedTimer>

@@ -1,4 +1,4 @@
-#include "platform/iconthemeindex.h"
+#include "freedesktop/iconthemeindex.h"
 
 #include <QHash>
 

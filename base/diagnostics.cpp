@@ -1,4 +1,4 @@
-#include "platform/base/diagnostics.h"
+#include "base/diagnostics.h"
 
 #include <cstdio>
 

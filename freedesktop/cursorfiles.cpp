@@ -1,7 +1,8 @@
-#include "platform/cursorfiles.h"
+#include "freedesktop/cursorfiles.h"
 
-#include "platform/dataroot.h"
-#include "platform/themedirectories.h"
+#include "base/xdgdirectories.h"
+#include "freedesktop/dataroot.h"
+#include "freedesktop/themedirectories.h"
 
 #include <QFile>
 #include <QSet>

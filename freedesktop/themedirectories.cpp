@@ -1,6 +1,6 @@
-#include "platform/themedirectories.h"
+#include "freedesktop/themedirectories.h"
 
-#include "platform/base/atomicfile.h"
+#include "base/atomicfile.h"
 
 #include <QCoreApplication>
 #include <QFile>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/directorylisting.h"
-#include "platform/iconthemeindex.h"
+#include "freedesktop/directorylisting.h"
+#include "freedesktop/iconthemeindex.h"
 
 #include <QByteArrayList>
 #include <QHash>

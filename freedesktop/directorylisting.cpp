@@ -1,6 +1,6 @@
-#include "platform/directorylisting.h"
+#include "freedesktop/directorylisting.h"
 
-#include "platform/base/chandle.h"
+#include "base/chandle.h"
 
 #include <algorithm>
 #include <cstring>

@@ -1,6 +1,7 @@
-#include "platform/sounddirectories.h"
+#include "freedesktop/sounddirectories.h"
 
-#include "platform/dataroot.h"
+#include "base/xdgdirectories.h"
+#include "freedesktop/dataroot.h"
 
 #include <QDir>
 #include <QDirIterator>

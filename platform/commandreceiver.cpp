@@ -1,4 +1,4 @@
-#include "tools/commandreceiver.h"
+#include "platform/commandreceiver.h"
 
 #include <cstring>
 

@@ -1,10 +1,7 @@
-#include "platform/dataroot.h"
+#include "freedesktop/dataroot.h"
 
 #include <QDir>
 #include <QFile>
-
-#include <pwd.h>
-#include <unistd.h>
 
 namespace {
 
@@ -28,21 +25,4 @@ QString dataRoot()
         return QStringLiteral(QAZ_SOURCE_DATA_DIR);
 #endif
     return installed;
-}
-
-QString homeDirectory()
-{
-    const QByteArray home = qgetenv("HOME");
-    if (!home.isEmpty())
-        return QFile::decodeName(home);
-    const passwd *entry = ::getpwuid(::getuid());
-    return entry && entry->pw_dir ? QFile::decodeName(entry->pw_dir) : QString();
-}
-
-QString xdgDirectory(const char *variable, const char *fallback)
-{
-    const QByteArray named = qgetenv(variable);
-    if (named.startsWith('/'))
-        return QFile::decodeName(named);
-    return homeDirectory() + QLatin1String(fallback);
 }

@@ -1,4 +1,4 @@
-#include "platform/base/desktopentrytext.h"
+#include "base/desktopentrytext.h"
 
 #include <algorithm>
 #include <vector>
