@@ -1,6 +1,7 @@
 #include "app/restore.h"
 
 #include "app/configdialog.h"
+#include "pages/common/messagebox.h"
 #include "pages/wallpaper/desktopwallpapers.h"
 #include "settings/backup.h"
 #include "settings/directories.h"
@@ -78,10 +79,8 @@ std::optional<RestoreDepth> askDepth(QWidget *parent)
 
 void showFailure(QWidget *parent, const QString &path)
 {
-    QMessageBox box(QMessageBox::Critical, ConfigDialog::tr("Error"),
-                    ConfigDialog::tr("Can't remove '%1'").arg(path), QMessageBox::Ok, parent);
-    box.setTextFormat(Qt::PlainText); // a file name may look like markup
-    box.exec();
+    showMessage(parent, QMessageBox::Critical, ConfigDialog::tr("Error"),
+                ConfigDialog::tr("Can't remove '%1'").arg(path));
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 #include "fonts/fontpage.h"
 
 #include "fonts/renderingstore.h"
-#include "settings/waitcursor.h"
+#include "pages/common/waitcursor.h"
 #include "settings/wmcommands.h"
 
 #include <QSettings>

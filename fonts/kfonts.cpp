@@ -7,6 +7,7 @@
 #include "fonts/serverresources.h"
 #include "fonts/userfontfiles.h"
 #include "fonts/xresources.h"
+#include "pages/common/messagebox.h"
 #include "platform/setxrdbparameterinfile.h"
 #include "settings/directories.h"
 
@@ -16,7 +17,6 @@
 #include <QFontDialog>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QSettings>
 #include <QSpinBox>
@@ -227,7 +227,7 @@ bool KFonts::saveSettings(QazSettings *settings)
     if (systemDecides)
         removeUserFontconfigFiles();
     if (!message.isEmpty())
-        QMessageBox::information(this, tr("Font Settings Changed"), message);
+        showMessage(this, QMessageBox::Information, tr("Font Settings Changed"), message);
     applyXResources(exportXftSettings);
     emit changed(false);
     return isChanged;

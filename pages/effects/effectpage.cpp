@@ -1,12 +1,12 @@
 #include "pages/effects/effectpage.h"
 
+#include "pages/common/waitcursor.h"
 #include "pages/effects/compositesettings.h"
 #include "pages/effects/effectsettings.h"
 #include "pages/effects/mapstyles.h"
 #include "platform/qazsettings.h"
 #include "settings/textvalues.h"
 #include "settings/updatevalues.h"
-#include "settings/waitcursor.h"
 
 #include <QSignalBlocker>
 

@@ -1,9 +1,9 @@
 #include "pages/screensaver/screensaverpage.h"
 
+#include "pages/common/waitcursor.h"
 #include "pages/screensaver/screensaversettings.h"
 #include "platform/qazsettings.h"
 #include "settings/updatevalues.h"
-#include "settings/waitcursor.h"
 #include "ui_screensaverform.h"
 
 #include <QCheckBox>

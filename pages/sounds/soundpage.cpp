@@ -1,5 +1,7 @@
 #include "pages/sounds/soundpage.h"
 
+#include "pages/common/messagebox.h"
+#include "pages/common/waitcursor.h"
 #include "pages/sounds/soundassignments.h"
 #include "pages/sounds/soundoutput.h"
 #include "pages/sounds/soundplayer.h"
@@ -11,7 +13,6 @@
 #include "settings/directories.h"
 #include "settings/textvalues.h"
 #include "settings/updatevalues.h"
-#include "settings/waitcursor.h"
 #include "ui_soundform.h"
 
 #include <QFile>
@@ -199,13 +200,13 @@ void SoundPage::checkWavFormat(const SoundFormats &formats)
     if (formats.ogg) {
         const QString question = tr("Not all files in theme '%1' are in wav format\n"
                                     "Would you like to convert them to wav now?");
-        if (QMessageBox::question(this, tr("Attention"), question.arg(name), QMessageBox::Yes,
-                                  QMessageBox::No)
+        if (showMessage(this, QMessageBox::Question, tr("Attention"), question.arg(name),
+                        QMessageBox::Yes | QMessageBox::No)
             == QMessageBox::Yes)
             convertTheme();
     } else if (formats.nonWav) {
         showMessage(
-            QMessageBox::Information, tr("Attention"),
+            this, QMessageBox::Information, tr("Attention"),
             tr("Not all files in theme '%1' are in wav format\nYou should convert them to wav.").arg(name));
     }
 }
@@ -221,7 +222,7 @@ void SoundPage::openTheme(const QString &name)
 {
     m_theme = std::make_unique<QazSoundTheme>(name.toLocal8Bit().constData(), nullptr);
     if (!m_theme->load())
-        showMessage(QMessageBox::Warning, tr("Warning"), tr("Can't load sound theme '%1'").arg(name));
+        showMessage(this, QMessageBox::Warning, tr("Warning"), tr("Can't load sound theme '%1'").arg(name));
 }
 
 void SoundPage::themeSelected(int index)
@@ -281,11 +282,4 @@ void SoundPage::passFocus(const QWidget *from, QWidget *to)
 {
     if (from->hasFocus())
         to->setFocus();
-}
-
-void SoundPage::showMessage(QMessageBox::Icon icon, const QString &title, const QString &text)
-{
-    QMessageBox box(icon, title, text, QMessageBox::Ok, this);
-    box.setTextFormat(Qt::PlainText); // names and paths may look like markup
-    box.exec();
 }

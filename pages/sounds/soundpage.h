@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QMessageBox>
 #include <QWidget>
 
 #include <memory>
@@ -72,7 +71,6 @@ private:
     static QString soundsDirectory();
     /// Before \a from is disabled: Qt would pass its focus on to the dialog's buttons, which act on Return.
     static void passFocus(const QWidget *from, QWidget *to);
-    void showMessage(QMessageBox::Icon icon, const QString &title, const QString &text);
 
     std::unique_ptr<Ui::SoundForm> m_ui;
     std::unique_ptr<QazSoundTheme> m_theme; // none before the user chooses one

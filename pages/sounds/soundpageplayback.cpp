@@ -1,9 +1,11 @@
+#include "pages/sounds/soundpage.h"
+
+#include "pages/common/messagebox.h"
+#include "pages/common/waitcursor.h"
 #include "pages/sounds/soundassignments.h"
 #include "pages/sounds/soundoutput.h"
-#include "pages/sounds/soundpage.h"
 #include "pages/sounds/soundplayer.h"
 #include "platform/qazsoundtheme.h"
-#include "settings/waitcursor.h"
 #include "ui_soundform.h"
 
 #include <QFileInfo>
@@ -20,16 +22,17 @@ void SoundPage::playItem()
     if (!sound.isPlayable) {
         const QString text = tr("File '%1' is not wav.\nSelect other theme or conver to wav,\n"
                                 "for example ogg/oga to wav by oggdev utility.");
-        showMessage(QMessageBox::Critical, tr("Warning"), text.arg(sound.path));
+        showMessage(this, QMessageBox::Critical, tr("Warning"), text.arg(sound.path));
     } else if (useQSound) {
         m_sound = createQSound(sound.path);
         m_ui->stopButton->setEnabled(true);
         if (m_sound)
             m_sound->play();
     } else if (!m_player->isInstalled()) {
-        showMessage(QMessageBox::Critical, tr("Error"), tr("Program %1 not found").arg(m_player->program()));
+        showMessage(this, QMessageBox::Critical, tr("Error"),
+                    tr("Program %1 not found").arg(m_player->program()));
     } else if (!QFileInfo::exists(sound.path)) {
-        showMessage(QMessageBox::Critical, tr("Error"), tr("Sound '%1' doesn't exist").arg(sound.path));
+        showMessage(this, QMessageBox::Critical, tr("Error"), tr("Sound '%1' doesn't exist").arg(sound.path));
     } else {
         startPlaying(sound.path);
     }
@@ -77,5 +80,5 @@ void SoundPage::setPlaying(bool playing)
 void SoundPage::callMixer()
 {
     if (!QProcess::startDetached(QStringLiteral("qasmixer"), {}))
-        showMessage(QMessageBox::Critical, tr("Error"), tr("Can't start 'qasmixer'"));
+        showMessage(this, QMessageBox::Critical, tr("Error"), tr("Can't start 'qasmixer'"));
 }

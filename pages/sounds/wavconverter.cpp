@@ -1,6 +1,6 @@
 #include "pages/sounds/wavconverter.h"
 
-#include "settings/waitcursor.h"
+#include "pages/common/waitcursor.h"
 
 #include <QEventLoop>
 #include <QProcess>

@@ -1,5 +1,7 @@
 #include "pages/theme/themepage.h"
 
+#include "pages/common/messagebox.h"
+#include "pages/common/waitcursor.h"
 #include "pages/theme/buttonicons.h"
 #include "pages/theme/colorelements.h"
 #include "pages/theme/previewicon.h"
@@ -10,13 +12,11 @@
 #include "platform/qazinit.h"
 #include "platform/qazsettings.h"
 #include "settings/updatevalues.h"
-#include "settings/waitcursor.h"
 #include "ui_themeform.h"
 
 #include <QColorDialog>
 #include <QComboBox>
 #include <QInputDialog>
-#include <QMessageBox>
 #include <QPushButton>
 
 namespace {
@@ -280,10 +280,11 @@ void ThemePage::saveCursorTheme()
     if (name.isEmpty() || name == currentCursorTheme())
         return;
     if (setCursorTheme(name))
-        QMessageBox::warning(this, tr("Warning"),
-                             tr("New cursor theme will be applied to newly started apps"));
+        showMessage(this, QMessageBox::Warning, tr("Warning"),
+                    tr("New cursor theme will be applied to newly started apps"));
     else
-        QMessageBox::warning(this, tr("Error"), tr("The cursor theme '%1' can't be set.").arg(name));
+        showMessage(this, QMessageBox::Warning, tr("Error"),
+                    tr("The cursor theme '%1' can't be set.").arg(name));
 }
 
 void ThemePage::saveSizes(QazSettings *settings)

@@ -1,5 +1,7 @@
 #include "pages/wallpaper/wallpaperpage.h"
 
+#include "pages/common/messagebox.h"
+#include "pages/common/waitcursor.h"
 #include "pages/wallpaper/desktopcolor.h"
 #include "pages/wallpaper/desktopwallpapers.h"
 #include "pages/wallpaper/wallpaperpreview.h"
@@ -8,7 +10,6 @@
 #include "platform/qazfiledialog.h"
 #include "platform/qazsettings.h"
 #include "settings/updatevalues.h"
-#include "settings/waitcursor.h"
 #include "ui_wallpaperform.h"
 
 #include <QColorDialog>
@@ -16,7 +17,6 @@
 #include <QDirModel>
 #include <QFileInfo>
 #include <QGuiApplication>
-#include <QMessageBox>
 #include <QScreen>
 #include <QTimer>
 #include <QUrl>
@@ -217,9 +217,8 @@ QString WallpaperPage::convertedFile(const QString &file)
 
 bool WallpaperPage::asks(const QString &title, const QString &question)
 {
-    QMessageBox box(QMessageBox::Question, title, question, QMessageBox::Yes | QMessageBox::No, this);
-    box.setTextFormat(Qt::PlainText); // a file name may look like markup
-    return box.exec() == QMessageBox::Yes;
+    return showMessage(this, QMessageBox::Question, title, question, QMessageBox::Yes | QMessageBox::No)
+           == QMessageBox::Yes;
 }
 
 void WallpaperPage::selectWallpaperColor()
