@@ -24,6 +24,9 @@
 #include <QVBoxLayout>
 #include <QX11Info>
 
+#include <algorithm>
+#include <iterator>
+
 namespace {
 
 /// Width of the widest label of the page list, with a margin.
@@ -31,19 +34,55 @@ int listItemWidth = 0;
 
 constexpr int narrowestLabel = 64;
 
+/// What the dialog needs of a page class.
+struct PageType {
+    QWidget *(*create)(QWidget *stack);
+    void (*connectEdits)(QWidget *page, ConfigDialog *dialog);
+    bool (*isLoaded)(const QWidget *page);
+    void (*load)(QWidget *page, QazSettings *store);
+    void (*save)(QWidget *page, QazSettings *store);
+};
+
+template<typename Page>
+constexpr PageType typeOf = {
+    [](QWidget *stack) -> QWidget * { return new Page(stack); },
+    [](QWidget *page, ConfigDialog *dialog) {
+        QObject::connect(static_cast<Page *>(page), &Page::changedSignal, dialog, &ConfigDialog::changedSlot);
+    },
+    [](const QWidget *page) { return static_cast<const Page *>(page)->loaded; },
+    [](QWidget *page, QazSettings *store) { static_cast<Page *>(page)->loadValues(store); },
+    [](QWidget *page, QazSettings *store) { static_cast<Page *>(page)->saveValues(store); }};
+
 struct PageEntry {
     const char *iconName;
     const char *text;
+    const PageType *type;
 };
 
 // In the order of the list's rows, and so of the stack.
+// clang-format off
 constexpr PageEntry pageEntries[] = {
-    {"preferences-desktop-wallpaper", QT_TRANSLATE_NOOP("ConfigDialog", "Wallpaper")},
-    {"preferences-desktop-theme", QT_TRANSLATE_NOOP("ConfigDialog", "Theme")},
-    {"preferences-desktop-font", QT_TRANSLATE_NOOP("ConfigDialog", "Fonts")},
-    {"preferences-desktop-screensaver", QT_TRANSLATE_NOOP("ConfigDialog", "Screensaver")},
-    {"system-run", QT_TRANSLATE_NOOP("ConfigDialog", "Effects")},
-    {"preferences-desktop-sound", QT_TRANSLATE_NOOP("ConfigDialog", "Sounds")}};
+    {"preferences-desktop-wallpaper",   QT_TRANSLATE_NOOP("ConfigDialog", "Wallpaper"),   &typeOf<WallpaperPage>},
+    {"preferences-desktop-theme",       QT_TRANSLATE_NOOP("ConfigDialog", "Theme"),       &typeOf<ThemePage>},
+    {"preferences-desktop-font",        QT_TRANSLATE_NOOP("ConfigDialog", "Fonts"),       &typeOf<FontPage>},
+    {"preferences-desktop-screensaver", QT_TRANSLATE_NOOP("ConfigDialog", "Screensaver"), &typeOf<ScreensaverPage>},
+    {"system-run",                      QT_TRANSLATE_NOOP("ConfigDialog", "Effects"),     &typeOf<EffectPage>},
+    {"preferences-desktop-sound",       QT_TRANSLATE_NOOP("ConfigDialog", "Sounds"),      &typeOf<SoundPage>}};
+// clang-format on
+
+// The window manager is told in this order, in which the pages end, too.
+constexpr const PageType *saveOrder[] = {&typeOf<WallpaperPage>, &typeOf<EffectPage>,
+                                         &typeOf<ThemePage>,     &typeOf<FontPage>,
+                                         &typeOf<SoundPage>,     &typeOf<ScreensaverPage>};
+static_assert(std::size(saveOrder) == std::size(pageEntries));
+
+/// The row of the list, and of the stack, that a page of \a type has.
+int rowOf(const PageType *type)
+{
+    const auto *const entry = std::find_if(std::begin(pageEntries), std::end(pageEntries),
+                                           [type](const PageEntry &each) { return each.type == type; });
+    return int(entry - std::begin(pageEntries));
+}
 
 constexpr int iconExtent = 64;
 constexpr int defaultWidth = 800;
@@ -60,17 +99,6 @@ int storedExtent(const QSettings &settings, const QString &key, int defaultExten
     return extent > 0 && extent <= largestExtent ? extent : defaultExtent;
 }
 
-/// Reading a theme file twice is worth its time when the file has an ordinary size.
-WallpaperImage wallpaperAhead(const QString &themeFile)
-{
-    constexpr qint64 largestOrdinary = 256 * 1024;
-    if (QFileInfo(themeFile).size() > largestOrdinary)
-        return {};
-    QazSettings store(themeFile);
-    store.sync(true);
-    return WallpaperPage::imageAhead(&store);
-}
-
 /// A file name may itself hold the place mark of the modified sign.
 QString titleText(const QString &fileName)
 {
@@ -85,11 +113,9 @@ ConfigDialog::ConfigDialog(const QString &fileName, QWidget *parent, Qt::WindowF
     , pagesWidget(new SlidingStackedWidget(this))
     , themeFile(fileName)
 {
-    // Decoding takes as long as the fonts and the pages together: another processor does it meanwhile.
-    WallpaperImage wallpaper = wallpaperAhead(themeFile);
     fillContents();
     connect(pagesWidget, &SlidingStackedWidget::animationFinished, this, &ConfigDialog::animationDone);
-    createPages(std::move(wallpaper));
+    createPages();
     contentsWidget->setCurrentRow(0);
     createButtons();
     createLayout();
@@ -108,12 +134,10 @@ ConfigDialog::ConfigDialog(const QString &fileName, QWidget *parent, Qt::WindowF
 ConfigDialog::~ConfigDialog()
 {
     storeSize();
-    delete wallpaperPage;
-    delete effectPage;
-    delete themePage;
-    delete fontPage;
-    delete soundPage;
-    delete screensaverPage;
+    QWidgetList pages;
+    for (const PageType *type : saveOrder)
+        pages.append(pagesWidget->widget(rowOf(type)));
+    qDeleteAll(pages);
 }
 
 void ConfigDialog::fillContents()
@@ -144,18 +168,11 @@ void ConfigDialog::fillContents()
     contentsWidget->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 }
 
-void ConfigDialog::createPages(WallpaperImage wallpaper)
+void ConfigDialog::createPages()
 {
     pagesWidget->setObjectName(QStringLiteral("pagesWidget"));
-    wallpaperPage = new WallpaperPage(pagesWidget, std::move(wallpaper));
-    themePage = new ThemePage(pagesWidget);
-    fontPage = new FontPage(pagesWidget);
-    screensaverPage = new ScreensaverPage(pagesWidget);
-    effectPage = new EffectPage(pagesWidget);
-    soundPage = new SoundPage(pagesWidget);
-    for (QWidget *page : std::initializer_list<QWidget *>{wallpaperPage, themePage, fontPage, screensaverPage,
-                                                          effectPage, soundPage})
-        pagesWidget->addWidget(page);
+    for (const PageEntry &entry : pageEntries)
+        pagesWidget->addWidget(entry.type->create(pagesWidget));
 
     auto *wheelGuard = new WheelGuard(this);
     wheelGuard->guard(pagesWidget);
@@ -221,12 +238,8 @@ void ConfigDialog::storeSize() const
 
 void ConfigDialog::connectPages()
 {
-    connect(wallpaperPage, &WallpaperPage::changedSignal, this, &ConfigDialog::changedSlot);
-    connect(themePage, &ThemePage::changedSignal, this, &ConfigDialog::changedSlot);
-    connect(fontPage, &FontPage::changedSignal, this, &ConfigDialog::changedSlot);
-    connect(screensaverPage, &ScreensaverPage::changedSignal, this, &ConfigDialog::changedSlot);
-    connect(effectPage, &EffectPage::changedSignal, this, &ConfigDialog::changedSlot);
-    connect(soundPage, &SoundPage::changedSignal, this, &ConfigDialog::changedSlot);
+    for (const PageEntry &entry : pageEntries)
+        entry.type->connectEdits(pagesWidget->widget(rowOf(entry.type)), this);
     connect(contentsWidget, &QListWidget::currentItemChanged, this, &ConfigDialog::changePage);
 }
 
@@ -249,15 +262,15 @@ void ConfigDialog::changePage(QListWidgetItem *current, QListWidgetItem *previou
         pagesWidget->setCurrentIndex(row);
     }
 
+    if (!pageEntries[row].type->isLoaded(pagesWidget->widget(row)))
+        loadPage(row);
+}
+
+void ConfigDialog::loadPage(int row)
+{
     QazSettings store(themeFile);
     store.sync(true);
-    const auto loadOnce = [item, &store](auto *page, const QString &name) {
-        return item->text() == name && !page->loaded && (page->loadValues(&store), true);
-    };
-    // The first match that is not loaded yet, in this order.
-    loadOnce(wallpaperPage, tr("Wallpaper")) || loadOnce(themePage, tr("Theme"))
-        || loadOnce(fontPage, tr("Fonts")) || loadOnce(screensaverPage, tr("Screensaver"))
-        || loadOnce(soundPage, tr("Sounds")) || loadOnce(effectPage, tr("Effects"));
+    pageEntries[row].type->load(pagesWidget->widget(row), &store);
 }
 
 QDialogButtonBox *ConfigDialog::buttonBox()
@@ -267,9 +280,7 @@ QDialogButtonBox *ConfigDialog::buttonBox()
 
 bool ConfigDialog::fileOpen()
 {
-    QazSettings store(themeFile);
-    store.sync(true);
-    wallpaperPage->loadValues(&store);
+    loadPage(0);
     return true;
 }
 
@@ -277,17 +288,11 @@ bool ConfigDialog::fileSave()
 {
     QazSettings store(themeFile);
     store.sync(true);
-    const auto saveLoaded = [&store](auto *page) {
-        if (page->loaded)
-            page->saveValues(&store);
-    };
-    // The window manager is told in this order.
-    saveLoaded(wallpaperPage);
-    saveLoaded(effectPage);
-    saveLoaded(themePage);
-    saveLoaded(fontPage);
-    saveLoaded(soundPage);
-    saveLoaded(screensaverPage);
+    for (const PageType *type : saveOrder) {
+        QWidget *page = pagesWidget->widget(rowOf(type));
+        if (type->isLoaded(page))
+            type->save(page, &store);
+    }
     return true;
 }
 

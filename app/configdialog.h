@@ -2,19 +2,12 @@
 
 #include <QDialog>
 
-class EffectPage;
-class FontPage;
 class QDialogButtonBox;
 class QListWidget;
 class QListWidgetItem;
-class ScreensaverPage;
 class SlidingStackedWidget;
-class SoundPage;
-class ThemePage;
-class WallpaperImage;
-class WallpaperPage;
 
-/// The program's only main window: a list of six pages, the pages in a sliding stack, and the buttons. A page
+/// The program's only main window: a list of pages, the pages in a sliding stack, and the buttons. A page
 /// is loaded when it is first shown, and saved only when it is loaded. The size is kept between runs.
 class ConfigDialog : public QDialog
 {
@@ -56,22 +49,18 @@ protected:
 
 private:
     void fillContents();
-    void createPages(WallpaperImage wallpaper);
+    void createPages();
     void createButtons();
     void createLayout();
     void restoreSize();
     void connectPages();
+    /// Loads the page of \a row from the theme file as it is now.
+    void loadPage(int row);
     void setEdited(bool edited);
 
     QListWidget *contentsWidget;
     SlidingStackedWidget *pagesWidget;
     bool slideFinished = true;
-    WallpaperPage *wallpaperPage;
-    ThemePage *themePage;
-    FontPage *fontPage;
-    ScreensaverPage *screensaverPage;
-    EffectPage *effectPage;
-    SoundPage *soundPage;
     QDialogButtonBox *m_buttonBox = nullptr;
     QString themeFile;
 };

@@ -7,5 +7,5 @@ class MyApplication : public QtSingleApplication
 {
     Q_OBJECT
 public:
-    MyApplication(const QString &id, int &argc, char **argv);
+    using QtSingleApplication::QtSingleApplication;
 };

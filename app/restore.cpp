@@ -13,40 +13,11 @@
 #include <QInputDialog>
 #include <QMessageBox>
 
-#include <algorithm>
-#include <iterator>
 #include <optional>
 
 namespace {
 
-enum class Remove { ThemeFile, HomeFile, PersonalSettings };
-enum class Report { No, Yes };
-
-struct RestoreStep {
-    Remove what;
-    const char *suffix; // below the home directory
-    Report report;
-};
-
-// In these orders; a failure never stops the steps after it.
-constexpr RestoreStep themeOnly[] = {{Remove::ThemeFile, "", Report::Yes},
-                                     {Remove::HomeFile, "/.config/Trolltech.conf", Report::No}};
-constexpr RestoreStep allSettings[] = {{Remove::HomeFile, "/.Xresources", Report::No},
-                                       {Remove::PersonalSettings, "", Report::Yes},
-                                       {Remove::HomeFile, "/.config/Trolltech.conf", Report::No}};
-
-QString pathOf(const RestoreStep &step, const QString &themeFile)
-{
-    switch (step.what) {
-    case Remove::ThemeFile:
-        return themeFile;
-    case Remove::HomeFile:
-        return directoryPath(DirectoryKind::Home) + QLatin1String(step.suffix);
-    case Remove::PersonalSettings:
-        return directoryPath(DirectoryKind::PersonalSettings);
-    }
-    return {};
-}
+enum class RestoreDepth { ThemeOnly, AllSettings };
 
 /// Fails for a directory, which is not copied either: it may be large, and stays.
 bool removeFile(const QString &path)
@@ -58,9 +29,21 @@ bool removeFile(const QString &path)
     return QFile::remove(path);
 }
 
-bool isWithin(const QString &path, const QString &directory)
+/// Removes the directory \a path with everything in it; of a symbolic link only the link. Links inside are removed,
+/// not followed.
+bool removeTree(const QString &path, const QString &home)
 {
-    return path == directory || path.startsWith(directory + QLatin1Char('/'));
+    const QFileInfo info(path);
+    if (info.isSymLink())
+        return removeFile(path);
+    const bool mayRemove = mayRemoveTree(path, home)
+                           && (!info.exists()
+                               || mayRemoveTree(info.canonicalFilePath(),
+                                                QFileInfo(home).canonicalFilePath()));
+    if (!mayRemove)
+        return false;
+    backUp(path);
+    return QDir(path).removeRecursively();
 }
 
 /// The depth that the user chose; none when the choice was cancelled.
@@ -85,35 +68,11 @@ void showFailure(QWidget *parent, const QString &path)
 
 } // namespace
 
-void removeSettings(RestoreDepth depth, const QString &themeFile,
-                    const std::function<void(const QString &path)> &reportFailure)
-{
-    const auto run = [&](const RestoreStep &step) {
-        const QString path = pathOf(step, themeFile);
-        const bool removed = step.what == Remove::PersonalSettings
-                                 ? removeDirectory(path, directoryPath(DirectoryKind::Home))
-                                 : removeFile(path);
-        if (!removed && step.report == Report::Yes)
-            reportFailure(path);
-    };
-    if (depth == RestoreDepth::ThemeOnly)
-        std::for_each(std::begin(themeOnly), std::end(themeOnly), run);
-    else
-        std::for_each(std::begin(allSettings), std::end(allSettings), run);
-}
-
-bool removeDirectory(const QString &path, const QString &home)
+bool mayRemoveTree(const QString &path, const QString &home)
 {
     const QString directory = QDir::cleanPath(path);
-    if (path.isEmpty() || directory == QLatin1String("/") || isWithin(QDir::cleanPath(home), directory))
-        return false;
-    if (QFileInfo(directory).isSymLink())
-        return removeFile(directory);
-    const QString canonical = QFileInfo(directory).canonicalFilePath();
-    if (!canonical.isEmpty() && isWithin(QFileInfo(home).canonicalFilePath(), canonical))
-        return false;
-    backUp(directory);
-    return QDir(directory).removeRecursively();
+    return QDir::isAbsolutePath(directory) && directory != QLatin1String("/")
+           && !(QDir::cleanPath(home) + QLatin1Char('/')).startsWith(directory + QLatin1Char('/'));
 }
 
 void ConfigDialog::restoreSlot()
@@ -122,7 +81,17 @@ void ConfigDialog::restoreSlot()
     if (!depth)
         return;
     removeDesktopWallpapers();
-    removeSettings(*depth, themeFile, [this](const QString &path) { showFailure(this, path); });
+    const QString home = directoryPath(DirectoryKind::Home);
+    if (*depth == RestoreDepth::ThemeOnly) {
+        if (!removeFile(themeFile))
+            showFailure(this, themeFile);
+    } else {
+        removeFile(home + QLatin1String("/.Xresources"));
+        const QString personal = directoryPath(DirectoryKind::PersonalSettings);
+        if (!removeTree(personal, home))
+            showFailure(this, personal);
+    }
+    removeFile(home + QLatin1String("/.config/Trolltech.conf"));
     // Yes as the only button and No as the default one: Qt takes this form for the one with two buttons.
     if (QMessageBox::question(
             this, tr("Restore done"),
