@@ -21,7 +21,7 @@ namespace {
 
 constexpr int processCount = 5000;
 constexpr int scanRounds = 30;
-constexpr double scanLimit = 50;
+constexpr double scanLimit = 90;
 
 constexpr int showRounds = 40;
 constexpr double showLimit = 1.5;
