@@ -1,9 +1,9 @@
 #include "app/configdialog.h"
 #include "app/myapplication.h"
 #include "app/shutdown.h"
-#include "app/themefile.h"
 #include "platform/qazinit.h"
 #include "resources/registerresources.h"
+#include "settings/themefile.h"
 
 #include <cstdio>
 #include <cstring>

@@ -2,8 +2,8 @@
 
 #include "app/configdialog.h"
 #include "pages/common/messagebox.h"
-#include "pages/wallpaper/desktopwallpapers.h"
 #include "settings/backup.h"
+#include "settings/desktopwallpapers.h"
 #include "settings/directories.h"
 #include "settings/wmcommands.h"
 

@@ -9,7 +9,6 @@
 #include <QTemporaryFile>
 
 #include "bench/figures.h"
-#include "pages/sounds/soundassignments.h"
 #include "pages/sounds/soundpage.h"
 #include "platform/qazsettings.h"
 

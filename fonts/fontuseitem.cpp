@@ -1,7 +1,7 @@
 #include "fonts/fontuseitem.h"
 
-#include "fonts/rolefonttext.h"
 #include "platform/qazsettings.h"
+#include "settings/rolefonttext.h"
 #include "settings/updatevalues.h"
 
 #include <QFontInfo>

@@ -2,7 +2,7 @@
 
 #include "fonts/nearestfont.h"
 #include "fonts/previewlabel.h"
-#include "fonts/rolefonttext.h"
+#include "settings/rolefonttext.h"
 
 #include <QFontDialog>
 #include <QHBoxLayout>

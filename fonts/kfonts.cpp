@@ -1,7 +1,6 @@
 #include "fonts/kfonts.h"
 
 #include "fonts/fontaasettings.h"
-#include "fonts/fontroles.h"
 #include "fonts/fontuseitem.h"
 #include "fonts/renderingstore.h"
 #include "fonts/serverresources.h"
@@ -10,6 +9,7 @@
 #include "pages/common/messagebox.h"
 #include "platform/setxrdbparameterinfile.h"
 #include "settings/directories.h"
+#include "settings/fontroles.h"
 
 #include <QComboBox>
 #include <QCoreApplication>

@@ -2,7 +2,7 @@
 
 #include "pages/common/messagebox.h"
 #include "pages/common/waitcursor.h"
-#include "pages/sounds/soundassignments.h"
+#include "pages/sounds/soundchoice.h"
 #include "pages/sounds/soundoutput.h"
 #include "pages/sounds/soundplayer.h"
 #include "pages/sounds/wavconverter.h"
@@ -11,6 +11,7 @@
 #include "platform/qazsettings.h"
 #include "platform/qazsoundtheme.h"
 #include "settings/directories.h"
+#include "settings/soundassignments.h"
 #include "settings/textvalues.h"
 #include "settings/updatevalues.h"
 #include "ui_soundform.h"

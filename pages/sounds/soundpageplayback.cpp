@@ -2,10 +2,10 @@
 
 #include "pages/common/messagebox.h"
 #include "pages/common/waitcursor.h"
-#include "pages/sounds/soundassignments.h"
 #include "pages/sounds/soundoutput.h"
 #include "pages/sounds/soundplayer.h"
 #include "platform/qazsoundtheme.h"
+#include "settings/soundassignments.h"
 #include "ui_soundform.h"
 
 #include <QFileInfo>

@@ -3,7 +3,6 @@
 #include "pages/common/messagebox.h"
 #include "pages/common/waitcursor.h"
 #include "pages/theme/buttonicons.h"
-#include "pages/theme/colorelements.h"
 #include "pages/theme/previewicon.h"
 #include "pages/theme/previews.h"
 #include "pages/theme/sizeelements.h"
@@ -11,6 +10,7 @@
 #include "pages/theme/xserver.h"
 #include "platform/qazinit.h"
 #include "platform/qazsettings.h"
+#include "settings/colorelements.h"
 #include "settings/updatevalues.h"
 #include "ui_themeform.h"
 

@@ -2,13 +2,13 @@
 
 #include "pages/common/messagebox.h"
 #include "pages/common/waitcursor.h"
-#include "pages/wallpaper/desktopcolor.h"
-#include "pages/wallpaper/desktopwallpapers.h"
 #include "pages/wallpaper/wallpaperpreview.h"
 #include "pages/wallpaper/wallpaperselection.h"
 #include "platform/findwallpaperbyname.h"
 #include "platform/qazfiledialog.h"
 #include "platform/qazsettings.h"
+#include "settings/colortexts.h"
+#include "settings/desktopwallpapers.h"
 #include "settings/updatevalues.h"
 #include "ui_wallpaperform.h"
 

@@ -17,7 +17,6 @@ namespace {
 
 constexpr int margin = 10;          // of the label, in both directions
 constexpr int painterLimit = 32767; // Qt scales in 16-bit fixed point: what is larger comes out black
-constexpr const char *fitWords[] = {"Center", "Tile", "Stretch"};
 
 QSize scaledSize(const QSize &image, const QSize &label, const QSize &screen)
 {
@@ -72,25 +71,6 @@ bool mayReplace(const QByteArray &path)
 }
 
 } // namespace
-
-QString wordFromFit(Fit fit)
-{
-    return QLatin1String(fitWords[int(fit)]);
-}
-
-Fit fitFromWord(const QString &word)
-{
-    for (Fit fit : {Fit::Tile, Fit::Stretch}) {
-        if (word == QLatin1String(fitWords[int(fit)]))
-            return fit;
-    }
-    return Fit::Center;
-}
-
-bool isColorText(const QString &text)
-{
-    return text.startsWith(QLatin1Char('#'));
-}
 
 QImage drawPreview(const QImage &image, Fit fit, const QColor &fill, const QSize &labelSize,
                    const QSize &screenSize)

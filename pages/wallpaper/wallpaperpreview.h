@@ -1,18 +1,10 @@
 #pragma once
 
+#include "settings/wallpapertexts.h"
+
 #include <QColor>
 #include <QImage>
 #include <QString>
-
-/// How a wallpaper is fitted to the screen; the order is the position combo box's.
-enum class Fit { Center, Tile, Stretch };
-
-/// The stored word of \a fit, and back; an unknown word centres.
-QString wordFromFit(Fit fit);
-Fit fitFromWord(const QString &word);
-
-/// Whether a wallpaper text is meant as a colour ("#RRGGBB"), valid or not.
-bool isColorText(const QString &text);
 
 /// What the monitor picture shows of \a image on a screen of \a screenSize pixels: a picture 10 pixels narrower and
 /// lower than the preview label of \a labelSize. A null image gives a picture of \a fill alone.

@@ -1,8 +1,8 @@
 #include "fonts/fontpage.h"
 
-#include "fonts/fontroles.h"
 #include "fonts/fontuseitem.h"
 #include "platform/qazsettings.h"
+#include "settings/fontroles.h"
 #include "tests/support/fakeprogram.h"
 #include "tests/support/modaldriver.h"
 #include "tests/support/temporaryhome.h"

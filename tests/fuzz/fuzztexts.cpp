@@ -1,6 +1,6 @@
-#include "fonts/rolefonttext.h"
-#include "pages/theme/colorelements.h"
-#include "pages/wallpaper/desktopcolor.h"
+#include "settings/colorelements.h"
+#include "settings/colortexts.h"
+#include "settings/rolefonttext.h"
 #include "tests/fuzz/fuzzing.h"
 
 #include <QColor>

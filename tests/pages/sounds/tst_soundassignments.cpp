@@ -1,6 +1,7 @@
-#include "pages/sounds/soundassignments.h"
+#include "pages/sounds/soundchoice.h"
 #include "pages/sounds/wavconverter.h"
 #include "platform/qazsoundtheme.h"
+#include "settings/soundassignments.h"
 #include "tests/support/literals.h"
 #include "tests/support/temporaryhome.h"
 

@@ -1,6 +1,6 @@
-#include "pages/sounds/soundassignments.h"
 #include "pages/sounds/soundpage.h"
 #include "platform/qazsettings.h"
+#include "settings/soundassignments.h"
 #include "tests/support/childprocesses.h"
 #include "tests/support/environment.h"
 #include "tests/support/fakeprogram.h"

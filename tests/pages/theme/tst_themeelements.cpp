@@ -1,5 +1,5 @@
-#include "pages/theme/colorelements.h"
 #include "pages/theme/sizeelements.h"
+#include "settings/colorelements.h"
 
 #include <QColor>
 #include <QTest>
@@ -11,7 +11,6 @@ class TestThemeElements : public QObject
     Q_OBJECT
 private slots:
     void elementsAreCompleteAndOrderedByKey();
-    void storedColorsAreTranslated();
     void sizesFollowTheResolution();
 };
 
@@ -32,19 +31,6 @@ void TestThemeElements::elementsAreCompleteAndOrderedByKey()
     QCOMPARE(keys.size(), 34);
     QCOMPARE(gradients.join(QLatin1Char(' ')),
              QStringLiteral("DesktopColor2 MenuColor2 PagerColor2 TitlebarActiveColor2 TitlebarColor2"));
-}
-
-void TestThemeElements::storedColorsAreTranslated()
-{
-    // clang-format off
-    const std::pair<const char *, const char *> colors[] = {
-        {"Qt", "#123456"}, {"qt", "#123456"}, {"QT", "QT"}, {"qvgray", "#c0c0c0"}, {"qvgrey", "#c0c0c0"},
-        {"qvdarkgray", "#606060"}, {"qvdarkgrey", "#606060"}, {"qvlightray", "light gray"},
-        {"qvlightgray", "qvlightgray"}, {"qvblue", "#000080"}, {"qvlightblue", "#a6caf0"},
-        {"qvroyalblue", "#3a6ea5"}, {"qvyellow", "#f5db95"}, {"qvlightyellow", "#ffffe1"}, {"", ""}};
-    // clang-format on
-    for (const auto &[stored, color] : colors)
-        QCOMPARE(currentColorText(QLatin1String(stored), QStringLiteral("#123456")), QLatin1String(color));
 }
 
 void TestThemeElements::sizesFollowTheResolution()

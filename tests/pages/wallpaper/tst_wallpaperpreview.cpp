@@ -1,4 +1,3 @@
-#include "pages/wallpaper/desktopcolor.h"
 #include "pages/wallpaper/wallpaperimage.h"
 #include "pages/wallpaper/wallpaperpreview.h"
 #include "tests/support/literals.h"
@@ -45,17 +44,6 @@ class TestWallpaperPreview : public QObject
 {
     Q_OBJECT
 private slots:
-    void oldColorNamesAreTranslated()
-    {
-        const QString colors = "qvgray #c0c0c0|qvgrey #c0c0c0|qvdarkgray #606060|qvdarkgrey #606060|"
-                               "qvlightray #dfdfdf|qvblue #0000ff|qvlightblue #a6caf0|qvroyalblue #3a6ea5|"
-                               "qvyellow #f5db95|qvlightyellow #ffffe1|blue #0000ff|#12Ab34 #12ab34"_s;
-        for (const QString &row : colors.split(u'|'))
-            QCOMPARE(desktopColor(row.section(u' ', 0, 0)).name(), row.section(u' ', 1));
-        for (const QString &unknown : {"qvlightgray"_s, "QvBlue"_s, "qvblue "_s, QString()})
-            QVERIFY2(!desktopColor(unknown).isValid(), qPrintable(unknown));
-    }
-
     void imageIsPlaced()
     {
         const struct {
@@ -101,9 +89,7 @@ private slots:
             QCOMPARE(drawPreview(translucent, fit, fill, label, screen).pixel(120, 90) & RGB_MASK,
                      QRgb(fit == Fit::Stretch ? translucent.pixel(0, 0) & RGB_MASK : 0x0a141e));
             QCOMPARE(drawPreview(line, fit, fill, {0, 0}, {0, 0}).size(), QSize(1, 1));
-            QCOMPARE(fitFromWord(wordFromFit(fit)), fit);
         }
-        QCOMPARE(fitFromWord("stretch"_s), Fit::Center);
     }
 
     void previewFileReplacesOnlyItsOwn()

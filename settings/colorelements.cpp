@@ -1,26 +1,11 @@
-#include "pages/theme/colorelements.h"
+#include "settings/colorelements.h"
 
 #include "platform/qazsettings.h"
+#include "settings/colortexts.h"
 #include "settings/updatevalues.h"
 
 #include <algorithm>
 #include <cstring>
-
-namespace {
-
-struct OldColorName {
-    const char *name;
-    const char *color;
-};
-
-// The wallpaper page has a table of its own, which differs on purpose in "qvblue" and "qvlightray".
-constexpr OldColorName oldColorNames[] = {{"qvgray", "#c0c0c0"},        {"qvgrey", "#c0c0c0"},
-                                          {"qvdarkgray", "#606060"},    {"qvdarkgrey", "#606060"},
-                                          {"qvlightray", "light gray"}, {"qvblue", "#000080"},
-                                          {"qvlightblue", "#a6caf0"},   {"qvroyalblue", "#3a6ea5"},
-                                          {"qvyellow", "#f5db95"},      {"qvlightyellow", "#ffffe1"}};
-
-} // namespace
 
 std::vector<const ColorElement *> colorElementsByKey()
 {
@@ -49,17 +34,6 @@ QStringList defaultColors(const ColorElement &element)
     const QString color = QLatin1String(element.defaultColor);
     return isGradient(element) ? QStringList{color, QLatin1String(element.secondDefault)}
                                : QStringList{color};
-}
-
-QString currentColorText(const QString &stored, const QString &defaultColor)
-{
-    if (stored == QLatin1String("Qt") || stored == QLatin1String("qt"))
-        return defaultColor;
-    for (const OldColorName &old : oldColorNames) {
-        if (stored == QLatin1String(old.name))
-            return QLatin1String(old.color);
-    }
-    return stored;
 }
 
 QStringList storedColors(const ColorElement &element, const QazSettings &settings)

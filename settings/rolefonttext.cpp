@@ -1,4 +1,4 @@
-#include "fonts/rolefonttext.h"
+#include "settings/rolefonttext.h"
 
 #include <QFontInfo>
 

@@ -1,4 +1,4 @@
-#include "app/themefile.h"
+#include "settings/themefile.h"
 
 #include "platform/qazinit.h"
 #include "settings/directories.h"

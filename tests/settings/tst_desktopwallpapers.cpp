@@ -1,4 +1,4 @@
-#include "pages/wallpaper/desktopwallpapers.h"
+#include "settings/desktopwallpapers.h"
 #include "tests/support/literals.h"
 #include "tests/support/temporaryhome.h"
 #include "tests/support/wmlistener.h"

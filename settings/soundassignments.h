@@ -44,23 +44,8 @@ enum class SoundKind {
 
 SoundKind soundKind(const QString &value);
 
-/// The default assignment of the event with the settings \a key: its sound in themes or its built-in file. Empty
-/// for an event without one and for an unknown key.
-QString defaultSound(const QString &key, bool fromTheme);
-
 /// The file that \a theme has for a sound; empty without a theme (null) or when it has none.
 QString themeSoundFile(QazSoundTheme *theme, const QString &name);
-
-/// What a theme's files would need before all of them can be played.
-struct SoundFormats {
-    bool ogg = false;    ///< some are ogg files, which can be converted
-    bool nonWav = false; ///< some are neither wav nor au files
-};
-
-/// The default assignment \a name as it can be used: empty when its file doesn't exist. \a theme may be null.
-/// The format of a file that the theme has is marked in \a formats, whether the file exists or not.
-QString usableSound(const QString &name, QazSoundTheme *theme, const QString &soundsDirectory,
-                    SoundFormats *formats);
 
 /// What a play of an assignment takes.
 struct PlayableSound {
@@ -70,9 +55,3 @@ struct PlayableSound {
 
 /// Without a theme (null) the name of a theme's sound stands for a file of the sounds directory.
 PlayableSound playableSound(const QString &value, QazSoundTheme *theme, const QString &soundsDirectory);
-
-/// Where to start choosing a file for an event that has the sound \a value.
-QString startDirectory(const QString &value, bool hasTheme, const QString &soundsDirectory);
-
-/// The assignment for a chosen file: a file in the sounds directory itself is a built-in file.
-QString assignmentForFile(const QString &path, const QString &soundsDirectory);

@@ -66,10 +66,6 @@ QStringList colorKeys(const ColorElement &element);
 /// The colours of \a element when nothing is stored, as many as it has keys.
 QStringList defaultColors(const ColorElement &element);
 
-/// The colour text that stands for \a stored: "Qt" means the default, old colour-scheme names are
-/// translated, every other text is itself, whether it names a colour or not.
-QString currentColorText(const QString &stored, const QString &defaultColor);
-
 /// The colours of \a element in \a settings as they are shown: current texts, as many as it has keys.
 QStringList storedColors(const ColorElement &element, const QazSettings &settings);
 

@@ -1,4 +1,4 @@
-#include "pages/wallpaper/desktopwallpapers.h"
+#include "settings/desktopwallpapers.h"
 
 #include "base/atomicfile.h"
 #include "base/desktopentrytext.h"

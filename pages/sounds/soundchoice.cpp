@@ -1,17 +1,13 @@
-#include "pages/sounds/soundassignments.h"
+#include "pages/sounds/soundchoice.h"
 
-#include "platform/qazsoundtheme.h"
+#include "settings/soundassignments.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 
 #include <algorithm>
-#include <array>
 
 namespace {
-
-constexpr int soundBufferSize = 4096;
 
 bool isSameDirectory(const QString &one, const QString &other)
 {
@@ -31,15 +27,6 @@ void markFormat(const QString &path, SoundFormats *formats)
 
 } // namespace
 
-SoundKind soundKind(const QString &value)
-{
-    if (value.isEmpty())
-        return SoundKind::None;
-    if (value.startsWith(QLatin1Char('/')))
-        return SoundKind::File;
-    return value.contains(QLatin1Char('.')) ? SoundKind::BuiltIn : SoundKind::ThemeSound;
-}
-
 QString defaultSound(const QString &key, bool fromTheme)
 {
     const auto event = std::find_if(
@@ -48,14 +35,6 @@ QString defaultSound(const QString &key, bool fromTheme)
     if (event == std::end(soundEvents))
         return {};
     return QString::fromLatin1(fromTheme ? event->themeSound : event->builtInFile);
-}
-
-QString themeSoundFile(QazSoundTheme *theme, const QString &name)
-{
-    std::array<char, soundBufferSize> buffer{};
-    if (!theme || !theme->getSound(name.toLocal8Bit().constData(), "", "", buffer.data()))
-        return {};
-    return QFile::decodeName(buffer.data());
 }
 
 QString usableSound(const QString &name, QazSoundTheme *theme, const QString &soundsDirectory,
@@ -78,19 +57,6 @@ QString usableSound(const QString &name, QazSoundTheme *theme, const QString &so
         break;
     }
     return !path.isEmpty() && QFileInfo::exists(path) ? name : QString();
-}
-
-PlayableSound playableSound(const QString &value, QazSoundTheme *theme, const QString &soundsDirectory)
-{
-    const SoundKind kind = soundKind(value);
-    if (kind == SoundKind::File)
-        return {value};
-    if (!theme || kind == SoundKind::BuiltIn)
-        return {soundsDirectory + QLatin1Char('/') + value};
-    const QString file = themeSoundFile(theme, value);
-    if (file.isEmpty())
-        return {value};
-    return {file, file.endsWith(QLatin1String(".wav"))};
 }
 
 QString startDirectory(const QString &value, bool hasTheme, const QString &soundsDirectory)

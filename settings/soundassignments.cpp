@@ -1,0 +1,43 @@
+#include "settings/soundassignments.h"
+
+#include "platform/qazsoundtheme.h"
+
+#include <QFile>
+
+#include <array>
+
+namespace {
+
+constexpr int soundBufferSize = 4096;
+
+} // namespace
+
+SoundKind soundKind(const QString &value)
+{
+    if (value.isEmpty())
+        return SoundKind::None;
+    if (value.startsWith(QLatin1Char('/')))
+        return SoundKind::File;
+    return value.contains(QLatin1Char('.')) ? SoundKind::BuiltIn : SoundKind::ThemeSound;
+}
+
+QString themeSoundFile(QazSoundTheme *theme, const QString &name)
+{
+    std::array<char, soundBufferSize> buffer{};
+    if (!theme || !theme->getSound(name.toLocal8Bit().constData(), "", "", buffer.data()))
+        return {};
+    return QFile::decodeName(buffer.data());
+}
+
+PlayableSound playableSound(const QString &value, QazSoundTheme *theme, const QString &soundsDirectory)
+{
+    const SoundKind kind = soundKind(value);
+    if (kind == SoundKind::File)
+        return {value};
+    if (!theme || kind == SoundKind::BuiltIn)
+        return {soundsDirectory + QLatin1Char('/') + value};
+    const QString file = themeSoundFile(theme, value);
+    if (file.isEmpty())
+        return {value};
+    return {file, file.endsWith(QLatin1String(".wav"))};
+}
