@@ -1,9 +1,14 @@
 #include "app/configdialog.h"
 #include "platform/qazhelp.h"
+#include "platform/qazinit.h"
 #include "platform/slidingstackedwidget.h"
 #include "resources/registerresources.h"
 #include "tests/support/temporaryhome.h"
 
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
 #include <QListWidget>
 #include <QRegularExpression>
 #include <QScrollBar>
@@ -21,6 +26,41 @@ QStringList captured(const QString &text, const QString &pattern)
     return found;
 }
 
+/// A text as it is compared: without its accelerator, colon and capitals.
+QString bare(QString text)
+{
+    text = text.simplified().toLower().remove(QLatin1Char('&'));
+    return text.endsWith(QLatin1Char(':')) ? text.chopped(1).trimmed() : text;
+}
+
+/// What the controls of \a page are called: labels, buttons, groups, tabs and the entries of boxes.
+QStringList shownTexts(const QWidget *page)
+{
+    QStringList texts;
+    for (const QLabel *label : page->findChildren<QLabel *>())
+        texts.append(bare(label->text()));
+    for (const QAbstractButton *button : page->findChildren<QAbstractButton *>())
+        texts.append(bare(button->text()));
+    for (const QGroupBox *group : page->findChildren<QGroupBox *>())
+        texts.append(bare(group->title()));
+    for (const QTabWidget *tabs : page->findChildren<QTabWidget *>()) {
+        for (int i = 0; i < tabs->count(); ++i)
+            texts.append(bare(tabs->tabText(i)));
+    }
+    for (const QComboBox *box : page->findChildren<QComboBox *>()) {
+        for (int i = 0; i < box->count(); ++i)
+            texts.append(bare(box->itemText(i)));
+    }
+    return texts;
+}
+
+/// The chapter \a name of the guide's \a text.
+QString chapter(const QString &text, const QString &name)
+{
+    const int begin = text.indexOf(QStringLiteral("<h2><a name=\"%1\">").arg(name));
+    return begin < 0 ? QString() : text.mid(begin, text.indexOf(QStringLiteral("<h2>"), begin + 1) - begin);
+}
+
 } // namespace
 
 /// The user guide in each language, and the window that shows it.
@@ -35,11 +75,14 @@ private slots:
     void chaptersLinksAndPicturesAreThere();
     void helpShowsTheChapterOfEachPage_data() { chaptersLinksAndPicturesAreThere_data(); }
     void helpShowsTheChapterOfEachPage();
+    void chaptersNameWhatStandsOnTheirPages_data() { chaptersLinksAndPicturesAreThere_data(); }
+    void chaptersNameWhatStandsOnTheirPages();
 };
 
 void TestGuide::cleanup()
 {
     QLocale::setDefault(QLocale::system());
+    qDeleteAll(qApp->findChildren<QTranslator *>()); // which takes them out of use
 }
 
 void TestGuide::chaptersLinksAndPicturesAreThere_data()
@@ -112,6 +155,38 @@ void TestGuide::helpShowsTheChapterOfEachPage()
     QTest::keyClick(help, Qt::Key_Escape);
     QVERIFY(!help->isVisible());
     QCoreApplication::sendPostedEvents(help, QEvent::DeferredDelete);
+}
+
+void TestGuide::chaptersNameWhatStandsOnTheirPages()
+{
+    QFETCH(QString, language);
+    QFETCH(QString, file);
+    const TemporaryHome home;
+    QLocale::setDefault(QLocale(language));
+    qazInit("1", "title");
+    QFile guide(file);
+    QVERIFY(guide.open(QIODevice::ReadOnly));
+    const QString text = QString::fromUtf8(guide.readAll());
+    ConfigDialog dialog(home.path(QStringLiteral("a.themerc")));
+    const auto *stack = dialog.findChild<SlidingStackedWidget *>();
+    for (int row = 0; row < stack->count(); ++row) {
+        const QWidget *page = stack->widget(row);
+        const QString name
+            = QString::fromLatin1(page->metaObject()->className()).toLower().remove(QStringLiteral("page"));
+        const QString own = chapter(text, name);
+        const QStringList named = captured(own, QStringLiteral("(?s)<[bi]>(.*?)</[bi]>"));
+        QVERIFY2(!named.isEmpty(), qPrintable(name));
+        const QStringList shown = shownTexts(page);
+        for (const QString &control : named)
+            QVERIFY2(shown.contains(bare(control)), qPrintable(name + QLatin1String(": ") + control));
+        // The picture is the page's own, in the guide's language.
+        const QString ending = file.contains(QLatin1Char('_')) ? file.mid(file.indexOf(QLatin1Char('_')), 3)
+                                                               : QStringLiteral("_en");
+        const QStringList pictures = captured(own, QStringLiteral("<img src=\"([^\"]*)\\.png\""));
+        QVERIFY2(pictures.size() == 1 && pictures.first().startsWith(name)
+                     && pictures.first().endsWith(ending),
+                 qPrintable(pictures.join(QLatin1Char(' '))));
+    }
 }
 
 QTEST_MAIN(TestGuide)
