@@ -1,6 +1,10 @@
 #include "base/atomicfile.h"
 
-#include <QDir>
+#include "base/chandle.h"
+#include "base/descriptor.h"
+#include "base/diagnostics.h"
+#include "base/xdgdirectories.h"
+
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
@@ -9,8 +13,10 @@
 #include <cerrno>
 #include <csignal>
 #include <cstdio>
-#include <cstring>
+#include <ctime>
+#include <memory>
 
+#include <dirent.h>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
@@ -19,36 +25,9 @@
 
 namespace {
 
-constexpr int linkLimit = 40;           // what the kernel follows, too
-constexpr int largestContent = 1 << 30; // bytes
-
-QString systemError(int number)
-{
-    return QString::fromLocal8Bit(std::strerror(number));
-}
-
-class Descriptor
-{
-public:
-    explicit Descriptor(int descriptor)
-        : m_descriptor(descriptor)
-    {}
-    ~Descriptor() { close(); }
-    Descriptor(const Descriptor &) = delete;
-    Descriptor &operator=(const Descriptor &) = delete;
-
-    bool isOpen() const { return m_descriptor >= 0; }
-    int get() const { return m_descriptor; }
-    bool close()
-    {
-        const int descriptor = m_descriptor;
-        m_descriptor = -1;
-        return descriptor < 0 || ::close(descriptor) == 0;
-    }
-
-private:
-    int m_descriptor;
-};
+constexpr int linkLimit = 40; // what the kernel follows, too
+constexpr char temporaryName[] = ".qaz-XXXXXX";
+constexpr std::time_t staleSeconds = 3600;
 
 /// While it lives, a write beyond the limit of the file size fails as on a full disk; the signal would end the process.
 class SizeLimitFails
@@ -83,10 +62,10 @@ bool writeAll(int descriptor, const QByteArray &content)
 
 /// Reads to the end of a file of about \a size bytes; it may grow or shrink meanwhile, and files of the kernel
 /// state no size at all. Fails with errno set.
-bool readAll(int descriptor, qint64 size, QByteArray *content)
+bool readAll(int descriptor, qint64 size, qint64 limit, QByteArray *content)
 {
     constexpr int spare = 4096;
-    content->resize(int(qMin<qint64>(size, largestContent)) + 1); // one more, to meet the end without growing
+    content->resize(int(qMin(size, limit)) + 1); // one more, to meet the end without growing
     int length = 0;
     for (;;) {
         const ssize_t got = ::read(descriptor, content->data() + length, size_t(content->size() - length));
@@ -97,7 +76,7 @@ bool readAll(int descriptor, qint64 size, QByteArray *content)
         length += int(got);
         if (got == 0)
             break;
-        if (length > largestContent) {
+        if (length > limit) {
             errno = EFBIG;
             return false;
         }
@@ -138,16 +117,16 @@ bool isReplaceable(const QByteArray &path, QString *error)
     if (::stat(path.constData(), &status) != 0) {
         if (errno == ENOENT)
             return true;
-        *error = systemError(errno);
+        *error = systemErrorText(errno);
         return false;
     }
     if (!S_ISREG(status.st_mode)) {
-        *error = S_ISDIR(status.st_mode) ? systemError(EISDIR) : QStringLiteral("Not a regular file");
+        *error = S_ISDIR(status.st_mode) ? systemErrorText(EISDIR) : QStringLiteral("Not a regular file");
         return false;
     }
     // A rename would replace a write-protected file as well; its protection is the user's word.
     if (::access(path.constData(), W_OK) != 0) {
-        *error = systemError(errno);
+        *error = systemErrorText(errno);
         return false;
     }
     return true;
@@ -160,7 +139,8 @@ bool takeOverAttributes(int newFile, const QByteArray &oldPath, unsigned newFile
     const Descriptor old(::open(oldPath.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
     struct stat status = {};
     if (!old.isOpen() || ::fstat(old.get(), &status) != 0)
-        return errno == ENOENT && ::fchmod(newFile, newFileMode & ~processUmask()) == 0;
+        return errno == ENOENT
+               && ::fchmod(newFile, (newFileMode & ~processUmask()) | (newFileMode & 0600)) == 0;
     copyExtendedAttributes(old.get(), newFile);
     if (::fchown(newFile, status.st_uid, status.st_gid) != 0
         && (status.st_uid != ::geteuid() || ::fchown(newFile, uid_t(-1), status.st_gid) != 0)
@@ -169,7 +149,7 @@ bool takeOverAttributes(int newFile, const QByteArray &oldPath, unsigned newFile
     return ::fchmod(newFile, status.st_mode & 07777) == 0;
 }
 
-FileContent readRegularFile(const QString &path)
+FileContent readRegularFile(const QString &path, qint64 limit)
 {
     FileContent result;
     const QByteArray name = QFile::encodeName(path);
@@ -179,18 +159,34 @@ FileContent readRegularFile(const QString &path)
         return result;
     result.state = FileState::Unreadable;
     if (!file.isOpen() || ::fstat(file.get(), &status) != 0) {
-        result.error = systemError(errno);
+        result.error = systemErrorText(errno);
         return result;
     }
     if (!S_ISREG(status.st_mode)) {
-        result.error = S_ISDIR(status.st_mode) ? systemError(EISDIR) : QStringLiteral("Not a regular file");
+        result.error = S_ISDIR(status.st_mode) ? systemErrorText(EISDIR)
+                                               : QStringLiteral("Not a regular file");
         return result;
     }
-    if (readAll(file.get(), status.st_size, &result.content))
+    if (readAll(file.get(), status.st_size, limit, &result.content))
         result.state = FileState::Regular;
     else
-        result = {FileState::Unreadable, {}, systemError(errno)};
+        result = {FileState::Unreadable, {}, systemErrorText(errno)};
     return result;
+}
+
+void removeStaleTemporaries(const QString &directory)
+{
+    const std::unique_ptr<DIR, Release<::closedir>> entries(
+        ::opendir(QFile::encodeName(directory).constData()));
+    const std::time_t newest = std::time(nullptr) - staleSeconds;
+    while (const dirent *entry = entries ? ::readdir(entries.get()) : nullptr) {
+        const QByteArray name(entry->d_name);
+        struct stat status = {};
+        if (name.startsWith(".qaz-") && name.size() == int(sizeof temporaryName) - 1
+            && ::fstatat(::dirfd(entries.get()), name.constData(), &status, AT_SYMLINK_NOFOLLOW) == 0
+            && S_ISREG(status.st_mode) && status.st_uid == ::geteuid() && status.st_mtime < newest)
+            ::unlinkat(::dirfd(entries.get()), name.constData(), 0);
+    }
 }
 
 QString linkTarget(const QString &path)
@@ -209,29 +205,30 @@ bool replaceFile(const QString &path, const QByteArray &content, QString *error,
 {
     const QString target = linkTarget(path);
     if (target.isEmpty()) {
-        *error = systemError(ELOOP);
+        *error = systemErrorText(ELOOP);
         return false;
     }
     const QByteArray name = QFile::encodeName(target);
     if (!isReplaceable(name, error))
         return false;
     const QString directory = QFileInfo(target).path();
-    if (!QDir().mkpath(directory)) {
+    if (!makeDirectories(directory)) {
         *error = QStringLiteral("Can't create directory %1").arg(directory);
         return false;
     }
 
-    QByteArray temporary = QFile::encodeName(directory) + "/.qaz-XXXXXX";
+    removeStaleTemporaries(directory);
+    QByteArray temporary = QFile::encodeName(directory) + '/' + temporaryName;
     Descriptor file(::mkostemp(temporary.data(), O_CLOEXEC));
     if (!file.isOpen()) {
-        *error = systemError(errno);
+        *error = systemErrorText(errno);
         return false;
     }
     const bool written = writeAll(file.get(), content) && takeOverAttributes(file.get(), name, newFileMode)
                          && ::fsync(file.get()) == 0 && file.close()
                          && ::rename(temporary.constData(), name.constData()) == 0;
     if (!written) {
-        *error = systemError(errno);
+        *error = systemErrorText(errno);
         ::unlink(temporary.constData());
         return false;
     }
@@ -246,14 +243,14 @@ DirectoryLock::DirectoryLock(const QString &filePath, int timeoutMs)
         ::open(QFile::encodeName(QFileInfo(filePath).path()).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC))
 {
     if (m_descriptor < 0) {
-        m_error = systemError(errno);
+        m_error = systemErrorText(errno);
         return;
     }
     QElapsedTimer timer;
     timer.start();
     while (::flock(m_descriptor, LOCK_EX | LOCK_NB) != 0) {
         if ((errno != EWOULDBLOCK && errno != EINTR) || timer.hasExpired(timeoutMs)) {
-            m_error = systemError(errno);
+            m_error = systemErrorText(errno);
             return;
         }
         QThread::msleep(10);

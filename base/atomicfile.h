@@ -16,18 +16,23 @@ struct FileContent {
     QString error;
 };
 
-/// Reads the whole regular file at \a path. Never blocks on a FIFO or a device.
-FileContent readRegularFile(const QString &path);
+/// Reads the whole regular file at \a path, of at most \a limit bytes. Never blocks on a FIFO or a device, and
+/// maps nothing into memory: the file may shrink meanwhile.
+FileContent readRegularFile(const QString &path, qint64 limit = 1 << 30);
 
 /// Replaces \a path by \a content in one step: a temporary file beside it is synced and renamed over it.
 /// A symbolic link is followed, mode, ownership and extended attributes stay, missing directories are made;
-/// a new file gets \a newFileMode less the umask. On failure the old file stands whole, \a error says why.
+/// a new file gets \a newFileMode less the umask, which never keeps it from its owner. On failure the old file
+/// stands whole, \a error says why. Temporary files that a killed program left there go.
 [[nodiscard]] bool replaceFile(const QString &path, const QByteArray &content, QString *error,
                                unsigned newFileMode = 0666);
 
 /// Gives the open file \a newFile the mode, ownership and extended attributes of the file at \a oldPath, or
 /// \a newFileMode less the umask when there is none. False (see errno) when the owner can't be kept.
 [[nodiscard]] bool takeOverAttributes(int newFile, const QByteArray &oldPath, unsigned newFileMode);
+
+/// Removes this user's temporary files ".qaz-XXXXXX" in \a directory that are older than an hour.
+void removeStaleTemporaries(const QString &directory);
 
 /// \a path with every symbolic link of its last component followed, also to a file that doesn't exist yet;
 /// empty for a loop of links.

@@ -1,6 +1,7 @@
 #include "base/diagnostics.h"
 
 #include <cstdio>
+#include <cstring>
 
 void printDiagnosticAs(const char *program, const QString &text)
 {
@@ -12,4 +13,9 @@ void printDiagnosticAs(const char *program, const QString &text)
 void printDiagnostic(const QString &text)
 {
     printDiagnosticAs("qaz-admin-theme", text);
+}
+
+QString systemErrorText(int number)
+{
+    return QString::fromLocal8Bit(std::strerror(number));
 }

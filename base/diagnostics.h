@@ -8,3 +8,6 @@ void printDiagnostic(const QString &text);
 
 /// The same with another program name in front: a few lines carry the window manager's.
 void printDiagnosticAs(const char *program, const QString &text);
+
+/// The system's text for the error \a number of a failed call (errno).
+QString systemErrorText(int number);

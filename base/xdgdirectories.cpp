@@ -1,9 +1,25 @@
 #include "base/xdgdirectories.h"
 
+#include <QDir>
 #include <QFile>
 
+#include <cerrno>
+
 #include <pwd.h>
+#include <sys/stat.h>
 #include <unistd.h>
+
+namespace {
+
+/// Whether \a path is a directory of the user's in which others have none of the rights \a refused.
+bool isOwnDirectory(const QString &path, mode_t refused)
+{
+    struct stat status = {};
+    return ::lstat(QFile::encodeName(path).constData(), &status) == 0 && S_ISDIR(status.st_mode)
+           && status.st_uid == ::geteuid() && (status.st_mode & refused) == 0;
+}
+
+} // namespace
 
 QString homeDirectory()
 {
@@ -20,4 +36,43 @@ QString xdgDirectory(const char *variable, const char *fallback)
     if (named.startsWith('/'))
         return QFile::decodeName(named);
     return homeDirectory() + QLatin1String(fallback);
+}
+
+QStringList xdgDataDirectories()
+{
+    QByteArray system = qgetenv("XDG_DATA_DIRS");
+    if (system.isEmpty())
+        system = "/usr/local/share:/usr/share";
+    QStringList directories{QDir::cleanPath(xdgDirectory("XDG_DATA_HOME", "/.local/share"))};
+    for (const QByteArray &directory : system.split(':')) {
+        if (directory.startsWith('/'))
+            directories.append(QDir::cleanPath(QFile::decodeName(directory)));
+    }
+    directories.removeDuplicates();
+    return directories;
+}
+
+QString privateDirectory()
+{
+    const QString runtime = QFile::decodeName(qgetenv("XDG_RUNTIME_DIR"));
+    if (runtime.startsWith(QLatin1Char('/')) && isOwnDirectory(runtime, 077))
+        return runtime;
+    QString own = xdgDirectory("XDG_CACHE_HOME", "/.cache") + QLatin1String("/qaz");
+    return makeDirectories(own) && isOwnDirectory(own, 022) ? own : QString();
+}
+
+bool makeDirectories(const QString &path)
+{
+    const QByteArray name = QFile::encodeName(QDir::cleanPath(path));
+    struct stat status = {};
+    if (::stat(name.constData(), &status) == 0) {
+        errno = ENOTDIR;
+        return S_ISDIR(status.st_mode);
+    }
+    const int slash = name.lastIndexOf('/');
+    if (errno != ENOENT || (slash > 0 && !makeDirectories(QFile::decodeName(name.left(slash)))))
+        return false;
+    if (::mkdir(name.constData(), 0700) == 0)
+        return ::chmod(name.constData(), 0700) == 0; // the umask may have taken bits of ours
+    return errno == EEXIST && ::stat(name.constData(), &status) == 0 && S_ISDIR(status.st_mode);
 }

@@ -1,0 +1,293 @@
+#include "base/atomicfile.h"
+#include "base/editfile.h"
+#include "base/filelock.h"
+#include "base/xdgdirectories.h"
+#include "tests/support/literals.h"
+#include "tests/support/temporaryhome.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTest>
+
+#include <cstring>
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/resource.h>
+#include <sys/socket.h>
+#include <sys/stat.h>
+#include <sys/un.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+
+/// Until the end of the scope new files get none of the bits in \a mask.
+class ScopedUmask
+{
+public:
+    explicit ScopedUmask(mode_t mask)
+        : m_before(::umask(mask))
+    {}
+    ~ScopedUmask() { ::umask(m_before); }
+    ScopedUmask(const ScopedUmask &) = delete;
+    ScopedUmask &operator=(const ScopedUmask &) = delete;
+
+private:
+    mode_t m_before;
+};
+
+int modeOf(const QString &path)
+{
+    struct stat status = {};
+    return ::lstat(QFile::encodeName(path).constData(), &status) == 0 ? int(status.st_mode & 07777) : -1;
+}
+
+FileEdit append(const QByteArray &text)
+{
+    return [text](const QByteArray &content) { return content + text; };
+}
+
+/// What stands at \a path when nothing may read or replace it.
+void makeOddFile(const QString &kind, const QString &path)
+{
+    const QByteArray name = QFile::encodeName(path);
+    if (kind == "fifo"_s) {
+        QCOMPARE(::mkfifo(name.constData(), 0600), 0);
+    } else if (kind == "directory"_s) {
+        QVERIFY(QDir().mkdir(path));
+    } else if (kind == "device"_s) {
+        QVERIFY(QFile::link("/dev/zero"_s, path));
+    } else if (kind == "loop"_s) {
+        QVERIFY(QFile::link(path, path));
+    } else {
+        sockaddr_un address = {};
+        address.sun_family = AF_UNIX;
+        std::strncpy(address.sun_path, name.constData(), sizeof address.sun_path - 1);
+        const Descriptor socket(::socket(AF_UNIX, SOCK_STREAM, 0));
+        QCOMPARE(::bind(socket.get(), reinterpret_cast<sockaddr *>(&address), sizeof address), 0);
+    }
+}
+
+} // namespace
+
+class TestFiles : public QObject
+{
+    Q_OBJECT
+private slots:
+    void whatIsNoRegularFileIsNeitherReadNorReplaced()
+    {
+        for (const QString &kind : {"fifo"_s, "directory"_s, "device"_s, "loop"_s, "socket"_s}) {
+            const TemporaryHome home;
+            const QString path = home.path("odd"_s);
+            makeOddFile(kind, path);
+            const FileContent file = readRegularFile(path);
+            QCOMPARE(file.state, FileState::Unreadable);
+            QVERIFY(!file.error.isEmpty() && file.content.isNull());
+            for (int way = 0; way < 2; ++way) {
+                QString error;
+                QVERIFY(way == 0 ? !replaceFile(path, "x", &error) : !editFile(path, append("x"), &error));
+                QVERIFY2(!error.isEmpty(), qPrintable(kind));
+                struct stat status = {};
+                QCOMPARE(::lstat(QFile::encodeName(path).constData(), &status), 0);
+                QVERIFY2(!S_ISREG(status.st_mode), qPrintable(kind));
+            }
+            QCOMPARE(QDir(home.path())
+                         .entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot),
+                     (kind == "socket"_s || kind == "loop"_s ? QStringList{"odd"_s} : QStringList{"odd"_s}));
+        }
+    }
+
+    void aFileIsReadUpToTheLimit()
+    {
+        const TemporaryHome home;
+        const QString path = home.write("file"_s, "12345");
+        QCOMPARE(readRegularFile(path, 5).content, QByteArray("12345"));
+        QCOMPARE(readRegularFile(path, 4).state, FileState::Unreadable);
+        QCOMPARE(readRegularFile(path, 4).error, "File too large"_s);
+        QCOMPARE(readRegularFile("/proc/self/stat"_s).content.right(1), QByteArray("\n")); // states no size
+        QCOMPARE(readRegularFile(path + "/below"_s).state, FileState::Missing);
+        EditFileOptions options;
+        options.limit = 4;
+        QString error;
+        QVERIFY(!editFile(path, append("6"), &error, options));
+        QCOMPARE(home.read("file"_s), QByteArray("12345"));
+    }
+
+    void newFilesAndDirectoriesAreForTheirOwner()
+    {
+        const ScopedUmask open(0);
+        for (const mode_t mask : {0000, 0022, 0777}) {
+            const TemporaryHome home;
+            const ScopedUmask umask(mask);
+            QString error;
+            QVERIFY2(replaceFile(home.path("a/b/file"_s), "x", &error), qPrintable(error));
+            QVERIFY2(replaceFile(home.path("a/b/private"_s), "x", &error, 0600), qPrintable(error));
+            QCOMPARE(modeOf(home.path("a"_s)), 0700);
+            QCOMPARE(modeOf(home.path("a/b"_s)), 0700);
+            QCOMPARE(modeOf(home.path("a/b/file"_s)), int((0666 & ~mask) | 0600));
+            QCOMPARE(modeOf(home.path("a/b/private"_s)), 0600);
+
+            QFile::setPermissions(home.path("a/b/private"_s),
+                                  QFile::ReadOwner | QFile::WriteOwner | QFile::ReadOther);
+            QVERIFY(replaceFile(home.path("a/b/private"_s), "y", &error, 0600));
+            QCOMPARE(modeOf(home.path("a/b/private"_s)), 0604); // what exists keeps its bits
+        }
+    }
+
+    void leftOversGoAtTheNextWrite()
+    {
+        const TemporaryHome home;
+        for (const char *name : {".qaz-old123", ".qaz-new123", ".qaz-longer12", "other.qaz-x"})
+            home.write(QLatin1String(name), "x");
+        const QDateTime old = QDateTime::currentDateTime().addSecs(-3700);
+        for (const char *name : {".qaz-old123", ".qaz-longer12", "other.qaz-x"}) {
+            QFile file(home.path(QLatin1String(name)));
+            QVERIFY(file.open(QIODevice::ReadWrite)
+                    && file.setFileTime(old, QFileDevice::FileModificationTime));
+        }
+        QString error;
+        QVERIFY(replaceFile(home.path("file"_s), "x", &error));
+        QCOMPARE(QDir(home.path()).entryList(QDir::Files | QDir::Hidden),
+                 (QStringList{".qaz-longer12"_s, ".qaz-new123"_s, "file"_s, "other.qaz-x"_s}));
+    }
+
+    void theLockIsAFileOfTheUsersOwn()
+    {
+        const TemporaryHome home;
+        const QString runtime = home.path("run"_s);
+        QVERIFY(home.makeDirectory("run"_s) && home.makeDirectory("d"_s));
+        const ScopedEnvironment variable("XDG_RUNTIME_DIR", QFile::encodeName(runtime));
+        const struct {
+            mode_t mode; // of the runtime directory
+            QString place;
+        } rows[] = {{0700, runtime}, {0750, home.path(".cache/qaz"_s)}};
+        for (const auto &row : rows) {
+            QCOMPARE(::chmod(QFile::encodeName(runtime).constData(), row.mode), 0);
+            const ScopedUmask umask(0777);
+            const FileLock lock(home.path("d/file"_s));
+            QVERIFY2(lock.isHeld(), qPrintable(lock.error()));
+            const QFileInfoList files = QDir(row.place).entryInfoList(QDir::Files);
+            QCOMPARE(files.size(), 1);
+            QCOMPARE(modeOf(files.first().filePath()), 0600);
+            struct stat status = {};
+            QCOMPARE(::stat(QFile::encodeName(home.path("d"_s)).constData(), &status), 0);
+            QCOMPARE(files.first().fileName(), "qaz-%1-%2.lock"_s.arg(QString::number(status.st_dev, 16),
+                                                                      QString::number(status.st_ino, 16)));
+        }
+        QCOMPARE(modeOf(home.path(".cache/qaz"_s)), 0700);
+        // Nobody's lock on the directory itself is in the way.
+        const Descriptor directory(::open(QFile::encodeName(home.path("d"_s)).constData(), O_RDONLY));
+        QCOMPARE(::flock(directory.get(), LOCK_EX), 0);
+        QVERIFY(FileLock(home.path("d/file"_s)).isHeld());
+        QVERIFY(!FileLock(home.path("missing/file"_s)).isHeld());
+
+        QVERIFY(QDir(home.path(".cache"_s)).removeRecursively()
+                && QFile::link(home.path("d"_s), home.path(".cache"_s)));
+        QVERIFY(QFile::link(home.path("run"_s), home.path("d/qaz"_s)));
+        QVERIFY(!FileLock(home.path("d/file"_s)).isHeld()); // a link may lead to somebody else's
+    }
+
+    void aLockThatIsHeldTooLongFailsTheEdit()
+    {
+        const TemporaryHome home;
+        const QString path = home.write("file"_s, "old");
+        const FileLock lock(path);
+        QVERIFY(lock.isHeld());
+        QString error;
+        QVERIFY(!editFile(path, append("x"), &error));
+        QCOMPARE(error, "Another program is changing the directory"_s);
+        QCOMPARE(home.read("file"_s), QByteArray("old"));
+    }
+
+    void programsThatEditAtOnceLoseNothing()
+    {
+        const TemporaryHome home;
+        const QString path = home.write("file"_s, "");
+        constexpr int rounds = 100;
+        for (const char *line : {"a\n", "b\n", "c\n"}) {
+            if (::fork() == 0) {
+                QString error;
+                int failed = 0;
+                for (int i = 0; i < rounds; ++i)
+                    failed += editFile(path, append(line), &error) ? 0 : 1;
+                ::_exit(failed);
+            }
+        }
+        int status = -1;
+        while (::wait(&status) > 0)
+            QCOMPARE(status, 0);
+        for (const char *line : {"a\n", "b\n", "c\n"})
+            QCOMPARE(home.read("file"_s).count(line), rounds);
+    }
+
+    void anEditReplacesOnlyWhatItChanges()
+    {
+        const TemporaryHome home;
+        const QString path = home.write("file"_s, "old");
+        QVERIFY(QFile::link(path, home.path("link"_s)));
+        QStringList calls;
+        EditFileOptions options;
+        options.removeWhenEmpty = true;
+        options.beforeReplace = [&](const QString &replaced) {
+            calls.append(replaced + u' ' + QString::fromLatin1(home.read("file"_s)));
+        };
+        QString error;
+        const QString before = home.fingerprint();
+        QVERIFY(editFile(path, append({}), &error, options));
+        QVERIFY(!editFile(
+            path, [](const QByteArray &) { return std::nullopt; }, &error, options));
+        QVERIFY(editFile(home.path("new"_s), append({}), &error, options));
+        QCOMPARE(home.fingerprint(), before);
+        QVERIFY(editFile(home.path("link"_s), append(" new"), &error, options));
+        QCOMPARE(home.read("file"_s), QByteArray("old new"));
+        QVERIFY(QFileInfo(home.path("link"_s)).isSymLink());
+        QVERIFY(editFile(
+            path, [](const QByteArray &) { return QByteArray(); }, &error, options));
+        QVERIFY(!home.exists("file"_s));
+        QVERIFY(editFile(path, append("x"), &error, options)); // nothing stood there
+        QCOMPARE(calls, (QStringList{home.path("link"_s) + " old"_s, path + " old new"_s}));
+        QCOMPARE(error, QString());
+    }
+
+    void aFailedWriteKeepsTheOldFile()
+    {
+        // A limit on the file size makes the write fail half way, as a full disk would.
+        const TemporaryHome home;
+        const QString path = home.write("file"_s, "old");
+        rlimit usual = {};
+        ::getrlimit(RLIMIT_FSIZE, &usual);
+        const rlimit tight = {50000, usual.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &tight);
+        QString error;
+        const bool replaced = replaceFile(path, QByteArray(100000, 'x'), &error);
+        ::setrlimit(RLIMIT_FSIZE, &usual);
+        QVERIFY(!replaced);
+        QCOMPARE(error, "File too large"_s);
+        QCOMPARE(home.read("file"_s), QByteArray("old"));
+        QCOMPARE(QDir(home.path()).entryList(QDir::Files | QDir::Hidden), QStringList{"file"_s});
+    }
+
+    void relativePathsInXdgVariablesCountAsUnset()
+    {
+        const TemporaryHome home;
+        const ScopedEnvironment configuration("XDG_CONFIG_HOME", "relative");
+        const ScopedEnvironment user("XDG_DATA_HOME", "./relative");
+        const ScopedEnvironment runtime("XDG_RUNTIME_DIR", ".");
+        QCOMPARE(xdgDirectory("XDG_CONFIG_HOME", "/.config"), home.path(".config"_s));
+        QCOMPARE(privateDirectory(), home.path(".cache/qaz"_s));
+        const struct {
+            const char *system;
+            QStringList directories;
+        } rows[] = {{"", {"/usr/local/share"_s, "/usr/share"_s}},
+                    {"/a//b/:relative:./x::/a/b:/c", {"/a/b"_s, "/c"_s}},
+                    {"relative", {}}};
+        for (const auto &row : rows) {
+            const ScopedEnvironment system("XDG_DATA_DIRS", row.system);
+            QCOMPARE(xdgDataDirectories(), QStringList{home.path(".local/share"_s)} + row.directories);
+        }
+    }
+};
+
+QTEST_GUILESS_MAIN(TestFiles)
+#include "tst_files.moc"
