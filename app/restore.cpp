@@ -19,31 +19,41 @@ namespace {
 
 enum class RestoreDepth { ThemeOnly, AllSettings };
 
-/// Fails for a directory, which is not copied either: it may be large, and stays.
-bool removeFile(const QString &path)
+/// Backs up what is to be removed; without a copy the user decides whether it goes all the same.
+bool mayLose(QWidget *parent, const QString &path)
+{
+    QString reason;
+    backUp(path, &reason);
+    return reason.isEmpty()
+           || showMessage(
+                  parent, QMessageBox::Question, ConfigDialog::tr("Warning"),
+                  ConfigDialog::tr("Can't back up '%1': %2\nRemove it all the same?").arg(path, reason),
+                  QMessageBox::Yes | QMessageBox::No, QMessageBox::No)
+                  == QMessageBox::Yes;
+}
+
+/// Fails for a directory, which is not copied either: it may be large, and stays. What the user wants to keep is no
+/// failure.
+bool removeFile(QWidget *parent, const QString &path)
 {
     const QFileInfo info(path);
     if (info.isDir() && !info.isSymLink())
         return false;
-    backUp(path);
-    return QFile::remove(path);
+    return !mayLose(parent, path) || QFile::remove(path);
 }
 
 /// Removes the directory \a path with everything in it; of a symbolic link only the link. Links inside are removed,
 /// not followed.
-bool removeTree(const QString &path, const QString &home)
+bool removeTree(QWidget *parent, const QString &path, const QString &home)
 {
     const QFileInfo info(path);
     if (info.isSymLink())
-        return removeFile(path);
+        return removeFile(parent, path);
     const bool mayRemove = mayRemoveTree(path, home)
                            && (!info.exists()
                                || mayRemoveTree(info.canonicalFilePath(),
                                                 QFileInfo(home).canonicalFilePath()));
-    if (!mayRemove)
-        return false;
-    backUp(path);
-    return QDir(path).removeRecursively();
+    return mayRemove && (!mayLose(parent, path) || QDir(path).removeRecursively());
 }
 
 /// The depth that the user chose; none when the choice was cancelled.
@@ -83,15 +93,15 @@ void ConfigDialog::restoreSlot()
     removeDesktopWallpapers();
     const QString home = directoryPath(DirectoryKind::Home);
     if (*depth == RestoreDepth::ThemeOnly) {
-        if (!removeFile(themeFile))
+        if (!removeFile(this, themeFile))
             showFailure(this, themeFile);
     } else {
-        removeFile(home + QLatin1String("/.Xresources"));
+        removeFile(this, home + QLatin1String("/.Xresources"));
         const QString personal = directoryPath(DirectoryKind::PersonalSettings);
-        if (!removeTree(personal, home))
+        if (!removeTree(this, personal, home))
             showFailure(this, personal);
     }
-    removeFile(home + QLatin1String("/.config/Trolltech.conf"));
+    removeFile(this, home + QLatin1String("/.config/Trolltech.conf"));
     // Yes as the only button and No as the default one: Qt takes this form for the one with two buttons.
     if (QMessageBox::question(
             this, tr("Restore done"),

@@ -105,8 +105,10 @@ bool copyFile(const QString &from, const QString &to, QString *error)
 bool copyTree(const QString &from, const QString &to, QString *error)
 {
     if (isLink(from)) {
-        *error = QString::fromLocal8Bit(std::strerror(EIO));
-        return copyLink(from, to);
+        if (copyLink(from, to))
+            return true;
+        *error = QString::fromLocal8Bit(std::strerror(errno));
+        return false;
     }
     struct stat status = {};
     if (::lstat(QFile::encodeName(from).constData(), &status) != 0) {
@@ -175,9 +177,8 @@ bool recordCopy(const QString &directory, const Entry &entry, QString *error)
     return replaceFile(manifest, manifestText(entries), error, 0600);
 }
 
-} // namespace
-
-QString backUp(const QString &path)
+/// The copy of \a path; empty, with the reason in \a error unless there was nothing to copy.
+QString copyOf(const QString &path, QString *error)
 {
     const QString original = QDir::cleanPath(QFileInfo(path).absoluteFilePath());
     if (!isLink(original) && !QFileInfo::exists(original))
@@ -185,27 +186,36 @@ QString backUp(const QString &path)
 
     const QString directory = backupDirectory();
     if (!isLink(original) && QString(directory + QLatin1Char('/')).startsWith(original + QLatin1Char('/'))) {
-        printDiagnostic(
-            QStringLiteral("Can't back up %1: the backups lie in it").arg(original)); // a copy without end
+        *error = QStringLiteral("the backups lie in it"); // a copy without end
         return {};
     }
-    QString error;
     if (!QDir().mkpath(directory)) {
-        printDiagnostic(QStringLiteral("Can't back up %1: can't create %2").arg(original, directory));
+        *error = QStringLiteral("can't create %1").arg(directory);
         return {};
     }
     const DirectoryLock lock(directory + QLatin1String("/manifest"));
-    const QString name = freeName(directory, QFileInfo(original).fileName());
-    QString copy = directory + QLatin1Char('/') + name;
-    // A link to a file is backed up as the file: its bytes are what can get lost.
-    const bool asFile = QFileInfo(original).isFile();
-    const bool copied = lock.isHeld()
-                        && (asFile ? copyFile(original, copy, &error) : copyTree(original, copy, &error))
-                        && recordCopy(directory, {QFile::encodeName(name), escapedPath(original)}, &error);
-    if (!copied) {
-        printDiagnostic(
-            QStringLiteral("Can't back up %1: %2").arg(original, lock.isHeld() ? error : lock.error()));
+    if (!lock.isHeld()) {
+        *error = lock.error();
         return {};
     }
+    const QString name = freeName(directory, QFileInfo(original).fileName());
+    const QString copy = directory + QLatin1Char('/') + name;
+    // A link to a file is backed up as the file: its bytes are what can get lost.
+    const bool asFile = QFileInfo(original).isFile();
+    const bool copied = (asFile ? copyFile(original, copy, error) : copyTree(original, copy, error))
+                        && recordCopy(directory, {QFile::encodeName(name), escapedPath(original)}, error);
+    return copied ? copy : QString();
+}
+
+} // namespace
+
+QString backUp(const QString &path, QString *error)
+{
+    QString reason;
+    const QString copy = copyOf(path, &reason);
+    if (!reason.isEmpty())
+        printDiagnostic(QStringLiteral("Can't back up %1: %2").arg(path, reason));
+    if (error)
+        *error = reason;
     return copy;
 }

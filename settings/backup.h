@@ -8,5 +8,5 @@
 /// newest ten copies of each original are kept. Symbolic links inside a tree are copied as links.
 ///
 /// Returns the path of the copy, or an empty text when there was nothing to copy or the copy failed. A
-/// failure is one line on standard error; the caller goes on regardless.
-QString backUp(const QString &path);
+/// failure is one line on standard error, and its reason stands in \a error, which is empty otherwise.
+QString backUp(const QString &path, QString *error = nullptr);

@@ -95,6 +95,16 @@ Zurücksetzen:</translation>
         <source>Selected settings are restored. You need to restart session. Do it now (recommended)?</source>
         <translation>Die gewählten Einstellungen sind zurückgesetzt. Die Sitzung muss neu gestartet werden. Jetzt neu starten (empfohlen)?</translation>
     </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>Can&apos;t back up &apos;%1&apos;: %2
+Remove it all the same?</source>
+        <translation>„%1“ kann nicht gesichert werden: %2
+Trotzdem entfernen?</translation>
+    </message>
 </context>
 <context>
     <name>EffectForm</name>

@@ -95,6 +95,16 @@ Restore type:</translation>
         <source>Selected settings are restored. You need to restart session. Do it now (recommended)?</source>
         <translation>Selected settings are restored. You need to restart session. Do it now (recommended)?</translation>
     </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warning</translation>
+    </message>
+    <message>
+        <source>Can&apos;t back up &apos;%1&apos;: %2
+Remove it all the same?</source>
+        <translation>Can&apos;t back up &apos;%1&apos;: %2
+Remove it all the same?</translation>
+    </message>
 </context>
 <context>
     <name>EffectForm</name>

@@ -95,6 +95,16 @@ Restablecer:</translation>
         <source>Selected settings are restored. You need to restart session. Do it now (recommended)?</source>
         <translation>Los ajustes elegidos se han restablecido. Hay que reiniciar la sesión. ¿Hacerlo ahora (recomendado)?</translation>
     </message>
+    <message>
+        <source>Warning</source>
+        <translation>Advertencia</translation>
+    </message>
+    <message>
+        <source>Can&apos;t back up &apos;%1&apos;: %2
+Remove it all the same?</source>
+        <translation>No se puede hacer una copia de seguridad de «%1»: %2
+¿Eliminarlo de todos modos?</translation>
+    </message>
 </context>
 <context>
     <name>EffectForm</name>

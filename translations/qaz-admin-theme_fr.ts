@@ -95,6 +95,16 @@ Réinitialiser :</translation>
         <source>Selected settings are restored. You need to restart session. Do it now (recommended)?</source>
         <translation>Les réglages choisis ont été réinitialisés. La session doit être redémarrée. Le faire maintenant (recommandé) ?</translation>
     </message>
+    <message>
+        <source>Warning</source>
+        <translation>Avertissement</translation>
+    </message>
+    <message>
+        <source>Can&apos;t back up &apos;%1&apos;: %2
+Remove it all the same?</source>
+        <translation>Impossible de sauvegarder « %1 » : %2
+Le supprimer quand même ?</translation>
+    </message>
 </context>
 <context>
     <name>EffectForm</name>

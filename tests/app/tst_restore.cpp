@@ -26,13 +26,16 @@ QString unchanged(const TemporaryHome &home, const QByteArray &content)
 }
 
 /// Restores "All Qaz settings" without the window manager's restart; returns the dialogs that came up.
-QStringList restoreAll(const TemporaryHome &home)
+/// The questions before that are answered with \a answers.
+QStringList restoreAll(const TemporaryHome &home, const QList<QMessageBox::StandardButton> &answers = {})
 {
     ModalDriver driver;
     driver.then([](QDialog *shown) {
         qobject_cast<QInputDialog *>(shown)->setTextValue("All Qaz settings"_s);
         shown->accept();
     });
+    for (const QMessageBox::StandardButton answer : answers)
+        driver.thenAnswer(answer);
     driver.thenAnswer(QMessageBox::No);
     ConfigDialog dialog(home.path(theme));
     dialog.restoreSlot();
@@ -114,6 +117,25 @@ private slots:
         QCOMPARE(home.read(desktop).count('\n'), depth.isEmpty() ? 2 : 1); // the key's line alone is gone
         QCOMPARE(listener.take(), answers.contains(u'Y') ? QStringList{"QAZWM_RESTART"_s} : QStringList());
         QTEST(home.backups().size(), "backups");
+    }
+
+    void whatCantBeBackedUpIsLostOnlyAtTheUsersWish()
+    {
+        const TemporaryHome home;
+        home.write(".local/state/qaz"_s, "in the way of the backups");
+        for (const QString &file : settings)
+            home.write(file, "precious");
+        const auto question = [&home](const QString &file) {
+            return QStringLiteral("Warning|Can't back up '%1': can't create %2/.local/state/qaz/backup\n"
+                                  "Remove it all the same?")
+                .arg(home.path(file), home.path());
+        };
+        const QStringList expected = {"Restore|QInputDialog"_s, question(".Xresources"_s),
+                                      question(".config/qaz"_s), question(".config/Trolltech.conf"_s)};
+        QCOMPARE(restoreAll(home, {QMessageBox::No, QMessageBox::No, QMessageBox::Yes}).mid(0, 4), expected);
+        QCOMPARE(unchanged(home, "precious"), "TDX-KO"_s);
+        QCOMPARE(restoreAll(home, {QMessageBox::Yes, QMessageBox::Yes}).mid(0, 3), expected.mid(0, 3));
+        QCOMPARE(unchanged(home, "precious"), "----KO"_s);
     }
 
     void dangerousDirectoriesAreRefused()
