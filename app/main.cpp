@@ -5,6 +5,8 @@
 #include "resources/registerresources.h"
 #include "settings/themefile.h"
 
+#include <QOpenGLContext>
+
 #include <cstdio>
 #include <cstring>
 
@@ -18,11 +20,37 @@ constexpr Qt::WindowFlags windowFlags = Qt::Window | Qt::CustomizeWindowHint | Q
                                         | Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint
                                         | Qt::WindowMaximizeButtonHint | Qt::WindowCloseButtonHint;
 
-/// Qt's X11 plugin would load the GL stack, which this program never uses: half the start-up time.
-void avoidGl()
+/// Keeps Qt's X11 plugin from loading the GL stack, which this program never uses: half the start-up time. The
+/// environment is as before at the end of the scope: the programs that the pages start inherit it.
+class WithoutGl
 {
-    if (!qEnvironmentVariableIsSet("QT_XCB_GL_INTEGRATION"))
-        qputenv("QT_XCB_GL_INTEGRATION", "none");
+public:
+    WithoutGl()
+    {
+        if (!m_wasSet)
+            qputenv(variable, "none");
+    }
+    ~WithoutGl()
+    {
+        // The plugin reads the variable when it is first asked for what GL can do.
+        QOpenGLContext::supportsThreadedOpenGL();
+        if (!m_wasSet)
+            qunsetenv(variable);
+    }
+    WithoutGl(const WithoutGl &) = delete;
+    WithoutGl &operator=(const WithoutGl &) = delete;
+
+private:
+    static constexpr char variable[] = "QT_XCB_GL_INTEGRATION";
+    const bool m_wasSet = qEnvironmentVariableIsSet(variable);
+};
+
+MyApplication *createApplication(int &argc, char **argv)
+{
+    const WithoutGl withoutGl;
+    // Each display has an instance of its own.
+    const QString id = QString::fromLocal8Bit(qgetenv("DISPLAY")) + QLatin1String("qaz-admin-theme");
+    return new MyApplication(id, argc, argv);
 }
 
 bool asksForHelp(int argc, char **argv)
@@ -57,10 +85,8 @@ int runEditor(int argc, char **argv)
 
 int main(int argc, char *argv[])
 {
-    avoidGl();
-    // Each display has an instance of its own.
-    const QString id = QString::fromLocal8Bit(qgetenv("DISPLAY")) + QLatin1String("qaz-admin-theme");
-    myApp = new MyApplication(id, argc, argv);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    myApp = createApplication(argc, argv);
     int result = 0;
     if (myApp->isRunning())
         myApp->sendMessage(QStringLiteral("show"), messageTimeoutMs);

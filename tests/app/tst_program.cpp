@@ -1,6 +1,7 @@
 // The real program in processes of its own: start, single instance, signals, loss of the X server.
 
 #include "tests/support/editorprocess.h"
+#include "tests/support/fakeprogram.h"
 #include "tests/support/literals.h"
 #include "tests/support/temporaryhome.h"
 #include "tests/support/wmlistener.h"
@@ -84,6 +85,26 @@ private slots:
             QDir::setCurrent(before);
             QVERIFY2(editor.waitForWindow(), qPrintable(arguments));
             QCOMPARE(editor.title(), "Qaz Theme Editor - "_s + file);
+        }
+    }
+
+    void childrenGetTheUsersEnvironment()
+    {
+        // Qt's X11 plugin is told not to load the GL stack, and nobody else.
+        FakePrograms programs;
+        programs.add("qaz-svg2png"_s, "echo \"GL is ${QT_XCB_GL_INTEGRATION-unset}\" >\"$HOME/seen\"");
+        m_home->write(".local/share/wallpapers/drawn.svg"_s, "<svg xmlns='http://www.w3.org/2000/svg'/>");
+        const QString theme = m_home->write("t.themerc"_s, "WallPaper=drawn\n");
+        for (const QByteArray &value : {QByteArray(), QByteArray("xcb_egl")}) {
+            const ScopedEnvironment gl("QT_XCB_GL_INTEGRATION", value);
+            EditorProcess editor({theme});
+            QVERIFY(editor.waitForWindow());
+            QCOMPARE(m_home->read("seen"_s), "GL is " + (value.isNull() ? "unset" : value) + '\n');
+            QFile maps(QStringLiteral("/proc/%1/maps").arg(editor.process().processId()));
+            QVERIFY(maps.open(QIODevice::ReadOnly));
+            const QByteArray loaded = maps.readAll();
+            QVERIFY(loaded.contains("libqxcb"));
+            QCOMPARE(loaded.contains("libEGL_") || loaded.contains("gl-integration"), !value.isNull());
         }
     }
 
