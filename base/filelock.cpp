@@ -18,7 +18,7 @@
 namespace {
 
 constexpr int patienceMs = 2000;
-constexpr int pauseMs = 10;
+constexpr int pauseMs = 2;
 
 /// Opens the lock file for the directory of \a path; -1 with errno set when that is impossible.
 int openLockFile(const QString &path)
@@ -41,18 +41,34 @@ int openLockFile(const QString &path)
     return file;
 }
 
+/// Whether the lock is ours now. A program that edits again and again would hardly ever let a waiting one in between;
+/// so the one that is next holds a place (the file's first byte), and only who holds it may take the lock.
+bool tryLock(int file, bool *isNext)
+{
+    struct flock place = {};
+    place.l_type = F_WRLCK;
+    place.l_len = 1;
+    *isNext = *isNext || ::fcntl(file, F_OFD_SETLK, &place) == 0;
+    if (!*isNext || ::flock(file, LOCK_EX | LOCK_NB) != 0)
+        return false;
+    place.l_type = F_UNLCK;
+    ::fcntl(file, F_OFD_SETLK, &place);
+    return true;
+}
+
 } // namespace
 
 FileLock::FileLock(const QString &path)
     : m_file(openLockFile(path))
 {
+    if (!m_file.isOpen()) {
+        m_error = QStringLiteral("Can't lock the directory: %1").arg(systemErrorText(errno));
+        return;
+    }
     QElapsedTimer timer;
     timer.start();
-    while (!m_file.isOpen() || ::flock(m_file.get(), LOCK_EX | LOCK_NB) != 0) {
-        if (!m_file.isOpen() || (errno != EWOULDBLOCK && errno != EINTR)) {
-            m_error = QStringLiteral("Can't lock the directory: %1").arg(systemErrorText(errno));
-            return;
-        }
+    bool isNext = false;
+    while (!tryLock(m_file.get(), &isNext)) {
         if (timer.hasExpired(patienceMs)) {
             m_error = QStringLiteral("Another program is changing the directory");
             return;
