@@ -1,4 +1,5 @@
 #include "bench/figures.h"
+#include "bench/photograph.h"
 #include "pages/wallpaper/wallpaperpage.h"
 #include "platform/qazsettings.h"
 #include "resources/registerresources.h"
@@ -12,7 +13,6 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QRandomGenerator>
 #include <QTemporaryDir>
 
 namespace {
@@ -24,22 +24,6 @@ constexpr double firstShowLimit = 1.2;
 double milliseconds(const QElapsedTimer &timer)
 {
     return double(timer.nsecsElapsed()) / 1e6;
-}
-
-/// A picture with as much detail as a photograph: coarse shapes under fine noise.
-QString writePhotograph(const QTemporaryDir &home)
-{
-    QImage image(3840, 2160, QImage::Format_RGB32);
-    QRandomGenerator random(1);
-    for (int y = 0; y < image.height(); ++y) {
-        auto *line = reinterpret_cast<QRgb *>(image.scanLine(y));
-        for (int x = 0; x < image.width(); ++x) {
-            const int noise = random.bounded(24);
-            line[x] = qRgb((x * y / 9000 + noise) % 256, (y / 9 + noise) % 256, (x / 16 + noise) % 256);
-        }
-    }
-    const QString path = home.filePath(QStringLiteral("photograph.jpg"));
-    return image.save(path, "JPG", 90) ? path : QString();
 }
 
 /// Takes the time at which the label has its new picture on the screen.
@@ -129,13 +113,13 @@ double firstShow(QWidget *page, Load load)
     return time;
 }
 
-bool measureFirstShow(const QString &themeFile, const QString &photograph)
+bool measureFirstShow(const QString &themeFile, const QString &picture)
 {
     std::vector<double> pages, floors;
     for (int round = -2; round < rounds / 4; ++round) {
         QElapsedTimer timer;
         timer.start();
-        const bool isDecoded = !QImage(photograph).isNull();
+        const bool isDecoded = !QImage(picture).isNull();
         const double decoding = milliseconds(timer);
         QWidget empty;
         Ui::WallpaperForm form;
@@ -165,12 +149,12 @@ int main(int argc, char **argv)
         qputenv(variable, QFile::encodeName(home.path()));
     const QApplication application(argc, argv);
     registerResources();
-    const QString photograph = writePhotograph(home);
+    const QString picture = home.filePath(QStringLiteral("photograph.jpg"));
     QFile theme(home.filePath(QStringLiteral("a.themerc")));
-    if (photograph.isEmpty() || !theme.open(QIODevice::WriteOnly))
+    if (!photograph().save(picture, "JPG", 90) || !theme.open(QIODevice::WriteOnly))
         return 1;
-    theme.write("WallPaper=" + QFile::encodeName(photograph) + '\n');
+    theme.write("WallPaper=" + QFile::encodeName(picture) + '\n');
     theme.close();
     const bool editsKept = measureEdits(theme.fileName());
-    return measureFirstShow(theme.fileName(), photograph) && editsKept ? 0 : 1;
+    return measureFirstShow(theme.fileName(), picture) && editsKept ? 0 : 1;
 }

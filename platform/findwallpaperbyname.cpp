@@ -2,6 +2,7 @@
 
 #include "base/diagnostics.h"
 #include "freedesktop/dataroot.h"
+#include "freedesktop/images.h"
 #include "platform/getqazdir.h"
 #include "platform/wallpapersearch.h"
 
@@ -21,11 +22,6 @@ constexpr int resultSize = 4096;
 constexpr int convertTimeoutMs = 30000;
 constexpr int cacheDirectory = 1;
 constexpr int userWallpapers = 21;
-
-bool isSvg(const QString &path)
-{
-    return path.endsWith(QLatin1String(".svg")) || path.endsWith(QLatin1String(".svgz"));
-}
 
 /// Where the rendering of \a source is kept: the digest keeps equal names of different directories apart.
 QString renderedPath(const QString &source, int width, int height)

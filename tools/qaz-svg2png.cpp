@@ -3,22 +3,19 @@
 
 #include "base/atomicfile.h"
 #include "base/diagnostics.h"
+#include "freedesktop/images.h"
 
 #include <QBuffer>
 #include <QFile>
 #include <QFileInfo>
 #include <QGuiApplication>
-#include <QImage>
 #include <QImageWriter>
-#include <QPainter>
-#include <QSvgRenderer>
 
 #include <cstdio>
 
 namespace {
 
 constexpr int largestExtent = 32767;
-constexpr qint64 largestPixelCount = 256 * 1024 * 1024 / 4;
 constexpr int jpegQuality = 90;
 
 constexpr char usage[]
@@ -60,7 +57,7 @@ bool parse(int argc, char **argv, Options *options)
 bool isPossible(int width, int height)
 {
     return width > 0 && height > 0 && width <= largestExtent && height <= largestExtent
-           && qint64(width) * height <= largestPixelCount;
+           && qint64(width) * height <= largestPicture;
 }
 
 QByteArray formatOf(const QString &path)
@@ -76,21 +73,11 @@ bool render(const Options &options, QByteArray *encoded, QString *error)
         *error = file.state == FileState::Missing ? QStringLiteral("No such file") : file.error;
         return false;
     }
-    QSvgRenderer renderer;
-    if (!renderer.load(file.content)) {
+    const QImage picture = drawSvg(file.content, {options.width, options.height}, Qt::white);
+    if (picture.isNull()) {
         *error = QStringLiteral("Not an SVG image");
         return false;
     }
-    QImage picture(options.width, options.height, QImage::Format_RGB32);
-    if (picture.isNull()) {
-        *error = QStringLiteral("Out of memory");
-        return false;
-    }
-    picture.fill(Qt::white);
-    QPainter painter(&picture);
-    renderer.render(&painter);
-    painter.end();
-
     QBuffer buffer(encoded);
     QImageWriter writer(&buffer, formatOf(options.out));
     if (writer.format().startsWith("jp"))
@@ -122,7 +109,7 @@ int main(int argc, char **argv)
         return WrongUsage;
     }
     if (!isPossible(options.width, options.height)) {
-        fail(QStringLiteral("The size must be 1x1 or more, and at most 256 MB as 32-bit pixels"));
+        fail(QStringLiteral("The size must be 1x1 or more, and at most 256 megapixels"));
         return WrongUsage;
     }
 

@@ -3,14 +3,11 @@
 #include "base/atomicfile.h"
 #include "base/chandle.h"
 #include "freedesktop/cursorfiles.h"
+#include "freedesktop/images.h"
 #include "freedesktop/themedirectories.h"
 #include "settings/directories.h"
 
-#include <QBuffer>
 #include <QFile>
-#include <QImageReader>
-#include <QPainter>
-#include <QSvgRenderer>
 #include <QX11Info>
 
 #include <algorithm>
@@ -75,19 +72,6 @@ void releaseCursor(void *cursor)
     XcursorImageDestroy(static_cast<XcursorImage *>(cursor));
 }
 
-QImage drawSvg(const QByteArray &content, int size)
-{
-    QSvgRenderer renderer(content);
-    if (!renderer.isValid())
-        return {};
-    const QSize shown = renderer.defaultSize().scaled(size, size, Qt::KeepAspectRatio);
-    QImage image(shown.expandedTo(QSize(1, 1)), QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    QPainter painter(&image);
-    renderer.render(&painter, QRectF(image.rect()));
-    return image;
-}
-
 /// An XPM without the rows below \a rowLimit: no preview shows them, and decoding thousands takes seconds. What
 /// isn't an XPM of more rows is returned as it is.
 QByteArray withoutHiddenRows(const QByteArray &xpm)
@@ -146,17 +130,9 @@ QImage loadCursorImage(unsigned shape, const QString &theme)
 
 QImage loadIconImage(const QString &path, int size)
 {
-    FileContent file = readRegularFile(path);
-    if (file.state != FileState::Regular)
-        return {};
-    if (path.endsWith(QLatin1String(".svg")))
-        return drawSvg(file.content, size);
-    QBuffer buffer(&file.content);
-    QImageReader reader(&buffer);
-    const QSize imageSize = reader.size();
-    if (qint64(imageSize.width()) * imageSize.height() > iconPixelLimit)
-        return {};
-    return reader.read();
+    if (isSvg(path))
+        return drawSvg(readRegularFile(path).content, {size, size}, Qt::transparent, Qt::KeepAspectRatio);
+    return loadImage(path, iconPixelLimit);
 }
 
 int listDecorThemes(QStringList *list)

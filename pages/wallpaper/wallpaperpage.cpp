@@ -1,7 +1,9 @@
 #include "pages/wallpaper/wallpaperpage.h"
 
+#include "freedesktop/images.h"
 #include "pages/common/messagebox.h"
 #include "pages/common/waitcursor.h"
+#include "pages/wallpaper/keptpreview.h"
 #include "pages/wallpaper/wallpaperpreview.h"
 #include "pages/wallpaper/wallpaperselection.h"
 #include "platform/findwallpaperbyname.h"
@@ -16,9 +18,7 @@
 #include <QCompleter>
 #include <QDirModel>
 #include <QFileInfo>
-#include <QGuiApplication>
 #include <QScreen>
-#include <QTimer>
 #include <QUrl>
 
 namespace {
@@ -68,35 +68,16 @@ QCompleter *createPathCompleter(QObject *parent)
 
 } // namespace
 
-WallpaperPage::WallpaperPage(QWidget *parent, WallpaperImage image)
+WallpaperPage::WallpaperPage(QWidget *parent)
     : QWidget(parent)
     , m_ui(std::make_unique<Ui::WallpaperForm>())
-    , m_image(std::move(image))
 {
     m_ui->setupUi(this);
     m_ui->wallpaperLineEdit->setCompleter(createPathCompleter(this));
     m_ui->wallpaperLineEdit->setClearButtonEnabled(true);
 }
 
-WallpaperPage::~WallpaperPage()
-{
-    writePendingPreview();
-}
-
-WallpaperImage WallpaperPage::imageAhead(const QazSettings *settings)
-{
-    WallpaperImage image;
-    const QString own = currentDesktopWallpaper();
-    const QString text = own.isEmpty() ? storedText(settings, wallpaperSetting) : unquoted(own);
-    if (text.isEmpty() || isColorText(text))
-        return image;
-    const QSize screen = QGuiApplication::primaryScreen()->geometry().size();
-    const QString path = QFileInfo(text).isFile() ? text : foundWallpaper(text, screen);
-    // A drawing may hold text, and the fonts are being set up meanwhile.
-    if (!needsConversion(path.toLower()))
-        image.loadAhead(path);
-    return image;
-}
+WallpaperPage::~WallpaperPage() = default;
 
 bool WallpaperPage::loadValues(QazSettings *settings)
 {
@@ -188,7 +169,7 @@ void WallpaperPage::selectWallpaperFile()
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return;
     QString file = dialog.selectedFiles().constFirst();
-    if (needsConversion(file))
+    if (isSvg(file))
         file = convertedFile(file);
     if (file.isEmpty() || !QFileInfo::exists(file))
         return;
@@ -234,38 +215,7 @@ void WallpaperPage::selectWallpaper(const QString &text)
 {
     if (isColorText(text))
         adoptColor(text);
-    const QColor fill = m_color.isValid() ? m_color : QColor(Qt::black);
-    const auto fit = Fit(m_ui->wallpaperPositionCombo->currentIndex());
-    const QImage image = wallpaperImage(text);
-    const QImage preview = drawPreview(image, fit, fill, m_ui->wallpaperPixmapLabel->contentsRect().size(),
-                                       screenSize());
-    m_preview = QPixmap::fromImage(preview);
-    m_ui->wallpaperPixmapLabel->setPixmap(m_preview);
-    if (image.isNull())
-        return;
-    writePendingPreview(); // the last one, if the page was hidden since
-    m_pendingPreview = preview;
-    m_pendingPath = previewPath(m_ui->wallpaperPositionCombo->currentText(), fill, text);
-    // Writing takes longer than all the rest: the user sees the picture first.
-    if (!isVisible())
-        return;
-    m_ui->wallpaperPixmapLabel->repaint();
-    writePendingPreview();
-}
-
-void WallpaperPage::writePendingPreview()
-{
-    if (!m_pendingPreview.isNull())
-        writePreview(m_pendingPath, m_pendingPreview);
-    m_pendingPreview = QImage();
-}
-
-/// A preview that was drawn before the page came into view is written when all of the window is painted.
-void WallpaperPage::paintEvent(QPaintEvent *event)
-{
-    QWidget::paintEvent(event);
-    if (!m_pendingPreview.isNull())
-        QTimer::singleShot(0, this, &WallpaperPage::writePendingPreview);
+    m_ui->wallpaperPixmapLabel->setPixmap(QPixmap::fromImage(preview(text)));
 }
 
 /// A colour that can't be read is replaced by the page's in the line edit, which draws the preview again.
@@ -278,16 +228,18 @@ void WallpaperPage::adoptColor(const QString &text)
         m_ui->wallpaperLineEdit->setText(m_color.name());
 }
 
-/// The image that \a text means, as a file or as a wallpaper's name; null for a colour and when there is none.
-QImage WallpaperPage::wallpaperImage(const QString &text)
+QImage WallpaperPage::preview(const QString &text) const
 {
+    const QComboBox *position = m_ui->wallpaperPositionCombo;
+    const PreviewLook look = {Fit(position->currentIndex()), m_color.isValid() ? m_color : QColor(Qt::black),
+                              m_ui->wallpaperPixmapLabel->contentsRect().size(), screenSize()};
     if (text.isEmpty() || isColorText(text))
-        return {};
-    QImage image = m_image.load(text);
-    if (!image.isNull())
-        return image;
-    const QString found = foundWallpaper(text, screenSize());
-    return found.isEmpty() ? QImage() : m_image.load(found);
+        return drawPreview({}, look);
+    const QString kept = previewPath(position->currentText(), look.fill, text);
+    QImage preview = previewOfFile(text, look, kept);
+    if (preview.isNull())
+        preview = previewOfFile(foundWallpaper(text, look.screen), look, kept);
+    return preview.isNull() ? drawPreview({}, look) : preview;
 }
 
 QSize WallpaperPage::screenSize() const

@@ -1,9 +1,6 @@
 #pragma once
 
-#include "pages/wallpaper/wallpaperimage.h"
-
 #include <QColor>
-#include <QPixmap>
 #include <QWidget>
 
 #include <memory>
@@ -20,12 +17,8 @@ class WallpaperPage : public QWidget
 {
     Q_OBJECT
 public:
-    /// \a image may have been loaded ahead; the page keeps the image of its last preview in it.
-    explicit WallpaperPage(QWidget *parent = nullptr, WallpaperImage image = {});
+    explicit WallpaperPage(QWidget *parent = nullptr);
     ~WallpaperPage() override;
-
-    /// Begins to decode what loadValues() will show, for the page that is yet to be built.
-    static WallpaperImage imageAhead(const QazSettings *settings);
 
     bool loaded = false;
 
@@ -48,9 +41,6 @@ public slots:
     /// Stores and announces what changed; always true.
     bool saveValues(QazSettings *settings);
 
-protected:
-    void paintEvent(QPaintEvent *event) override;
-
 private:
     void loadDesktopValues(const QString &wallpaper);
     void loadGlobalValues(const QazSettings *settings);
@@ -59,16 +49,10 @@ private:
     QString convertedFile(const QString &file);
     bool asks(const QString &title, const QString &question);
     void adoptColor(const QString &text);
-    QImage wallpaperImage(const QString &text);
+    /// What the monitor picture shows of the wallpaper \a text.
+    QImage preview(const QString &text) const;
     QSize screenSize() const;
-    void writePendingPreview();
 
     std::unique_ptr<Ui::WallpaperForm> m_ui;
-    QPixmap m_preview;
-    QImage m_pendingPreview;
-    QString m_pendingPath;
-    QPixmap m_sparePreview; // these two are part of the page's state, but nothing reads them
-    QColor m_spareColor;
     QColor m_color;
-    WallpaperImage m_image;
 };

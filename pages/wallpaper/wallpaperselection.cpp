@@ -1,6 +1,7 @@
 #include "pages/wallpaper/wallpaperselection.h"
 
 #include "base/atomicfile.h"
+#include "freedesktop/images.h"
 #include "platform/wallpapersizeforscreen.h"
 #include "settings/backup.h"
 #include "settings/directories.h"
@@ -9,8 +10,6 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QImage>
-#include <QPainter>
-#include <QSvgRenderer>
 
 namespace {
 
@@ -46,11 +45,6 @@ QString selectionStart(const QString &text, const QSize &screenSize)
     return QDir::homePath();
 }
 
-bool needsConversion(const QString &path)
-{
-    return path.endsWith(QLatin1String(".svg")) || path.endsWith(QLatin1String(".svgz"));
-}
-
 QString conversionTarget(const QString &path, const QSize &screenSize)
 {
     const QString own = directoryPath(DirectoryKind::Wallpapers);
@@ -61,12 +55,10 @@ QString conversionTarget(const QString &path, const QSize &screenSize)
 
 bool convertSvg(const QString &source, const QString &target, const QSize &size)
 {
-    QImage picture(size, QImage::Format_RGB32);
-    picture.fill(Qt::white);
-    QSvgRenderer renderer;
-    if (renderer.load(readRegularFile(source).content)) {
-        QPainter painter(&picture);
-        renderer.render(&painter);
+    QImage picture = drawSvg(readRegularFile(source).content, size, Qt::white);
+    if (picture.isNull()) { // the user gets the file that was asked for, if an empty one
+        picture = QImage(size, QImage::Format_RGB32);
+        picture.fill(Qt::white);
     }
     QByteArray png;
     QBuffer buffer(&png);

@@ -7,9 +7,6 @@
 /// directories that exist for a screen of \a screenSize, else the home directory.
 QString selectionStart(const QString &text, const QSize &screenSize);
 
-/// Whether the file is converted before it is used. Upper-case endings are taken as they are.
-bool needsConversion(const QString &path);
-
 /// The PNG that the SVG file \a path is converted to, in the user's wallpaper directory for \a screenSize.
 QString conversionTarget(const QString &path, const QSize &screenSize);
 

@@ -1,10 +1,12 @@
-#include "pages/wallpaper/wallpaperimage.h"
+#include "pages/wallpaper/keptpreview.h"
 #include "pages/wallpaper/wallpaperpreview.h"
 #include "tests/support/literals.h"
 #include "tests/support/temporaryhome.h"
 
 #include <QtGui>
 #include <QtTest>
+
+#include <functional>
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -28,14 +30,10 @@ QImage numbered(const QSize &size)
     return image;
 }
 
-QByteArray encoded(const char *format, const QSize &size = {64, 48})
+/// An image file of one colour and one pixel.
+QByteArray picture(const char *color)
 {
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    if (!QImageWriter(&buffer, format).write(numbered(size)))
-        qFatal("Can't write %s", format);
-    return bytes;
+    return QByteArray("/* XPM */\nstatic char *x[] = {\"1 1 1 1\", \"a c ") + color + "\", \"a\"};\n";
 }
 
 } // namespace
@@ -73,7 +71,7 @@ private slots:
                 const bool isImage = place.contains(inTile);
                 expected.setPixel(pixel, isImage ? scaled.pixel(inTile - place.topLeft()) : fill.rgb());
             }
-            QCOMPARE(drawPreview(image, fit, fill, label, screen).convertToFormat(expected.format()),
+            QCOMPARE(drawPreview(image, {fit, fill, label, screen}).convertToFormat(expected.format()),
                      expected);
         }
     }
@@ -85,11 +83,71 @@ private slots:
         QImage translucent(screen, QImage::Format_ARGB32_Premultiplied);
         translucent.fill(qRgba(10, 20, 30, 128));
         for (Fit fit : fits) {
-            QCOMPARE(drawPreview(line, fit, fill, label, screen).pixelColor(120, 90), QColor(Qt::red));
-            QCOMPARE(drawPreview(translucent, fit, fill, label, screen).pixel(120, 90) & RGB_MASK,
+            QCOMPARE(drawPreview(line, {fit, fill, label, screen}).pixelColor(120, 90), QColor(Qt::red));
+            QCOMPARE(drawPreview(translucent, {fit, fill, label, screen}).pixel(120, 90) & RGB_MASK,
                      QRgb(fit == Fit::Stretch ? translucent.pixel(0, 0) & RGB_MASK : 0x0a141e));
-            QCOMPARE(drawPreview(line, fit, fill, {0, 0}, {0, 0}).size(), QSize(1, 1));
+            QCOMPARE(drawPreview(line, {fit, fill, {0, 0}, {0, 0}}).size(), QSize(1, 1));
         }
+    }
+
+    void keptPreviewIsUsedWhileNothingChanged()
+    {
+        const TemporaryHome home;
+        const QString image = home.write("a.xpm"_s, picture("red"));
+        const QString other = home.write("b/a.xpm"_s, picture("red"));
+        const QString kept = home.path(".cache/qaz/wallpapers/Tile_#00ff00_a.xpm.png"_s);
+        QCOMPARE(previewPath("Tile"_s, fill, image), kept);
+        const QByteArray file = QFile::encodeName(kept),
+                         directory = QFile::encodeName(QFileInfo(kept).path());
+        const PreviewLook look = {Fit::Tile, fill, label, screen};
+        // Another picture with the same origin: it is seen when the file is used.
+        const auto plant = [&] {
+            QCOMPARE(previewOfFile(image, look, kept).pixelColor(0, 0), QColor(Qt::red));
+            QImage planted(kept);
+            planted.fill(Qt::blue);
+            QVERIFY(planted.save(kept) && ::chmod(file.constData(), 0600) == 0);
+            QCOMPARE(previewOfFile(image, look, kept).pixelColor(0, 0), QColor(Qt::blue));
+        };
+        plant();
+        struct stat status = {};
+        QCOMPARE(::stat(QFile::encodeName(image).constData(), &status), 0);
+        const QImage texts(kept);
+        QStringList origin;
+        for (const QString &key : texts.textKeys())
+            origin += key + u'=' + texts.text(key);
+        QCOMPARE(
+            origin.join(u'|'),
+            "Color=#00ff00|Device=%1|Fit=Tile|Inode=%2|Label=252x191|Modified=%3%4|Path=%5|Screen=2520x1910|"
+            "Size=%6"_s.arg(QString::number(status.st_dev), QString::number(status.st_ino),
+                            QString::number(status.st_mtim.tv_sec),
+                            "%1"_s.arg(status.st_mtim.tv_nsec, 9, 10, QLatin1Char('0')), image,
+                            QString::number(status.st_size)));
+        for (const PreviewLook &changed : {PreviewLook{Fit::Stretch, fill, label, screen},
+                                           PreviewLook{Fit::Tile, Qt::black, label, screen},
+                                           PreviewLook{Fit::Tile, fill, label * 2, screen},
+                                           PreviewLook{Fit::Tile, fill, label, screen * 2}}) {
+            QCOMPARE(previewOfFile(image, changed, kept).pixelColor(0, 0), QColor(Qt::red));
+            plant();
+        }
+        const std::function<bool()> changes[] = {
+            [&] { return ::chmod(file.constData(), 0640) == 0; },
+            [&] { return ::chmod(directory.constData(), 0750) == 0; },
+            [&] {
+                return QFile::rename(kept, home.path("x.png"_s)) && QFile::link(home.path("x.png"_s), kept);
+            },
+            [&] { return previewOfFile(other, look, kept).pixelColor(0, 0) == QColor(Qt::red); },
+            [&] { return home.write("a.xpm"_s, picture("#008000")) == image; }};
+        for (const auto &change : changes) {
+            QVERIFY(change());
+            const QColor color = previewOfFile(image, look, kept).pixelColor(0, 0);
+            QVERIFY2(color == QColor(Qt::red)
+                         || (&change == std::end(changes) - 1 && color == QColor("green"_s)),
+                     qPrintable(color.name()));
+            QVERIFY(::chmod(directory.constData(), 0700) == 0 && QFile::remove(kept));
+            home.write("a.xpm"_s, picture("red"));
+            plant();
+        }
+        QVERIFY(previewOfFile(home.path("none.xpm"_s), look, kept).isNull());
     }
 
     void previewFileReplacesOnlyItsOwn()
@@ -97,10 +155,12 @@ private slots:
         const TemporaryHome home;
         const ScopedEnvironment cache("XDG_CACHE_HOME", QFile::encodeName(home.write("file"_s, {})));
         QCOMPARE(previewPath("Center"_s, Qt::blue, "/a/%1 b"_s), "/tmp/Center_#0000ff_%1 b.png"_s);
-        const QImage image = numbered({8, 8});
+        const QString image = home.write("a.xpm"_s, picture("red"));
+        const PreviewLook look = {Fit::Stretch, fill, label, screen};
         const QString path = home.write("shared/preview.png"_s, "older");
-        QVERIFY(writePreview(path, image));
-        QCOMPARE(QImage(path).convertToFormat(QImage::Format_RGB32), image);
+        previewOfFile(image, look, path);
+        QCOMPARE(QImage(path).pixelColor(241, 180), QColor(Qt::red));
+        QCOMPARE(QFileInfo(path).permissions() & 0x77, QFileDevice::Permissions());
 
         const QString link = home.path("shared/link.png"_s);
         QVERIFY(QFile::link(home.write("victim"_s, "precious"), link));
@@ -109,67 +169,9 @@ private slots:
         else
             QVERIFY(QFile::remove(path) && home.makeDirectory("shared/preview.png"_s));
         const QString before = home.fingerprint();
-        for (const QString &refused : {link, path, home.path("missing/preview.png"_s)})
-            QVERIFY2(!writePreview(refused, image), qPrintable(refused));
+        for (const QString &refused : {link, path, home.path("file/preview.png"_s)})
+            QCOMPARE(previewOfFile(image, look, refused).pixelColor(241, 180), QColor(Qt::red));
         QCOMPARE(home.fingerprint(), before);
-    }
-
-    void onlyWholeImagesAreRead_data()
-    {
-        QTest::addColumn<QByteArray>("content");
-        QTest::addColumn<bool>("isRead");
-        const QByteArray svg
-            = "<svg xmlns='http://www.w3.org/2000/svg' width='64' height='48'><path d='M0 0h9v9z'/></svg>";
-        for (const char *format : {"png", "jpg", "xpm"}) {
-            const QByteArray content = encoded(format);
-            QTest::addRow("whole.%s", format) << content << true;
-            QTest::addRow("cut off.%s", format) << content.left(content.size() * 2 / 3) << false;
-        }
-        const QByteArray jpeg = encoded("jpg");
-        QTest::newRow("last byte missing.jpg") << jpeg.chopped(1) << false;
-        QTest::newRow("foreign bytes behind it.jpg") << jpeg + "\xFF\xFFmore" << true;
-        QTest::newRow("end marker only in a comment.jpg")
-            << QByteArray(jpeg).insert(2, QByteArray("\xFF\xFE\0\4\xFF\xD9", 6)).chopped(2) << false;
-        QTest::newRow("wrong ending.png") << jpeg << true;
-        QTest::newRow("empty.png") << QByteArray() << false;
-        // The header alone tells that decoding would take more than 256 MB.
-        QTest::newRow("16384 x 8193.bmp")
-            << encoded("bmp").replace(18, 8, QByteArray("\0\x40\0\0\1\x20\0\0", 8)) << false;
-        QTest::newRow("whole.svg") << svg << true;
-        QTest::newRow("too large.svg") << QByteArray(svg).replace("64", "64000000") << false;
-    }
-
-    void onlyWholeImagesAreRead()
-    {
-        QFETCH(QByteArray, content);
-        QFETCH(bool, isRead);
-        const TemporaryHome home;
-        const QString path = home.write(QString::fromLatin1(QTest::currentDataTag()), content);
-        QCOMPARE(readImage(path).size(), isRead ? QSize(64, 48) : QSize(0, 0));
-    }
-
-    void specialFilesAreNoImages()
-    {
-        const TemporaryHome home;
-        const QString fifo = home.path("fifo.png"_s);
-        QCOMPARE(::mkfifo(QFile::encodeName(fifo).constData(), 0600), 0);
-        for (const QString &path : {fifo, "/dev/zero"_s, "/proc/kmsg"_s, home.path(), home.path("missing"_s)})
-            QVERIFY2(readImage(path).isNull(), qPrintable(path));
-    }
-
-    void changedFileIsReadAgain()
-    {
-        const TemporaryHome home;
-        WallpaperImage cache;
-        const QString path = home.write("a.png"_s, encoded("png", {5, 5}));
-        const QImage first = cache.load(path);
-        QCOMPARE(first.size(), QSize(5, 5));
-        // A name that is no file, as while typing, does not cost the decoded image.
-        QVERIFY(cache.load(home.path("b.png"_s)).isNull());
-        QCOMPARE(cache.load(path).cacheKey(), first.cacheKey());
-
-        home.write("a.png"_s, encoded("png", {6, 6}));
-        QCOMPARE(cache.load(path).size(), QSize(6, 6));
     }
 };
 

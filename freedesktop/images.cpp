@@ -1,0 +1,64 @@
+#include "freedesktop/images.h"
+
+#include "base/atomicfile.h"
+
+#include <QBuffer>
+#include <QImageReader>
+#include <QPainter>
+#include <QScopeGuard>
+#include <QSvgRenderer>
+
+#include <sys/resource.h>
+#include <unistd.h>
+
+namespace {
+
+qint64 pixelCount(const QSize &size)
+{
+    return qint64(size.width()) * size.height();
+}
+
+/// The address space that this process takes, in bytes.
+rlim_t usedSpace()
+{
+    const qlonglong pages
+        = readRegularFile(QStringLiteral("/proc/self/statm")).content.split(' ')[0].toLongLong();
+    return rlim_t(pages) * rlim_t(::sysconf(_SC_PAGESIZE));
+}
+
+} // namespace
+
+QImage loadImage(const QString &path, qint64 pixelLimit)
+{
+    FileContent file = readRegularFile(path);
+    QBuffer buffer(&file.content);
+    QImageReader reader(&buffer);
+    const QSize stated = reader.size();
+    if (file.content.isEmpty() || pixelCount(stated) > pixelLimit)
+        return {};
+
+    // Some formats state another size than they decode to, and reserve memory for that one before anybody can object.
+    rlimit before = {};
+    ::getrlimit(RLIMIT_AS, &before);
+    constexpr rlim_t bytesPerPixel = 8, spare = 512 << 20;
+    rlimit during = before;
+    during.rlim_cur = qMin(before.rlim_cur, usedSpace() + rlim_t(pixelLimit) * bytesPerPixel + spare);
+    ::setrlimit(RLIMIT_AS, &during);
+    const auto undo = qScopeGuard([&before] { ::setrlimit(RLIMIT_AS, &before); });
+    QImage image = reader.read();
+    return pixelCount(image.size()) > pixelLimit ? QImage() : image;
+}
+
+QImage drawSvg(const QByteArray &svg, const QSize &size, const QColor &background, Qt::AspectRatioMode mode)
+{
+    QSvgRenderer renderer;
+    if (!renderer.load(svg))
+        return {};
+    const QSize drawn = mode == Qt::IgnoreAspectRatio ? size : renderer.defaultSize().scaled(size, mode);
+    QImage picture(drawn.expandedTo(QSize(1, 1)),
+                   background.alpha() == 255 ? QImage::Format_RGB32 : QImage::Format_ARGB32_Premultiplied);
+    picture.fill(background);
+    QPainter painter(&picture);
+    renderer.render(&painter, QRectF(picture.rect()));
+    return picture;
+}

@@ -1,0 +1,105 @@
+#include "pages/wallpaper/keptpreview.h"
+
+#include "base/atomicfile.h"
+#include "freedesktop/images.h"
+#include "settings/directories.h"
+
+#include <QBuffer>
+#include <QFile>
+#include <QFileInfo>
+#include <QMap>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+using Origin = QMap<QString, QString>; // the text chunks of the file
+
+QString sizeText(const QSize &size)
+{
+    return QStringLiteral("%1x%2").arg(size.width()).arg(size.height());
+}
+
+/// Empty for what is no image for sure: what is no regular file, and the kernel's own files, which state no size.
+Origin originOf(const QString &image, const PreviewLook &look)
+{
+    struct stat status = {};
+    if (::stat(QFile::encodeName(image).constData(), &status) != 0 || !S_ISREG(status.st_mode)
+        || status.st_size == 0)
+        return {};
+    const qint64 modified = status.st_mtim.tv_sec * qint64(1000000000) + status.st_mtim.tv_nsec;
+    return {{QStringLiteral("Path"), image},
+            {QStringLiteral("Device"), QString::number(status.st_dev)},
+            {QStringLiteral("Inode"), QString::number(status.st_ino)},
+            {QStringLiteral("Size"), QString::number(status.st_size)},
+            {QStringLiteral("Modified"), QString::number(modified)}, // in nanoseconds
+            {QStringLiteral("Fit"), wordFromFit(look.fit)},
+            {QStringLiteral("Color"), look.fill.name()},
+            {QStringLiteral("Label"), sizeText(look.label)},
+            {QStringLiteral("Screen"), sizeText(look.screen)}};
+}
+
+bool isUsersAlone(const QString &path, mode_t type)
+{
+    struct stat status = {};
+    return ::lstat(QFile::encodeName(path).constData(), &status) == 0 && (status.st_mode & S_IFMT) == type
+           && status.st_uid == ::geteuid() && (status.st_mode & 077) == 0;
+}
+
+/// Null when \a path holds no preview of that origin.
+QImage keptPreview(const QString &path, const Origin &origin)
+{
+    if (!isUsersAlone(QFileInfo(path).path(), S_IFDIR) || !isUsersAlone(path, S_IFREG))
+        return {};
+    const QImage kept = loadImage(path);
+    Origin found;
+    for (const QString &key : kept.textKeys())
+        found.insert(key, kept.text(key));
+    return found == origin ? kept : QImage();
+}
+
+/// Replaces only a regular file of this user, and follows no link: the directory may be one that everybody writes to.
+void keepPreview(const QString &path, QImage preview, const Origin &origin)
+{
+    const QByteArray name = QFile::encodeName(path);
+    struct stat status = {};
+    const bool exists = ::lstat(name.constData(), &status) == 0;
+    if (exists && (!S_ISREG(status.st_mode) || status.st_uid != ::geteuid()))
+        return;
+    for (auto text = origin.begin(); text != origin.end(); ++text)
+        preview.setText(text.key(), text.value());
+    QByteArray png;
+    QBuffer buffer(&png);
+    QString error;
+    if (exists)
+        ::chmod(name.constData(), 0600); // a replaced file keeps its bits
+    if (buffer.open(QIODevice::WriteOnly) && preview.save(&buffer, "PNG"))
+        static_cast<void>(replaceFile(path, png, &error, 0600));
+}
+
+} // namespace
+
+QString previewPath(const QString &position, const QColor &fill, const QString &text)
+{
+    const QString cache = directoryPath(DirectoryKind::RenderedWallpapers);
+    return QStringLiteral("%1/%2_%3_%4.png")
+        .arg(cache.isEmpty() ? QStringLiteral("/tmp") : cache, position, fill.name(),
+             QFileInfo(text).fileName());
+}
+
+QImage previewOfFile(const QString &image, const PreviewLook &look, const QString &kept)
+{
+    const Origin origin = originOf(image, look);
+    if (origin.isEmpty())
+        return {};
+    QImage preview = keptPreview(kept, origin);
+    if (!preview.isNull())
+        return preview;
+    const QImage decoded = loadImage(image);
+    if (decoded.isNull())
+        return {};
+    preview = drawPreview(decoded, look);
+    keepPreview(kept, preview, origin);
+    return preview;
+}

@@ -1,0 +1,128 @@
+#include "freedesktop/images.h"
+#include "tests/support/literals.h"
+#include "tests/support/temporaryhome.h"
+
+#include <QtGui>
+#include <QtTest>
+
+#include <sys/stat.h>
+
+namespace {
+
+const QByteArray svg = "<svg xmlns='http://www.w3.org/2000/svg' width='64' height='48'><path fill='red' "
+                       "d='M0 0h32v48h-32z'/></svg>";
+
+QByteArray encoded(const char *format, const QSize &size = {64, 48})
+{
+    QImage image(size, QImage::Format_RGB32);
+    for (int i = 0; i < image.width() * image.height(); ++i) // so that a cut-off file lacks something
+        image.setPixel(i % image.width(), i / image.width(), QRgb(i * 7919));
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    if (!QImageWriter(&buffer, format).write(image))
+        qFatal("Can't write %s", format);
+    return bytes;
+}
+
+/// An icon file that states 16 x 16 pixels for the PNG of any size that it holds.
+QByteArray lyingIcon(const QByteArray &png)
+{
+    QByteArray icon("\0\0\1\0\1\0\x10\x10\0\0\1\0\x20\0", 14);
+    for (const int number : {png.size(), 22})
+        icon += QByteArray(reinterpret_cast<const char *>(&number), 4);
+    return icon + png;
+}
+
+/// A PNG whose header states another size than its pixels have.
+QByteArray pngStating(quint32 width, quint32 height)
+{
+    QByteArray png = encoded("png");
+    const quint32 size[] = {qToBigEndian(width), qToBigEndian(height)};
+    png.replace(16, 8, reinterpret_cast<const char *>(size), 8);
+    quint32 sum = ~0U;
+    for (const char byte : png.mid(12, 17)) {
+        sum ^= uchar(byte);
+        for (int bit = 0; bit < 8; ++bit)
+            sum = sum & 1 ? sum >> 1 ^ 0xEDB88320U : sum >> 1;
+    }
+    sum = qToBigEndian(~sum);
+    return png.replace(29, 4, reinterpret_cast<const char *>(&sum), 4);
+}
+
+} // namespace
+
+class TestImages : public QObject
+{
+    Q_OBJECT
+private slots:
+    void imagesAreLoaded_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<bool>("isLoaded");
+        for (const char *format : {"png", "jpg", "xpm", "bmp"})
+            QTest::addRow("whole.%s", format) << encoded(format) << true;
+        for (const char *format : {"png", "xpm"})
+            QTest::addRow("cut off.%s", format) << encoded(format).chopped(200) << false;
+        const QByteArray jpeg = encoded("jpg");
+        QTest::newRow("shown as far as it goes.jpg") << jpeg.left(jpeg.size() * 2 / 3) << true;
+        QTest::newRow("last byte missing.jpg") << jpeg.chopped(1) << true;
+        QTest::newRow("wrong ending.png") << jpeg << true;
+        QTest::newRow("empty.png") << QByteArray() << false;
+        QTest::newRow("text.png") << QByteArray("text") << false;
+        QTest::newRow("whole.svg") << svg << true;
+        QTest::newRow("too large.svg") << QByteArray(svg).replace("64", "64000000") << false;
+        QTest::newRow("too large.png") << pngStating(16385, 16384) << false;
+        QTest::newRow("ends in odd numbers.png") << pngStating(0x7fffffff, 0x7fffffff) << false;
+        QTest::newRow("states less.ico") << lyingIcon(encoded("png")) << true;
+        QTest::newRow("states much less.ico") << lyingIcon(pngStating(60000, 60000)) << false;
+    }
+
+    void imagesAreLoaded()
+    {
+        QFETCH(QByteArray, content);
+        QFETCH(bool, isLoaded);
+        const TemporaryHome home;
+        const QString path = home.write(QString::fromLatin1(QTest::currentDataTag()), content);
+        QCOMPARE(loadImage(path).size(), isLoaded ? QSize(64, 48) : QSize(0, 0));
+    }
+
+    void decodedSizeCounts()
+    {
+        const TemporaryHome home;
+        const QString path = home.write("a.png"_s, encoded("png"));
+        const QString icon = home.write("a.ico"_s, lyingIcon(encoded("png")));
+        for (const QString &image : {path, icon}) {
+            QCOMPARE(loadImage(image, 64 * 48).size(), QSize(64, 48));
+            QVERIFY(loadImage(image, 64 * 48 - 1).isNull());
+        }
+    }
+
+    void specialFilesAreNoImages()
+    {
+        const TemporaryHome home;
+        const QString fifo = home.path("fifo.png"_s);
+        QCOMPARE(::mkfifo(QFile::encodeName(fifo).constData(), 0600), 0);
+        for (const QString &path : {fifo, "/dev/zero"_s, "/proc/kmsg"_s, home.path(), home.path("missing"_s)})
+            QVERIFY2(loadImage(path).isNull(), qPrintable(path));
+    }
+
+    void svgIsDrawn()
+    {
+        for (const char *path : {"/a.svg", "b.tar.svgz", ".svg"})
+            QVERIFY2(isSvg(QLatin1String(path)), path);
+        for (const char *path : {"", "/a.SVG", "a.svg.png", "svg"})
+            QVERIFY2(!isSvg(QLatin1String(path)), path);
+        const QImage filled = drawSvg(svg, {40, 40}, Qt::white);
+        QCOMPARE(filled.size(), QSize(40, 40));
+        QCOMPARE(filled.pixelColor(5, 39), QColor(Qt::red));
+        QCOMPARE(filled.pixelColor(35, 5), QColor(Qt::white));
+        const QImage icon = drawSvg(svg, {40, 40}, Qt::transparent, Qt::KeepAspectRatio);
+        QCOMPARE(icon.size(), QSize(40, 30));
+        QCOMPARE(icon.pixelColor(35, 5).alpha(), 0);
+        QVERIFY(drawSvg("no drawing", {40, 40}, Qt::white).isNull());
+    }
+};
+
+QTEST_GUILESS_MAIN(TestImages)
+#include "tst_images.moc"
