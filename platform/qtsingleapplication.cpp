@@ -1,18 +1,20 @@
 #include "platform/qtsingleapplication.h"
 
+#include "base/diagnostics.h"
+#include "base/xdgdirectories.h"
+
 #include <QCryptographicHash>
 #include <QDataStream>
-#include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QLocalServer>
 #include <QLocalSocket>
-#include <QLockFile>
 #include <QThread>
-#include <QWidget>
 
-#include <sys/un.h>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
@@ -20,21 +22,36 @@ namespace {
 constexpr char acknowledgement[] = "ack";
 constexpr int longestMessage = 1 << 20;
 
-/// Where the socket of \a id stands: in the user's runtime directory, else in the temporary one.
-QString socketPath(const QString &id)
+/// The directory of sockets and locks, which is the user's alone. Not open when there is none.
+int openDirectory()
+{
+    const QString directory = privateDirectory();
+    const QString runtime = QFile::decodeName(qgetenv("XDG_RUNTIME_DIR"));
+    if (!runtime.isEmpty() && !directory.isEmpty() && directory != runtime)
+        printDiagnostic(QStringLiteral("%1 is not the user's alone; using %2").arg(runtime, directory));
+    return ::open(QFile::encodeName(directory).constData(), O_PATH | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
+}
+
+QByteArray socketName(const QString &id)
 {
     const QByteArray digest
         = QCryptographicHash::hash(id.toUtf8(), QCryptographicHash::Sha1).toHex().left(12);
-    const QString name
-        = QStringLiteral("/qtsingleapp-%1-%2").arg(QString::fromLatin1(digest)).arg(::getuid());
-    const QString runtime = QFile::decodeName(qgetenv("XDG_RUNTIME_DIR"));
-    // Leave room for the name under which the server sets the socket up before it renames it.
-    const int longest = int(sizeof(sockaddr_un::sun_path)) - 16;
-    if (!runtime.isEmpty() && QFileInfo(runtime).isWritable()
-        && QFile::encodeName(runtime + name).size() < longest)
-        return runtime + name;
-    const QString temporary = QDir::tempPath() + name;
-    return QFile::encodeName(temporary).size() < longest ? temporary : QLatin1String("/tmp") + name;
+    return "qtsingleapp-" + digest + '-' + QByteArray::number(::getuid());
+}
+
+/// A path that fits into a socket's address however long the directory's own is.
+QString socketPath(const Descriptor &directory, const QByteArray &name)
+{
+    return QStringLiteral("/proc/self/fd/%1/%2").arg(directory.get()).arg(QLatin1String(name));
+}
+
+/// Takes what stands at \a name out of the way; a directory, which may hold something, is renamed.
+bool clearAway(int directory, const QByteArray &name)
+{
+    return ::unlinkat(directory, name.constData(), 0) == 0
+           || ::renameat(directory, name.constData(), directory,
+                         (name + ".old-" + QByteArray::number(::getpid())).constData())
+                  == 0;
 }
 
 } // namespace
@@ -47,42 +64,65 @@ QtSingleApplication::QtSingleApplication(int &argc, char **argv, bool /*guiEnabl
 QtSingleApplication::QtSingleApplication(const QString &id, int &argc, char **argv)
     : QApplication(argc, argv)
     , m_id(id)
-    , m_path(socketPath(id))
-    , m_lock(std::make_unique<QLockFile>(m_path + QLatin1String(".lock")))
-{
-    // However long the owner runs, its lock is stale only when its process is gone.
-    m_lock->setStaleLockTime(0);
-}
+    , m_name(socketName(id))
+    , m_directory(openDirectory())
+{}
 
 QtSingleApplication::~QtSingleApplication()
 {
     // The socket goes before the lock: afterwards the one of that name belongs to the next owner.
     delete m_server;
+    if (m_lock)
+        ::unlinkat(m_directory.get(), (m_name + ".lock").constData(), 0);
 }
 
 bool QtSingleApplication::isRunning()
 {
-    if (m_lock->isLocked())
+    if (m_lock)
         return false;
-    if (m_lock->tryLock(0)) {
-        becomeOwner();
-        return false;
-    }
     // Without a place for a lock there is no other instance to be found, either.
-    return m_lock->error() == QLockFile::LockFailedError;
+    if (m_directory.isOpen() && !takeLock())
+        return true;
+    if (m_lock)
+        listen();
+    return false;
 }
 
-void QtSingleApplication::becomeOwner()
+bool QtSingleApplication::takeLock()
 {
-    // The temporary directory is not the user's alone.
-    QFile::setPermissions(m_path + QLatin1String(".lock"), QFile::ReadOwner | QFile::WriteOwner);
-    // A socket that stands there belongs to a dead owner: the lock is ours.
-    QLocalServer::removeServer(m_path);
+    const QByteArray name = m_name + ".lock";
+    for (;;) {
+        struct stat opened = {};
+        struct stat named = {};
+        auto file = std::make_unique<Descriptor>(
+            ::openat(m_directory.get(), name.constData(),
+                     O_RDWR | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, 0600));
+        if (!file->isOpen() || ::fstat(file->get(), &opened) != 0 || !S_ISREG(opened.st_mode)) {
+            if (!clearAway(m_directory.get(), name))
+                return true; // no place for a lock
+            continue;
+        }
+        ::fchmod(file->get(), 0600);
+        if (::flock(file->get(), LOCK_EX | LOCK_NB) != 0)
+            return false;
+        // The owner before may have removed the file since it was opened.
+        if (::fstatat(m_directory.get(), name.constData(), &named, AT_SYMLINK_NOFOLLOW) == 0
+            && named.st_ino == opened.st_ino) {
+            m_lock = std::move(file);
+            return true;
+        }
+    }
+}
+
+void QtSingleApplication::listen()
+{
+    // What stands there belongs to a dead owner: the lock is ours.
+    clearAway(m_directory.get(), m_name);
     m_server = new QLocalServer(this);
     m_server->setSocketOptions(QLocalServer::UserAccessOption);
     m_server->setMaxPendingConnections(100);
     connect(m_server, &QLocalServer::newConnection, this, &QtSingleApplication::acceptConnection);
-    m_server->listen(m_path);
+    m_server->listen(socketPath(m_directory, m_name));
 }
 
 void QtSingleApplication::acceptConnection()
@@ -124,7 +164,8 @@ bool QtSingleApplication::sendMessage(const QString &message, int timeout)
     const auto left = [&timer, timeout] { return int(qMax<qint64>(1, timeout - timer.elapsed())); };
     QLocalSocket socket;
     // The owner takes its lock a moment before it listens.
-    for (socket.connectToServer(m_path); !socket.waitForConnected(left()); socket.connectToServer(m_path)) {
+    const QString path = socketPath(m_directory, m_name);
+    for (socket.connectToServer(path); !socket.waitForConnected(left()); socket.connectToServer(path)) {
         if (timer.hasExpired(timeout))
             return false;
         QThread::msleep(20);

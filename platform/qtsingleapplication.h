@@ -4,6 +4,8 @@
 #include <QtSingleApplication>
 #else
 
+#include "base/descriptor.h"
+
 #include <QApplication>
 #include <QPointer>
 #include <QWidget>
@@ -12,10 +14,9 @@
 
 class QLocalServer;
 class QLocalSocket;
-class QLockFile;
 
 /// An application that runs once for each id and user. Whoever holds the id's lock is the running instance;
-/// the others can send it messages. A crashed owner's lock is taken over by the next start.
+/// the others can send it messages. The lock ends with its owner, whatever becomes of the file.
 class QtSingleApplication : public QApplication
 {
     Q_OBJECT
@@ -41,13 +42,15 @@ signals:
     void messageReceived(const QString &message);
 
 private:
-    void becomeOwner();
+    bool takeLock();
+    void listen();
     void acceptConnection();
     void readMessage(QLocalSocket *socket);
 
     QString m_id;
-    QString m_path; // of the socket; the lock file's has ".lock" appended
-    std::unique_ptr<QLockFile> m_lock;
+    QByteArray m_name;                  // of the socket; the lock file's has ".lock" appended
+    Descriptor m_directory;             // of both
+    std::unique_ptr<Descriptor> m_lock; // while it is held
     QLocalServer *m_server = nullptr;
     QPointer<QWidget> m_activationWindow;
 };

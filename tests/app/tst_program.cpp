@@ -8,8 +8,11 @@
 
 #include <QtTest>
 
+#include <functional>
 #include <optional>
 #include <vector>
+
+#include <sys/stat.h>
 
 namespace {
 
@@ -115,12 +118,6 @@ private slots:
         EditorProcess second({"--help"_s});
         QCOMPARE(second.exitCode(), 0);
         QCOMPARE(second.process().readAllStandardOutput(), QByteArray());
-        const QDir runtime(QFile::decodeName(qgetenv("XDG_RUNTIME_DIR")));
-        for (const QFileInfo &file :
-             runtime.entryInfoList({"qtsingleapp-*"_s}, QDir::AllEntries | QDir::System))
-            QVERIFY2(!(file.permissions() & (QFile::ReadGroup | QFile::ReadOther)),
-                     qPrintable(file.filePath()));
-
         const PrivateServer server;
         EditorProcess elsewhere;
         QVERIFY2(elsewhere.waitForWindow(), "another display has an instance of its own");
@@ -141,14 +138,58 @@ private slots:
             QVERIFY(isRunning(editor) ? editor->waitForWindow() : editor->exitCode() == 0);
     }
 
-    void aKilledInstanceBlocksNothing()
+    void whateverStandsInPlaceOfTheLockBlocksNothing()
     {
-        for (int i = 0; i < 3; ++i) {
-            EditorProcess editor;
-            QVERIFY(editor.waitForWindow());
-            editor.process().kill();
-            QCOMPARE(editor.exitCode(), -1);
+        const QTemporaryDir own;
+        const QString runtime = own.path() + u'/';
+        const ScopedEnvironment directory("XDG_RUNTIME_DIR", QFile::encodeName(own.path()));
+        const QString precious = m_home->write("precious"_s, "mine");
+        const std::function<void(const QString &)> rows[] = {
+            [](const QString &) {}, // what the killed one left
+            [](const QString &path) { QFile(path).open(QIODevice::WriteOnly); },
+            [](const QString &path) { QVERIFY(QFile::copy("/etc/hostname"_s, path)); },
+            [&](const QString &path) { QVERIFY(QFile::link(precious, path)); },
+            [](const QString &path) { QVERIFY(QFile::link("/nowhere/at/all"_s, path)); },
+            [](const QString &path) { QCOMPARE(::mkfifo(QFile::encodeName(path).constData(), 0644), 0); },
+            [](const QString &path) { QVERIFY(QDir().mkpath(path + "/full"_s)); }};
+        for (const auto &place : rows) {
+            QStringList names;
+            {
+                EditorProcess killed;
+                QVERIFY2(killed.waitForWindow(), qPrintable(names.join(u' ')));
+                EditorProcess second;
+                QCOMPARE(second.exitCode(), 0);
+                const QDir::Filters all = QDir::AllEntries | QDir::System;
+                names = QDir(runtime).entryList({"qtsingleapp-*[0-9k]"_s}, all, QDir::Name);
+                QCOMPARE(names.size(), 2); // the socket and the lock
+            }
+            for (const QString &name : qAsConst(names)) {
+                struct stat status = {};
+                QCOMPARE(::lstat(QFile::encodeName(runtime + name).constData(), &status), 0);
+                QCOMPARE(status.st_mode & 077, 0U);
+                QFile::remove(runtime + name);
+                place(runtime + name);
+            }
         }
+        EditorProcess last;
+        QVERIFY(last.waitForWindow());
+        QCOMPARE(m_home->read("precious"_s), QByteArray("mine"));
+    }
+
+    void theLocksDirectoryIsTheUsersAlone()
+    {
+        m_home->makeDirectory("shared"_s);
+        QVERIFY(QFile(m_home->path("shared"_s)).setPermissions(QFile::Permissions(0x7777)));
+        const ScopedEnvironment runtime("XDG_RUNTIME_DIR", QFile::encodeName(m_home->path("shared"_s)));
+        EditorProcess editor;
+        QVERIFY(editor.waitForWindow());
+        QVERIFY2(editor.errors().contains(
+                     "qaz-admin-theme: %1/shared is not the user's alone; using %1/.cache/qaz\n"_s.arg(
+                         m_home->path())),
+                 qPrintable(editor.errors()));
+        EditorProcess second;
+        QCOMPARE(second.exitCode(), 0);
+        QVERIFY(QDir(m_home->path("shared"_s)).isEmpty());
     }
 
     void anEndFromOutsideStoresTheSize()
