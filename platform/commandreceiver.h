@@ -1,24 +1,37 @@
 #pragma once
 
 #include <QByteArray>
-#include <QByteArrayList>
-#include <QHash>
+#include <QVector>
 
 #include <cstdint>
 
-/// Puts window-manager commands together from the client messages that carry them, 20 bytes each.
-/// Messages of several senders may come interleaved.
+struct _XDisplay;
+union _XEvent;
+
+/// Puts window-manager commands together from the client messages that carry them (platform/commandprotocol.h).
+/// Messages of several senders may come interleaved; of more than 64 unfinished commands the oldest is dropped.
 class CommandReceiver
 {
 public:
-    static constexpr int messageBytes = 20;
-    static constexpr int longestCommand = 65536;
+    /// Without a \a display, whose events are taken, there is nothing but take() of bytes.
+    explicit CommandReceiver(_XDisplay *display = nullptr);
 
-    /// Takes the 20 bytes at \a data from \a sender; \a begins tells the first message of a command from the
-    /// following ones. Returns the command when this message ended it, else a null array. A following
-    /// message without a first one, and a command that grows too long, are dropped.
+    /// Takes an event of the display, where somebody has selected SubstructureNotifyMask on the root window. Returns
+    /// the command when this event ended it, else a null array.
+    QByteArray take(const _XEvent &event);
+
+    /// Takes the bytes of one message at \a data from \a sender; \a begins tells the first message of a command from
+    /// the following ones. Returns as above. A following message without a first one, and a command that grows too
+    /// long, are dropped.
     QByteArray take(std::uint64_t sender, bool begins, const char *data);
 
 private:
-    QHash<quint64, QByteArray> m_unfinished;
+    struct Unfinished {
+        std::uint64_t sender;
+        QByteArray text;
+    };
+
+    unsigned long m_firstAtom = 0;
+    unsigned long m_nextAtom = 0;
+    QVector<Unfinished> m_unfinished; // oldest first
 };

@@ -1,6 +1,7 @@
 #include "platform/sendcommandtowm.h"
 
 #include "base/diagnostics.h"
+#include "platform/commandprotocol.h"
 
 #include <algorithm>
 #include <cstring>
@@ -8,9 +9,6 @@
 #include <X11/Xlib.h>
 
 namespace {
-
-constexpr std::size_t messageBytes = 20;
-constexpr std::size_t longestText = 65536;
 
 /// The window that names the sender: never mapped, one for each connection, gone with it.
 Window senderWindow(Display *display)
@@ -37,7 +35,7 @@ void SendCommandToWM(Display *display, const char *text)
         return;
     }
     const std::size_t size = std::strlen(text) + 1; // the final NUL travels, too
-    if (size - 1 > longestText) {
+    if (size - 1 > longestCommand) {
         printDiagnostic(QStringLiteral("A window-manager command of %1 bytes is too long and was not sent")
                             .arg(size - 1));
         return;
@@ -46,14 +44,15 @@ void SendCommandToWM(Display *display, const char *text)
     XEvent event = {};
     event.xclient.type = ClientMessage;
     event.xclient.window = senderWindow(display);
-    event.xclient.message_type = XInternAtom(display, "_QAZWM_COMMAND_BEGIN", False);
+    event.xclient.message_type = XInternAtom(display, firstCommandAtom, False);
     event.xclient.format = 8;
-    for (std::size_t sent = 0; sent < size; sent += messageBytes) {
-        std::memset(event.xclient.data.b, 0, messageBytes);
-        std::memcpy(event.xclient.data.b, text + sent, std::min(messageBytes, size - sent));
+    for (std::size_t sent = 0; sent < size; sent += commandMessageBytes) {
+        std::memset(event.xclient.data.b, 0, commandMessageBytes);
+        std::memcpy(event.xclient.data.b, text + sent,
+                    std::min<std::size_t>(commandMessageBytes, size - sent));
         XSendEvent(display, DefaultRootWindow(display), False,
                    SubstructureRedirectMask | SubstructureNotifyMask, &event);
-        event.xclient.message_type = XInternAtom(display, "_QAZWM_COMMAND", False);
+        event.xclient.message_type = XInternAtom(display, nextCommandAtom, False);
     }
     XFlush(display);
 }

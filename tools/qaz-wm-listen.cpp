@@ -53,10 +53,33 @@ bool parseOptions(const QCoreApplication &application, Options *options)
     return isValid;
 }
 
+/// \a command without what would drive a terminal: control characters other than the newline read \xNN.
+QByteArray printable(const QByteArray &command)
+{
+    QByteArray text;
+    int following = 0; // bytes that a UTF-8 character still has
+    for (int i = 0; i < command.size(); ++i) {
+        const auto byte = uchar(command.at(i));
+        const bool isSecond = following > 0 && (byte & 0xC0) == 0x80;
+        const bool isC1 = byte == 0xC2 && i + 1 < command.size() && (uchar(command.at(i + 1)) & 0xE0) == 0x80;
+        const bool isControl = (byte < 0x20 && byte != '\n') || byte == 0x7F || isC1
+                               || ((byte & 0xE0) == 0x80 && !isSecond);
+        following = isSecond              ? following - 1
+                    : isC1 || byte < 0xC2 ? 0
+                    : byte < 0xE0         ? 1
+                    : byte < 0xF0         ? 2
+                                          : 3;
+        text += isControl ? "\\x" + QByteArray::number(byte, 16).rightJustified(2, '0').toUpper()
+                          : command.mid(i, 1);
+    }
+    return text;
+}
+
 void print(QByteArray command)
 {
     if (command.endsWith('\n'))
         command.chop(1);
+    command = printable(command);
     std::fwrite(command.constData(), 1, std::size_t(command.size()), stdout);
     std::fputc('\n', stdout);
     std::fflush(stdout);
@@ -77,12 +100,10 @@ bool waitForEvent(Display *display, const QElapsedTimer &timer, int timeoutMs)
 
 int listen(Display *display, const Options &options)
 {
-    const Atom begin = XInternAtom(display, "_QAZWM_COMMAND_BEGIN", False);
-    const Atom next = XInternAtom(display, "_QAZWM_COMMAND", False);
     XSelectInput(display, DefaultRootWindow(display), SubstructureNotifyMask);
     XSync(display, False);
 
-    CommandReceiver receiver;
+    CommandReceiver receiver(display);
     QElapsedTimer timer;
     timer.start();
     for (int printed = 0; options.count == 0 || printed < options.count;) {
@@ -90,12 +111,7 @@ int listen(Display *display, const Options &options)
             return options.count == 0 ? 0 : 1;
         XEvent event;
         XNextEvent(display, &event);
-        const XClientMessageEvent &message = event.xclient;
-        if (event.type != ClientMessage || message.format != 8
-            || (message.message_type != begin && message.message_type != next))
-            continue;
-        const QByteArray command = receiver.take(message.window, message.message_type == begin,
-                                                 message.data.b);
+        const QByteArray command = receiver.take(event);
         if (command.isNull())
             continue;
         print(command);

@@ -1,3 +1,4 @@
+#include "platform/commandprotocol.h"
 #include "platform/commandreceiver.h"
 #include "tests/fuzz/fuzzing.h"
 
@@ -8,19 +9,19 @@
 int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     const QByteArray input(reinterpret_cast<const char *>(data), int(size));
-    constexpr int stride = 1 + CommandReceiver::messageBytes;
+    constexpr int stride = 1 + commandMessageBytes;
     CommandReceiver receiver;
     for (int at = 0; at + stride <= input.size(); at += stride) {
         const auto head = std::uint8_t(input.at(at));
         const QByteArray command = receiver.take(head >> 1, head & 1, input.constData() + at + 1);
-        require(command.size() <= CommandReceiver::longestCommand && !command.contains('\0'));
+        require(command.size() <= longestCommand && !command.contains('\0'));
     }
 
     const QByteArray text = input.left(input.indexOf('\0'));
-    const QByteArray sent = text.leftJustified(
-        (text.size() / CommandReceiver::messageBytes + 1) * CommandReceiver::messageBytes, '\0');
+    const QByteArray sent = text.leftJustified((text.size() / commandMessageBytes + 1) * commandMessageBytes,
+                                               '\0');
     QByteArray arrived;
-    for (int at = 0; at < sent.size(); at += CommandReceiver::messageBytes) {
+    for (int at = 0; at < sent.size(); at += commandMessageBytes) {
         require(arrived.isNull());
         arrived = receiver.take(1, at == 0, sent.constData() + at);
     }

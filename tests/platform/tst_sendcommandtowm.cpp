@@ -1,11 +1,25 @@
+#include "platform/commandprotocol.h"
 #include "platform/commandreceiver.h"
 #include "platform/sendcommandtowm.h"
+#include "tests/support/literals.h"
 #include "tests/support/wmlistener.h"
 
 #include <QX11Info>
 #include <QtTest>
 
 #include <X11/Xlib.h>
+
+namespace {
+
+/// Whether some client waits for messages to the root window.
+bool hasListener()
+{
+    XWindowAttributes attributes = {};
+    XGetWindowAttributes(QX11Info::display(), QX11Info::appRootWindow(), &attributes);
+    return attributes.all_event_masks & SubstructureNotifyMask;
+}
+
+} // namespace
 
 class TestSendCommandToWm : public QObject
 {
@@ -69,9 +83,34 @@ private slots:
         QCOMPARE(receiver.take(1, false, end.constData()), full + "end");
         QVERIFY2(receiver.take(1, false, end.constData()).isNull(),
                  "a following message without a first one");
-        for (int bytes = 0; bytes <= CommandReceiver::longestCommand; bytes += 20)
+        for (int bytes = 0; bytes <= longestCommand; bytes += 20)
             QVERIFY(receiver.take(3, bytes == 0, full.constData()).isNull());
         QVERIFY2(receiver.take(3, false, end.constData()).isNull(), "too long a command is dropped");
+    }
+
+    void theOldestOfManyUnfinishedCommandsGoes()
+    {
+        const QByteArray full(20, 'a');
+        const QByteArray end = QByteArray("end").leftJustified(20, '\0');
+        CommandReceiver receiver;
+        for (std::uint64_t sender = 0; sender < 65; ++sender)
+            QVERIFY(receiver.take(sender, true, full.constData()).isNull());
+        QVERIFY(receiver.take(0, false, end.constData()).isNull());
+        QCOMPARE(receiver.take(1, false, end.constData()), full + "end");
+        QCOMPARE(receiver.take(64, false, end.constData()), full + "end");
+    }
+
+    void theListenerPrintsWhatDrivesNoTerminal()
+    {
+        QProcess listener;
+        listener.start(QStringLiteral(QAZ_BINARY_DIR "/bin/qaz-wm-listen"),
+                       {"--count"_s, "1"_s, "--timeout"_s, "60000"_s});
+        QTRY_VERIFY(hasListener());
+        SendCommandToWM(QX11Info::display(), "a\x1b]0;x\a\tb\n\x7f\xc2\x9b\x9b"
+                                             "c \xc3\xb6\xe2\x82\x9b\n");
+        QVERIFY(listener.waitForFinished());
+        QCOMPARE(listener.readAllStandardOutput(),
+                 "a\\x1B]0;x\\x07\\x09b\n\\x7F\\xC2\\x9B\\x9Bc \xc3\xb6\xe2\x82\x9b\n");
     }
 };
 

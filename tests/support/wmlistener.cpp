@@ -8,7 +8,7 @@
 
 WmListener::WmListener()
     : m_display(XOpenDisplay(nullptr))
-    , m_receiver(std::make_unique<CommandReceiver>())
+    , m_receiver(std::make_unique<CommandReceiver>(m_display))
 {
     if (!m_display)
         qFatal("The test needs an X server");
@@ -40,15 +40,10 @@ QStringList WmListener::take()
 
 void WmListener::readEvents()
 {
-    const Atom begin = XInternAtom(m_display, "_QAZWM_COMMAND_BEGIN", False);
-    const Atom next = XInternAtom(m_display, "_QAZWM_COMMAND", False);
     while (XPending(m_display) > 0) {
         XEvent event;
         XNextEvent(m_display, &event);
-        const XClientMessageEvent &message = event.xclient;
-        if (event.type != ClientMessage || (message.message_type != begin && message.message_type != next))
-            continue;
-        QByteArray command = m_receiver->take(message.window, message.message_type == begin, message.data.b);
+        QByteArray command = m_receiver->take(event);
         if (command.isNull())
             continue;
         if (command.endsWith('\n'))
