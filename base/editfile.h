@@ -11,9 +11,9 @@
 using FileEdit = std::function<std::optional<QByteArray>(const QByteArray &content)>;
 
 struct EditFileOptions {
-    qint64 limit = 16 * 1024 * 1024; ///< bytes; a larger file is refused
-    unsigned newFileMode = 0666;     ///< less the umask
-    bool removeWhenEmpty = false;    ///< a file of which nothing is left goes
+    qint64 limit = 1 << 30;       ///< bytes; a larger file is refused
+    unsigned newFileMode = 0666;  ///< less the umask
+    bool removeWhenEmpty = false; ///< a file of which nothing is left goes
     /// Called before an existing file is replaced or removed.
     std::function<void(const QString &path)> beforeReplace;
 };

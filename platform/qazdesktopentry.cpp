@@ -1,14 +1,15 @@
 #include "platform/qazdesktopentry.h"
 
 #include "base/atomicfile.h"
-#include "base/desktopentrytext.h"
 #include "base/diagnostics.h"
+#include "base/editfile.h"
+#include "freedesktop/desktopentry.h"
 
 #include <QFile>
 
 QazDesktopEntry::QazDesktopEntry(const char *path)
     : m_path(path)
-    , m_text(std::make_unique<DesktopEntryText>())
+    , m_text(std::make_unique<KeyFileText>())
 {}
 
 QazDesktopEntry::~QazDesktopEntry() = default;
@@ -16,16 +17,16 @@ QazDesktopEntry::~QazDesktopEntry() = default;
 bool QazDesktopEntry::load()
 {
     const FileContent file = readRegularFile(QFile::decodeName(m_path));
-    *m_text = DesktopEntryText(file.content);
+    *m_text = desktopEntryText(file.content);
     return file.state == FileState::Regular;
 }
 
 const char *QazDesktopEntry::getUnknownValue(const char *key)
 {
-    const std::optional<QByteArray> value = m_text->value(key);
-    if (!value)
+    const std::optional<QByteArray> value = m_text->value(desktopEntryGroup, key);
+    if (!value && !m_changes.contains(key))
         return nullptr;
-    m_lastValue = *value;
+    m_lastValue = m_changes.value(key, value.value_or(QByteArray()));
     return m_lastValue.constData();
 }
 
@@ -39,27 +40,18 @@ void QazDesktopEntry::setUnknowns(const List<char> &keys, const List<char> &valu
             continue;
         }
         m_changes.insert(keys.at(i), value);
-        m_text->setValue(keys.at(i), value);
     }
 }
 
 bool QazDesktopEntry::save(int /*flags*/)
 {
     const QString path = QFile::decodeName(m_path);
-    const DirectoryLock lock(path);
-    // Another program may have edited other keys since load().
-    const FileContent file = readRegularFile(path);
-    DesktopEntryText text(file.content);
-    for (auto change = m_changes.cbegin(); change != m_changes.cend(); ++change)
-        text.setValue(change.key(), change.value());
-
-    QString error = file.error;
-    const bool saved = file.state != FileState::Unreadable
-                       && (text.content() == file.content || replaceFile(path, text.content(), &error));
-    if (!saved)
+    const auto setValues = [this](const QByteArray &content) {
+        return desktopEntryText(content).withValues(desktopEntryGroup, m_changes);
+    };
+    QString error;
+    const bool isSaved = editFile(path, setValues, &error);
+    if (!isSaved)
         printDiagnostic(QStringLiteral("Can't write %1: %2").arg(path, error));
-    else
-        m_changes.clear();
-    *m_text = text;
-    return saved;
+    return isSaved;
 }

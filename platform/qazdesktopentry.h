@@ -7,7 +7,7 @@
 
 #include <memory>
 
-class DesktopEntryText;
+class KeyFileText;
 
 /// A desktop-entry file (`.directory`, `.desktop`) and the keys of its "Desktop Entry" group.
 class QazDesktopEntry
@@ -36,7 +36,7 @@ public:
 
 private:
     QByteArray m_path;
-    std::unique_ptr<DesktopEntryText> m_text;
+    std::unique_ptr<KeyFileText> m_text;
     QByteArray m_lastValue;
     QMap<QByteArray, QByteArray> m_changes;
 };

@@ -1,8 +1,8 @@
 #include "settings/desktopwallpapers.h"
 
-#include "base/atomicfile.h"
-#include "base/desktopentrytext.h"
 #include "base/diagnostics.h"
+#include "base/editfile.h"
+#include "freedesktop/desktopentry.h"
 #include "platform/qazdesktopentry.h"
 #include "settings/backup.h"
 #include "settings/directories.h"
@@ -20,7 +20,6 @@ namespace {
 
 constexpr int bufferSize = 4096;
 constexpr char wallpaperKey[] = "X-QAZ-WallPaper";
-constexpr char section[] = "Desktop Entry";
 const QLatin1String entryFileName("/.directory");
 
 QByteArray currentDesktopFile()
@@ -34,22 +33,20 @@ bool holdsWallpaper(const QByteArray &content)
     CSimpleIniCaseA ini(true, false, false);
     ini.SetSpaces(true);
     return ini.LoadData(content.constData(), std::size_t(content.size())) >= 0
-           && ini.Delete(section, wallpaperKey, false);
+           && ini.Delete(desktopEntryGroup, wallpaperKey, false);
 }
 
 void removeWallpaperFrom(const QString &path)
 {
-    const DirectoryLock lock(path);
-    const FileContent file = readRegularFile(path);
-    if (file.state != FileState::Regular || !holdsWallpaper(file.content))
-        return;
     // SimpleIni's own writer would drop blank lines and reorder comments, so only the key's lines are cut out.
-    DesktopEntryText text(file.content);
-    if (!text.removeKey(wallpaperKey))
-        return;
-    backUp(path);
+    const auto removeKey = [](const QByteArray &content) {
+        return holdsWallpaper(content) ? desktopEntryText(content).withoutKey(desktopEntryGroup, wallpaperKey)
+                                       : content;
+    };
+    EditFileOptions options;
+    options.beforeReplace = [](const QString &file) { backUp(file); };
     QString error;
-    if (!replaceFile(path, text.content(), &error))
+    if (QFile::exists(path) && !editFile(path, removeKey, &error, options))
         printDiagnostic(QStringLiteral("Can't write %1: %2").arg(path, error));
 }
 

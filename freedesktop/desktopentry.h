@@ -1,0 +1,9 @@
+#pragma once
+
+#include "base/keyfiletext.h"
+
+/// The group of a desktop-entry file (`.directory`, `.desktop`) that says what it is.
+inline constexpr char desktopEntryGroup[] = "Desktop Entry";
+
+/// The text of a desktop-entry file, less a signature of UTF-8, which not all of its readers take.
+KeyFileText desktopEntryText(const QByteArray &content);
