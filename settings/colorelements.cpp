@@ -4,20 +4,6 @@
 #include "settings/colortexts.h"
 #include "settings/updatevalues.h"
 
-#include <algorithm>
-#include <cstring>
-
-std::vector<const ColorElement *> colorElementsByKey()
-{
-    std::vector<const ColorElement *> elements;
-    for (const ColorElement &element : colorElements)
-        elements.push_back(&element);
-    std::sort(elements.begin(), elements.end(), [](const ColorElement *left, const ColorElement *right) {
-        return std::strcmp(left->key, right->key) < 0;
-    });
-    return elements;
-}
-
 bool isGradient(const ColorElement &element)
 {
     return element.secondDefault != nullptr;

@@ -1147,6 +1147,10 @@ zum Beispiel ogg/oga in wav mit dem Programm oggdec.</translation>
         <source>New cursor theme will be applied to newly started apps</source>
         <translation>Das neue Mauszeigerdesign gilt für neu gestartete Programme</translation>
     </message>
+    <message>
+        <source>Default</source>
+        <translation>Standard</translation>
+    </message>
 </context>
 <context>
     <name>WallpaperForm</name>

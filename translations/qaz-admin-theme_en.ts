@@ -1147,6 +1147,10 @@ for example ogg/oga to wav by oggdev utility.</translation>
         <source>New cursor theme will be applied to newly started apps</source>
         <translation>New cursor theme will be applied to newly started apps</translation>
     </message>
+    <message>
+        <source>Default</source>
+        <translation>Default</translation>
+    </message>
 </context>
 <context>
     <name>WallpaperForm</name>

@@ -1147,6 +1147,10 @@ por ejemplo de ogg/oga a wav con la herramienta oggdec.</translation>
         <source>New cursor theme will be applied to newly started apps</source>
         <translation>El nuevo tema de cursores se aplicará a las aplicaciones que se inicien a partir de ahora</translation>
     </message>
+    <message>
+        <source>Default</source>
+        <translation>Predeterminado</translation>
+    </message>
 </context>
 <context>
     <name>WallpaperForm</name>

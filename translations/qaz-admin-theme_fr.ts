@@ -1147,6 +1147,10 @@ par exemple d’ogg/oga en wav avec l’outil oggdec.</translation>
         <source>New cursor theme will be applied to newly started apps</source>
         <translation>Le nouveau thème de curseurs s’appliquera aux applications lancées par la suite</translation>
     </message>
+    <message>
+        <source>Default</source>
+        <translation>Par défaut</translation>
+    </message>
 </context>
 <context>
     <name>WallpaperForm</name>

@@ -48,7 +48,7 @@ void copyImage(QImage &canvas, const QPoint &target, const QImage &image)
 void tile(QImage &canvas, const QRect &area, const QImage &image)
 {
     const QRect visible = area.intersected(canvas.rect());
-    if (visible.isEmpty() || image.isNull())
+    if (area.isEmpty() || visible.isEmpty() || image.isNull()) // Qt turns a negative width over
         return;
     const QImage source = converted(image, image.rect().intersected(canvas.rect()));
     for (int y = visible.top(); y <= visible.bottom(); ++y) {

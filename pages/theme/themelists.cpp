@@ -1,13 +1,16 @@
 #include "pages/theme/themelists.h"
 
 #include "base/diagnostics.h"
-#include "pages/theme/previewicon.h"
+#include "pages/theme/previews.h"
 #include "pages/theme/themeimages.h"
 #include "platform/qazicontheme.h"
 
 #include <QFile>
+#include <QIconEngine>
+#include <QPixmap>
 
 #include <algorithm>
+#include <functional>
 
 namespace {
 
@@ -15,6 +18,43 @@ constexpr unsigned pointerShape = 68;
 constexpr unsigned watchShape = 150;
 constexpr unsigned textShape = 152;
 constexpr int themeIconSize = 32;
+
+/// An icon of \a size whose picture \a draw makes when it is shown for the first time.
+class LazyIconEngine : public QIconEngine
+{
+public:
+    LazyIconEngine(const QSize &size, const std::function<QImage()> &draw)
+        : m_size(size)
+        , m_draw(draw)
+    {}
+
+    void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State state) override
+    {
+        icon().paint(painter, rect, Qt::AlignCenter, mode, state);
+    }
+    QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state) override
+    {
+        return icon().pixmap(size, mode, state);
+    }
+    QSize actualSize(const QSize &size, QIcon::Mode /*mode*/, QIcon::State /*state*/) override
+    {
+        const bool fits = size.width() >= m_size.width() && size.height() >= m_size.height();
+        return fits ? m_size : m_size.scaled(size, Qt::KeepAspectRatio);
+    }
+    QIconEngine *clone() const override { return new LazyIconEngine(*this); }
+
+private:
+    const QIcon &icon()
+    {
+        if (m_icon.isNull())
+            m_icon = QIcon(QPixmap::fromImage(m_draw()));
+        return m_icon;
+    }
+
+    QSize m_size;
+    std::function<QImage()> m_draw;
+    QIcon m_icon;
+};
 
 QStringList sortedNames(const List<char> &list)
 {
@@ -40,6 +80,11 @@ QImage placesPreview(const QSize &size, const QStringList &paths)
                               loadIconImage(paths.at(2), themeIconSize));
 }
 
+QIcon iconOf(const QImage &preview)
+{
+    return QIcon(QPixmap::fromImage(preview));
+}
+
 } // namespace
 
 QVector<ThemeEntry> cursorThemeEntries(const QSize &size)
@@ -52,7 +97,7 @@ QVector<ThemeEntry> cursorThemeEntries(const QSize &size)
         const QImage watch = loadCursorImage(watchShape, name);
         const QImage text = loadCursorImage(textShape, name);
         if (!pointer.isNull() && !watch.isNull() && !text.isNull())
-            entries.append({name, previewIcon(threeImagesPreview(size, pointer, watch, text))});
+            entries.append({name, iconOf(threeImagesPreview(size, pointer, watch, text))});
     }
     return entries;
 }
@@ -72,7 +117,8 @@ QVector<ThemeEntry> iconThemeEntries(const QSize &size)
             places.append(iconPath(theme, place, "Places"));
         if (!iconPath(theme, "preferences-system-time", "Applications").isEmpty())
             // Decoding the icons is most of the work; only the themes that come into view need it.
-            entries.append({name, previewIcon(size, [size, places] { return placesPreview(size, places); })});
+            entries.append({name, QIcon(new LazyIconEngine(
+                                      size, [size, places] { return placesPreview(size, places); }))});
         else
             printDiagnostic(
                 QStringLiteral("theme %1 is not full (no preferences-system-time in apps)").arg(name));
@@ -88,7 +134,7 @@ QVector<ThemeEntry> decorThemeEntries(const QSize &size)
     std::sort(names.begin(), names.end());
     for (const QString &name : qAsConst(names)) {
         if (const std::optional<DecorImages> images = loadDecorImages(name))
-            entries.append({name, previewIcon(decorPreview(size, *images))});
+            entries.append({name, iconOf(decorPreview(size, *images))});
     }
     return entries;
 }

@@ -1,12 +1,12 @@
 #include "pages/theme/themepage.h"
 
+#include "pages/common/colordrop.h"
 #include "pages/common/messagebox.h"
 #include "pages/common/waitcursor.h"
-#include "pages/theme/buttonicons.h"
-#include "pages/theme/previewicon.h"
 #include "pages/theme/previews.h"
-#include "pages/theme/sizeelements.h"
+#include "pages/theme/swatches.h"
 #include "pages/theme/themelists.h"
+#include "pages/theme/themesettings.h"
 #include "pages/theme/xserver.h"
 #include "platform/qazinit.h"
 #include "platform/qazsettings.h"
@@ -24,17 +24,13 @@ namespace {
 // Beside the entry's data: the stored texts themselves, which may contain the data's separator.
 constexpr int storedRole = Qt::UserRole + 1;
 
-constexpr QComboBox *Ui::ThemeForm::*combos[] = {
-    &Ui::ThemeForm::cursorThemeCombo, &Ui::ThemeForm::iconThemeCombo, &Ui::ThemeForm::decorThemeCombo,
-    &Ui::ThemeForm::elementComboBox, &Ui::ThemeForm::sizeComboBox};
-constexpr QComboBox *Ui::ThemeForm::*themeCombos[] = {
+constexpr PreviewComboBox *Ui::ThemeForm::*themeCombos[] = {
     &Ui::ThemeForm::cursorThemeCombo, &Ui::ThemeForm::iconThemeCombo, &Ui::ThemeForm::decorThemeCombo};
 
 constexpr char iconThemeKey[] = "IconTheme";
 constexpr char iconThemeSaveDefault[] = "qaz-tirsk"; // on load the default is empty, on purpose
 constexpr char decorThemeKey[] = "DecorTheme";
 constexpr int noDecorThemeIndex = 0;
-constexpr char nobodysName[] = "/"; // tells a key that is missing from an empty text; no theme has this name
 
 constexpr int comboIconHeight = 32; // at 96 dpi
 
@@ -56,6 +52,11 @@ void addThemes(QComboBox *combo, const QVector<ThemeEntry> &entries, const QStri
     combo->setEnabled(combo->count() > 0);
 }
 
+QString sizeText(const QString &value, const QString &name)
+{
+    return value + QLatin1String(",   ") + name;
+}
+
 QColor colorAt(const QStringList &colors, int index)
 {
     return QColor(colors.value(index));
@@ -72,7 +73,14 @@ ThemePage::ThemePage(QWidget *parent)
     QSizePolicy policy = m_ui->color2Button->sizePolicy();
     policy.setRetainSizeWhenHidden(true);
     m_ui->color2Button->setSizePolicy(policy);
-    m_ui->sizeButton->setIcon(ellipsisPixmap(palette().color(QPalette::ButtonText), int(qazDpiScaled(16))));
+    m_ui->sizeButton->setIcon(
+        ellipsisPixmap(palette().color(QPalette::ButtonText), int(qazDpiScaled(16)), devicePixelRatioF()));
+    m_ui->elementComboBox->outlineIcons();
+    const auto setMain = [this](const QColor &color) { setColor(0, color); };
+    connect(new ColorDrop(m_ui->elementComboBox), &ColorDrop::dropped, this, setMain);
+    connect(new ColorDrop(m_ui->color1Button), &ColorDrop::dropped, this, setMain);
+    connect(new ColorDrop(m_ui->color2Button), &ColorDrop::dropped, this,
+            [this](const QColor &color) { setColor(1, color); });
 }
 
 ThemePage::~ThemePage() = default;
@@ -94,20 +102,24 @@ bool ThemePage::loadValues(QazSettings *settings)
 void ThemePage::clearForm()
 {
     const int height = int(qazDpiScaled(comboIconHeight));
-    for (QComboBox *Ui::ThemeForm::*member : combos) {
-        QComboBox *combo = m_ui.get()->*member;
+    for (QComboBox *combo : findChildren<QComboBox *>()) {
         combo->clear();
         combo->setIconSize(QSize(combo->iconSize().width(), height));
     }
+    for (PreviewComboBox *Ui::ThemeForm::*member : themeCombos)
+        (m_ui.get()->*member)->setPlaceholderText(tr("Default"));
 }
 
 void ThemePage::loadCursorThemes()
 {
     QComboBox *combo = m_ui->cursorThemeCombo;
+    const QString current = currentCursorTheme();
+    if (current != QLatin1String("default"))
+        combo->setPlaceholderText(current); // seen only when the theme is not in the list
     QVector<ThemeEntry> entries;
     if (serverHasExtension("RENDER")) // the previews need it, and so do coloured cursors
         entries = cursorThemeEntries(combo->iconSize());
-    addThemes(combo, entries, currentCursorTheme());
+    addThemes(combo, entries, current);
 }
 
 void ThemePage::loadIconThemes(const QazSettings *settings)
@@ -119,8 +131,8 @@ void ThemePage::loadIconThemes(const QazSettings *settings)
 void ThemePage::loadDecorThemes(const QazSettings *settings)
 {
     QComboBox *combo = m_ui->decorThemeCombo;
-    const QString configured = storedText(settings, decorThemeKey, QLatin1String(nobodysName));
-    combo->addItem(previewIcon(solidSwatch(combo->iconSize(), QColor())), tr("No theme"));
+    const QString configured = storedText(settings, decorThemeKey, QString());
+    combo->addItem(QIcon(QPixmap::fromImage(solidSwatch(combo->iconSize(), QColor()))), tr("No theme"));
     addThemes(combo, decorThemeEntries(combo->iconSize()), configured);
     if (configured.isEmpty())
         combo->setCurrentIndex(noDecorThemeIndex);
@@ -129,12 +141,12 @@ void ThemePage::loadDecorThemes(const QazSettings *settings)
 void ThemePage::loadColors(const QazSettings *settings)
 {
     QComboBox *combo = m_ui->elementComboBox;
-    for (const ColorElement *element : colorElementsByKey()) {
-        const QStringList colors = storedColors(*element, *settings);
-        combo->addItem(tr(element->name), colorItemData(QLatin1String(element->key), colors));
+    for (const ColorElement &element : colorElements) {
+        const QStringList colors = storedColors(element, *settings);
+        const QImage swatch = colorSwatch(combo->iconSize(), colorAt(colors, 0), colorAt(colors, 1));
+        combo->addItem(QPixmap::fromImage(swatch), tr(element.name),
+                       colorItemData(QLatin1String(element.key), colors));
         combo->setItemData(combo->count() - 1, colors, storedRole);
-        combo->setItemIcon(combo->count() - 1, previewIcon(colorSwatch(combo->iconSize(), colorAt(colors, 0),
-                                                                       colorAt(colors, 1))));
     }
     combo->setCurrentIndex(0);
     colorElementSelected(0);
@@ -150,7 +162,7 @@ void ThemePage::loadSizes(const QazSettings *settings)
     const double dpi = screenDpi();
     for (const SizeElement &element : sizeElements) {
         const QString value = storedText(settings, element.key, defaultSize(element, dpi));
-        combo->addItem(sizeItemText(value, tr(element.name)), QLatin1String(element.key));
+        combo->addItem(sizeText(value, tr(element.name)), QLatin1String(element.key));
         combo->setItemData(combo->count() - 1, value, storedRole);
     }
     connect(m_ui->sizeButton, &QPushButton::clicked, this, &ThemePage::selectSize, Qt::UniqueConnection);
@@ -159,7 +171,7 @@ void ThemePage::loadSizes(const QazSettings *settings)
 void ThemePage::connectChanges()
 {
     // Choosing an element or a size only looks at it; the dialogs behind the buttons tell of their edits themselves.
-    for (QComboBox *Ui::ThemeForm::*member : themeCombos)
+    for (PreviewComboBox *Ui::ThemeForm::*member : themeCombos)
         connect(m_ui.get()->*member, qOverload<int>(&QComboBox::activated), this, &ThemePage::changedSignal,
                 Qt::UniqueConnection);
 }
@@ -183,10 +195,9 @@ void ThemePage::showColor(QPushButton *button, const QColor &color)
     palette.setColor(QPalette::Window, shown);
     button->setPalette(palette);
     const int height = m_ui->sizeComboBox->iconSize().height() / 2;
-    const QPixmap swatch = colorButtonPixmap(shown, palette.color(QPalette::Active, QPalette::ButtonText),
-                                             height);
-    button->setIcon(swatch);
-    button->setIconSize(swatch.size());
+    const QColor frame = palette.color(QPalette::Active, QPalette::ButtonText);
+    button->setIcon(colorButtonPixmap(shown, frame, height, devicePixelRatioF()));
+    button->setIconSize(QSize(3 * height, height));
 }
 
 void ThemePage::selectColor1()
@@ -201,29 +212,27 @@ void ThemePage::selectColor2()
 
 void ThemePage::selectColor(int which)
 {
-    const int index = m_ui->elementComboBox->currentIndex();
-    QStringList colors = m_ui->elementComboBox->itemData(index, storedRole).toStringList();
-    if (which >= colors.size())
-        return;
-    const QColor color = QColorDialog::getColor(colorAt(colors, which), this, QString());
-    if (!color.isValid() || color.name() == colors.at(which))
-        return;
-    colors[which] = color.name();
-    setColors(index, colors);
-    emit changedSignal();
+    const QStringList colors = m_ui->elementComboBox->currentData(storedRole).toStringList();
+    if (which < colors.size())
+        setColor(which, QColorDialog::getColor(colorAt(colors, which), this, QString()));
 }
 
-void ThemePage::setColors(int index, const QStringList &colors)
+void ThemePage::setColor(int which, const QColor &color)
 {
     QComboBox *combo = m_ui->elementComboBox;
-    const QString key = combo->itemData(index).toString().section(QLatin1Char(','), 0, 0);
-    combo->setItemData(index, colorItemData(key, colors));
+    const int index = combo->currentIndex();
+    QStringList colors = combo->currentData(storedRole).toStringList();
+    if (!color.isValid() || which >= colors.size() || color.name() == colors.at(which))
+        return;
+    colors[which] = color.name();
+    combo->setItemData(index, colorItemData(QLatin1String(colorElements[index].key), colors));
     combo->setItemData(index, colors, storedRole);
     colorElementSelected(index);
     const QColor first = colorAt(colors, 0);
     const QColor second = colorAt(colors, 1);
     const QColor left = first.isValid() ? first : QColor(Qt::white);
-    combo->setItemIcon(index, previewIcon(fillGradient(left, second.isValid() ? second : left).toImage()));
+    combo->setItemIcon(index, fillGradient(left, second.isValid() ? second : left));
+    emit changedSignal();
 }
 
 QPixmap ThemePage::fillGradient(const QColor &col1, const QColor &col2)
@@ -238,8 +247,8 @@ void ThemePage::selectSize()
     if (index < 0)
         return;
     const SizeElement &element = sizeElements[index]; // the entries stand in the table's order
-    const int value = sizeItemValue(combo->currentText()).toInt();
-    const QString name = sizeItemName(combo->currentText());
+    const int value = combo->currentData(storedRole).toString().section(QLatin1Char(','), 0, 0).toInt();
+    const QString name = tr(element.name);
     const QStringList choices = sizeChoices(element);
     bool isAccepted = false;
     int chosen = value;
@@ -252,7 +261,7 @@ void ThemePage::selectSize()
                      .toInt();
     if (!isAccepted || chosen == value)
         return;
-    combo->setItemText(index, sizeItemText(QString::number(chosen), name));
+    combo->setItemText(index, sizeText(QString::number(chosen), name));
     combo->setItemData(index, QString::number(chosen), storedRole);
     emit changedSignal();
 }
@@ -266,10 +275,9 @@ bool ThemePage::saveValues(QazSettings *settings)
     if (const int index = m_ui->decorThemeCombo->currentIndex(); index >= 0)
         updateStringValue(settings, QLatin1String(decorThemeKey), QString(),
                           index == noDecorThemeIndex ? QString() : m_ui->decorThemeCombo->currentText());
-    const std::vector<const ColorElement *> elements = colorElementsByKey(); // the entries' order
     for (int index = 0; index < m_ui->elementComboBox->count(); ++index)
-        saveColors(*elements[std::size_t(index)],
-                   m_ui->elementComboBox->itemData(index, storedRole).toStringList(), settings);
+        saveColors(colorElements[index], m_ui->elementComboBox->itemData(index, storedRole).toStringList(),
+                   settings);
     saveSizes(settings);
     return true;
 }

@@ -56,8 +56,8 @@ private:
     void saveCursorTheme();
     void saveSizes(QazSettings *settings);
 
-    void setColors(int index, const QStringList &colors);
     void selectColor(int which);
+    void setColor(int which, const QColor &color);
     void showColor(QPushButton *button, const QColor &color);
 
     std::unique_ptr<Ui::ThemeForm> m_ui;

@@ -1,5 +1,3 @@
-#include "pages/theme/packedimage.h"
-#include "pages/theme/previewicon.h"
 #include "pages/theme/previews.h"
 
 #include <QTest>
@@ -61,7 +59,6 @@ private slots:
     void titleBarGeometry();
     void oddSizes();
     void swatches();
-    void iconsKeepTheirPixels();
 };
 
 void TestPreviews::threeImagesStandSideBySide()
@@ -122,26 +119,6 @@ void TestPreviews::swatches()
     QVERIFY(qAbs(gradient.pixelColor(55, 31).red() - 128) < 4);
     QCOMPARE(runs(colorSwatch(canvasSize, Qt::red, QColor()), 31), QByteArray("110r"));
     QCOMPARE(runs(colorSwatch(canvasSize, QColor(), Qt::red), 16), QByteArray("110w"));
-}
-
-void TestPreviews::iconsKeepTheirPixels()
-{
-    QImage image = gradientSwatch(canvasSize, QColor(1, 2, 3, 4), Qt::red);
-    QCOMPARE(unpackImage(packImage(image), canvasSize), image);
-    QVERIFY(unpackImage(packImage(image), QSize(110, 33)).isNull());
-    QVERIFY(unpackImage("garbage", canvasSize).isNull());
-    QCOMPARE(previewIcon(image).actualSize(QSize(55, 32)), QSize(55, 16));
-    int drawn = 0;
-    const QIcon icon = previewIcon(canvasSize, [&] {
-        ++drawn;
-        return image;
-    });
-    const QVariant copy = icon; // as an item of a list holds it
-    QCOMPARE(icon.actualSize(QSize(200, 200)), canvasSize);
-    QCOMPARE(drawn, 0);
-    QCOMPARE(copy.value<QIcon>().pixmap(canvasSize).toImage().convertToFormat(image.format()), image);
-    QCOMPARE(icon.pixmap(canvasSize).size(), canvasSize);
-    QCOMPARE(drawn, 1);
 }
 
 QTEST_MAIN(TestPreviews)

@@ -2,9 +2,13 @@
 
 #include "platform/qazsettings.h"
 
+#include <QClipboard>
 #include <QColorDialog>
 #include <QComboBox>
+#include <QDropEvent>
+#include <QGuiApplication>
 #include <QInputDialog>
+#include <QMimeData>
 #include <QPushButton>
 #include <QScopeGuard>
 #include <QSignalSpy>
@@ -20,6 +24,42 @@
 namespace {
 
 const QString themeFile = QStringLiteral("test.themerc");
+
+// What is shown, the key, and the defaults: of the colour and of a gradient's end.
+constexpr char elementEntries[] = "Button active ButtonActiveColor,#c0c0c0\n"
+                                  "Button ButtonColor,#c0c0c0\n"
+                                  "Button string active ButtonStringActiveColor,black\n"
+                                  "Button string ButtonStringColor,black\n"
+                                  "Clock string ClockStringColor,black\n"
+                                  "Desktop active DesktopActiveColor,#000080\n"
+                                  "Desktop DesktopColor,#3a6ea5,#3a6ea5\n"
+                                  "Dialog DialogColor,#c0c0c0\n"
+                                  "Dialog string DialogStringColor,black\n"
+                                  "Frame active FrameActiveColor,#c0c0c0\n"
+                                  "Frame FrameColor,#c0c0c0\n"
+                                  "Icon background IconBackColor,#c0c0c0\n"
+                                  "Icon foreground IconForeColor,#000080\n"
+                                  "Icon string active IconStringActiveColor,white\n"
+                                  "Icon string IconStringColor,white\n"
+                                  "Menu active MenuActiveColor,#000080\n"
+                                  "Menu MenuColor,#a4a3be,#fbfcfd\n"
+                                  "Menu string active MenuStringActiveColor,white\n"
+                                  "Menu string MenuStringColor,black\n"
+                                  "Pager miniatire active MiniatureActiveColor,red\n"
+                                  "Pager miniature MiniatureColor,black\n"
+                                  "Pager active PagerActiveColor,#606060\n"
+                                  "Pager PagerColor,#a4a3be,#fbfcfd\n"
+                                  "Start menu logo StartMenuLogoColor,#501414\n"
+                                  "Switcher active SwitcherActiveColor,#000080\n"
+                                  "Switcher SwitcherColor,#c0c0c0\n"
+                                  "Switcher string SwitcherStringColor,black\n"
+                                  "Taskbar TaskbarColor,#c0c0c0\n"
+                                  "Title string active TitleStringActiveColor,white\n"
+                                  "Title string TitleStringColor,white\n"
+                                  "Titlebar active TitlebarActiveColor,#000080,#a6caf0\n"
+                                  "Titlebar TitlebarColor,#606060,#c0c0c0\n"
+                                  "Tooltip TooltipColor,#ffffe1\n"
+                                  "Tooltip string TooltipStringColor,black";
 
 } // namespace
 
@@ -101,11 +141,15 @@ class TestThemePage : public QObject
 private slots:
     void listsWholeThemesWithPreviews();
     void showsColorsAndSizes();
+    void elementsInTheOrderOfTheirKeys();
+    void unselectedBoxesShowAPlaceholder();
     void untouchedPage_data();
     void untouchedPage();
     void savesChosenThemes();
     void cursorThemeIsSetOnce();
     void editsColors();
+    void colorsAreDroppedAndPasted();
+    void everyColorIsSavedUnderItsKeys();
     void editsSizes_data();
     void editsSizes();
 };
@@ -167,6 +211,49 @@ void TestThemePage::showsColorsAndSizes()
     QCOMPARE(test.combo("sizeComboBox")->itemData(1).toString(), QStringLiteral("TaskbarHeight"));
 }
 
+void TestThemePage::elementsInTheOrderOfTheirKeys()
+{
+    LoadedPage test;
+    QComboBox *elements = test.combo("elementComboBox");
+    QStringList entries;
+    for (int i = 0; i < elements->count(); ++i)
+        entries.append(elements->itemText(i) + QLatin1Char(' ') + elements->itemData(i).toString());
+    QCOMPARE(entries.join(QLatin1Char('\n')), QString::fromLatin1(elementEntries));
+    // Typing a name finds it.
+    QTest::keyClicks(elements, QStringLiteral("tas"));
+    QCOMPARE(elements->currentText(), QStringLiteral("Taskbar"));
+    QCOMPARE(test.changed.count(), 0);
+    // The icon is the bare swatch; the frame around it is the box's.
+    QCOMPARE(test.pixel("elementComboBox", elements->currentIndex(), 0, 0), QColor(0xc0, 0xc0, 0xc0));
+    const QImage box = elements->grab().toImage();
+    int darkest = 255;
+    for (int x = 3; x < 12; ++x)
+        darkest = qMin(darkest, box.pixelColor(x, box.height() / 2).lightness());
+    QVERIFY2(darkest < 140, qPrintable(QString::number(darkest)));
+}
+
+void TestThemePage::unselectedBoxesShowAPlaceholder()
+{
+    LoadedPage test("IconTheme=gone\n");
+    const int plainHeight = test.combo("sizeComboBox")->height();
+    for (const char *name : {"cursorThemeCombo", "iconThemeCombo"}) {
+        QComboBox *box = test.combo(name);
+        QCOMPARE(box->placeholderText(), QStringLiteral("Default"));
+        QCOMPARE(box->currentText(), QString());
+        QCOMPARE(box->height(), plainHeight);
+        const QImage shown = box->grab().toImage();
+        box->setPlaceholderText(QString());
+        QVERIFY2(shown != box->grab().toImage(), name);
+        test.choose(name, 0);
+        QTRY_VERIFY2(box->height() > plainHeight, name);
+    }
+    // A theme in use that is not listed is told by its name, as it stands.
+    test.home.write(QStringLiteral(".icons/default/index.theme"), "[Icon Theme]\nInherits=<b>x\n");
+    test.load();
+    QCOMPARE(test.combo("cursorThemeCombo")->placeholderText(), QStringLiteral("<b>x"));
+    QCOMPARE(test.combo("cursorThemeCombo")->currentIndex(), -1);
+}
+
 void TestThemePage::untouchedPage_data()
 {
     QTest::addColumn<QByteArray>("stored");
@@ -175,14 +262,14 @@ void TestThemePage::untouchedPage_data()
     const auto row = [](const char *name, const char *stored, const char *selected, const char *saved) {
         QTest::newRow(name) << QByteArray(stored) << QByteArray(selected) << QByteArray(saved);
     };
-    row("nothing stored", "", "-1 -1 -1", "");
+    row("nothing stored", "", "-1 -1 0", "");
     row("no decoration theme wanted", "DecorTheme=\n", "-1 -1 0", "");
     row("listed themes", "IconTheme=square\nDecorTheme=glass\n", "-1 1 3", "");
     row("a theme named like none", "DecorTheme=No theme\n", "-1 -1 1", "");
     row("themes that are gone", "IconTheme=gone\nDecorTheme=gone, too\n", "-1 -1 -1", "");
-    row("odd colors", "MenuColor=rgb(1,2,3)\nMenuColor2=\nFrameColor=nonsense\n", "-1 -1 -1", "");
-    row("odd sizes", "DesktopIconSize=4,8\nTaskbarHeight=tall\n", "-1 -1 -1", "");
-    row("old colors", "MenuColor=qvblue\nTitlebarColor=Qt\nTitlebarColor2=qt\n", "-1 -1 -1",
+    row("odd colors", "MenuColor=rgb(1,2,3)\nMenuColor2=\nFrameColor=nonsense\n", "-1 -1 0", "");
+    row("odd sizes", "DesktopIconSize=4,8\nTaskbarHeight=tall\n", "-1 -1 0", "");
+    row("old colors", "MenuColor=qvblue\nTitlebarColor=Qt\nTitlebarColor2=qt\n", "-1 -1 0",
         "MenuColor #000080\nTitlebarColor #606060\nTitlebarColor2 #c0c0c0\n");
 }
 
@@ -256,6 +343,61 @@ void TestThemePage::editsColors()
     QCOMPARE(test.changed.count(), 1);
     QCOMPARE(test.save(), QByteArray("TitlebarColor2 #00ff00\n"));
     QCOMPARE(test.home.read(themeFile), QByteArray("TitlebarColor=rgb(1,2,3)\nTitlebarColor2=#00ff00\n"));
+}
+
+void TestThemePage::colorsAreDroppedAndPasted()
+{
+    LoadedPage test("MenuColor=#010203\nMenuColor2=#040506\n");
+    QComboBox *elements = test.combo("elementComboBox");
+    elements->setCurrentText(QStringLiteral("Menu"));
+    QMimeData color;
+    color.setColorData(QColor(1, 1, 1));
+    QMimeData text;
+    text.setText(QStringLiteral(" #Fe0000\n"));
+    QMimeData name;
+    name.setText(QStringLiteral("red"));
+    const std::tuple<QWidget *, const QMimeData *, const char *> drops[] = {
+        {test.button("color1Button"), &color, "MenuColor,#010101,#040506"},
+        {test.button("color2Button"), &text, "MenuColor,#010101,#fe0000"},
+        {test.button("color2Button"), &name, "MenuColor,#010101,#fe0000"},
+        {elements, &text, "MenuColor,#fe0000,#fe0000"}};
+    for (const auto &[target, data, entry] : drops) {
+        QDragEnterEvent enter({1, 1}, Qt::CopyAction, data, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(target, &enter);
+        QCOMPARE(enter.isAccepted(), data != &name);
+        QDropEvent drop({1, 1}, Qt::CopyAction, data, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(target, &drop);
+        QCOMPARE(elements->currentData().toString(), QLatin1String(entry));
+    }
+    QCOMPARE(test.pixel("elementComboBox", elements->currentIndex(), 50, 16), QColor(0xfe, 0, 0));
+    QGuiApplication::clipboard()->setText(QStringLiteral("#00ff7f"));
+    QTest::keyClick(test.button("color1Button"), Qt::Key_V, Qt::ControlModifier);
+    QCOMPARE(elements->currentData().toString(), QStringLiteral("MenuColor,#00ff7f,#fe0000"));
+    QCOMPARE(test.changed.count(), 4);
+    QCOMPARE(test.save(), QByteArray("MenuColor #00ff7f\nMenuColor2 #fe0000\n"));
+}
+
+void TestThemePage::everyColorIsSavedUnderItsKeys()
+{
+    LoadedPage test;
+    QComboBox *elements = test.combo("elementComboBox");
+    QByteArray expected;
+    for (int i = 0; i < elements->count(); ++i) {
+        elements->setCurrentIndex(i);
+        for (const char *end : {"1", "2"}) {
+            QPushButton *button = test.button((QByteArray("color") + end + "Button").constData());
+            if (!button->isVisible())
+                continue;
+            const QString color = QStringLiteral("#%1").arg(256 * i + *end, 6, 16, QLatin1Char('0'));
+            QGuiApplication::clipboard()->setText(color);
+            QTest::keyClick(button, Qt::Key_V, Qt::ControlModifier);
+            expected += elements->currentData().toString().section(QLatin1Char(','), 0, 0).toLatin1()
+                        + (*end == '2' ? "2" : "") + ' ' + color.toLatin1() + '\n';
+        }
+    }
+    QCOMPARE(test.save(), expected);
+    QCOMPARE(test.home.read(themeFile), expected.replace(' ', '='));
+    QCOMPARE(expected.count('\n'), 39);
 }
 
 void TestThemePage::editsSizes_data()

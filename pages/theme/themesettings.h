@@ -28,8 +28,3 @@ QString defaultSize(const SizeElement &element, double dpi);
 
 /// The sizes to choose from; empty when every size of the range can be chosen.
 QStringList sizeChoices(const SizeElement &element);
-
-/// The text of an entry that shows \a value, and its parts.
-QString sizeItemText(const QString &value, const QString &name);
-QString sizeItemValue(const QString &itemText);
-QString sizeItemName(const QString &itemText);

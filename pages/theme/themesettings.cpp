@@ -1,4 +1,4 @@
-#include "pages/theme/sizeelements.h"
+#include "pages/theme/themesettings.h"
 
 #include "platform/qazicontheme.h"
 
@@ -12,19 +12,4 @@ QString defaultSize(const SizeElement &element, double dpi)
 QStringList sizeChoices(const SizeElement &element)
 {
     return QString::fromLatin1(element.choices).split(QLatin1Char(','), Qt::SkipEmptyParts);
-}
-
-QString sizeItemText(const QString &value, const QString &name)
-{
-    return value + QLatin1String(",   ") + name;
-}
-
-QString sizeItemValue(const QString &itemText)
-{
-    return itemText.section(QLatin1Char(','), 0, 0).trimmed();
-}
-
-QString sizeItemName(const QString &itemText)
-{
-    return itemText.section(QLatin1Char(','), 1).trimmed();
 }
