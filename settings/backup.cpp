@@ -1,138 +1,36 @@
 #include "settings/backup.h"
 
-#include "base/atomicfile.h"
 #include "base/diagnostics.h"
-#include "settings/directories.h"
+#include "base/filelock.h"
+#include "base/xdgdirectories.h"
+#include "settings/backupmanifest.h"
+#include "settings/treecopy.h"
 
 #include <QDateTime>
 #include <QDir>
-#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
 
-#include <cerrno>
-#include <cstring>
-
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
+#include <filesystem>
 
 namespace {
 
 constexpr int copiesKept = 10;
 
-struct Entry {
-    QByteArray copy;     // file name in the backup directory
-    QByteArray original; // encoded path
-};
-
 QString backupDirectory()
 {
-    const QByteArray state = qgetenv("XDG_STATE_HOME");
-    const QString base = state.startsWith('/')
-                             ? QFile::decodeName(state)
-                             : directoryPath(DirectoryKind::Home) + QLatin1String("/.local/state");
-    return base + QLatin1String("/qaz/backup");
+    return xdgDirectory("XDG_STATE_HOME", "/.local/state") + QLatin1String("/qaz/backup");
 }
 
-/// Paths may hold tabs and newlines; a manifest line may not.
-QByteArray escapedPath(const QString &path)
+std::filesystem::path toPath(const QString &path)
 {
-    QByteArray text = QFile::encodeName(path);
-    return text.replace('\\', "\\\\").replace('\n', "\\n").replace('\t', "\\t");
-}
-
-QList<Entry> readManifest(const QString &manifest)
-{
-    QList<Entry> entries;
-    for (const QByteArray &line : readRegularFile(manifest).content.split('\n')) {
-        const int tab = line.indexOf('\t');
-        if (tab > 0)
-            entries.append({line.left(tab), line.mid(tab + 1)});
-    }
-    return entries;
-}
-
-QByteArray manifestText(const QList<Entry> &entries)
-{
-    QByteArray text;
-    for (const Entry &entry : entries)
-        text += entry.copy + '\t' + entry.original + '\n';
-    return text;
-}
-
-bool isLink(const QString &path)
-{
-    return QFileInfo(path).isSymLink();
+    return QFile::encodeName(path).toStdString();
 }
 
 void remove(const QString &path)
 {
-    if (!isLink(path) && QFileInfo(path).isDir())
-        QDir(path).removeRecursively();
-    else
-        QFile::remove(path);
-}
-
-void copyTimes(const QString &from, const QString &to)
-{
-    struct stat status = {};
-    if (::lstat(QFile::encodeName(from).constData(), &status) == 0) {
-        const timespec times[] = {status.st_atim, status.st_mtim};
-        ::utimensat(AT_FDCWD, QFile::encodeName(to).constData(), times, AT_SYMLINK_NOFOLLOW);
-    }
-}
-
-bool copyLink(const QString &from, const QString &to)
-{
-    QByteArray target(4096, '\0');
-    const ssize_t size = ::readlink(QFile::encodeName(from).constData(), target.data(),
-                                    size_t(target.size()));
-    target.truncate(int(qMax<ssize_t>(0, size)));
-    return ::symlink(target.constData(), QFile::encodeName(to).constData()) == 0;
-}
-
-bool copyFile(const QString &from, const QString &to, QString *error)
-{
-    const FileContent file = readRegularFile(from);
-    if (file.state != FileState::Regular) {
-        *error = file.error;
-        return false;
-    }
-    return replaceFile(to, file.content, error, 0600);
-}
-
-bool copyTree(const QString &from, const QString &to, QString *error)
-{
-    if (isLink(from)) {
-        if (copyLink(from, to))
-            return true;
-        *error = QString::fromLocal8Bit(std::strerror(errno));
-        return false;
-    }
-    struct stat status = {};
-    if (::lstat(QFile::encodeName(from).constData(), &status) != 0) {
-        *error = QString::fromLocal8Bit(std::strerror(errno));
-        return false;
-    }
-    bool copied = true;
-    if (S_ISREG(status.st_mode)) {
-        copied = copyFile(from, to, error);
-    } else if (S_ISDIR(status.st_mode)) {
-        if (!QDir().mkdir(to)) {
-            *error = QStringLiteral("Can't create %1").arg(to);
-            return false;
-        }
-        QDirIterator entries(from, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
-        while (entries.hasNext()) {
-            entries.next();
-            copied = copyTree(entries.filePath(), to + QLatin1Char('/') + entries.fileName(), error)
-                     && copied;
-        }
-    }
-    // Sockets, FIFOs and devices hold no bytes to lose.
-    copyTimes(from, to);
-    return copied;
+    std::error_code ignored;
+    std::filesystem::remove_all(toPath(path), ignored);
 }
 
 /// \a fileName as a part of another name: without control characters, and short enough to be prefixed.
@@ -157,54 +55,77 @@ QString freeName(const QString &directory, const QString &fileName)
     return name;
 }
 
-/// Adds the new copy to the manifest and removes the oldest ones of its original.
-bool recordCopy(const QString &directory, const Entry &entry, QString *error)
+bool liesIn(const QString &path, const QString &directory)
+{
+    std::error_code ignored;
+    const auto canonical = [&ignored](const QString &name) {
+        return std::filesystem::weakly_canonical(toPath(name), ignored) / "";
+    };
+    const std::string outer = canonical(directory).native();
+    return canonical(path).native().compare(0, outer.size(), outer) == 0;
+}
+
+/// Adds the new copy to the manifest and removes those of its original that are too many.
+bool recordCopy(const QString &directory, const ManifestEntry &entry, QString *error)
 {
     const QString manifest = directory + QLatin1String("/manifest");
-    QList<Entry> entries = readManifest(manifest);
+    QVector<ManifestEntry> entries = readManifest(manifest);
     entries.append(entry);
-    int surplus = -copiesKept;
-    for (const Entry &other : qAsConst(entries))
-        surplus += other.original == entry.original ? 1 : 0;
-    for (int i = 0; surplus > 0 && i < entries.size();) {
-        if (entries.at(i).original != entry.original) {
-            ++i;
-            continue;
-        }
-        remove(directory + QLatin1Char('/') + QFile::decodeName(entries.takeAt(i).copy));
-        --surplus;
+    QVector<int> places;
+    for (int i = 0; i < entries.size(); ++i) {
+        if (entries.at(i).original == entry.original)
+            places.append(i);
     }
-    return replaceFile(manifest, manifestText(entries), error, 0600);
+    QStringList surplus;
+    for (int i = places.size() - copiesKept; i >= 1; --i) // not the first one
+        surplus.append(entries.takeAt(places.at(i)).copy);
+    if (!writeManifest(manifest, entries, error))
+        return false;
+    for (const QString &copy : qAsConst(surplus))
+        remove(directory + QLatin1Char('/') + copy);
+    return true;
 }
 
 /// The copy of \a path; empty, with the reason in \a error unless there was nothing to copy.
 QString copyOf(const QString &path, QString *error)
 {
     const QString original = QDir::cleanPath(QFileInfo(path).absoluteFilePath());
-    if (!isLink(original) && !QFileInfo::exists(original))
+    const QFileInfo info(original);
+    if (!info.isSymLink() && !info.exists())
         return {};
 
     const QString directory = backupDirectory();
-    if (!isLink(original) && QString(directory + QLatin1Char('/')).startsWith(original + QLatin1Char('/'))) {
+    if (!info.isSymLink() && liesIn(directory, original)) {
         *error = QStringLiteral("the backups lie in it"); // a copy without end
         return {};
     }
-    if (!QDir().mkpath(directory)) {
+    if (!makeDirectories(directory)) {
         *error = QStringLiteral("can't create %1").arg(directory);
         return {};
     }
-    const DirectoryLock lock(directory + QLatin1String("/manifest"));
+    const FileLock lock(directory + QLatin1String("/manifest"));
     if (!lock.isHeld()) {
         *error = lock.error();
         return {};
     }
-    const QString name = freeName(directory, QFileInfo(original).fileName());
-    const QString copy = directory + QLatin1Char('/') + name;
+    // Complete before it gets its name: what a killed program leaves can't be taken for a copy.
+    const QString partial = directory + QLatin1String("/.partial");
+    remove(partial);
+    const QString name = freeName(directory, info.fileName());
+    QString copy = directory + QLatin1Char('/') + name;
     // A link to a file is backed up as the file: its bytes are what can get lost.
-    const bool asFile = QFileInfo(original).isFile();
-    const bool copied = (asFile ? copyFile(original, copy, error) : copyTree(original, copy, error))
-                        && recordCopy(directory, {QFile::encodeName(name), escapedPath(original)}, error);
-    return copied ? copy : QString();
+    const bool copied = info.isFile() ? copyFile(original, partial, error)
+                                      : copyTree(original, partial, error);
+    std::error_code failure;
+    if (copied)
+        std::filesystem::rename(toPath(partial), toPath(copy), failure);
+    if (failure)
+        *error = QString::fromLocal8Bit(failure.message().c_str());
+    if (copied && !failure && recordCopy(directory, {name, original}, error))
+        return copy;
+    remove(partial);
+    remove(copy);
+    return {};
 }
 
 } // namespace
@@ -212,10 +133,21 @@ QString copyOf(const QString &path, QString *error)
 QString backUp(const QString &path, QString *error)
 {
     QString reason;
-    const QString copy = copyOf(path, &reason);
+    QString copy = copyOf(path, &reason);
     if (!reason.isEmpty())
         printDiagnostic(QStringLiteral("Can't back up %1: %2").arg(path, reason));
     if (error)
         *error = reason;
     return copy;
+}
+
+QVector<Backup> backups()
+{
+    const QString directory = backupDirectory() + QLatin1Char('/');
+    QVector<Backup> result;
+    for (const ManifestEntry &entry : readManifest(directory + QLatin1String("manifest"))) {
+        if (QFileInfo::exists(directory + entry.copy))
+            result.append({directory + entry.copy, entry.original});
+    }
+    return result;
 }

@@ -1,12 +1,22 @@
 #pragma once
 
 #include <QString>
+#include <QVector>
 
 /// Copies the file or directory tree at \a path byte for byte to `$XDG_STATE_HOME/qaz/backup/`
 /// (`~/.local/state` when unset), before it is deleted or rewritten in a way that can lose something. The copy
-/// is named by UTC time and file name; `manifest` there has a line for each copy with the original path. The
-/// newest ten copies of each original are kept. Symbolic links inside a tree are copied as links.
+/// is named by UTC time and file name; `manifest` there has a line for each copy with the original path. Of each
+/// original the first copy, from before the program touched it, and the nine newest are kept. Symbolic links
+/// inside a tree are copied as links. A copy that was not finished goes.
 ///
 /// Returns the path of the copy, or an empty text when there was nothing to copy or the copy failed. A
 /// failure is one line on standard error, and its reason stands in \a error, which is empty otherwise.
 QString backUp(const QString &path, QString *error = nullptr);
+
+struct Backup {
+    QString copy;     ///< its path
+    QString original; ///< the absolute path that was backed up
+};
+
+/// The copies that are kept, the oldest first.
+QVector<Backup> backups();

@@ -242,7 +242,9 @@ private slots:
             path, [](const QByteArray &) { return std::nullopt; }, &error, options));
         QVERIFY(editFile(home.path("new"_s), append({}), &error, options));
         QCOMPARE(home.fingerprint(), before);
+        QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup);
         QVERIFY(editFile(home.path("link"_s), append(" new"), &error, options));
+        QCOMPARE(modeOf(path), 0640);
         QCOMPARE(home.read("file"_s), QByteArray("old new"));
         QVERIFY(QFileInfo(home.path("link"_s)).isSymLink());
         QVERIFY(editFile(
@@ -250,6 +252,9 @@ private slots:
         QVERIFY(!home.exists("file"_s));
         QVERIFY(editFile(path, append("x"), &error, options)); // nothing stood there
         QCOMPARE(calls, (QStringList{home.path("link"_s) + " old"_s, path + " old new"_s}));
+        QVERIFY(QFile::link("d/later"_s, home.path("dangling"_s)));
+        QVERIFY(editFile(home.path("dangling"_s), append("z"), &error, options));
+        QCOMPARE(home.read("d/later"_s), QByteArray("z"));
         QCOMPARE(error, QString());
     }
 

@@ -1,20 +1,28 @@
 #include "settings/backup.h"
 #include "tests/support/literals.h"
+#include "tests/support/standarderror.h"
 #include "tests/support/temporaryhome.h"
 
 #include <QtTest>
 
+#include <sys/resource.h>
 #include <sys/stat.h>
 
 namespace {
 
-const QString backups = ".local/state/qaz/backup/"_s;
-const QString manifest = backups + "manifest"_s;
+const QString directory = ".local/state/qaz/backup/"_s;
+const QString manifest = directory + "manifest"_s;
 
 QByteArray contentOf(const QString &path)
 {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+int modeOf(const QString &path)
+{
+    struct stat status = {};
+    return ::stat(QFile::encodeName(path).constData(), &status) == 0 ? int(status.st_mode & 07777) : -1;
 }
 
 } // namespace
@@ -30,10 +38,12 @@ private slots:
         const QByteArray content("a\0b\r\n\xff", 6);
         const QString original = home.write("docs/fonts.conf"_s, content);
         const QString copy = backUp(original);
-        const QRegularExpression form(u'^' + home.path(backups) + "\\d{8}T\\d{6}\\.\\d{3}Z-fonts\\.conf$"_s);
+        const QRegularExpression form(u'^' + home.path(directory)
+                                      + "\\d{8}T\\d{6}\\.\\d{3}Z-fonts\\.conf$"_s);
         QVERIFY2(form.match(copy).hasMatch(), qPrintable(copy));
         QCOMPARE(contentOf(copy), content);
         QCOMPARE(contentOf(original), content);
+        QCOMPARE(QFileInfo(copy).lastModified(), QFileInfo(original).lastModified());
         QCOMPARE(home.read(manifest),
                  QFile::encodeName(QFileInfo(copy).fileName() + u'\t' + original) + '\n');
 
@@ -42,7 +52,7 @@ private slots:
         QCOMPARE(backUp(home.path("missing"_s)), QString());
     }
 
-    void aTreeIsCopiedWithItsLinks()
+    void aTreeIsCopiedWithItsLinksForItsOwnerOnly()
     {
         const TemporaryHome home;
         home.write("qaz/a"_s, "1");
@@ -51,34 +61,92 @@ private slots:
         QVERIFY(QFile::link(home.path("outside"_s), home.path("qaz/link"_s)));
         QVERIFY(QFile::link("nowhere"_s, home.path("qaz/dangling"_s)));
         QCOMPARE(::mkfifo(QFile::encodeName(home.path("qaz/fifo"_s)).constData(), 0600), 0);
+        const mode_t before = ::umask(0777);
         const QString copy = backUp(home.path("qaz/"_s));
+        ::umask(before);
         QVERIFY(!copy.isEmpty());
         QCOMPARE(contentOf(copy + "/a"_s), QByteArray("1"));
         QCOMPARE(contentOf(copy + "/sub/.hidden"_s), QByteArray("2"));
         QCOMPARE(QFile::symLinkTarget(copy + "/link"_s), home.path("outside"_s));
         QVERIFY(QFileInfo(copy + "/dangling"_s).isSymLink());
+        for (const char *name : {".local", ".local/state/qaz", ".local/state/qaz/backup"})
+            QCOMPARE(modeOf(home.path(QLatin1String(name))), 0700);
+        for (const QString &path :
+             {copy, copy + "/sub"_s, copy + "/a"_s, copy + "/sub/.hidden"_s, home.path(manifest)})
+            QCOMPARE(modeOf(path), QFileInfo(path).isDir() ? 0700 : 0600);
     }
 
-    void theNewestTenOfEachOriginalAreKept()
+    void theFirstAndTheNineNewestOfEachOriginalAreKept()
     {
         const TemporaryHome home;
         const QString otherCopy = backUp(home.write("other"_s, "x"));
+        const QString original = "a\tb\nc\\d\re"_s; // could forge a line of the manifest
         QStringList copies;
-        for (int i = 0; i < 13; ++i) // under a name that could break the manifest's lines
-            copies.append(backUp(home.write("a\tb\nc\\d"_s, QByteArray::number(i))));
+        for (int i = 0; i < 13; ++i)
+            copies.append(backUp(home.write(original, QByteArray::number(i))));
         for (int i = 0; i < copies.size(); ++i)
-            QCOMPARE(contentOf(copies.at(i)), i < 3 ? QByteArray() : QByteArray::number(i));
-        QVERIFY(QFileInfo::exists(otherCopy));
+            QCOMPARE(contentOf(copies.at(i)), i >= 1 && i < 4 ? QByteArray() : QByteArray::number(i));
         QCOMPARE(home.read(manifest).count('\n'), 11);
-        QCOMPARE(QDir(home.path(backups)).entryList(QDir::Files).size(), 12);
+        QVERIFY(home.read(manifest).endsWith("/a\\tb\\nc\\\\d\\re\n"));
+        QCOMPARE(QDir(home.path(directory)).entryList(QDir::Files | QDir::Hidden).size(), 12);
+        const QVector<Backup> kept = backups();
+        QCOMPARE(kept.size(), 11);
+        QCOMPARE(kept.first().copy, otherCopy);
+        QCOMPARE(kept.last().copy, copies.last());
+        QCOMPARE(kept.last().original, home.path(original));
+    }
+
+    void halfACopyIsNone()
+    {
+        const TemporaryHome home;
+        const QString first = backUp(home.write("file"_s, "x"));
+        home.write(directory + ".partial/left/by/a/killed/program"_s, "x");
+        home.write("tree/large"_s, QByteArray(100000, 'x'));
+        rlimit usual = {};
+        ::getrlimit(RLIMIT_FSIZE, &usual);
+        const rlimit tight = {50000, usual.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &tight);
+        StandardError errors;
+        QStringList reasons;
+        for (const char *name : {"tree", "tree/large"}) {
+            QString error;
+            reasons.append(backUp(home.path(QLatin1String(name)), &error) + error);
+        }
+        const QByteArray printed = errors.take();
+        ::setrlimit(RLIMIT_FSIZE, &usual);
+        QCOMPARE(reasons, (QStringList{"File too large"_s, "File too large"_s}));
+        QCOMPARE(printed.count("qaz-admin-theme: Can't back up "), 2);
+        QCOMPARE(QDir(home.path(directory)).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+                 (QStringList{QFileInfo(first).fileName(), "manifest"_s}));
+        QCOMPARE(home.read(manifest).count('\n'), 1);
+    }
+
+    void aForeignManifestRemovesNothingElse()
+    {
+        const TemporaryHome home;
+        const QString original = home.write("file"_s, "x");
+        for (const char *name : {"/../../victim", "..", ".", "../victim"})
+            home.write(manifest, home.read(manifest)
+                                     + (name + ('\t' + QFile::encodeName(original) + '\n')).repeated(20));
+        home.write(".local/state/qaz/victim"_s, "y");
+        for (int i = 0; i < 3; ++i)
+            QVERIFY(!backUp(original).isEmpty());
+        QCOMPARE(home.read(".local/state/qaz/victim"_s), QByteArray("y"));
+        QCOMPARE(backups().size(), 3);
     }
 
     void aBackupThatFailsStopsNothing()
     {
         const TemporaryHome home;
         const QString original = home.write("file"_s, "x");
+        QString error;
+        QCOMPARE(backUp(home.path(), &error), QString());
+        QCOMPARE(error, "the backups lie in it"_s);
+        QVERIFY(QFile::link(home.path(), home.path("link"_s)));
+        QCOMPARE(backUp(home.path("link/link"_s) + "/.local"_s, &error), QString());
         home.write(".local/state"_s, "in the way");
-        QCOMPARE(backUp(original), QString());
+        QCOMPARE(backUp(original, &error), QString());
+        QCOMPARE(error, "can't create %1/.local/state/qaz/backup"_s.arg(home.path()));
         QCOMPARE(contentOf(original), QByteArray("x"));
     }
 };
