@@ -9,6 +9,7 @@
 
 #include <cstdio>
 #include <cstring>
+#include <utility>
 
 namespace {
 
@@ -76,8 +77,7 @@ int runEditor(int argc, char **argv)
     QObject::connect(myApp, &MyApplication::messageReceived, dlg, &ConfigDialog::messageReceived);
     QObject::connect(myApp, &MyApplication::lastWindowClosed, myApp, &MyApplication::quit);
     const int result = MyApplication::exec();
-    delete dlg;
-    dlg = nullptr;
+    delete std::exchange(dlg, nullptr);
     return result;
 }
 
@@ -92,8 +92,6 @@ int main(int argc, char *argv[])
         myApp->sendMessage(QStringLiteral("show"), messageTimeoutMs);
     else
         result = runEditor(argc, argv);
-    MyApplication *application = myApp;
-    myApp = nullptr;
-    delete application;
+    delete std::exchange(myApp, nullptr);
     return result;
 }

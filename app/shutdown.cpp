@@ -3,6 +3,7 @@
 #include "app/configdialog.h"
 #include "app/myapplication.h"
 
+#include <QFile>
 #include <QSocketNotifier>
 
 #include <cerrno>
@@ -20,19 +21,30 @@ namespace {
 
 int terminationPipe[2] = {-1, -1};
 
-/// Ends the dialog, whose destructor stores its size and ends what its pages started.
-void endDialog()
+/// Ends the programs that the process \a parent started, and theirs.
+void endChildren(qint64 parent)
 {
-    if (!myApp || !dlg)
+    QFile list(QStringLiteral("/proc/%1/task/%1/children").arg(parent));
+    if (!list.open(QIODevice::ReadOnly))
         return;
-    ConfigDialog *dialog = dlg;
-    dlg = nullptr;
-    // A modal dialog on the stack is a child of ours and must not be deleted from under its caller.
-    if (QApplication::activeModalWidget())
-        dialog->storeSize();
-    else
-        delete dialog;
-    QCoreApplication::quit();
+    for (const QByteArray &child : list.readAll().simplified().split(' ')) {
+        if (const pid_t pid = child.toInt(); pid > 0) {
+            endChildren(pid);
+            ::kill(pid, SIGTERM);
+        }
+    }
+}
+
+/// Keeps what outlives the loss. Nothing is destroyed: the loss is noticed anywhere on the stack, also below a modal
+/// dialog or in the middle of an Apply, and every widget would talk to the server once more.
+void endWithoutDisplay()
+{
+    if (!myApp)
+        return;
+    if (dlg)
+        dlg->storeSize();
+    endChildren(::getpid());
+    ::_exit(EXIT_FAILURE);
 }
 
 } // namespace
@@ -52,7 +64,7 @@ void handleLostDisplay()
 {
     XSetIOErrorHandler(CatchFatalIOError);
     // Qt's plugin calls exit() when it finds the connection broken, before Xlib's handler is asked.
-    std::atexit(endDialog);
+    std::atexit(endWithoutDisplay);
 }
 
 void TrapSignal(int sig)
@@ -68,6 +80,6 @@ void TrapSignal(int sig)
 
 int CatchFatalIOError(Display * /*display*/)
 {
-    endDialog();
+    endWithoutDisplay();
     return 0;
 }

@@ -1,8 +1,9 @@
-// The real program in processes of its own: start, single instance, signals, loss of the X server.
+// The real program in processes of its own: start, single instance, files.
 
 #include "tests/support/editorprocess.h"
 #include "tests/support/fakeprogram.h"
 #include "tests/support/literals.h"
+#include "tests/support/privateserver.h"
 #include "tests/support/temporaryhome.h"
 #include "tests/support/wmlistener.h"
 
@@ -15,32 +16,6 @@
 #include <sys/stat.h>
 
 namespace {
-
-const QString ownSettings = ".config/qaz/qaz-admin-theme.conf"_s;
-
-/// A second X server, which a test may end; the programs started meanwhile use it.
-class PrivateServer
-{
-public:
-    PrivateServer()
-    {
-        // A reset, which the last client's end would start, refuses those who connect meanwhile.
-        const QString arguments = "-displayfd 1 -noreset -nolisten tcp -screen 0 1024x768x24"_s;
-        m_process.start("Xvfb"_s, arguments.split(u' '));
-        if (m_process.waitForReadyRead(60000))
-            m_display = std::make_unique<ScopedEnvironment>("DISPLAY", ':' + m_process.readLine().trimmed());
-    }
-    ~PrivateServer() { end(); }
-    void end()
-    {
-        m_process.kill();
-        m_process.waitForFinished();
-    }
-
-private:
-    QProcess m_process;
-    std::unique_ptr<ScopedEnvironment> m_display;
-};
 
 /// Finds the Screensaver page by its first letter, Tabs to its delay, and makes it 5 minutes. Other pages
 /// are not visited, so that they are not saved.
@@ -190,33 +165,6 @@ private slots:
         EditorProcess second;
         QCOMPARE(second.exitCode(), 0);
         QVERIFY(QDir(m_home->path("shared"_s)).isEmpty());
-    }
-
-    void anEndFromOutsideStoresTheSize()
-    {
-        for (const bool serverEnds : {false, true}) { // else the program gets the signal of termination
-            for (const bool inModalDialog : {false, true}) {
-                init();
-                PrivateServer server;
-                EditorProcess editor;
-                QVERIFY2(editor.waitForWindow(), qPrintable(editor.errors()));
-                if (inModalDialog) {
-                    editTheDelay();
-                    EditorProcess::press("Escape");
-                    QVERIFY(editor.waitForWindow("Save \\?"_s));
-                }
-                QVERIFY(!m_home->read(ownSettings).contains("width"));
-                if (serverEnds)
-                    server.end();
-                else
-                    editor.process().terminate();
-                QCOMPARE(editor.exitCode(), serverEnds ? 1 : 0);
-                const QSettings stored(m_home->path(ownSettings), QSettings::IniFormat);
-                QVERIFY2(stored.value("width"_s).toInt() >= 800, m_home->read(ownSettings).constData());
-                QVERIFY(stored.value("height"_s).toInt() > 0);
-                QVERIFY(!m_home->exists(".config/qaz/current.themerc"_s));
-            }
-        }
     }
 
     void withoutXItEditsAllTheSame()

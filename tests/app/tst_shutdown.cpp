@@ -1,0 +1,100 @@
+// The real program in a process of its own, ended from outside: by a signal and by the loss of the X server.
+
+#include "tests/support/editorprocess.h"
+#include "tests/support/literals.h"
+#include "tests/support/privateserver.h"
+#include "tests/support/temporaryhome.h"
+
+#include <QtTest>
+
+#include <optional>
+
+namespace {
+
+const QString ownSettings = ".config/qaz/qaz-admin-theme.conf"_s;
+
+} // namespace
+
+class TestShutdown : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { m_home.emplace(); }
+
+    void aLostServerEndsItOrderly_data()
+    {
+        QTest::addColumn<QByteArray>("keys");
+        QTest::addColumn<QString>("title"); // of the window that they bring up
+        QTest::addColumn<QByteArray>("more");
+        const auto row = [](const char *name, const char *keys, const char *title = "",
+                            const char *more = "") {
+            QTest::newRow(name) << QByteArray(keys) << QString::fromLatin1(title) << QByteArray(more);
+        };
+        row("idle", "");
+        row("page being loaded", "Down");
+        row("last page", "End");
+        row("help window", "F1", "Help");
+        row("help window closed", "F1", "Help", "Escape");
+        row("message box", "s Tab Tab ctrl+a 5 Escape", "Save \\?");
+        row("message box closed", "s Tab Tab ctrl+a 5 Escape", "Save \\?", "Escape");
+        row("input dialog", "shift+Tab shift+Tab shift+Tab space", "^Restore$");
+        row("input dialog closed", "shift+Tab shift+Tab shift+Tab space", "^Restore$", "Escape");
+        row("file dialog", "Tab Tab space", "Select wallpaper");
+        row("file dialog closed", "Tab Tab space", "Select wallpaper", "Escape");
+        row("colour dialog", "Tab Tab Tab space", "Select Color");
+        row("colour dialog closed", "Tab Tab Tab space", "Select Color", "Escape");
+        row("font dialog", "f alt+j", "Select Font");
+        row("anti-aliasing dialog", "f alt+n e Tab space", "Anti");
+        row("anti-aliasing dialog closed", "f alt+n e Tab space", "Anti", "Escape");
+        row("apply", "Down Down Down Tab Tab ctrl+a 5 Return");
+    }
+
+    void aLostServerEndsItOrderly()
+    {
+        QFETCH(QByteArray, keys);
+        QFETCH(QString, title);
+        QFETCH(QByteArray, more);
+        PrivateServer server;
+        const QByteArray before = "ScreenSaverDelay=600\n";
+        EditorProcess editor({m_home->write("t"_s, before)});
+        QVERIFY2(editor.waitForWindow(), qPrintable(editor.errors()));
+        EditorProcess::press(keys.constData());
+        if (!title.isEmpty())
+            QVERIFY(editor.waitForWindow(title));
+        EditorProcess::press(more.constData());
+        server.end();
+        const int status = editor.exitCode(); // 0 when an Apply and close was faster
+        QVERIFY2(status == 1 || (status == 0 && keys.endsWith("Return")), qPrintable(editor.errors()));
+        const QSettings stored(m_home->path(ownSettings), QSettings::IniFormat);
+        QVERIFY2(stored.value("width"_s).toInt() >= 800, m_home->read(ownSettings).constData());
+        QVERIFY(stored.value("height"_s).toInt() > 0);
+        const QByteArray after = m_home->read("t"_s);
+        QVERIFY2(after == before || after.startsWith("ScreenSaverDelay=300\n"), after.constData());
+    }
+
+    void aTerminationStoresTheSize()
+    {
+        for (const bool inModalDialog : {false, true}) {
+            init();
+            EditorProcess editor;
+            QVERIFY2(editor.waitForWindow(), qPrintable(editor.errors()));
+            if (inModalDialog) {
+                EditorProcess::press("s Tab Tab ctrl+a 5");
+                EditorProcess::press("Escape");
+                QVERIFY(editor.waitForWindow("Save \\?"_s));
+            }
+            QVERIFY(!m_home->read(ownSettings).contains("width"));
+            editor.process().terminate();
+            QCOMPARE(editor.exitCode(), 0);
+            QVERIFY(m_home->read(ownSettings).contains("width"));
+            QVERIFY(!m_home->exists(".config/qaz/current.themerc"_s));
+        }
+    }
+
+private:
+    std::optional<TemporaryHome> m_home;
+};
+
+QTEST_MAIN(TestShutdown)
+#include "tst_shutdown.moc"

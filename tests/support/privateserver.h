@@ -1,0 +1,31 @@
+#pragma once
+
+#include "tests/support/environment.h"
+
+#include <QProcess>
+
+#include <memory>
+
+/// A second X server, which a test may end; the programs started meanwhile use it.
+class PrivateServer
+{
+public:
+    PrivateServer()
+    {
+        // A reset, which the last client's end would start, refuses those who connect meanwhile.
+        const QString arguments = QStringLiteral("-displayfd 1 -noreset -nolisten tcp -screen 0 1024x768x24");
+        m_process.start(QStringLiteral("Xvfb"), arguments.split(QLatin1Char(' ')));
+        if (m_process.waitForReadyRead(60000))
+            m_display = std::make_unique<ScopedEnvironment>("DISPLAY", ':' + m_process.readLine().trimmed());
+    }
+    ~PrivateServer() { end(); }
+    void end()
+    {
+        m_process.kill();
+        m_process.waitForFinished();
+    }
+
+private:
+    QProcess m_process;
+    std::unique_ptr<ScopedEnvironment> m_display;
+};
