@@ -30,9 +30,11 @@ double readAndWrite(int round)
     timer.start();
     KXftConfig config(KXftConfig::SubPixelType | KXftConfig::ExcludedRange | KXftConfig::AntiAlias
                       | KXftConfig::HintingStyle);
+    QString error;
+    config.reset();
     config.setHintStyle(round % 2 ? HintStyle::Full : HintStyle::Slight);
     config.setSubPixelType(round % 2 ? SubPixelOrder::Rgb : SubPixelOrder::Bgr);
-    if (!config.changed() || !config.apply())
+    if (!config.changed() || !config.apply(&error))
         qFatal("The file was not written");
     return double(timer.nsecsElapsed()) / 1e6;
 }

@@ -73,6 +73,7 @@ bool FontAASettings::load()
         QSignalBlocker(m_ui->excludeToSpinBox), QSignalBlocker(m_ui->useSubPixelCheckBox)};
 
     KXftConfig config(required);
+    config.reset();
     const ExcludeRange range = showsPixels() ? config.excludePixelRange() : config.excludeRange();
     m_ui->excludeRangeCheckBox->setChecked(!range.isZero());
     showExcludeRange(range.isZero() ? defaultRange() : range);
@@ -98,29 +99,32 @@ bool FontAASettings::load()
     return config.antiAliasing();
 }
 
-bool FontAASettings::save(bool useAntiAliasing)
+bool FontAASettings::save(bool useAntiAliasing, QString *error)
 {
     KXftConfig config(required);
-    QSettings store;
+    config.reset();
+    const SubPixelOrder order = chosenOrder();
+    const HintStyle style = chosenHintStyle();
     config.setAntiAliasing(useAntiAliasing);
     if (const std::optional<ExcludeRange> range = editedRange(config); range && showsPixels())
         config.setExcludePixelRange(*range);
     else if (range)
         config.setExcludeRange(*range);
-
-    const SubPixelOrder order = chosenOrder();
     config.setSubPixelType(order);
+    config.setHintStyle(style);
+    const bool fileChanged = config.changed();
+    if (QString reason; !config.apply(&reason)) {
+        *error = tr("The font settings could not be saved in the file '%1': %2")
+                     .arg(config.fileName(), reason);
+        return false;
+    }
+    m_rangeEdited = false;
+
+    QSettings store;
     storeValue(&store, RenderingKey::subPixel, FontRendering::fileName(order));
     storeValue(&store, RenderingKey::antialias, useAntiAliasing);
-
-    const HintStyle style = chosenHintStyle();
-    config.setHintStyle(style);
     const bool hintStyleChanged = storeValue(&store, RenderingKey::hintStyle, FontRendering::fileName(style));
     store.sync();
-
-    const bool fileChanged = config.changed();
-    if (config.apply()) // says itself why it fails
-        m_rangeEdited = false;
     return hintStyleChanged || fileChanged;
 }
 

@@ -25,8 +25,9 @@ public:
     /// Shows what the user's fontconfig file holds. Returns whether that file turns anti-aliasing on.
     bool load();
     /// Writes the shown values and \a useAntiAliasing to the fontconfig file and to the program's own
-    /// settings. Returns whether anything changed.
-    bool save(bool useAntiAliasing);
+    /// settings. Returns whether anything changed. When the file could not be written, \a error says so and why, and
+    /// nothing is.
+    bool save(bool useAntiAliasing, QString *error);
     /// Shows the defaults; nothing is written.
     void defaults();
 

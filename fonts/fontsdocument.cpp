@@ -19,29 +19,13 @@ struct ByteOrderMark {
     QByteArray bytes;
 };
 
-/// Comments and processing instructions in the text of an element, a line each.
-QStringList remarksIn(const QString &element)
+/// The tabs that \a line begins with.
+int levelOf(const QByteArray &line)
 {
-    static const QRegularExpression remark(QStringLiteral("<!\\[CDATA\\[.*?\\]\\]>|(<!--.*?-->|<\\?.*?\\?>)"),
-                                           QRegularExpression::DotMatchesEverythingOption);
-    QStringList remarks;
-    for (auto matches = remark.globalMatch(element); matches.hasNext();) {
-        const QString found = matches.next().captured(1);
-        if (!found.isEmpty())
-            remarks.append(found);
-    }
-    return remarks;
-}
-
-/// The element without what two writings of the same settings may differ in.
-QString essence(const QByteArray &text)
-{
-    // Blanks around a value are part of it: it may well mean something else without them.
-    static const QRegularExpression gaps(QStringLiteral("(?<=>)\\s+(?=<)"));
-    QString element = QString::fromUtf8(text);
-    for (const QString &remark : remarksIn(element))
-        element.remove(remark);
-    return element.remove(gaps);
+    int level = 0;
+    while (level < line.size() && line.at(level) == '\t')
+        ++level;
+    return level;
 }
 
 QString encodable(const QString &text, const QTextCodec *codec)
@@ -139,7 +123,7 @@ bool FontsDocument::setContent(const QByteArray &content, QString *error)
     bool understood = decode(content, error);
     if (understood) {
         understood = readFontsXml(m_text, &m_xml, error);
-        if (!understood && m_xml.document.documentElement().isNull()) {
+        if (!understood && !m_xml.hasRoot) {
             const QByteArray text = m_text + (m_text.endsWith('\n') ? QByteArray() : newLine()) + emptyRoot;
             understood = readFontsXml(text, &m_xml, error);
             m_text = text;
@@ -154,19 +138,21 @@ QByteArray FontsDocument::withChanges(const QVector<Change> &changes) const
 {
     QVector<Edit> edits;
     addPrologEdits(&edits);
-    QVector<QByteArray> appended;
+    QVector<QByteArray> added;
     for (const Change &change : changes) {
-        const auto child = std::find_if(children().begin(), children().end(), [&change](const Child &child) {
-            return !change.node.isNull() && child.node == change.node;
-        });
         const QByteArray form = encodable(change.form, m_codec).toUtf8();
-        if (child != children().end())
-            edits.append(changeOf(*child, form));
-        else if (!form.isEmpty())
-            appended.append(form);
+        if (change.child >= 0) {
+            edits.append(changeOf(children().at(change.child), form));
+        } else if (change.before >= 0) {
+            const int start = children().at(change.before).start;
+            const QByteArray indentation = lineIndentation(start);
+            edits.append({start, start, laidOut(form.split('\n'), indentation) + newLine() + indentation});
+        } else if (!form.isEmpty()) {
+            added.append(form);
+        }
     }
-    if (!appended.isEmpty())
-        edits.append(insertionOf(appended));
+    if (!added.isEmpty())
+        edits.append(additionOf(added));
     std::stable_sort(edits.begin(), edits.end(),
                      [](const Edit &one, const Edit &other) { return one.start < other.start; });
 
@@ -194,23 +180,23 @@ void FontsDocument::addPrologEdits(QVector<Edit> *edits) const
 FontsDocument::Edit FontsDocument::changeOf(const Child &child, const QByteArray &form) const
 {
     const QByteArray indentation = lineIndentation(child.start);
-    const QByteArray old = m_text.mid(child.start, child.end - child.start);
     // What users wrote between our tags is theirs.
-    const QStringList remarks = remarksIn(QString::fromUtf8(old));
-    QList<QByteArray> lines;
-    for (const QString &remark : remarks)
-        lines.append(remark.toUtf8());
+    QList<QByteArray> lines = child.remarks;
     if (form.isEmpty())
         return {lines.isEmpty() ? removalStart(child, indentation) : child.start, child.end,
                 laidOut(lines, indentation)};
     for (QByteArray &line : lines)
         line.prepend('\t');
-    lines = form.split('\n').mid(0, 1) + lines + form.split('\n').mid(1);
+    QList<QByteArray> wanted = form.split('\n');
     // A start tag may carry more than we know of.
-    if (child.node.attributes().size() > 1)
-        lines.first() = m_text.mid(child.start, child.startTagEnd - child.start);
-    const QByteArray wanted = laidOut(lines, indentation);
-    return {child.start, child.end, essence(old) == essence(wanted) ? old : wanted};
+    if (child.hasMoreAttributes)
+        wanted.first() = m_text.mid(child.start, child.startTagEnd - child.start);
+    QByteArray essence;
+    for (const QByteArray &line : qAsConst(wanted))
+        essence += line.mid(levelOf(line));
+    if (essence == child.essence)
+        return {child.start, child.start, {}};
+    return {child.start, child.end, laidOut(wanted.mid(0, 1) + lines + wanted.mid(1), indentation)};
 }
 
 int FontsDocument::removalStart(const Child &child, const QByteArray &indentation) const
@@ -225,7 +211,7 @@ int FontsDocument::removalStart(const Child &child, const QByteArray &indentatio
     return start > 0 && m_text.at(start - 1) == '\r' ? start - 1 : start;
 }
 
-FontsDocument::Edit FontsDocument::insertionOf(const QVector<QByteArray> &forms) const
+FontsDocument::Edit FontsDocument::additionOf(const QVector<QByteArray> &forms) const
 {
     const QByteArray step = indentationStep();
     QByteArray text;
@@ -245,9 +231,7 @@ QByteArray FontsDocument::laidOut(QList<QByteArray> lines, const QByteArray &ind
 {
     const QByteArray step = indentationStep();
     for (int i = 1; i < lines.size(); ++i) {
-        int level = 0;
-        while (level < lines.at(i).size() && lines.at(i).at(level) == '\t')
-            ++level;
+        const int level = levelOf(lines.at(i));
         lines[i] = indentation + step.repeated(level) + lines.at(i).mid(level);
     }
     return lines.join(newLine());
@@ -277,20 +261,15 @@ QByteArray FontsDocument::newLine() const
     return end > 0 && m_text.at(end - 1) == '\r' ? "\r\n" : "\n";
 }
 
-bool FontsDocument::holdsOnly(const QVector<QDomElement> &owned) const
+bool FontsDocument::holdsOnlySettings() const
 {
-    static const QRegularExpression skeleton(
-        QStringLiteral("^\\s*(<\\?xml [^>]*\\?>)?\\s*(<!DOCTYPE fontconfig( SYSTEM \"[^\"]*\")?>)?\\s*"
-                       "<fontconfig>\\s*</fontconfig>\\s*$|^\\s*<fontconfig/>\\s*$"));
-    QByteArray rest;
-    int position = 0;
+    QList<FontsItem::Kind> kinds;
     for (const Child &child : children()) {
-        const QByteArray element = m_text.mid(child.start, child.end - child.start);
-        if (child.node.isNull() || !owned.contains(child.node) || child.node.attributes().size() > 1
-            || !remarksIn(QString::fromUtf8(element)).isEmpty())
+        if (!child.item || child.hasMoreAttributes || !child.remarks.isEmpty()
+            || kinds.contains(child.item->kind))
             return false;
-        rest += m_text.mid(position, child.start - position);
-        position = child.end;
+        if (child.item->kind != FontsItem::Kind::Directory)
+            kinds.append(child.item->kind);
     }
-    return skeleton.match(QString::fromUtf8(rest + m_text.mid(position))).hasMatch();
+    return !m_xml.holdsMore;
 }

@@ -7,8 +7,8 @@
 
 class QTextCodec;
 
-/// A fontconfig configuration file in memory. It is read on a QDomDocument and changed in its original text: only
-/// the children of the root that a change names are touched, every other byte stays.
+/// A fontconfig configuration file in memory. It is changed in its original text: only the children of the root
+/// that a change names are touched, every other byte stays.
 class FontsDocument
 {
 public:
@@ -16,9 +16,10 @@ public:
 
     /// What is to become of one child of the root.
     struct Change {
-        QDomElement node; ///< the child to replace; null: \a form is appended to the root
+        int child = -1; ///< the child to replace; -1: \a form is added
         /// The new element; every line below the first begins with a tab for each level. Empty: the child is removed.
         QString form;
+        int before = -1; ///< the child in front of which a new element goes; -1: behind the last one
     };
 
     FontsDocument();
@@ -33,8 +34,8 @@ public:
     /// The file's content after \a changes, in the file's own encoding, line ends and indentation.
     QByteArray withChanges(const QVector<Change> &changes) const;
 
-    /// Whether the file holds nothing but the children \a owned: no comment, no other element.
-    bool holdsOnly(const QVector<QDomElement> &owned) const;
+    /// Whether the file holds nothing but settings, each once: no comment, no other element.
+    bool holdsOnlySettings() const;
 
 private:
     struct Edit {
@@ -51,7 +52,7 @@ private:
     Edit changeOf(const Child &child, const QByteArray &form) const;
     /// Where the removal of \a child begins: with the line break before it when it has its lines for itself.
     int removalStart(const Child &child, const QByteArray &indentation) const;
-    Edit insertionOf(const QVector<QByteArray> &forms) const;
+    Edit additionOf(const QVector<QByteArray> &forms) const;
     QByteArray laidOut(QList<QByteArray> lines, const QByteArray &indentation) const;
     QByteArray lineIndentation(int position) const;
     QByteArray indentationStep() const;

@@ -1,16 +1,21 @@
 #include "fonts/fontsfile.h"
 
+#include "base/diagnostics.h"
+#include "base/xdgdirectories.h"
 #include "fonts/fontsitem.h"
-#include "settings/directories.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <QThread>
 
 #include <cerrno>
-#include <cstring>
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <ctime>
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -18,8 +23,12 @@
 namespace {
 
 constexpr qint64 sizeLimit = 16 * 1024 * 1024;
-constexpr int lockTries = 100;
+constexpr int lockTimeoutMs = 2000;
 constexpr int lockPauseMs = 10;
+// In seconds. A small file is written in less; the number of a process may have been given out again.
+constexpr std::time_t orphanedLockAge = 1;
+constexpr std::time_t anonymousLockAge = 60;
+constexpr std::time_t livingLockAge = 600;
 
 using FcStrListPtr = std::unique_ptr<FcStrList, Release<FcStrListDone>>;
 
@@ -31,17 +40,27 @@ bool matches(const QString &path, const char *pattern)
 QString userDefault()
 {
     QString file = userFontsFile();
-    const QString directory = QFileInfo(file).path();
-    if (!QFileInfo(directory).isDir()) {
-        QDir().mkpath(QFileInfo(directory).path());
-        ::mkdir(QFile::encodeName(directory).constData(), 0700);
-    }
+    makeDirectories(QFileInfo(file).path());
     return file;
 }
 
-QString systemErrorText()
+/// The number of the living process that the lock file \a path names; 0 for none.
+pid_t livingOwner(const QByteArray &path)
 {
-    return QString::fromLocal8Bit(std::strerror(errno));
+    const pid_t owner = pid_t(readRegularFile(QFile::decodeName(path), 100).content.trimmed().toInt());
+    return owner > 0 && (::kill(owner, 0) == 0 || errno == EPERM) ? owner : 0;
+}
+
+/// Removes the lock \a path when it is older than its writer can live.
+void removeStaleLock(const QByteArray &path)
+{
+    struct stat status = {};
+    if (::lstat(path.constData(), &status) != 0)
+        return;
+    const auto age = std::abs(std::time(nullptr) - status.st_mtime); // a clock may have been set back
+    const bool namesOwner = S_ISREG(status.st_mode) && status.st_size > 0;
+    if (age > (!namesOwner ? anonymousLockAge : livingOwner(path) > 0 ? livingLockAge : orphanedLockAge))
+        std::remove(path.constData());
 }
 
 } // namespace
@@ -59,15 +78,12 @@ QStringList fontconfigFiles()
 
 QString userFontsFile()
 {
-    QString configuration = QFile::decodeName(qgetenv("XDG_CONFIG_HOME"));
-    if (configuration.isEmpty())
-        configuration = directoryPath(DirectoryKind::Home) + QLatin1String("/.config");
-    return configuration + QLatin1String("/fontconfig/fonts.conf");
+    return xdgDirectory("XDG_CONFIG_HOME", "/.config") + QLatin1String("/fontconfig/fonts.conf");
 }
 
 QString chooseFontsFile(const QStringList &configFiles, bool system)
 {
-    const QString home = directoryFormOfPath(directoryPath(DirectoryKind::Home));
+    const QString home = directoryFormOfPath(homeDirectory());
     QStringList candidates;
     for (const QString &file : configFiles) {
         const QFileInfo info(file);
@@ -88,25 +104,11 @@ QString chooseFontsFile(const QStringList &configFiles, bool system)
 
 FileContent readFontsFile(const QString &path)
 {
-    const QFileInfo info(path);
-    if (info.isFile() && info.size() > sizeLimit)
-        return {FileState::Unreadable, {}, QStringLiteral("It is too big for a configuration")};
-    FileContent file = readRegularFile(path);
+    FileContent file = readRegularFile(path, sizeLimit);
     // Whatever the link is to lead to (an unmounted disk?), it is not ours to make.
-    if (file.state == FileState::Missing && info.isSymLink())
+    if (file.state == FileState::Missing && QFileInfo(path).isSymLink())
         return {FileState::Unreadable, {}, QStringLiteral("It is a link to a file that does not exist")};
     return file;
-}
-
-QString fontsFileStamp(const QString &path)
-{
-    struct stat status = {};
-    if (::stat(QFile::encodeName(path).constData(), &status) != 0 || !S_ISREG(status.st_mode))
-        return {};
-    // Two writes can fall into one tick of the clock.
-    return QStringLiteral("%1.%2 %3 %4")
-        .arg(QString::number(status.st_mtim.tv_sec), QString::number(status.st_mtim.tv_nsec),
-             QString::number(status.st_ino), QString::number(status.st_size));
 }
 
 bool canMakeFile(const QString &path)
@@ -120,14 +122,19 @@ FontsFileLock::FontsFileLock(const QString &path)
     , m_atomic(m_target.isEmpty() ? nullptr
                                   : FcAtomicCreate(reinterpret_cast<const FcChar8 *>(m_target.constData())))
 {
-    if (!m_atomic || !canMakeFile(QFile::decodeName(m_target)))
+    if (!m_atomic || !canMakeFile(QFile::decodeName(m_target))) {
+        m_error = QStringLiteral("No file can be made in its directory");
         return;
-    // Whoever holds it is about to write a small file: waiting saves the user from doing it all again.
-    for (int i = 0; !m_held && i < lockTries; ++i) {
-        if (i > 0)
-            QThread::msleep(lockPauseMs);
-        m_held = FcAtomicLock(m_atomic.get());
     }
+    QElapsedTimer timer;
+    timer.start();
+    // Whoever holds it is about to write a small file: waiting saves the user from doing it all again.
+    while (!(m_held = FcAtomicLock(m_atomic.get())) && !timer.hasExpired(lockTimeoutMs)) {
+        removeStaleLock(m_target + ".LCK");
+        QThread::msleep(lockPauseMs);
+    }
+    if (!m_held)
+        m_error = QStringLiteral("Another program has locked it");
 }
 
 FontsFileLock::~FontsFileLock()
@@ -136,26 +143,25 @@ FontsFileLock::~FontsFileLock()
         FcAtomicUnlock(m_atomic.get());
 }
 
-bool FontsFileLock::replace(const QByteArray &content, QString *error)
+bool FontsFileLock::replace(const QByteArray &content, const std::function<bool()> &isCurrent, QString *error)
 {
     // A rename would replace a write-protected file as well; its protection is the user's word.
-    const char *target = m_target.constData();
-    if (!m_held || (::access(target, F_OK) == 0 && ::access(target, W_OK) != 0)) {
-        *error = m_held ? systemErrorText() : QStringLiteral("Another program is changing it");
+    if (::access(m_target.constData(), F_OK) == 0 && ::access(m_target.constData(), W_OK) != 0) {
+        *error = systemErrorText(errno);
         return false;
     }
     QFile file(QFile::decodeName(reinterpret_cast<const char *>(FcAtomicNewFile(m_atomic.get()))));
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered)) {
-        *error = file.errorString();
+    if (!replaceFile(file.fileName(), content, error))
         return false;
+    const bool takesOver = file.open(QIODevice::ReadOnly)
+                           && takeOverAttributes(file.handle(), m_target, 0666);
+    if (takesOver && isCurrent()) {
+        if (FcAtomicReplaceOrig(m_atomic.get()))
+            return true;
+        *error = systemErrorText(errno);
+    } else if (!takesOver) {
+        *error = systemErrorText(errno);
     }
-    errno = 0;
-    const bool replaced = file.write(content) == content.size()
-                          && takeOverAttributes(file.handle(), m_target, 0666) && ::fsync(file.handle()) == 0
-                          && FcAtomicReplaceOrig(m_atomic.get());
-    if (!replaced) {
-        *error = file.error() != QFileDevice::NoError ? file.errorString() : systemErrorText();
-        FcAtomicDeleteNew(m_atomic.get());
-    }
-    return replaced;
+    FcAtomicDeleteNew(m_atomic.get());
+    return false;
 }

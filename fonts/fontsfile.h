@@ -6,6 +6,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <memory>
 
 #include <fontconfig/fontconfig.h>
@@ -23,13 +24,11 @@ QString chooseFontsFile(const QStringList &configFiles, bool system);
 /// Reads a fontconfig file. One that is too big for a configuration and a link to nothing are Unreadable.
 FileContent readFontsFile(const QString &path);
 
-/// Tells versions of a regular file apart; empty when there is none at \a path.
-QString fontsFileStamp(const QString &path);
-
 /// Whether a file can be made at \a path: its directory exists and is writable.
 bool canMakeFile(const QString &path);
 
-/// fontconfig's own lock on one of its files, for which it waits up to a second. Symbolic links are followed.
+/// fontconfig's own lock on one of its files, for which it waits up to two seconds; one that a program left behind when
+/// it was killed is removed. Symbolic links are followed.
 class FontsFileLock
 {
 public:
@@ -39,13 +38,18 @@ public:
     FontsFileLock &operator=(const FontsFileLock &) = delete;
 
     bool isHeld() const { return m_held; }
+    /// Why it is not held.
+    QString error() const { return m_error; }
 
-    /// Replaces the locked file by \a content in one step; mode and ownership stay. On failure the old file
-    /// stands whole and \a error says why.
-    [[nodiscard]] bool replace(const QByteArray &content, QString *error);
+    /// Replaces the locked file by \a content in one step if \a isCurrent still says so when all of it is on the disk;
+    /// mode and ownership stay. Otherwise the old file stands whole and \a error says why, or is empty when it was
+    /// not current.
+    [[nodiscard]] bool replace(const QByteArray &content, const std::function<bool()> &isCurrent,
+                               QString *error);
 
 private:
     QByteArray m_target;
     std::unique_ptr<FcAtomic, Release<FcAtomicDestroy>> m_atomic;
     bool m_held = false;
+    QString m_error;
 };

@@ -1,7 +1,5 @@
 #include "fonts/fontsitem.h"
 
-#include <QVector>
-
 #include <algorithm>
 #include <cmath>
 #include <iterator>
@@ -19,100 +17,68 @@ constexpr ValueElement valueElements[] = {{FontsItem::Kind::SubPixel, "rgba", "c
                                           {FontsItem::Kind::Hinting, "hinting", "bool"},
                                           {FontsItem::Kind::AntiAliasing, "antialias", "bool"}};
 
-/// The child elements; nothing when there is text or an unknown entity between them.
-QVector<QDomElement> childElements(const QDomElement &element)
+/// The value in the child \a tag, if that is all that \a element holds.
+std::optional<QString> onlyValue(const FontsElement &element, const char *tag)
 {
-    QVector<QDomElement> children;
-    for (QDomNode node = element.firstChild(); !node.isNull(); node = node.nextSibling()) {
-        if (!node.isElement())
-            return {};
-        children.append(node.toElement());
-    }
-    return children;
-}
-
-bool holdsOnlyText(const QDomElement &element)
-{
-    for (QDomNode node = element.firstChild(); !node.isNull(); node = node.nextSibling()) {
-        if (!node.isText())
-            return false;
-    }
-    return true;
-}
-
-/// The text of the one child \a tag; nothing when the child holds more, which a new value would overwrite.
-std::optional<QString> onlyValue(const QDomElement &element, QLatin1String tag)
-{
-    const QVector<QDomElement> children = childElements(element);
-    const bool fits = children.size() == 1 && children.first().tagName() == tag
-                      && children.first().attributes().isEmpty() && holdsOnlyText(children.first());
-    return fits ? std::make_optional(children.first().text()) : std::nullopt;
+    if (element.children.size() != 1 || !element.text.isEmpty() || element.hasUnknown)
+        return {};
+    const FontsElement &child = element.children.front();
+    const bool fits = child.tag == tag && child.attributes.isEmpty() && child.children.empty()
+                      && !child.hasUnknown;
+    return fits ? std::make_optional(QString::fromUtf8(child.text)) : std::nullopt;
 }
 
 /// The value \a tag of an "edit" that assigns \a name.
-std::optional<QString> assignedValue(const QDomElement &edit, QLatin1String name, QLatin1String tag)
+std::optional<QString> assignedValue(const FontsElement &edit, const char *name, const char *tag)
 {
-    const bool fits = edit.tagName() == QLatin1String("edit") && edit.attributes().size() == 2
-                      && edit.attribute(QStringLiteral("mode")) == QLatin1String("assign")
-                      && edit.attribute(QStringLiteral("name")) == name;
+    const bool fits = edit.tag == "edit" && edit.attributes.size() == 2
+                      && edit.attributes.value("mode") == "assign" && edit.attributes.value("name") == name;
     return fits ? onlyValue(edit, tag) : std::nullopt;
 }
 
-std::optional<FontsItem> readValue(const QDomElement &edit)
+std::optional<FontsItem> readValue(const FontsElement &edit)
 {
     for (const ValueElement &element : valueElements) {
-        if (const auto value = assignedValue(edit, QLatin1String(element.name), QLatin1String(element.tag)))
+        if (const auto value = assignedValue(edit, element.name, element.tag))
             return FontsItem{element.kind, *value, {}};
     }
     return {};
 }
 
 struct Bound {
-    QString name;
+    QByteArray name;
     bool isLower = false;
     double value = 0;
 };
 
-std::optional<Bound> readBound(const QDomElement &test)
+std::optional<Bound> readBound(const FontsElement &test)
 {
-    const QString name = test.attribute(QStringLiteral("name"));
-    const QString compare = test.attribute(QStringLiteral("compare"));
-    const bool isLower = compare == QLatin1String("more") || compare == QLatin1String("more_eq");
-    const bool isUpper = compare == QLatin1String("less") || compare == QLatin1String("less_eq");
-    if (test.tagName() != QLatin1String("test") || test.attributes().size() != 3
-        || test.attribute(QStringLiteral("qual")) != QLatin1String("any")
-        || (name != QLatin1String("size") && name != QLatin1String("pixelsize")) || (!isLower && !isUpper))
+    const QByteArray name = test.attributes.value("name");
+    const QByteArray compare = test.attributes.value("compare");
+    const bool isLower = compare == "more" || compare == "more_eq";
+    const bool isUpper = compare == "less" || compare == "less_eq";
+    if (test.tag != "test" || test.attributes.size() != 3 || test.attributes.value("qual") != "any"
+        || (name != "size" && name != "pixelsize") || (!isLower && !isUpper))
         return {};
     bool isNumber = false;
-    const double value = onlyValue(test, QLatin1String("double")).value_or(QString()).toDouble(&isNumber);
+    const double value = onlyValue(test, "double").value_or(QString()).toDouble(&isNumber);
     if (!isNumber || !std::isfinite(value))
         return {};
     return Bound{name, isLower, value};
 }
 
-std::optional<FontsItem> readExcludeRange(const QVector<QDomElement> &children)
+std::optional<FontsItem> readExcludeRange(const std::vector<FontsElement> &children)
 {
-    const std::optional<Bound> one = readBound(children.at(0));
-    const std::optional<Bound> other = readBound(children.at(1));
+    const std::optional<Bound> one = readBound(children[0]);
+    const std::optional<Bound> other = readBound(children[1]);
     // With other tests or none the match says something else, and writing it as a range would change it.
     if (!one || !other || one->name != other->name || one->isLower == other->isLower
-        || assignedValue(children.at(2), QLatin1String("antialias"), QLatin1String("bool"))
-               != QLatin1String("false"))
+        || assignedValue(children[2], "antialias", "bool") != QLatin1String("false"))
         return {};
-    const bool isInPixels = one->name == QLatin1String("pixelsize");
-    return FontsItem{isInPixels ? FontsItem::Kind::ExcludePixels : FontsItem::Kind::ExcludePoints,
+    return FontsItem{one->name == "pixelsize" ? FontsItem::Kind::ExcludePixels
+                                              : FontsItem::Kind::ExcludePoints,
                      {},
                      {one->isLower ? one->value : other->value, one->isLower ? other->value : one->value}};
-}
-
-std::optional<FontsItem> readDirectory(const QDomElement &element, const QString &home)
-{
-    QString directory = element.text();
-    if (directory.isEmpty() || !holdsOnlyText(element))
-        return {};
-    if (directory.startsWith(QLatin1Char('~')))
-        directory = home + QLatin1Char('/') + directory.mid(1);
-    return FontsItem{FontsItem::Kind::Directory, directoryFormOfPath(directory), {}};
 }
 
 QString boundForm(QLatin1String name, const char *compare, double value)
@@ -140,35 +106,22 @@ bool FontsItem::isOn() const
     return text.toLower() == QLatin1String("true");
 }
 
-std::optional<FontsItem> readFontsItem(const QDomElement &element, const QString &home)
+std::optional<FontsItem> readFontsItem(const FontsElement &element)
 {
-    if (element.tagName() == QLatin1String("dir"))
-        return readDirectory(element, home);
-    if (element.tagName() != QLatin1String("match")
-        || element.attribute(QStringLiteral("target")) != QLatin1String("font"))
+    if (element.hasUnknown)
         return {};
-    const QVector<QDomElement> children = childElements(element);
-    switch (children.size()) {
+    if (element.tag == "dir" && element.children.empty() && !element.text.isEmpty())
+        return FontsItem{FontsItem::Kind::Directory, QString::fromUtf8(element.text), {}};
+    if (element.tag != "match" || element.attributes.value("target") != "font" || !element.text.isEmpty())
+        return {};
+    switch (element.children.size()) {
     case 1:
-        return readValue(children.first());
+        return readValue(element.children.front());
     case 3:
-        return readExcludeRange(children);
+        return readExcludeRange(element.children);
     default:
         return {};
     }
-}
-
-bool canBePartOfItem(QLatin1String tag, QLatin1String name)
-{
-    if (tag == QLatin1String("test"))
-        return name == QLatin1String("size") || name == QLatin1String("pixelsize");
-    const bool isEdit = tag == QLatin1String("edit");
-    return tag == QLatin1String("double")
-           || std::any_of(std::begin(valueElements), std::end(valueElements),
-                          [isEdit, tag, name](const ValueElement &element) {
-                              return isEdit ? name == QLatin1String(element.name)
-                                            : tag == QLatin1String(element.tag);
-                          });
 }
 
 QString valueForm(FontsItem::Kind kind, const QString &value)
@@ -198,8 +151,10 @@ QString directoryForm(const QString &directory, const QString &home)
     return QLatin1String("<dir>") + path + QLatin1String("</dir>");
 }
 
-QString directoryFormOfPath(QString path)
+QString directoryFormOfPath(QString path, const QString &home)
 {
+    if (path.startsWith(QLatin1Char('~')))
+        path.replace(0, 1, home);
     while (path.contains(QLatin1String("//")))
         path.replace(QLatin1String("//"), QLatin1String("/"));
     return path.endsWith(QLatin1Char('/')) ? path : path + QLatin1Char('/');

@@ -1,10 +1,10 @@
 #include "fonts/fontsxml.h"
 
 #include "base/chandle.h"
-#include "fonts/fontsitem.h"
 
 #include <memory>
 #include <type_traits>
+#include <utility>
 
 #include <expat.h>
 
@@ -13,7 +13,7 @@ namespace {
 // A tree this deep holds no configuration, but could exhaust the stack of whoever walks it.
 constexpr int depthLimit = 200;
 
-/// One pass over the text. Nodes are made of the elements only that may hold a setting, which are few.
+/// One pass over the text.
 class Reader
 {
 public:
@@ -22,36 +22,28 @@ public:
 
 private:
     static Reader *self(void *data) { return static_cast<Reader *>(data); }
+    void setHandlers();
     void doctype(const char *systemId, bool hasSubset);
     void startElement(const char *name, const char **attributes);
-    void startChild(const char *name, const char **attributes);
     void endElement();
     void characters(const char *text, int size);
-    void skippedEntity(const char *name);
+    void remark();
+    void skippedEntity();
     void flushCharacters();
-    void dropChild();
-    QDomElement createElement(const char *name, const char **attributes);
     void refuse(const QString &reason);
     int eventStart() const { return int(XML_GetCurrentByteIndex(m_parser.get())); }
     int eventEnd() const { return eventStart() + XML_GetCurrentByteCount(m_parser.get()); }
+    QByteArray eventText() const { return m_text.mid(eventStart(), eventEnd() - eventStart()); }
 
     const QByteArray &m_text;
     FontsXml *m_xml;
     const std::unique_ptr<std::remove_pointer_t<XML_Parser>, Release<XML_ParserFree>> m_parser;
-    QDomElement m_node;      // null inside elements that are only skipped
-    QByteArray m_characters; // they come in pieces
+    std::vector<FontsElement> m_open; // the elements around the place, from the child of the root on
+    QByteArray m_characters;          // they come in pieces
+    QByteArray m_rawCharacters;       // as they stand in the text
     QString m_refusal;
     int m_depth = 0;
 };
-
-QLatin1String attribute(const char **attributes, const char *name)
-{
-    for (; *attributes; attributes += 2) {
-        if (qstrcmp(attributes[0], name) == 0)
-            return QLatin1String(attributes[1]);
-    }
-    return {};
-}
 
 Reader::Reader(const QByteArray &text, FontsXml *xml)
     : m_text(text)
@@ -59,20 +51,28 @@ Reader::Reader(const QByteArray &text, FontsXml *xml)
     , m_parser(XML_ParserCreate("UTF-8"))
 {
     XML_SetUserData(m_parser.get(), this);
-    XML_SetStartDoctypeDeclHandler(m_parser.get(),
-                                   [](void *data, const char *, const char *systemId, const char *,
-                                      int hasSubset) { self(data)->doctype(systemId, hasSubset); });
+    setHandlers();
+}
+
+void Reader::setHandlers()
+{
+    const XML_Parser parser = m_parser.get();
+    XML_SetStartDoctypeDeclHandler(parser, [](void *data, const char *, const char *systemId, const char *,
+                                              int hasSubset) { self(data)->doctype(systemId, hasSubset); });
     XML_SetElementHandler(
-        m_parser.get(),
+        parser,
         [](void *data, const char *name, const char **attributes) {
             self(data)->startElement(name, attributes);
         },
         [](void *data, const char *) { self(data)->endElement(); });
     XML_SetCharacterDataHandler(
-        m_parser.get(), [](void *data, const char *text, int size) { self(data)->characters(text, size); });
-    XML_SetSkippedEntityHandler(m_parser.get(), [](void *data, const char *name, int isParameter) {
+        parser, [](void *data, const char *text, int size) { self(data)->characters(text, size); });
+    XML_SetCommentHandler(parser, [](void *data, const char *) { self(data)->remark(); });
+    XML_SetProcessingInstructionHandler(parser,
+                                        [](void *data, const char *, const char *) { self(data)->remark(); });
+    XML_SetSkippedEntityHandler(parser, [](void *data, const char *, int isParameter) {
         if (!isParameter)
-            self(data)->skippedEntity(name);
+            self(data)->skippedEntity();
     });
 }
 
@@ -96,16 +96,9 @@ void Reader::refuse(const QString &reason)
 
 void Reader::doctype(const char *systemId, bool hasSubset)
 {
+    m_xml->holdsMore = m_xml->holdsMore || hasSubset;
     if (!systemId && !hasSubset)
         m_xml->doctype = m_text.lastIndexOf("<!DOCTYPE", eventStart());
-}
-
-QDomElement Reader::createElement(const char *name, const char **attributes)
-{
-    QDomElement element = m_xml->document.createElement(QString::fromUtf8(name));
-    for (; *attributes; attributes += 2)
-        element.setAttribute(QString::fromUtf8(attributes[0]), QString::fromUtf8(attributes[1]));
-    return element;
 }
 
 void Reader::startElement(const char *name, const char **attributes)
@@ -116,72 +109,81 @@ void Reader::startElement(const char *name, const char **attributes)
     if (m_depth == 1) {
         if (qstrcmp(name, "fontconfig") != 0)
             refuse(QStringLiteral("the root element is '%1', not 'fontconfig'").arg(QString::fromUtf8(name)));
-        m_xml->document.appendChild(createElement(name, attributes));
+        m_xml->hasRoot = true;
         m_xml->rootOpenEnd = eventEnd();
-    } else if (m_depth == 2) {
-        startChild(name, attributes);
-    } else if (!m_node.isNull()) {
-        if (canBePartOfItem(QLatin1String(name), attribute(attributes, "name")))
-            m_node = m_node.appendChild(createElement(name, attributes)).toElement();
-        else
-            dropChild();
+        m_xml->holdsMore = m_xml->holdsMore || *attributes;
+        return;
     }
-}
-
-void Reader::startChild(const char *name, const char **attributes)
-{
-    FontsXml::Child child;
-    child.start = eventStart();
-    child.startTagEnd = eventEnd();
-    const bool isMatch = qstrcmp(name, "match") == 0
-                         && attribute(attributes, "target") == QLatin1String("font");
-    // What an entity stands for has no place in the text, so it can't be changed there.
-    const bool isInText = m_text.at(child.start) == '<';
-    if (isInText && (isMatch || qstrcmp(name, "dir") == 0))
-        child.node
-            = m_xml->document.documentElement().appendChild(createElement(name, attributes)).toElement();
-    m_node = child.node;
-    m_xml->children.append(child);
+    FontsElement element;
+    element.tag = name;
+    for (; *attributes; attributes += 2)
+        element.attributes.insert(attributes[0], attributes[1]);
+    if (m_depth == 2) {
+        FontsXml::Child child;
+        child.start = eventStart();
+        child.startTagEnd = eventEnd();
+        child.hasMoreAttributes = element.attributes.size() > 1;
+        m_xml->children.append(child);
+    }
+    m_xml->children.last().essence += eventText();
+    m_open.push_back(std::move(element));
 }
 
 void Reader::endElement()
 {
     flushCharacters();
-    if (m_depth == 1)
+    if (--m_depth == 0) {
         m_xml->rootClose = eventEnd() == m_xml->rootOpenEnd ? -1 : eventStart();
-    else if (m_depth == 2)
-        m_xml->children.last().end = eventEnd();
-    m_node = m_depth > 2 && !m_node.isNull() ? m_node.parentNode().toElement() : QDomElement();
-    --m_depth;
+        return;
+    }
+    FontsXml::Child &child = m_xml->children.last();
+    child.essence += eventText();
+    FontsElement element = std::move(m_open.back());
+    m_open.pop_back();
+    if (!m_open.empty()) {
+        m_open.back().children.push_back(std::move(element));
+        return;
+    }
+    child.end = eventEnd();
+    // What an entity stands for has no place in the text, so it can't be changed there.
+    if (m_text.at(child.start) == '<')
+        child.item = readFontsItem(element);
+    if (!child.item)
+        child.essence.clear();
 }
 
 void Reader::characters(const char *text, int size)
 {
-    if (!m_node.isNull())
-        m_characters.append(text, size);
+    m_characters.append(text, size);
+    m_rawCharacters += eventText();
 }
 
 void Reader::flushCharacters()
 {
-    if (!m_characters.trimmed().isEmpty() && !m_node.isNull())
-        m_node.appendChild(m_xml->document.createTextNode(QString::fromUtf8(m_characters)));
+    if (!m_characters.trimmed().isEmpty() && m_open.empty()) {
+        m_xml->holdsMore = true;
+    } else if (!m_characters.trimmed().isEmpty()) {
+        m_open.back().text += m_characters;
+        m_xml->children.last().essence += m_rawCharacters;
+    }
     m_characters.clear();
+    m_rawCharacters.clear();
 }
 
-void Reader::skippedEntity(const char *name)
+void Reader::remark()
 {
-    // Nobody here knows what it stands for, so the element around it is not one of ours.
-    if (!m_node.isNull())
-        m_node.appendChild(m_xml->document.createEntityReference(QString::fromUtf8(name)));
+    if (m_open.empty())
+        m_xml->holdsMore = true;
+    else if (m_text.at(eventStart()) == '<') // not out of an entity
+        m_xml->children.last().remarks.append(eventText());
 }
 
-void Reader::dropChild()
+void Reader::skippedEntity()
 {
-    FontsXml::Child &child = m_xml->children.last();
-    m_xml->document.documentElement().removeChild(child.node);
-    child.node = QDomElement();
-    m_node = QDomElement();
-    m_characters.clear();
+    if (m_open.empty())
+        m_xml->holdsMore = true;
+    else
+        m_open.back().hasUnknown = true;
 }
 
 } // namespace

@@ -21,6 +21,7 @@
 #include <QSettings>
 #include <QSpinBox>
 #include <QStyleOptionComboBox>
+#include <QTimer>
 #include <QVBoxLayout>
 
 namespace {
@@ -212,24 +213,30 @@ bool KFonts::saveSettings(QazSettings *settings)
     storeChoices(dpi, systemDecides);
     if (dpi == 0 && dpiAtLoad != 0)
         removeDpiFromServer();
-    bool isChanged = dpi != dpiAtLoad;
-    if (isChanged)
+    if (dpi != dpiAtLoad)
         writeDpiToResourceFile(dpi);
     // A click on Apply must not start a second save in here.
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 
-    QString message = tr("<p>Some changes such as anti-aliasing or DPI will only affect newly started "
-                         "applications.</p>");
-    if (saveRendering(dpi, systemDecides))
-        isChanged = true;
-    else
-        message.clear();
+    QString error;
+    const bool fileChanged = !systemDecides && m_aaSettings->save(aaMode == AaEnabled, &error);
+    const bool isChanged = fileChanged || aaMode != aaModeAtLoad || dpi != dpiAtLoad;
     if (systemDecides)
         removeUserFontconfigFiles();
-    if (!message.isEmpty())
-        showMessage(this, QMessageBox::Information, tr("Font Settings Changed"), message);
+    if (!error.isEmpty()) {
+        showMessage(this, QMessageBox::Critical, tr("Error"), error);
+    } else if (isChanged) {
+        aaModeAtLoad = aaMode;
+        dpiAtLoad = dpi;
+        showMessage(this, QMessageBox::Information, tr("Font Settings Changed"),
+                    tr("<p>Some changes such as anti-aliasing or DPI will only affect newly started "
+                       "applications.</p>"));
+    }
     applyXResources(exportXftSettings);
     emit changed(false);
+    // The dialog takes what was saved for unedited; behind its back, this page is not.
+    if (!error.isEmpty())
+        QTimer::singleShot(0, this, [this] { emit changed(true); });
     return isChanged;
 }
 
@@ -239,16 +246,6 @@ void KFonts::storeChoices(int dpi, bool systemDecides) const
     storeValue(&store, RenderingKey::forceFontDpi, dpi);
     storeValue(&store, RenderingKey::dontChangeAaSettings, systemDecides);
     store.sync();
-}
-
-bool KFonts::saveRendering(int dpi, bool systemDecides)
-{
-    const bool isSaved = !systemDecides && m_aaSettings->save(aaMode == AaEnabled);
-    if (!isSaved && aaMode == aaModeAtLoad && dpi == dpiAtLoad)
-        return false;
-    aaModeAtLoad = aaMode;
-    dpiAtLoad = dpi;
-    return true;
 }
 
 void KFonts::resetToDefaults()

@@ -42,7 +42,6 @@ private:
     /// The DPI that the server's resources or else the stored settings force; 0 for none.
     int loadedDpi() const;
     void storeChoices(int dpi, bool systemDecides) const;
-    bool saveRendering(int dpi, bool systemDecides);
 
     QList<FontUseItem *> m_fontUseItems; // in the order of the role table
     int aaMode;                          // index in the combo box

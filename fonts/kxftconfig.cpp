@@ -1,18 +1,25 @@
 #include "fonts/kxftconfig.h"
 
+#include "base/chandle.h"
 #include "base/diagnostics.h"
+#include "base/xdgdirectories.h"
 #include "fonts/fontsfile.h"
 #include "settings/backup.h"
-#include "settings/directories.h"
 
+#include <QElapsedTimer>
+#include <QThread>
 #include <QX11Info>
+
+#include <algorithm>
+#include <memory>
+#include <utility>
 
 namespace {
 
 using Kind = FontsItem::Kind;
 
-// How often programs may rewrite the file under our hands before we give up.
-constexpr int mergeLimit = 3;
+constexpr int mergeTimeMs = 2000; // for programs that rewrite the file under our hands
+constexpr int rereadPauseMs = 10;
 
 bool systemAntiAliasing()
 {
@@ -30,42 +37,41 @@ double screenDpi()
     return dpi > 0 ? dpi : 96;
 }
 
-QString homeDirectory()
+QString boolForm(Kind kind, bool value)
 {
-    return directoryPath(DirectoryKind::Home);
+    return valueForm(kind, value ? QStringLiteral("true") : QStringLiteral("false"));
 }
 
-QString boolName(bool value)
+QString rangeForm(Kind kind, const ExcludeRange &range)
 {
-    return value ? QStringLiteral("true") : QStringLiteral("false");
+    return range.isZero() ? QString() : excludeForm(kind, range);
 }
 
 } // namespace
 
 KXftConfig::KXftConfig(int required, bool system)
-    : KXftConfig(required, system, chooseFontsFile(fontconfigFiles(), system), mergeLimit)
-{}
-
-KXftConfig::KXftConfig(int required, bool system, const QString &file, int mergesLeft)
     : m_required(required)
-    , m_file(file)
-    , m_system(system)
-    , m_mergesLeft(mergesLeft)
+    , m_file(chooseFontsFile(fontconfigFiles(), system))
+    , m_refusal(QStringLiteral("It was not read"))
 {
     printDiagnostic(QStringLiteral("%1 fontconfig file to use: %2")
-                        .arg(system ? QStringLiteral("system") : QStringLiteral("user"), file));
-    reset();
+                        .arg(system ? QStringLiteral("system") : QStringLiteral("user"), m_file));
 }
 
 bool KXftConfig::reset()
 {
-    const bool isUsable = read();
-    if (isUsable && (m_required & ExcludedRange) && bringRangesIntoAgreement())
-        apply();
-    return isUsable;
+    read();
+    if (!m_refusal.isEmpty()) {
+        printDiagnostic(QStringLiteral("Can't use %1: %2").arg(m_file, m_refusal));
+        return false;
+    }
+    QString error; // told already; whoever edits something tries again
+    if (bringRangesIntoAgreement() && !apply(&error))
+        read();
+    return true;
 }
 
-bool KXftConfig::read()
+void KXftConfig::read()
 {
     m_madeChanges = false;
     m_subPixel = {};
@@ -77,266 +83,230 @@ bool KXftConfig::read()
     m_antiAliasing.set = systemAntiAliasing();
     m_directories.clear();
 
-    // Taken before reading, so that a file replaced meanwhile counts as rewritten.
-    m_time = fontsFileStamp(m_file);
-    FileContent file = readFontsFile(m_file);
-    m_isUsable = m_document.setContent(file.content, &file.error) && file.state != FileState::Unreadable
-                 && (file.state == FileState::Regular || canMakeFile(m_file));
-    if (!m_isUsable && file.state == FileState::Missing)
-        file.error = QStringLiteral("It does not exist and can't be made");
-    if (!m_isUsable)
-        printDiagnostic(QStringLiteral("Can't use %1: %2").arg(m_file, file.error));
-    readContents();
-    return m_isUsable;
+    const FileContent file = readFontsFile(m_file);
+    m_content = file.content;
+    m_refusal = file.error;
+    QString error;
+    if (!m_document.setContent(file.content, &error))
+        m_refusal = error;
+    else if (file.state == FileState::Missing && !canMakeFile(m_file))
+        m_refusal = QStringLiteral("It does not exist and can't be made");
+    for (int child = 0; child < m_document.children().size(); ++child) {
+        if (const auto &item = m_document.children().at(child).item)
+            readItem(*item, child);
+    }
 }
 
-void KXftConfig::readContents()
+void KXftConfig::readItem(const FontsItem &item, int child)
 {
-    const QString home = homeDirectory();
-    for (const FontsDocument::Child &child : m_document.children()) {
-        const std::optional<FontsItem> item = readFontsItem(child.node, home);
-        if (!item)
-            continue;
-        switch (item->kind) {
-        case Kind::Directory:
-            m_directories.append(ListItem{{child.node}, item->text});
-            break;
-        case Kind::SubPixel:
-            m_subPixel = {{child.node}, FontRendering::subPixelOrder(item->text)};
-            break;
-        case Kind::HintStyle:
-            m_hint = {{child.node}, FontRendering::hintStyle(item->text)};
-            break;
-        case Kind::Hinting:
-            m_hinting = {{child.node}, item->isOn()};
-            break;
-        case Kind::AntiAliasing:
-            m_antiAliasing = {{child.node}, item->isOn()};
-            break;
-        case Kind::ExcludePoints:
-            m_excludeRange = {{child.node}, item->range};
-            break;
-        case Kind::ExcludePixels:
-            m_excludePixelRange = {{child.node}, item->range};
-            break;
-        }
+    switch (item.kind) {
+    case Kind::Directory:
+        m_directories.append(ListItem{{child}, directoryFormOfPath(item.text, homeDirectory())});
+        break;
+    case Kind::SubPixel:
+        m_subPixel = {{child}, FontRendering::subPixelOrder(item.text)};
+        break;
+    case Kind::HintStyle:
+        m_hint = {{child}, FontRendering::hintStyle(item.text)};
+        break;
+    case Kind::Hinting:
+        m_hinting = {{child}, item.isOn()};
+        break;
+    case Kind::AntiAliasing:
+        m_antiAliasing = {{child}, item.isOn()};
+        break;
+    case Kind::ExcludePoints:
+        m_excludeRange = {{child}, item.range};
+        break;
+    case Kind::ExcludePixels:
+        m_excludePixelRange = {{child}, item.range};
+        break;
     }
+}
+
+bool KXftConfig::wasRewritten() const
+{
+    const FileContent now = readFontsFile(m_file);
+    return now.state == FileState::Regular && now.content != m_content;
 }
 
 bool KXftConfig::bringRangesIntoAgreement()
 {
-    const bool toBeWritten = bringIntoAgreement(&m_excludeRange.range, &m_excludePixelRange.range,
-                                                screenDpi());
+    const bool toBeWritten = (m_required & ExcludedRange)
+                             && bringIntoAgreement(&m_excludeRange.range, &m_excludePixelRange.range,
+                                                   screenDpi());
     m_madeChanges = m_madeChanges || toBeWritten;
     return toBeWritten;
 }
 
-bool KXftConfig::apply()
+bool KXftConfig::apply(QString *error)
 {
     if (!m_madeChanges)
         return true;
-    if (!m_isUsable)
-        return false;
-    const auto wasRewritten = [this] {
-        const QString time = fontsFileStamp(m_file);
-        return !time.isEmpty() && time != m_time;
-    };
-    if (!wasRewritten()) {
-        if (m_required & ExcludedRange)
-            bringRangesIntoAgreement();
+    *error = m_refusal;
+    if (m_refusal.isEmpty()) {
         FontsFileLock lock(m_file);
-        if (!lock.isHeld()) {
-            printDiagnostic(QStringLiteral("Can't write %1: can't lock it").arg(m_file));
-            return false;
-        }
-        // Another program may have come first to the lock.
-        if (!wasRewritten())
-            return write(&lock);
+        *error = lock.error();
+        if (lock.isHeld() && writeOrMerge(&lock, error))
+            return true;
     }
-    return merge();
+    printDiagnostic(QStringLiteral("Can't write %1: %2").arg(m_file, *error));
+    return false;
 }
 
-bool KXftConfig::write(FontsFileLock *lock)
+bool KXftConfig::writeOrMerge(FontsFileLock *lock, QString *error)
 {
-    const FileContent old = readFontsFile(m_file);
+    QElapsedTimer timer;
+    timer.start();
+    for (bool isTold = false; !timer.hasExpired(mergeTimeMs);) {
+        if (wasRewritten()) {
+            if (!std::exchange(isTold, true))
+                printDiagnostic(QStringLiteral("font config file was rewritten since we last read!"));
+            merge();
+        }
+        if (!m_refusal.isEmpty()) // half of it is written, perhaps
+            QThread::msleep(rereadPauseMs);
+        else if (write(lock, error))
+            return true;
+        else if (!error->isEmpty())
+            return false;
+    }
+    *error = m_refusal.isEmpty() ? QStringLiteral("Another program keeps changing it") : m_refusal;
+    return false;
+}
+
+/// False with an empty \a error when another program came in between.
+bool KXftConfig::write(FontsFileLock *lock, QString *error)
+{
+    bringRangesIntoAgreement();
     const QByteArray content = m_document.withChanges(changes());
     // A rewrite that changes nothing can lose nothing, and would only drive the older copies out.
-    if (old.content != content && !m_document.holdsOnly(ownedNodes())) {
+    if (m_content != content && !m_document.holdsOnlySettings()) {
         if (const QString copy = backUp(m_file); !copy.isEmpty())
             printDiagnostic(QStringLiteral("Saved a copy of %1 as %2").arg(m_file, copy));
     }
-    if (QString error; !lock->replace(content, &error)) {
-        printDiagnostic(QStringLiteral("Can't write %1: %2").arg(m_file, error));
+    if (!lock->replace(
+            content, [this] { return !wasRewritten(); }, error))
         return false;
-    }
-    // Not reset(): it would find the range in pixels and write again, without end.
+    const KXftConfig wanted = *this;
     read();
-    return true;
+    if (m_content == content)
+        return true;
+    *this = wanted;
+    return false;
 }
 
-bool KXftConfig::merge()
+void KXftConfig::merge()
 {
-    printDiagnostic(QStringLiteral("font config file was rewritten since we last read!"));
-    if (m_mergesLeft <= 0)
-        return false;
-    if (m_required & ExcludedRange)
-        bringRangesIntoAgreement();
-    KXftConfig current(m_required, m_system, m_file, m_mergesLeft - 1);
-    copySettingsTo(&current);
-    const bool applied = current.apply();
+    const KXftConfig wanted = *this;
     read();
-    return applied;
-}
-
-void KXftConfig::copySettingsTo(KXftConfig *other) const
-{
+    m_madeChanges = true;
     if (m_required & Directories) {
-        for (const ListItem &directory : m_directories) {
+        for (const ListItem &directory : wanted.m_directories) {
             if (directory.toBeRemoved)
-                other->removeDirectory(directory.string);
+                removeDirectory(directory.string);
             else
-                other->addDirectory(directory.string);
+                addDirectory(directory.string);
         }
     }
     // Both units, so that a conversion there and back can't move the bounds.
-    if (m_required & ExcludedRange)
-        other->setRanges(m_excludeRange.range, m_excludePixelRange.range);
-    if (m_required & SubPixelType)
-        other->setSubPixelType(m_subPixel.type);
-    if (m_required & HintingStyle)
-        other->setHintStyle(m_hint.style);
-    if (m_required & AntiAlias)
-        other->setAntiAliasing(m_antiAliasing.set);
+    m_excludeRange.range = wanted.m_excludeRange.range;
+    m_excludePixelRange.range = wanted.m_excludePixelRange.range;
+    m_subPixel.type = wanted.m_subPixel.type;
+    m_hint.style = wanted.m_hint.style;
+    m_hinting.set = wanted.m_hinting.set;
+    m_antiAliasing.set = wanted.m_antiAliasing.set;
 }
 
-void KXftConfig::addChange(QVector<FontsDocument::Change> *changes, FontsItem::Kind kind, const Item &item,
-                           const QString &form) const
+void KXftConfig::addChange(QVector<FontsDocument::Change> *changes, Kind kind, const Item &item,
+                           const QString &form, int before) const
 {
     if (!form.isEmpty()) {
-        changes->append({item.node, form});
+        changes->append({item.child, form, before});
         return;
     }
     // An older element of the same kind would come back into force if only the last one went.
-    for (const FontsDocument::Child &child : m_document.children()) {
-        const std::optional<FontsItem> found = readFontsItem(child.node, homeDirectory());
-        if (found && found->kind == kind)
-            changes->append({child.node, {}});
+    for (int child = 0; child < m_document.children().size(); ++child) {
+        if (const auto &found = m_document.children().at(child).item; found && found->kind == kind)
+            changes->append({child, {}, -1});
     }
+}
+
+int KXftConfig::firstExcludeRange() const
+{
+    const auto &children = m_document.children();
+    const auto first = std::find_if(
+        children.begin(), children.end(), [this](const FontsDocument::Child &child) {
+            return child.item
+                   && ((child.item->kind == Kind::ExcludePoints && !m_excludeRange.range.isZero())
+                       || (child.item->kind == Kind::ExcludePixels && !m_excludePixelRange.range.isZero()));
+        });
+    return first == children.end() ? -1 : int(first - children.begin());
 }
 
 QVector<FontsDocument::Change> KXftConfig::changes() const
 {
     QVector<FontsDocument::Change> changes;
     for (const ListItem &directory : m_directories) {
-        if (directory.node.isNull() && !directory.toBeRemoved)
-            changes.append({{}, directoryForm(directory.string, homeDirectory())});
+        if (directory.child < 0 && !directory.toBeRemoved)
+            changes.append({-1, directoryForm(directory.string, homeDirectory()), -1});
+        else if (directory.child >= 0 && directory.toBeRemoved)
+            changes.append({directory.child, {}, -1});
     }
-    for (const ListItem &directory : m_directories) {
-        if (!directory.node.isNull() && directory.toBeRemoved)
-            changes.append({directory.node, {}});
-    }
-    if (m_required & SubPixelType) {
-        const bool isGone = m_subPixel.type == SubPixelOrder::None || m_subPixel.toBeRemoved;
+    if (m_required & SubPixelType)
         addChange(&changes, Kind::SubPixel, m_subPixel,
-                  isGone ? QString() : valueForm(Kind::SubPixel, FontRendering::fileName(m_subPixel.type)));
-    }
+                  m_subPixel.type == SubPixelOrder::None
+                      ? QString()
+                      : valueForm(Kind::SubPixel, FontRendering::fileName(m_subPixel.type)));
     if (m_required & HintingStyle) {
-        const bool isGone = m_hint.style == HintStyle::NotSet || m_hint.toBeRemoved;
-        addChange(&changes, Kind::Hinting, m_hinting, valueForm(Kind::Hinting, boolName(m_hinting.set)));
+        addChange(&changes, Kind::Hinting, m_hinting, boolForm(Kind::Hinting, m_hinting.set));
         addChange(&changes, Kind::HintStyle, m_hint,
-                  isGone ? QString() : valueForm(Kind::HintStyle, FontRendering::fileName(m_hint.style)));
+                  m_hint.style == HintStyle::NotSet
+                      ? QString()
+                      : valueForm(Kind::HintStyle, FontRendering::fileName(m_hint.style)));
     }
+    // The rules apply in their order: behind a range, the new one would take it out of force.
     if (m_required & AntiAlias)
         addChange(&changes, Kind::AntiAliasing, m_antiAliasing,
-                  valueForm(Kind::AntiAliasing, boolName(m_antiAliasing.set)));
+                  boolForm(Kind::AntiAliasing, m_antiAliasing.set),
+                  (m_required & ExcludedRange) ? firstExcludeRange() : -1);
     if (m_required & ExcludedRange) {
-        const auto form = [](Kind kind, const Exclude &item) {
-            return item.range.isZero() || item.toBeRemoved ? QString() : excludeForm(kind, item.range);
-        };
-        addChange(&changes, Kind::ExcludePoints, m_excludeRange, form(Kind::ExcludePoints, m_excludeRange));
+        addChange(&changes, Kind::ExcludePoints, m_excludeRange,
+                  rangeForm(Kind::ExcludePoints, m_excludeRange.range));
         addChange(&changes, Kind::ExcludePixels, m_excludePixelRange,
-                  form(Kind::ExcludePixels, m_excludePixelRange));
+                  rangeForm(Kind::ExcludePixels, m_excludePixelRange.range));
     }
     return changes;
 }
 
-QVector<QDomElement> KXftConfig::ownedNodes() const
-{
-    QVector<QDomElement> nodes = {m_subPixel.node, m_excludeRange.node, m_excludePixelRange.node,
-                                  m_hint.node,     m_hinting.node,      m_antiAliasing.node};
-    for (const ListItem &directory : m_directories)
-        nodes.append(directory.node);
-    nodes.removeAll(QDomElement());
-    return nodes;
-}
-
-void KXftConfig::setSubPixelType(SubPixelOrder type)
-{
-    if (type == m_subPixel.type && !m_subPixel.toBeRemoved)
-        return;
-    m_subPixel.toBeRemoved = false;
-    m_subPixel.type = type;
-    m_madeChanges = true;
-}
-
-void KXftConfig::setRanges(const ExcludeRange &points, const ExcludeRange &pixels)
-{
-    if (m_excludeRange.range.equals(points) && m_excludePixelRange.range.equals(pixels))
-        return;
-    m_excludeRange.range = points;
-    m_excludePixelRange.range = pixels;
-    m_madeChanges = true;
-}
-
 void KXftConfig::setExcludeRange(const ExcludeRange &points)
 {
-    if (m_excludeRange.range.equals(points) && !m_excludeRange.toBeRemoved)
+    if (m_excludeRange.range.equals(points))
         return;
     // The pixels would win when both are brought into agreement.
     ExcludeRange agreed = points;
-    ExcludeRange pixels;
-    bringIntoAgreement(&agreed, &pixels, screenDpi());
-    setRanges(points, pixels);
+    m_excludePixelRange.range = {};
+    bringIntoAgreement(&agreed, &m_excludePixelRange.range, screenDpi());
+    m_excludeRange.range = points;
+    m_madeChanges = true;
 }
 
 void KXftConfig::setExcludePixelRange(const ExcludeRange &pixels)
 {
-    if (m_excludePixelRange.range.equals(pixels) && !m_excludePixelRange.toBeRemoved)
+    if (m_excludePixelRange.range.equals(pixels))
         return;
-    ExcludeRange points;
     ExcludeRange agreed = pixels;
-    bringIntoAgreement(&points, &agreed, screenDpi());
-    setRanges(points, pixels);
+    m_excludeRange.range = {};
+    bringIntoAgreement(&m_excludeRange.range, &agreed, screenDpi());
+    m_excludePixelRange.range = pixels;
+    m_madeChanges = true;
 }
 
 void KXftConfig::setHintStyle(HintStyle style)
 {
-    if (style == HintStyle::NotSet) {
-        if (m_hint.style != HintStyle::NotSet && !m_hint.toBeRemoved) {
-            m_hint.toBeRemoved = true;
-            m_hint.style = HintStyle::NotSet;
-            m_madeChanges = true;
-        }
-        return;
-    }
-    if (style != m_hint.style || m_hint.toBeRemoved) {
-        m_hint.toBeRemoved = false;
-        m_hint.style = style;
-        m_madeChanges = true;
-    }
-    setHinting(style != HintStyle::None);
-}
-
-void KXftConfig::setHinting(bool set)
-{
-    m_madeChanges = m_madeChanges || set != m_hinting.set;
-    m_hinting.set = set;
-}
-
-void KXftConfig::setAntiAliasing(bool set)
-{
-    m_madeChanges = m_madeChanges || set != m_antiAliasing.set;
-    m_antiAliasing.set = set;
+    set(&m_hint.style, style);
+    if (style != HintStyle::NotSet)
+        setHinting(style != HintStyle::None);
 }
 
 QStringList KXftConfig::directories() const
@@ -353,11 +323,8 @@ void KXftConfig::addDirectory(const QString &path)
 {
     const QString wanted = directoryFormOfPath(path);
     for (ListItem &directory : m_directories) {
-        if (directory.string != wanted)
-            continue;
-        m_madeChanges = m_madeChanges || directory.toBeRemoved;
-        directory.toBeRemoved = false;
-        return;
+        if (directory.string == wanted)
+            return set(&directory.toBeRemoved, false);
     }
     m_directories.append(ListItem{{}, wanted});
     m_madeChanges = true;
@@ -367,9 +334,7 @@ void KXftConfig::removeDirectory(const QString &path)
 {
     const QString unwanted = directoryFormOfPath(path);
     for (ListItem &directory : m_directories) {
-        if (directory.string != unwanted || directory.toBeRemoved)
-            continue;
-        directory.toBeRemoved = true;
-        m_madeChanges = true;
+        if (directory.string == unwanted)
+            set(&directory.toBeRemoved, true);
     }
 }

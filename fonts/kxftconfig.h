@@ -2,7 +2,6 @@
 
 #include "fonts/fontrendering.h"
 #include "fonts/fontsdocument.h"
-#include "fonts/fontsitem.h"
 
 #include <QList>
 #include <QStringList>
@@ -13,7 +12,7 @@ class FontsFileLock;
 class KXftConfig
 {
 public:
-    /// Which settings an instance handles; the others are neither read nor written.
+    /// Which settings an instance handles; the others are not written.
     enum RequiredData {
         Directories = 0x01,
         SubPixelType = 0x02,
@@ -23,8 +22,7 @@ public:
     };
 
     struct Item {
-        QDomElement node; ///< the element that holds the setting; null when the file has none
-        bool toBeRemoved = false;
+        int child = -1; ///< the element that holds the setting; -1 when the file has none
     };
     struct SubPixel : Item {
         SubPixelOrder type = SubPixelOrder::None;
@@ -43,22 +41,23 @@ public:
     };
     struct ListItem : Item {
         QString string; ///< a directory, with a slash at its end
+        bool toBeRemoved = false;
     };
 
-    /// Chooses the user's file, or the \a system's, and reads it. A range of sizes to exclude is brought into
-    /// agreement in both units, which writes the file.
+    /// Chooses the user's file, or the \a system's. It is read by reset().
     explicit KXftConfig(int required, bool system = false);
 
-    /// Forgets every change and reads the file. Returns false when the file can't be read and understood, and
-    /// when it is missing and can't be made; the items keep their defaults then, and apply() writes nothing.
+    /// Forgets every change and reads the file. A range of sizes to exclude is brought into agreement in both units,
+    /// which writes the file. Returns false when the file can't be read and understood, and when it is missing and
+    /// can't be made; the items keep their defaults then, and apply() writes nothing.
     bool reset();
 
-    /// Writes the file if anything changed. What another program wrote since the last read stays, our
-    /// settings are put into it. On false the file is as it was.
-    bool apply();
+    /// Writes the file if anything changed. What another program wrote since the last read stays, our settings are
+    /// put into it, for up to two seconds. On false, \a error says why, and the settings wait for another try.
+    [[nodiscard]] bool apply(QString *error);
 
     SubPixelOrder subPixelType() const { return m_subPixel.type; }
-    void setSubPixelType(SubPixelOrder type);
+    void setSubPixelType(SubPixelOrder type) { set(&m_subPixel.type, type); }
 
     /// In points.
     ExcludeRange excludeRange() const { return m_excludeRange.range; }
@@ -74,10 +73,10 @@ public:
     void setHintStyle(HintStyle style);
 
     bool hinting() const { return m_hinting.set; }
-    void setHinting(bool set);
+    void setHinting(bool value) { set(&m_hinting.set, value); }
 
     bool antiAliasing() const { return m_antiAliasing.set; }
-    void setAntiAliasing(bool set);
+    void setAntiAliasing(bool value) { set(&m_antiAliasing.set, value); }
 
     /// The font directories, each with a slash at its end.
     QStringList directories() const;
@@ -89,19 +88,24 @@ public:
     QString fileName() const { return m_file; }
 
 private:
-    KXftConfig(int required, bool system, const QString &file, int mergesLeft);
+    template<typename Value>
+    void set(Value *member, Value value)
+    {
+        m_madeChanges = m_madeChanges || *member != value;
+        *member = value;
+    }
 
-    bool read();
-    void readContents();
+    void read();
+    void readItem(const FontsItem &item, int child);
+    bool wasRewritten() const;
     bool bringRangesIntoAgreement();
-    void setRanges(const ExcludeRange &points, const ExcludeRange &pixels);
-    bool merge();
-    bool write(FontsFileLock *lock);
-    void copySettingsTo(KXftConfig *other) const;
+    bool write(FontsFileLock *lock, QString *error);
+    bool writeOrMerge(FontsFileLock *lock, QString *error);
+    void merge();
     QVector<FontsDocument::Change> changes() const;
     void addChange(QVector<FontsDocument::Change> *changes, FontsItem::Kind kind, const Item &item,
-                   const QString &form) const;
-    QVector<QDomElement> ownedNodes() const;
+                   const QString &form, int before = -1) const;
+    int firstExcludeRange() const;
 
     SubPixel m_subPixel;
     Exclude m_excludeRange; // in points
@@ -114,8 +118,6 @@ private:
     QList<ListItem> m_directories;
     QString m_file;
     bool m_madeChanges = false;
-    bool m_system;
-    QString m_time;          // tells the version of the file that was read
-    bool m_isUsable = false; // the file was understood, or can be made
-    int m_mergesLeft;
+    QByteArray m_content; // of the file when it was read
+    QString m_refusal;    // why the file can't be used; empty: it was understood, or can be made
 };

@@ -386,6 +386,13 @@ Trotzdem entfernen?</translation>
     </message>
 </context>
 <context>
+    <name>FontAASettings</name>
+    <message>
+        <source>The font settings could not be saved in the file &apos;%1&apos;: %2</source>
+        <translation>Die Schrifteinstellungen konnten nicht in der Datei „%1“ gespeichert werden: %2</translation>
+    </message>
+</context>
+<context>
     <name>FontAASettingsForm</name>
     <message>
         <source>Configure Anti-Alias Settings</source>
@@ -654,6 +661,10 @@ Trotzdem entfernen?</translation>
     <message>
         <source>Font Settings Changed</source>
         <translation>Schrifteinstellungen geändert</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
     </message>
 </context>
 <context>

@@ -386,6 +386,13 @@ Remove it all the same?</translation>
     </message>
 </context>
 <context>
+    <name>FontAASettings</name>
+    <message>
+        <source>The font settings could not be saved in the file &apos;%1&apos;: %2</source>
+        <translation>The font settings could not be saved in the file &apos;%1&apos;: %2</translation>
+    </message>
+</context>
+<context>
     <name>FontAASettingsForm</name>
     <message>
         <source>Configure Anti-Alias Settings</source>
@@ -654,6 +661,10 @@ Remove it all the same?</translation>
     <message>
         <source>Font Settings Changed</source>
         <translation>Font Settings Changed</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Error</translation>
     </message>
 </context>
 <context>

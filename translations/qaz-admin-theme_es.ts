@@ -386,6 +386,13 @@ Remove it all the same?</source>
     </message>
 </context>
 <context>
+    <name>FontAASettings</name>
+    <message>
+        <source>The font settings could not be saved in the file &apos;%1&apos;: %2</source>
+        <translation>No se pudo guardar la configuración de los tipos de letra en el archivo «%1»: %2</translation>
+    </message>
+</context>
+<context>
     <name>FontAASettingsForm</name>
     <message>
         <source>Configure Anti-Alias Settings</source>
@@ -654,6 +661,10 @@ Remove it all the same?</source>
     <message>
         <source>Font Settings Changed</source>
         <translation>Ajustes de las fuentes modificados</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Error</translation>
     </message>
 </context>
 <context>

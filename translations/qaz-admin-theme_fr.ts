@@ -386,6 +386,13 @@ Le supprimer quand même ?</translation>
     </message>
 </context>
 <context>
+    <name>FontAASettings</name>
+    <message>
+        <source>The font settings could not be saved in the file &apos;%1&apos;: %2</source>
+        <translation>Les réglages des polices n’ont pas pu être enregistrés dans le fichier « %1 » : %2</translation>
+    </message>
+</context>
+<context>
     <name>FontAASettingsForm</name>
     <message>
         <source>Configure Anti-Alias Settings</source>
@@ -654,6 +661,10 @@ Le supprimer quand même ?</translation>
     <message>
         <source>Font Settings Changed</source>
         <translation>Réglages des polices modifiés</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Erreur</translation>
     </message>
 </context>
 <context>

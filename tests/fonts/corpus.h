@@ -63,10 +63,13 @@ inline QStringList foreignPieces(const QByteArray &content)
         depth -= reader.isEndElement();
         if (depth > 1 || reader.isWhitespace())
             continue;
-        QDomDocument document;
-        document.setContent(QString(piece).remove(comment));
-        const auto item = readFontsItem(document.documentElement(), QStringLiteral("/home/me"));
-        if (item && item->kind != FontsItem::Kind::Directory)
+        FontsXml xml;
+        QString error;
+        const bool isElement = readFontsXml("<fontconfig>" + QString(piece).remove(comment).toUtf8()
+                                                + "</fontconfig>",
+                                            &xml, &error)
+                               && xml.children.size() == 1 && xml.children.first().item;
+        if (isElement && xml.children.first().item->kind != FontsItem::Kind::Directory)
             pieces += comments;
         else
             pieces += reader.isEndElement() ? piece : piece.simplified();

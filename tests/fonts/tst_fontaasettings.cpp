@@ -46,6 +46,14 @@ public:
     {
         home.write(place, "<?xml version=\"1.0\"?>\n<fontconfig>\n" + elements + "</fontconfig>\n");
     }
+    bool save(bool useAntiAliasing) const
+    {
+        QString error;
+        const bool isChanged = dialog->save(useAntiAliasing, &error);
+        if (!error.isEmpty())
+            qFatal("%s", qPrintable(error));
+        return isChanged;
+    }
     template<typename Widget>
     Widget *find(const char *name) const
     {
@@ -127,7 +135,7 @@ private slots:
         file.write(pixelRange("0", "14.04")); // shows as the default's 14, which is meant exactly
         file.dialog->load();
         file.dialog->defaults();
-        QVERIFY(file.dialog->save(true));
+        QVERIFY(file.save(true));
         QVERIFY(file.home.read(place).contains("<double>14</double>"));
     }
 
@@ -140,17 +148,17 @@ private slots:
         file.find<QCheckBox>("useSubPixelCheckBox")->click();
         QTest::keyClick(file.find<QComboBox>("subPixelTypeCombo"), Qt::Key_Down);
         QTest::keyClick(file.find<QComboBox>("hintStyleCombo"), Qt::Key_End);
-        QVERIFY(file.dialog->save(true));
+        QVERIFY(file.save(true));
         const QByteArray content = file.home.read(place);
         for (const char *part : {"<const>bgr</const>", "<const>hintfull</const>", "<double>9.5</double>",
                                  "name=\"antialias\">\n      <bool>true</bool>"})
             QVERIFY2(content.contains(part), content.constData());
         QCOMPARE(DialogOverFile::stored(), QStringLiteral("bgr true hintfull"));
-        QVERIFY(!file.dialog->save(true)); // nothing new
+        QVERIFY(!file.save(true)); // nothing new
 
         file.find<QCheckBox>("useSubPixelCheckBox")->click();
         file.find<QCheckBox>("excludeRangeCheckBox")->click();
-        QVERIFY(file.dialog->save(false));
+        QVERIFY(file.save(false));
         QVERIFY(!file.home.read(place).contains("rgba") && !file.home.read(place).contains("double"));
         QCOMPARE(DialogOverFile::stored(), QStringLiteral("none false hintfull"));
     }
@@ -164,25 +172,25 @@ private slots:
             auto *fromBox = file.find<QDoubleSpinBox>("excludeFromSpinBox");
             auto *toBox = file.find<QDoubleSpinBox>("excludeToSpinBox");
             QCOMPARE(toBox->value(), 48.0);
-            QVERIFY(file.dialog->save(true)); // the hint style is new to the store
-            QVERIFY(!file.dialog->save(true));
+            QVERIFY(file.save(true)); // the hint style is new to the store
+            QVERIFY(!file.save(true));
             QVERIFY(file.home.read(place).contains(QByteArray("<double>") + from + "</double>"));
             fromBox->setValue(4);
-            file.dialog->save(true);
+            file.save(true);
             QVERIFY(!file.home.read(place).contains("<double>60</double>"));
 
             fromBox->setValue(5);
             file.write(elements);
             file.dialog->load();
-            QVERIFY(!file.dialog->save(true)); // the edit was taken back
+            QVERIFY(!file.save(true)); // the edit was taken back
             toBox->selectAll();
             QTest::keyClicks(toBox, QStringLiteral("48")); // what is shown already, but now on purpose
-            QVERIFY(file.dialog->save(true));
+            QVERIFY(file.save(true));
             const QByteArray content = file.home.read(place);
             QVERIFY2(content.contains("<double>8.3</double>") && content.contains("<double>48</double>"),
                      content.constData());
             file.write(elements);
-            QVERIFY(!file.dialog->save(true)); // nor is what was saved an edit
+            QVERIFY(!file.save(true)); // nor is what was saved an edit
         }
     }
 

@@ -250,6 +250,34 @@ private slots:
                  QStringLiteral("true"));
     }
 
+    void failureIsToldAndStaysEdited()
+    {
+        const TemporaryHome home;
+        Editor editor(home);
+        const QString place = QStringLiteral(".config/fontconfig/fonts.conf");
+        QVERIFY(home.makeDirectory(place));
+        editor.chooseAntiAliasing(2);
+        QSignalSpy changed(&editor.page, &KFonts::changed);
+        for (int attempt = 0; attempt < 2; ++attempt) {
+            WmListener manager;
+            ModalDriver driver;
+            driver.thenAnswer(QMessageBox::Ok);
+            editor.save();
+            QCOMPARE(driver.seen(),
+                     QStringList(QStringLiteral("Error|The font settings could not be saved in the "
+                                                "file '%1': Is a directory")
+                                     .arg(home.path(place))));
+            QVERIFY(!QSettings().contains(QStringLiteral("XftAntialias")));
+            QTRY_VERIFY(changed.last().value(0).toBool());
+        }
+        QVERIFY(QDir().rmdir(home.path(place)));
+        ModalDriver driver;
+        driver.thenAnswer(QMessageBox::Ok);
+        editor.save();
+        QCOMPARE(driver.seen(), QStringList(messageBox));
+        QVERIFY(home.read(place).contains("<bool>false</bool>"));
+    }
+
     void antiAliasingModes()
     {
         const TemporaryHome home;

@@ -14,12 +14,12 @@ FontsDocument parsed(const QByteArray &content)
 }
 
 /// The last child that holds a setting of \a kind.
-QDomElement find(const FontsDocument &document, Kind kind)
+int find(const FontsDocument &document, Kind kind)
 {
-    QDomElement found;
-    for (const FontsDocument::Child &child : document.children()) {
-        const auto item = readFontsItem(child.node, {});
-        found = item && item->kind == kind ? child.node : found;
+    int found = -1;
+    for (int i = 0; i < document.children().size(); ++i) {
+        const auto &item = document.children().at(i).item;
+        found = item && item->kind == kind ? i : found;
     }
     return found;
 }
@@ -28,7 +28,7 @@ QDomElement find(const FontsDocument &document, Kind kind)
 QByteArray replaced(const char *name, Kind kind, const QString &form)
 {
     const FontsDocument document = parsed(corpus().value(QLatin1String(name)));
-    return document.withChanges({{find(document, kind), form}});
+    return document.withChanges({{find(document, kind), form, -1}});
 }
 
 /// The corpus's file \a name with \a before replaced as text.
@@ -41,10 +41,9 @@ QByteArray expected(const char *name, const char *before, const char *after)
 /// What an element reads as, in short; empty for none of ours.
 QString reading(const QString &xml)
 {
-    QDomDocument document;
-    document.setContent(xml);
+    const FontsDocument document = parsed("<fontconfig>" + xml.toUtf8() + "</fontconfig>");
     QString text;
-    if (const auto item = readFontsItem(document.documentElement(), QStringLiteral("/home/me")))
+    if (const auto &item = document.children().first().item)
         QTextStream(&text) << int(item->kind) << ' ' << item->text << ' ' << item->range.from << '-'
                            << item->range.to;
     return text;
@@ -72,11 +71,10 @@ private slots:
         QFETCH(QByteArray, content);
         const QByteArray before = parsed(content).withChanges({});
         const FontsDocument document = parsed(
-            parsed(content).withChanges({{{}, directoryForm(QStringLiteral("/added/ü"), {})}}));
+            parsed(content).withChanges({{-1, directoryForm(QStringLiteral("/added/ü"), {}), -1}}));
         QCOMPARE(document.children().size(), parsed(content).children().size() + 1);
-        const QDomElement added = document.children().last().node;
-        QCOMPARE(added.text(), QStringLiteral("/added/ü"));
-        const QByteArray after = document.withChanges({{added, {}}});
+        QCOMPARE(document.children().last().item->text, QStringLiteral("/added/ü"));
+        const QByteArray after = document.withChanges({{document.children().size() - 1, {}, -1}});
         QCOMPARE(foreignPieces(after), foreignPieces(before));
         if (before.contains("\n</fontconfig>"))
             QCOMPARE(after, before);
@@ -116,10 +114,10 @@ private slots:
                                     "<fontconfig>\n  <match target=\"font\">\n"
                                     "    <edit mode=\"assign\" name=\"antialias\">\n      <bool>true</bool>\n"
                                     "    </edit>\n  </match>\n</fontconfig>\n";
-        QCOMPARE(parsed("").withChanges({{{}, form}}), expected);
-        QCOMPARE(parsed(" \n").withChanges({{{}, form}}), expected);
+        QCOMPARE(parsed("").withChanges({{-1, form, -1}}), expected);
+        QCOMPARE(parsed(" \n").withChanges({{-1, form, -1}}), expected);
         const QByteArray prolog = "<?xml version=\"1.0\"?>\n<!-- mine -->";
-        QVERIFY(parsed(prolog).withChanges({{{}, form}}).startsWith(prolog + "\n<fontconfig>\n  <match"));
+        QVERIFY(parsed(prolog).withChanges({{-1, form, -1}}).startsWith(prolog + "\n<fontconfig>\n  <match"));
     }
 
     void whatIsNoConfigurationIsRefused_data()
@@ -164,7 +162,7 @@ private slots:
             const FontsDocument document = parsed(corpus().value(QLatin1String(name)));
             QVector<bool> owned;
             for (const FontsDocument::Child &child : document.children())
-                owned.append(readFontsItem(child.node, {}).has_value());
+                owned.append(child.item.has_value());
             return owned;
         };
         // The directory that an entity stands for has no place in the text.
@@ -175,8 +173,7 @@ private slots:
     void foreignContentIsNoticed()
     {
         const auto isOurs = [](const QByteArray &prolog, const QByteArray &children) {
-            const FontsDocument document = parsed(prolog + "<fontconfig>" + children + "</fontconfig>\n");
-            return document.holdsOnly({find(document, Kind::SubPixel)});
+            return parsed(prolog + "<fontconfig>" + children + "</fontconfig>\n").holdsOnlySettings();
         };
         const QByteArray ours
             = "<match target='font'><edit mode='assign' name='rgba'><const>rgb</const></edit></match>";
@@ -216,7 +213,8 @@ private slots:
         const QString home = QStringLiteral("/home/me");
         QCOMPARE(directoryForm(home + QLatin1String("/a&b/"), home), QStringLiteral("<dir>~/a&amp;b</dir>"));
         QCOMPARE(directoryForm(home + QLatin1String("lon/"), home), QStringLiteral("<dir>/home/melon</dir>"));
-        QCOMPARE(reading(QStringLiteral("<dir>~//fonts</dir>")), QStringLiteral("0 /home/me/fonts/ 0-0"));
+        QCOMPARE(directoryFormOfPath(QStringLiteral("~//fonts"), home), QStringLiteral("/home/me/fonts/"));
+        QCOMPARE(reading(QStringLiteral("<dir>~//fonts</dir>")), QStringLiteral("0 ~//fonts 0-0"));
     }
 
     void boundsMayStandInAnyOrder()

@@ -1,7 +1,7 @@
 #include "fonts/fontsfile.h"
 #include "fonts/kxftconfig.h"
-#include "settings/directories.h"
 #include "tests/fonts/corpus.h"
+#include "tests/support/fakeprogram.h"
 #include "tests/support/standarderror.h"
 #include "tests/support/temporaryhome.h"
 
@@ -17,6 +17,25 @@ namespace {
 constexpr int allButDirectories = 0x1E;
 constexpr auto everything = QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot;
 const QString place = QStringLiteral(".config/fontconfig/fonts.conf");
+
+/// As the dialog uses it: chosen and read, the reason of a failure not asked for.
+class Config : public KXftConfig
+{
+public:
+    explicit Config(int required = allButDirectories)
+        : KXftConfig(required)
+    {
+        reset();
+    }
+    bool apply()
+    {
+        QString error;
+        const bool isApplied = KXftConfig::apply(&error);
+        if (isApplied != error.isEmpty())
+            qFatal("A reason belongs to a failure alone: %s", qPrintable(error));
+        return isApplied;
+    }
+};
 
 constexpr ExcludeRange otherRange{3, 7};
 const std::function<void(KXftConfig &)> edits[] = {
@@ -69,7 +88,7 @@ int editRepeatedly(int style)
 {
     int applied = 0;
     for (int i = 0; i < 20; ++i) {
-        KXftConfig config(allButDirectories);
+        Config config;
         config.setHintStyle(i % 2 ? HintStyle::Full : HintStyle(style));
         config.setSubPixelType(SubPixelOrder(1 + i % 4));
         applied += config.apply();
@@ -87,7 +106,7 @@ private slots:
     {
         const TemporaryHome home;
         StandardError standardError;
-        KXftConfig config(allButDirectories);
+        Config config;
         QCOMPARE(standardError.take(), "qaz-admin-theme: user fontconfig file to use: "
                                            + QFile::encodeName(home.path(place)) + '\n');
         QCOMPARE(QFileInfo(home.path(QStringLiteral(".config/fontconfig"))).permissions() & 0x0777,
@@ -102,7 +121,7 @@ private slots:
         const QByteArray content = home.read(place);
         QVERIFY2(content.contains("<const>hintnone</const>"), content.constData());
         QVERIFY2(content.indexOf("hinting") < content.indexOf("hintstyle"), content.constData());
-        QCOMPARE(summary(KXftConfig(allButDirectories)), summary(config));
+        QCOMPARE(summary(Config()), summary(config));
         QVERIFY(!home.exists(QStringLiteral(".local"))); // ours alone: no copy
     }
 
@@ -112,13 +131,13 @@ private slots:
         QFETCH(QByteArray, content);
         for (const auto &edit : edits) {
             const HomeWithFile home(content);
-            KXftConfig config(allButDirectories);
+            Config config;
             edit(config);
             const QString wanted = summary(config);
             QVERIFY(config.apply());
             QCOMPARE(foreignPieces(home.content()), foreignPieces(content));
             QCOMPARE(summary(config), wanted);
-            QCOMPARE(summary(KXftConfig(allButDirectories)), wanted);
+            QCOMPARE(summary(Config()), wanted);
             QVERIFY(home.holdsOnlyTheFile());
         }
     }
@@ -129,7 +148,7 @@ private slots:
         for (int seed = 0; seed < 20; ++seed) {
             qSetGlobalQHashSeed(seed ? -1 : 0);
             const HomeWithFile home(sample("unknown-content"));
-            KXftConfig config(allButDirectories);
+            Config config;
             config.setExcludePixelRange(otherRange);
             QVERIFY(config.apply());
             written.insert(home.content());
@@ -142,7 +161,7 @@ private slots:
         QCOMPARE(QX11Info::appDpiY(), 96);
         const HomeWithFile home(sample("pixel-range"));
         StandardError standardError;
-        KXftConfig config(allButDirectories);
+        Config config;
         const QByteArray told = standardError.take().trimmed();
         QFile copy(QFile::decodeName(told.mid(told.lastIndexOf(" as ") + 4)));
         QVERIFY2(copy.open(QIODevice::ReadOnly), told.constData());
@@ -154,13 +173,45 @@ private slots:
                  content.constData());
         QCOMPARE(home.backups(), 2);
 
-        const QString stamp = fontsFileStamp(home.path(place));
-        KXftConfig again(allButDirectories);
+        const QString before = home.fingerprint();
+        Config again;
         again.setExcludePixelRange({8, 15});
         QVERIFY(!again.changed());
-        QVERIFY(fontsFileStamp(home.path(place)) != stamp);
+        QVERIFY(home.fingerprint() != before);
         QCOMPARE(home.content(), content);
         QCOMPARE(home.backups(), 2);
+    }
+
+    void newAntiAliasingStandsBeforeTheRange()
+    {
+        const QByteArray range = "  <match target=\"font\">\n"
+                                 "    <test qual=\"any\" name=\"size\" compare=\"more_eq\">\n"
+                                 "      <double>3</double>\n    </test>\n"
+                                 "    <test qual=\"any\" name=\"size\" compare=\"less_eq\">\n"
+                                 "      <double>7</double>\n    </test>\n"
+                                 "    <edit mode=\"assign\" name=\"antialias\">\n"
+                                 "      <bool>false</bool>\n    </edit>\n  </match>\n";
+        const QByteArray pixels
+            = QByteArray(range).replace("\"size", "\"pixelsize").replace("3<", "4<").replace("7<", "9<");
+        const QByteArray prolog = "<?xml version=\"1.0\"?>\n<fontconfig>\n  <dir>/a</dir>\n";
+        const HomeWithFile home(prolog + range + "  <!-- mine -->\n</fontconfig>\n");
+        Config config(KXftConfig::AntiAlias | KXftConfig::ExcludedRange);
+        config.setAntiAliasing(!config.antiAliasing());
+        const QByteArray value = config.antiAliasing() ? "true" : "false";
+        QVERIFY(config.apply());
+        QCOMPARE(
+            home.content(),
+            prolog + "  <match target=\"font\">\n    <edit mode=\"assign\" name=\"antialias\">\n      <bool>"
+                + value + "</bool>\n    </edit>\n  </match>\n" + range + "  <!-- mine -->\n" + pixels
+                + "</fontconfig>\n");
+
+        // Not in front of a range that goes.
+        home.write(place, prolog + range + "</fontconfig>\n");
+        config.reset();
+        config.setAntiAliasing(!config.antiAliasing());
+        config.setExcludeRange({});
+        QVERIFY(config.apply());
+        QCOMPARE(home.content().count("<match"), 1);
     }
 
     void removalTakesOlderElementsAlong()
@@ -168,7 +219,7 @@ private slots:
         const QByteArray rgba
             = "<match target='font'><edit mode='assign' name='rgba'><const>rgb</const></edit></match>\n";
         const HomeWithFile home("<fontconfig>\n" + rgba + rgba + "</fontconfig>\n");
-        KXftConfig config(KXftConfig::SubPixelType);
+        Config config(KXftConfig::SubPixelType);
         config.setSubPixelType(SubPixelOrder::None);
         QVERIFY(config.apply());
         QCOMPARE(home.content(), QByteArray("<?xml version=\"1.0\"?>\n<fontconfig>\n</fontconfig>\n"));
@@ -177,7 +228,7 @@ private slots:
     void directoriesAreAddedAndRemoved()
     {
         const HomeWithFile home(sample("all-settings"));
-        KXftConfig config(KXftConfig::Directories);
+        Config config(KXftConfig::Directories);
         config.addDirectory(home.path(QStringLiteral("my fonts")));
         config.addDirectory(QStringLiteral("/srv/fonts/"));
         QVERIFY(config.apply());
@@ -197,7 +248,7 @@ private slots:
         QFile::setPermissions(target, QFile::ReadOwner | QFile::WriteOwner);
         home.makeDirectory(QStringLiteral(".config/fontconfig"));
         QVERIFY(QFile::link(target, home.path(place)));
-        KXftConfig config(allButDirectories);
+        Config config;
         config.setSubPixelType(SubPixelOrder::Bgr);
         QVERIFY(config.apply());
         QCOMPARE(QFileInfo(home.path(place)).symLinkTarget(), target);
@@ -211,7 +262,7 @@ private slots:
         const auto check = [](const TemporaryHome &home) {
             const QString before = home.fingerprint();
             StandardError standardError;
-            KXftConfig config(allButDirectories);
+            Config config;
             QVERIFY(!config.reset());
             QVERIFY(standardError.take().contains("qaz-admin-theme: Can't use "));
             config.setSubPixelType(SubPixelOrder::Bgr);
@@ -240,7 +291,7 @@ private slots:
         // The administrator may write everywhere.
         const uid_t user = ::geteuid();
         QVERIFY(user != 0 || ::seteuid(65534) == 0);
-        KXftConfig config(allButDirectories);
+        Config config;
         config.setSubPixelType(SubPixelOrder::Bgr);
         const bool applied = config.apply();
         QVERIFY(user != 0 || ::seteuid(user) == 0);
@@ -252,7 +303,7 @@ private slots:
     void bothChangesSurviveARewrite()
     {
         const HomeWithFile home("<fontconfig>\n</fontconfig>\n");
-        KXftConfig config(allButDirectories);
+        Config config;
         config.setExcludePixelRange({3, 10});
         config.setHintStyle(HintStyle::Full);
         home.write(place, sample("near-misses"));
@@ -274,17 +325,40 @@ private slots:
     void heldLockIsRespected()
     {
         const HomeWithFile home("<fontconfig/>\n");
-        KXftConfig config(allButDirectories);
+        Config config;
         config.setSubPixelType(SubPixelOrder::Bgr);
         {
             const FontsFileLock lock(home.path(place));
             QVERIFY(lock.isHeld());
-            QVERIFY(!config.apply());
+            QString error;
+            QVERIFY(!config.KXftConfig::apply(&error));
+            QCOMPARE(error, QStringLiteral("Another program has locked it"));
             QCOMPARE(home.content(), QByteArray("<fontconfig/>\n"));
         }
         QVERIFY(config.changed());
         QVERIFY(config.apply());
         QVERIFY(home.holdsOnlyTheFile());
+    }
+
+    void rewrittenFileIsToldAbout()
+    {
+        const HomeWithFile home("<fontconfig>\n</fontconfig>\n");
+        FakePrograms programs;
+        programs.add(QStringLiteral("scribble"),
+                     "while :; do echo \"<fontconfig><!-- $((n = n + 1)) --></fontconfig>\" >\"$1\"; done");
+        Config config;
+        config.setSubPixelType(SubPixelOrder::Bgr);
+        QProcess scribbler;
+        scribbler.start(QStringLiteral("scribble"), {home.path(place)});
+        QTRY_VERIFY(home.content().contains("<!--"));
+        StandardError standardError;
+        const bool isApplied = config.apply(); // a matter of luck
+        scribbler.kill();
+        QVERIFY(scribbler.waitForFinished());
+        const QByteArray told = standardError.take();
+        QCOMPARE(told.count("font config file was rewritten since we last read!\n"), 1);
+        QCOMPARE(told.contains("Can't write "), !isApplied);
+        QCOMPARE(config.changed(), !isApplied);
     }
 
     void editorsAtTheSameTimeLeaveAWholeFile()
@@ -300,35 +374,6 @@ private slots:
         }
         QCOMPARE(foreignPieces(home.content()), foreignPieces(sample("aliases")));
         QVERIFY(home.holdsOnlyTheFile());
-    }
-
-    void fileIsChosenAmongFontconfigsOwn()
-    {
-        const TemporaryHome home;
-        const auto file = [&home](const char *name) { return home.write(QLatin1String(name), ""); };
-        const QString main = file("system/fonts.conf");
-        const QString local = file("system/local.conf");
-        const QString other = file(".config/fontconfig/conf.d/10-mine.conf");
-        const QString own = file(".fonts.conf");
-        const QString snippets = home.path(QStringLiteral(".config/fontconfig/conf.d"));
-        QCOMPARE(chooseFontsFile({other, own}, false), own);
-        QCOMPARE(chooseFontsFile({other, home.path(QStringLiteral("missing"))}, false), other);
-        QCOMPARE(chooseFontsFile({main, local}, true), local);
-        QCOMPARE(chooseFontsFile({main, snippets, local}, true),
-                 snippets + QLatin1String("/29-qaz-rendering.conf"));
-        QCOMPARE(chooseFontsFile({home.path()}, true), QStringLiteral("/etc/fonts/local.conf"));
-
-        // A home of the same beginning is another home.
-        QVERIFY(home.makeDirectory(QStringLiteral("me")));
-        const QString neighbour = file("menu/fonts.conf");
-        const ScopedEnvironment inner("HOME", qgetenv("HOME") + "/me");
-        QCOMPARE(chooseFontsFile({main, own, neighbour}, false), home.path(place));
-        const ScopedEnvironment unset("XDG_CONFIG_HOME", {});
-        QCOMPARE(chooseFontsFile({}, false), home.path(QStringLiteral("me/.config/fontconfig/fonts.conf")));
-
-        const ScopedEnvironment homeless("HOME", {}); // the password database knows a home
-        QCOMPARE(userFontsFile(),
-                 directoryPath(DirectoryKind::Home) + QLatin1String("/.config/fontconfig/fonts.conf"));
     }
 };
 
