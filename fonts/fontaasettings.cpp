@@ -2,8 +2,8 @@
 
 #include "fonts/kxftconfig.h"
 #include "fonts/lcdfiltering.h"
-#include "fonts/renderingstore.h"
 #include "fonts/subpixelswatch.h"
+#include "settings/renderingstore.h"
 #include "ui_fontaasettingsform.h"
 
 #include <QPushButton>

@@ -1,7 +1,7 @@
 #include "fonts/fontpage.h"
 
-#include "fonts/renderingstore.h"
 #include "pages/common/waitcursor.h"
+#include "settings/renderingstore.h"
 #include "settings/wmcommands.h"
 
 #include <QSettings>

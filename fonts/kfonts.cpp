@@ -2,7 +2,6 @@
 
 #include "fonts/fontaasettings.h"
 #include "fonts/fontuseitem.h"
-#include "fonts/renderingstore.h"
 #include "fonts/serverresources.h"
 #include "fonts/userfontfiles.h"
 #include "fonts/xresources.h"
@@ -10,6 +9,7 @@
 #include "platform/setxrdbparameterinfile.h"
 #include "settings/directories.h"
 #include "settings/fontroles.h"
+#include "settings/renderingstore.h"
 
 #include <QComboBox>
 #include <QCoreApplication>

@@ -1,8 +1,8 @@
 #include "fonts/xresources.h"
 
-#include "fonts/renderingstore.h"
 #include "fonts/serverresources.h"
 #include "settings/directories.h"
+#include "settings/renderingstore.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -22,9 +22,18 @@ constexpr int bufferSize = 4096;
 constexpr char wallpaperKey[] = "X-QAZ-WallPaper";
 const QLatin1String entryFileName("/.directory");
 
+const QLatin1String desktopsDirectory("/Desktops");
+
 QByteArray currentDesktopFile()
 {
     return QFile::encodeName(directoryPath(DirectoryKind::CurrentDesktop) + entryFileName);
+}
+
+QString wallpaperIn(const QByteArray &path)
+{
+    QazDesktopEntry entry(path.constData());
+    const char *stored = entry.load() ? entry.getUnknownValue(wallpaperKey) : nullptr;
+    return QString::fromLocal8Bit(stored);
 }
 
 /// Whether a reader of INI files finds the key. Spaces round "=", one value a key, one line a value.
@@ -54,9 +63,13 @@ void removeWallpaperFrom(const QString &path)
 
 QString currentDesktopWallpaper()
 {
-    QazDesktopEntry entry(currentDesktopFile().constData());
-    const char *stored = entry.load() ? entry.getUnknownValue(wallpaperKey) : nullptr;
-    return QString::fromLocal8Bit(stored);
+    return wallpaperIn(currentDesktopFile());
+}
+
+QString desktopWallpaper(int number)
+{
+    return wallpaperIn(QFile::encodeName(directoryPath(DirectoryKind::Home) + desktopsDirectory
+                                         + QStringLiteral("/Desktop%1").arg(number) + entryFileName));
 }
 
 void setCurrentDesktopWallpaper(const QString &wallpaper)
@@ -89,7 +102,7 @@ void removeDesktopWallpapers()
 {
     if (!QTextCodec::codecForName("UTF-8"))
         return;
-    const QDir desktops(directoryPath(DirectoryKind::Home) + QLatin1String("/Desktops"));
+    const QDir desktops(directoryPath(DirectoryKind::Home) + desktopsDirectory);
     const QStringList names = desktops.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Unsorted);
     for (const QString &name : names) {
         // Not a name filter: that would not tell "Desktop1" from "desktop1".

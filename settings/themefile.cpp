@@ -8,16 +8,12 @@
 
 #include <memory>
 
-namespace {
-
 QString defaultThemeFile()
 {
     const std::unique_ptr<char[]> suffix(qazSessionConfigSuffix(0));
     return directoryPath(DirectoryKind::ThemeFile) + QLatin1String("/current.themerc")
            + QString::fromLocal8Bit(suffix.get());
 }
-
-} // namespace
 
 QString chooseThemeFile(int argc, char **argv)
 {

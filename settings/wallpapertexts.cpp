@@ -1,7 +1,13 @@
 #include "settings/wallpapertexts.h"
 
+#include "platform/findwallpaperbyname.h"
+
+#include <QFile>
+
 namespace {
 
+constexpr int pathBufferSize = 4096;
+constexpr char convertCommand[] = "qaz-svg2png -w %d -h %d -i \"%s\" -o \"%s\"";
 constexpr const char *fitWords[] = {"Center", "Tile", "Stretch"};
 
 } // namespace
@@ -23,4 +29,12 @@ Fit fitFromWord(const QString &word)
 bool isColorText(const QString &text)
 {
     return text.startsWith(QLatin1Char('#'));
+}
+
+QString wallpaperNamed(const QString &name, const QSize &screenSize, bool mayConvert)
+{
+    char found[pathBufferSize] = "";
+    FindWallPaperByName(name.toLocal8Bit().constData(), found, screenSize.width(), screenSize.height(),
+                        mayConvert ? convertCommand : "");
+    return QFile::decodeName(found);
 }

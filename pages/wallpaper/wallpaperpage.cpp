@@ -6,7 +6,6 @@
 #include "pages/wallpaper/keptpreview.h"
 #include "pages/wallpaper/wallpaperpreview.h"
 #include "pages/wallpaper/wallpaperselection.h"
-#include "platform/findwallpaperbyname.h"
 #include "platform/qazfiledialog.h"
 #include "platform/qazsettings.h"
 #include "settings/colortexts.h"
@@ -32,9 +31,6 @@ const Setting positionSetting = {QLatin1String("WallPaperPos"), QLatin1String("S
 const Setting periodSetting = {QLatin1String("WallPaperPeriod"), QLatin1String("0")};
 const Setting desktopColorSetting = {QLatin1String("DesktopColor"), QLatin1String("blue")};
 
-constexpr int pathBufferSize = 4096;
-constexpr char convertCommand[] = "qaz-svg2png -w %d -h %d -i \"%s\" -o \"%s\"";
-
 QString storedText(const QazSettings *settings, const Setting &setting)
 {
     return settings->value(setting.key, QString(setting.defaultText)).toString();
@@ -44,15 +40,6 @@ QString storedText(const QazSettings *settings, const Setting &setting)
 QString unquoted(QString wallpaper)
 {
     return wallpaper.remove(QLatin1Char('"'));
-}
-
-/// The file of the wallpaper that is called \a name; empty when there is none.
-QString foundWallpaper(const QString &name, const QSize &screen)
-{
-    char found[pathBufferSize] = "";
-    FindWallPaperByName(name.toLocal8Bit().constData(), found, screen.width(), screen.height(),
-                        convertCommand);
-    return QFile::decodeName(found);
 }
 
 /// Completes typed paths. The model belongs to the completer.
@@ -238,7 +225,7 @@ QImage WallpaperPage::preview(const QString &text) const
     const QString kept = previewPath(position->currentText(), look.fill, text);
     QImage preview = previewOfFile(text, look, kept);
     if (preview.isNull())
-        preview = previewOfFile(foundWallpaper(text, look.screen), look, kept);
+        preview = previewOfFile(wallpaperNamed(text, look.screen), look, kept);
     return preview.isNull() ? drawPreview({}, look) : preview;
 }
 

@@ -1,7 +1,7 @@
 #include "fonts/xresources.h"
 
-#include "fonts/renderingstore.h"
 #include "fonts/serverresources.h"
+#include "settings/renderingstore.h"
 #include "tests/support/fakeprogram.h"
 #include "tests/support/temporaryhome.h"
 

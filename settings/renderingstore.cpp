@@ -1,4 +1,4 @@
-#include "fonts/renderingstore.h"
+#include "settings/renderingstore.h"
 
 #include <QSettings>
 
