@@ -8,6 +8,8 @@ set(CMAKE_AUTOMOC ON)
 set(CMAKE_AUTOUIC ON)
 set(CMAKE_AUTORCC ON)
 
+# Programs without widgets share libraries with those that have some, and are not to load what they don't use.
+add_link_options(LINKER:--as-needed)
 add_compile_options(-Wall -Wextra -Wpedantic $<$<BOOL:${QAZ_WERROR}>:-Werror>)
 if(QAZ_SANITIZE)
     add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)

@@ -6,11 +6,29 @@
 
 const char restartCommand[] = "QAZWM_RESTART\n";
 
+namespace {
+
+const QLatin1String updateWord("QAZWM_UPDATE_VAL ");
+
+} // namespace
+
 QByteArray updateCommand(const QString &key, const QString &value)
 {
-    const QString command = QLatin1String("QAZWM_UPDATE_VAL ") + key + QLatin1Char(' ') + value
-                            + QLatin1Char('\n');
+    const QString command = updateWord + key + QLatin1Char(' ') + value + QLatin1Char('\n');
     return command.toLocal8Bit();
+}
+
+bool readUpdateCommand(const QByteArray &command, QString *key, QString *value)
+{
+    const QString text = QString::fromLocal8Bit(command);
+    const int keyEnd = text.indexOf(QLatin1Char(' '), updateWord.size());
+    if (!text.startsWith(updateWord) || keyEnd < 0)
+        return false;
+    *key = text.mid(updateWord.size(), keyEnd - updateWord.size());
+    *value = text.mid(keyEnd + 1);
+    if (value->endsWith(QLatin1Char('\n')))
+        value->chop(1);
+    return true;
 }
 
 void sendToWindowManager(const QByteArray &command)

@@ -10,5 +10,8 @@ extern const char restartCommand[];
 /// Both are taken as they are: nothing is quoted.
 QByteArray updateCommand(const QString &key, const QString &value);
 
+/// The reverse: \a key and \a value of such a command. False for any other command.
+bool readUpdateCommand(const QByteArray &command, QString *key, QString *value);
+
 /// Sends \a command to the window manager on the application's own X connection.
 void sendToWindowManager(const QByteArray &command);

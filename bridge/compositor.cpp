@@ -1,0 +1,57 @@
+#include "bridge/compositor.h"
+
+#include "bridge/options.h"
+#include "bridge/programs.h"
+#include "bridge/values.h"
+#include "bridge/xconnection.h"
+#include "settings/textvalues.h"
+
+namespace {
+
+constexpr char selection[] = "_NET_WM_CM_S";
+
+} // namespace
+
+Compositor::Compositor(const Session &session)
+    : m_session(session)
+{
+    m_session.x.watchSelection(selection);
+}
+
+void Compositor::take(bool isOn)
+{
+    m_wasOff = m_wasOff || !isOn;
+}
+
+void Compositor::apply()
+{
+    const bool isWanted = countsAsTrue(m_session.values.text("UseComposite", "false"));
+    m_waits = false;
+    if (m_manager && (m_wasOff || !isWanted)) {
+        m_waits = isWanted;
+        m_session.programs.end(m_manager); // the server tells when its selection is free
+    } else if (!m_manager && isWanted) {
+        start();
+    }
+    m_wasOff = false;
+}
+
+void Compositor::start()
+{
+    m_waits = m_session.x.isOwned(selection);
+    if (m_waits || m_session.options.once) // it would have to stay
+        return;
+    // Anybody on the display can send a command, so what is run is never taken from one.
+    const QString manager = m_session.values.fileText("CompositeManager", "/usr/bin/qaz-kompmgr");
+    if (!manager.isEmpty())
+        m_manager = m_session.programs.start({manager}, [this] {
+            m_manager = nullptr;
+            selectionChanged();
+        });
+}
+
+void Compositor::selectionChanged()
+{
+    if (m_waits && !m_manager && !m_session.x.isOwned(selection))
+        start();
+}

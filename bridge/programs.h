@@ -1,0 +1,62 @@
+#pragma once
+
+#include <QHash>
+#include <QObject>
+#include <QProcess>
+#include <QSet>
+#include <QStringList>
+#include <QVector>
+
+#include <functional>
+
+/// One line "qaz-wm-bridge: TEXT" on standard error.
+void tell(const QString &text);
+
+/// \a command as one line that a shell would split into the same arguments.
+QString shellLine(const QStringList &command);
+
+/// Runs the session's tools, without a shell. A tool that is missing or fails costs one line that names its package,
+/// once; what hangs is ended after 10 s.
+class Programs : public QObject
+{
+    Q_OBJECT
+public:
+    /// \a printOnly: each command line goes to standard output and nothing is run.
+    Programs(bool printOnly, bool verbose);
+    /// Ends all children.
+    ~Programs() override;
+
+    bool isPrintOnly() const { return m_printOnly; }
+
+    /// Runs \a commands one after the other; those that wait from an earlier call for the same \a purpose are dropped.
+    void run(const QString &purpose, const QVector<QStringList> &commands);
+
+    /// Starts a program that stays until it ends by itself, is ended, or this object goes; \a whenEnded is called then,
+    /// but not by the destructor. Null when it can't be started or is only printed.
+    QProcess *start(const QStringList &command, const std::function<void()> &whenEnded);
+
+    /// Asks a child to end, and makes it end.
+    void end(QProcess *process);
+
+    /// Whether nothing of run() is under way.
+    bool isIdle() const;
+
+signals:
+    void idle();
+    void ended(); ///< a child, after everybody was told
+
+private:
+    struct Queue {
+        QProcess *running = nullptr;
+        QVector<QStringList> waiting;
+    };
+
+    QProcess *launch(const QStringList &command, const std::function<void(bool failed)> &whenEnded);
+    void runNext(const QString &purpose);
+    void complain(const QString &tool, const QString &what);
+
+    bool m_printOnly;
+    bool m_verbose;
+    QHash<QString, Queue> m_queues;
+    QSet<QString> m_complained; // of which tools
+};

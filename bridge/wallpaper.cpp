@@ -1,0 +1,138 @@
+#include "bridge/wallpaper.h"
+
+#include "base/atomicfile.h"
+#include "bridge/options.h"
+#include "bridge/ownfiles.h"
+#include "bridge/programs.h"
+#include "bridge/values.h"
+#include "bridge/wallpaperpicture.h"
+#include "bridge/xconnection.h"
+#include "freedesktop/images.h"
+#include "settings/colortexts.h"
+#include "settings/desktopwallpapers.h"
+
+#include <QCryptographicHash>
+#include <QDateTime>
+#include <QFile>
+#include <QFileInfo>
+
+namespace {
+
+constexpr int longestPeriod = 3600; // minutes, as in the editor
+
+/// Where the rendering of the SVG file \a path for \a size is kept.
+QString renderedFile(const QString &path, const QSize &size)
+{
+    const QByteArray digest = QCryptographicHash::hash(QFile::encodeName(path), QCryptographicHash::Sha1);
+    return ownFile(QStringLiteral("%1x%2-%3.png")
+                       .arg(size.width())
+                       .arg(size.height())
+                       .arg(QString::fromLatin1(digest.toHex())));
+}
+
+bool isNewer(const QString &path, const QString &other)
+{
+    return QFileInfo(path).isFile() && QFileInfo(path).lastModified() > QFileInfo(other).lastModified();
+}
+
+} // namespace
+
+Wallpaper::Wallpaper(const Session &session)
+    : m_session(session)
+{
+    m_slideTimer.setTimerType(Qt::VeryCoarseTimer);
+    connect(&m_slideTimer, &QTimer::timeout, this, &Wallpaper::showNext);
+}
+
+void Wallpaper::apply()
+{
+    setUpSlides();
+    m_shown.clear();
+    show();
+}
+
+void Wallpaper::changeDesktop()
+{
+    show();
+}
+
+void Wallpaper::setUpSlides()
+{
+    const QString wallpaper = m_session.values.text("WallPaper", "qaz-default");
+    const int period = m_session.values.number("WallPaperPeriod", "0", longestPeriod) * 60 * 1000;
+    if (wallpaper == m_wallpaper && period > 0 && m_slideTimer.interval() == period
+        && m_slideTimer.isActive())
+        return;
+    m_wallpaper = wallpaper;
+    m_slide.clear();
+    m_slideTimer.setInterval(period);
+    if (period > 0 && !isColorText(wallpaper))
+        m_slideTimer.start();
+    else
+        m_slideTimer.stop();
+}
+
+void Wallpaper::showNext()
+{
+    const QString current = m_slide.isEmpty() ? found(m_wallpaper) : m_slide;
+    if (current.isEmpty())
+        return;
+    m_slide = nextPicture(current);
+    show();
+}
+
+void Wallpaper::show()
+{
+    // A desktop's own wallpaper may stand in quotation marks, and fills the screen.
+    const QString own = desktopWallpaper(m_session.x.currentDesktop() + 1).remove(QLatin1Char('"'));
+    const Fit fit = fitFromWord(m_session.values.text("WallPaperPos", "Stretch"));
+    const QVector<QStringList> commands = !own.isEmpty()
+                                              ? commandsFor(own, Fit::Stretch)
+                                              : commandsFor(m_slide.isEmpty() ? m_wallpaper : m_slide, fit);
+    if (commands == m_shown)
+        return;
+    m_shown = commands;
+    m_session.programs.run(QStringLiteral("wallpaper"), commands);
+}
+
+QString Wallpaper::found(const QString &wallpaper) const
+{
+    // A dry run converts nothing.
+    return wallpaper.startsWith(QLatin1Char('/'))
+               ? wallpaper
+               : wallpaperNamed(wallpaper, m_session.x.screenSize(), !m_session.options.dryRun);
+}
+
+QVector<QStringList> Wallpaper::commandsFor(const QString &wallpaper, Fit fit) const
+{
+    const QColor background = desktopColor(m_session.values.text("DesktopColor", "blue"));
+    if (wallpaper.isEmpty() || isColorText(wallpaper))
+        return colorCommands(wallpaper.isEmpty() ? background : QColor(wallpaper));
+    const QString path = found(wallpaper);
+    if (!isImageFile(path)) {
+        tell(QStringLiteral("The wallpaper '%1' is no image file").arg(wallpaper));
+        return colorCommands(background);
+    }
+    if (!isSvg(path))
+        return {showCommand(path, fit, background)};
+    const QSize size = m_session.x.screenSize();
+    const QString rendered = renderedFile(path, size);
+    const QStringList show = showCommand(rendered, fit, background);
+    if (isNewer(rendered, path))
+        return {show};
+    return {{QStringLiteral("qaz-svg2png"), QStringLiteral("-w"), QString::number(size.width()),
+             QStringLiteral("-h"), QString::number(size.height()), QStringLiteral("-i"), path,
+             QStringLiteral("-o"), rendered},
+            show};
+}
+
+QVector<QStringList> Wallpaper::colorCommands(const QColor &color) const
+{
+    const QColor shown = color.isValid() ? color : QColor(Qt::black);
+    const QString path = ownFile(QLatin1String("color-") + shown.name().mid(1) + QLatin1String(".ppm"));
+    QString error;
+    if (!m_session.options.dryRun && !QFileInfo::exists(path)
+        && !replaceFile(path, oneColorPicture(shown), &error))
+        tell(QStringLiteral("Can't write %1: %2").arg(path, error));
+    return {showCommand(path, Fit::Tile, shown)};
+}

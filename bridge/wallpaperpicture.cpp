@@ -1,0 +1,75 @@
+#include "bridge/wallpaperpicture.h"
+
+#include "freedesktop/images.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QImageReader>
+
+#include <algorithm>
+
+namespace {
+
+struct Format {
+    const char *name;
+    const char *begin; // of the file
+    int skipped = 0;   // bytes before that
+};
+
+// Qt would try all its plug-ins on a file of an unknown format, and load what a drawing takes for them.
+constexpr Format formats[] = {{"png", "\x89PNG"},  {"jpeg", "\xff\xd8\xff"}, {"xpm", "/* XPM"},
+                              {"webp", "WEBP", 8}, {"gif", "GIF8"},          {"bmp", "BM"},
+                              {"tiff", "II*"},     {"tiff", "MM"},           {"ppm", "P6"}};
+
+constexpr const char *fitOptions[] = {"--bg-center", "--bg-tile", "--bg-scale"};
+
+} // namespace
+
+bool isImageFile(const QString &path)
+{
+    // A FIFO or a device would block whoever opens it.
+    QFile file(path);
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
+        return false;
+    if (isSvg(path))
+        return file.size() > 0;
+    const QByteArray head = file.peek(16);
+    const auto format = std::find_if(std::begin(formats), std::end(formats), [&head](const Format &known) {
+        return head.mid(known.skipped).startsWith(known.begin);
+    });
+    if (format == std::end(formats))
+        return false;
+    QImageReader reader(&file, format->name);
+    reader.setAutoDetectImageFormat(false);
+    const QSize size = reader.size();
+    return reader.canRead() && !size.isEmpty() && qint64(size.width()) * size.height() <= largestPicture;
+}
+
+QString nextPicture(const QString &path)
+{
+    const QDir directory = QFileInfo(path).dir();
+    const QStringList names = directory.entryList(QDir::Files, QDir::Name);
+    const int current = names.indexOf(QFileInfo(path).fileName());
+    for (int i = 1; i <= names.size(); ++i) {
+        QString next = directory.filePath(names.at((current + i) % names.size()));
+        if (isImageFile(next))
+            return next;
+    }
+    return path;
+}
+
+QStringList showCommand(const QString &path, Fit fit, const QColor &background)
+{
+    return {QStringLiteral("feh"),
+            QStringLiteral("--no-fehbg"),
+            QStringLiteral("--image-bg"),
+            background.isValid() ? background.name() : QStringLiteral("#000000"),
+            QString::fromLatin1(fitOptions[int(fit)]),
+            path};
+}
+
+QByteArray oneColorPicture(const QColor &color)
+{
+    return "P6 1 1 255\n" + QByteArray(1, char(color.red())) + char(color.green()) + char(color.blue());
+}

@@ -1,0 +1,233 @@
+#include "bridge/xconnection.h"
+
+#include <QAbstractEventDispatcher>
+#include <QElapsedTimer>
+#include <QSocketNotifier>
+
+#include <memory>
+
+#include <X11/Xatom.h>
+#include <X11/Xlib.h>
+#include <X11/extensions/Xfixes.h>
+#include <poll.h>
+
+namespace {
+
+constexpr int takeOverMs = 15000;
+
+XConnection *connection = nullptr; // there is one, and Xlib's handlers get no argument of ours
+
+/// Windows come and go between an event and the answer to it.
+int keepQuiet(Display * /*display*/)
+{
+    return 0;
+}
+
+int ignoreError(Display * /*display*/, XErrorEvent * /*error*/)
+{
+    return 0;
+}
+
+} // namespace
+
+XConnection::XConnection()
+    : m_display(XOpenDisplay(nullptr))
+{
+    if (!m_display)
+        return;
+    connection = this;
+    XSetErrorHandler(ignoreError);
+    XSetIOErrorHandler(keepQuiet);
+    // The default ends the process on the spot, without its children.
+    XSetIOErrorExitHandler(
+        m_display,
+        [](Display *, void *) {
+            if (connection)
+                connection->lose();
+        },
+        nullptr);
+    int error = 0;
+    if (XFixesQueryExtension(m_display, &m_selectionEvent, &error))
+        m_selectionEvent += XFixesSelectionNotify;
+}
+
+XConnection::~XConnection()
+{
+    connection = nullptr;
+    if (m_display && !m_isLost)
+        XCloseDisplay(m_display);
+}
+
+void XConnection::lose()
+{
+    if (!m_isLost)
+        emit serverLost();
+    m_isLost = true;
+}
+
+int XConnection::screenNumber() const
+{
+    return DefaultScreen(m_display);
+}
+
+QSize XConnection::screenSize() const
+{
+    return {DisplayWidth(m_display, screenNumber()), DisplayHeight(m_display, screenNumber())};
+}
+
+XConnection::Window XConnection::rootWindow() const
+{
+    return DefaultRootWindow(m_display);
+}
+
+void XConnection::listen(const std::function<void(const XEvent &)> &handler)
+{
+    m_handler = handler;
+    XSelectInput(m_display, rootWindow(), SubstructureNotifyMask | PropertyChangeMask);
+    auto *notifier = new QSocketNotifier(ConnectionNumber(m_display), QSocketNotifier::Read, this);
+    connect(notifier, &QSocketNotifier::activated, this, &XConnection::readEvents);
+    // An answer that was waited for may have brought events with it, of which the socket tells nothing more.
+    connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
+            &XConnection::readEvents);
+    readEvents();
+}
+
+void XConnection::readEvents()
+{
+    while (!m_isLost && XPending(m_display) > 0) {
+        XEvent event;
+        XNextEvent(m_display, &event);
+        if (event.type == m_selectionEvent)
+            emit selectionChanged();
+        else if (event.type == SelectionClear && event.xselectionclear.window == m_ownWindow)
+            emit selectionLost();
+        else
+            m_handler(event);
+    }
+}
+
+unsigned long XConnection::atom(const char *name) const
+{
+    return XInternAtom(m_display, name, False);
+}
+
+unsigned long XConnection::selectionAtom(const char *name) const
+{
+    return atom((name + QByteArray::number(screenNumber())).constData());
+}
+
+bool XConnection::isOwned(const char *name) const
+{
+    return XGetSelectionOwner(m_display, selectionAtom(name)) != 0;
+}
+
+void XConnection::watchSelection(const char *name)
+{
+    if (m_selectionEvent >= 0)
+        XFixesSelectSelectionInput(m_display, rootWindow(), selectionAtom(name),
+                                   XFixesSetSelectionOwnerNotifyMask | XFixesSelectionWindowDestroyNotifyMask
+                                       | XFixesSelectionClientCloseNotifyMask);
+}
+
+bool XConnection::claimSelection(const char *name, bool replace)
+{
+    const Atom selection = selectionAtom(name);
+    m_ownWindow = XCreateWindow(m_display, rootWindow(), -1, -1, 1, 1, 0, 0, InputOnly, CopyFromParent, 0,
+                                nullptr);
+    // Only with a time of the server's is a later owner told from an earlier one.
+    XSelectInput(m_display, m_ownWindow, PropertyChangeMask);
+    XChangeProperty(m_display, m_ownWindow, XA_WM_NAME, XA_STRING, 8, PropModeReplace,
+                    reinterpret_cast<const unsigned char *>("qaz-wm-bridge"), 13);
+    XEvent stamp;
+    XWindowEvent(m_display, m_ownWindow, PropertyChangeMask, &stamp);
+
+    XGrabServer(m_display); // of several that start at once, one becomes the owner
+    const Window before = XGetSelectionOwner(m_display, selection);
+    if (before)
+        XSelectInput(m_display, before, StructureNotifyMask);
+    const bool isMine = (!before || replace);
+    if (isMine)
+        XSetSelectionOwner(m_display, selection, m_ownWindow, stamp.xproperty.time);
+    XUngrabServer(m_display);
+    XFlush(m_display);
+    if (!isMine || (before && !waitForOldOwner(before)))
+        return false;
+
+    XEvent announcement = {};
+    announcement.xclient.type = ClientMessage;
+    announcement.xclient.window = rootWindow();
+    announcement.xclient.message_type = atom("MANAGER");
+    announcement.xclient.format = 32;
+    announcement.xclient.data.l[0] = long(stamp.xproperty.time);
+    announcement.xclient.data.l[1] = long(selection);
+    announcement.xclient.data.l[2] = long(m_ownWindow);
+    XSendEvent(m_display, rootWindow(), False, StructureNotifyMask, &announcement);
+    return XGetSelectionOwner(m_display, selection) == m_ownWindow;
+}
+
+bool XConnection::waitForOldOwner(Window window) const
+{
+    QElapsedTimer timer;
+    timer.start();
+    pollfd server = {ConnectionNumber(m_display), POLLIN, 0};
+    XEvent event;
+    while (!XCheckTypedWindowEvent(m_display, window, DestroyNotify, &event)) {
+        if (timer.hasExpired(takeOverMs))
+            return false;
+        poll(&server, 1, int(takeOverMs - timer.elapsed()));
+    }
+    return true;
+}
+
+QByteArray XConnection::property(Window window, const char *name, int format, unsigned long *count) const
+{
+    constexpr long limit = 1 << 18; // in units of 32 bits
+    Atom type = 0;
+    int actualFormat = 0;
+    unsigned long rest = 0;
+    unsigned char *data = nullptr;
+    if (XGetWindowProperty(m_display, window, atom(name), 0, limit, False, AnyPropertyType, &type,
+                           &actualFormat, count, &rest, &data)
+            != Success
+        || !data)
+        return {};
+    const std::unique_ptr<unsigned char, int (*)(void *)> owner(data, XFree);
+    if (actualFormat != format)
+        return {};
+    // Xlib hands 32-bit items out as longs.
+    const int itemBytes = format == 32 ? int(sizeof(long)) : 1;
+    return {reinterpret_cast<const char *>(data), int(*count) * itemBytes};
+}
+
+QVector<unsigned long> XConnection::numbers(Window window, const char *name) const
+{
+    unsigned long count = 0;
+    const QByteArray data = property(window, name, 32, &count);
+    QVector<unsigned long> numbers;
+    const auto *items = reinterpret_cast<const unsigned long *>(data.constData());
+    for (int i = 0; i < data.size() / int(sizeof(long)); ++i)
+        numbers.append(items[i]);
+    return numbers;
+}
+
+QByteArray XConnection::text(Window window, const char *name) const
+{
+    unsigned long count = 0;
+    return property(window, name, 8, &count);
+}
+
+void XConnection::watchProperties(Window window) const
+{
+    XSelectInput(m_display, window, PropertyChangeMask);
+}
+
+QByteArray XConnection::windowManager() const
+{
+    const QVector<unsigned long> window = numbers(rootWindow(), "_NET_SUPPORTING_WM_CHECK");
+    return window.isEmpty() ? QByteArray() : text(window.first(), "_NET_WM_NAME");
+}
+
+int XConnection::currentDesktop() const
+{
+    return int(qMin(numbers(rootWindow(), "_NET_CURRENT_DESKTOP").value(0), 0xFFFFUL));
+}

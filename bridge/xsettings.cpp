@@ -1,0 +1,138 @@
+#include "bridge/xsettings.h"
+
+#include "base/atomicfile.h"
+#include "bridge/options.h"
+#include "bridge/ownfiles.h"
+#include "bridge/programs.h"
+#include "bridge/values.h"
+#include "bridge/xconnection.h"
+#include "platform/qazicontheme.h"
+#include "settings/renderingstore.h"
+#include "settings/rolefonttext.h"
+
+#include <QProcess>
+#include <QSettings>
+
+#include <csignal>
+
+namespace {
+
+constexpr char selection[] = "_XSETTINGS_S";
+
+QByteArray quoted(QString text)
+{
+    for (QChar &character : text) {
+        if (!character.isPrint())
+            character = QLatin1Char(' ');
+    }
+    return '"'
+           + text.replace(QLatin1Char('\\'), QLatin1String("\\\\"))
+                 .replace(QLatin1Char('"'), QLatin1String("\\\""))
+                 .toUtf8()
+           + '"';
+}
+
+/// The font as toolkits name it: "DejaVu Sans Bold Italic 10".
+QString toolkitFont(const QString &roleText)
+{
+    const QFont font = textToFont(roleText);
+    return font.family() + QLatin1String(font.bold() ? " Bold" : "")
+           + QLatin1String(font.italic() ? " Italic" : "") + QLatin1Char(' ')
+           + QString::number(font.pointSize());
+}
+
+QByteArray renderingLines(const QString &words)
+{
+    const QStringList list = words.split(QLatin1Char(' '));
+    QByteArray lines;
+    constexpr int mostDpi = 400;
+    if (const int dpi = qBound(0, list.value(0).toInt(), mostDpi))
+        lines += "Xft/DPI " + QByteArray::number(dpi * 1024) + '\n';
+    const QString antialias = list.value(1);
+    if (antialias.isEmpty() || antialias == QLatin1String("unknown")) // fontconfig's files decide
+        return lines;
+    const bool isSmooth = antialias == QLatin1String("true") || antialias == QLatin1String("1");
+    lines += QByteArray("Xft/Antialias ") + (isSmooth ? '1' : '0') + '\n';
+    for (const char *order : {"none", "rgb", "bgr", "vrgb", "vbgr"}) {
+        if (list.value(2) == QLatin1String(order))
+            lines += "Xft/RGBA " + quoted(list.value(2)) + '\n';
+    }
+    for (const char *style : {"hintnone", "hintslight", "hintmedium", "hintfull"}) {
+        if (QLatin1String(style).endsWith(list.value(3)) && list.value(3).size() >= 4)
+            lines += QByteArray("Xft/Hinting ") + (style == QByteArray("hintnone") ? '0' : '1')
+                     + "\nXft/HintStyle \"" + style + "\"\n";
+    }
+    return lines;
+}
+
+} // namespace
+
+QByteArray xsettingsFile(const XSettingsTexts &texts)
+{
+    QByteArray file;
+    if (isFontText(texts.font))
+        file += "Gtk/FontName " + quoted(toolkitFont(texts.font)) + '\n';
+    if (!texts.iconTheme.isEmpty())
+        file += "Net/IconThemeName " + quoted(texts.iconTheme) + '\n';
+    if (!texts.cursorTheme.isEmpty())
+        file += "Gtk/CursorThemeName " + quoted(texts.cursorTheme) + '\n';
+    return file + renderingLines(texts.rendering);
+}
+
+XSettings::XSettings(const Session &session)
+    : m_session(session)
+{
+    m_session.x.watchSelection(selection);
+}
+
+XSettingsTexts XSettings::texts() const
+{
+    const Values &values = m_session.values;
+    XSettingsTexts texts = {values.text("DefaultFont"), values.text("IconTheme"), values.text("CursorTheme"),
+                            values.text("XftSettings")};
+    // These two are not in the theme file.
+    if (texts.cursorTheme.isEmpty())
+        texts.cursorTheme = QString::fromLocal8Bit(
+            QazIconTheme::getCurrentCursorThemeName(m_session.x.display()));
+    if (texts.rendering.isEmpty())
+        texts.rendering = QString::fromLocal8Bit(
+                              xftSettingsCommand(
+                                  QSettings(QStringLiteral("qaz"), QStringLiteral("qaz-admin-theme"))))
+                              .section(QLatin1Char(' '), 2)
+                              .trimmed();
+    return texts;
+}
+
+void XSettings::apply()
+{
+    const QString path = ownFile(
+        QStringLiteral("xsettingsd-%1.conf").arg(QString::fromLocal8Bit(qgetenv("DISPLAY"))));
+    const QStringList command = {QStringLiteral("xsettingsd"), QStringLiteral("-c"), path,
+                                 QStringLiteral("-s"), QString::number(m_session.x.screenNumber())};
+    if (!m_manager && m_session.x.isOwned(selection)) {
+        if (!m_isLeft)
+            tell(QStringLiteral("Another settings manager runs: fonts, icons and cursors are left to it"));
+        m_isLeft = true;
+        return;
+    }
+    m_isLeft = false;
+    if (m_session.options.dryRun) {
+        m_session.programs.start(command, [] {});
+        return;
+    }
+    QString error;
+    if (!replaceFile(path, xsettingsFile(texts()), &error, 0600)) {
+        tell(QStringLiteral("Can't write %1: %2").arg(path, error));
+        return;
+    }
+    if (m_manager)
+        ::kill(pid_t(m_manager->processId()), SIGHUP);
+    else if (!m_session.options.once) // it would have to stay
+        m_manager = m_session.programs.start(command, [this] { m_manager = nullptr; });
+}
+
+void XSettings::selectionChanged()
+{
+    if (m_isLeft && !m_session.x.isOwned(selection))
+        apply();
+}
