@@ -1,7 +1,7 @@
 # What is installed where, and the Debian package (cpack).
 include(GNUInstallDirs)
 
-install(TARGETS qaz-admin-theme qaz-svg2png qaz-wm-listen RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+install(TARGETS qaz-admin-theme qaz-svg2png qaz-theme qaz-wm-listen RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 # Not in lib/qaz-admin-theme itself, for which cpack would have the package run ldconfig.
 install(TARGETS qaz-qsound LIBRARY DESTINATION lib/qaz-admin-theme/modules)
 
@@ -17,8 +17,10 @@ install(DIRECTORY ${QAZ_STAGED_DATA}/translations DESTINATION ${data} OPTIONAL F
 install(DIRECTORY packaging/hicolor DESTINATION share/icons)
 install(FILES packaging/qaz-admin-theme.desktop DESTINATION share/applications)
 install(FILES packaging/org.qaz.admin_theme.metainfo.xml DESTINATION share/metainfo)
-install(FILES docs/man/qaz-admin-theme.1 docs/man/qaz-svg2png.1 docs/man/qaz-wm-listen.1
+install(FILES docs/man/qaz-admin-theme.1 docs/man/qaz-svg2png.1 docs/man/qaz-theme.1
+    docs/man/qaz-wm-listen.1
     DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+install(FILES packaging/completions/qaz-theme DESTINATION share/bash-completion/completions)
 install(FILES packaging/copyright README.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
 
 # The packages that the running program uses without linking them, from the one list.

@@ -989,6 +989,73 @@ zum Beispiel ogg/oga in wav mit dem Programm oggdec.</translation>
     </message>
 </context>
 <context>
+    <name>ThemeKeys</name>
+    <message>
+        <source>Color at the end of the gradient: %1</source>
+        <translation>Farbe am Ende des Verlaufs: %1</translation>
+    </message>
+    <message>
+        <source>Color: %1</source>
+        <translation>Farbe: %1</translation>
+    </message>
+    <message>
+        <source>Font: %1</source>
+        <translation>Schrift: %1</translation>
+    </message>
+    <message>
+        <source>Sound: %1</source>
+        <translation>Klang: %1</translation>
+    </message>
+    <message>
+        <source>Wallpaper: a file, a name or a color #rrggbb</source>
+        <translation>Hintergrund: eine Datei, ein Name oder eine Farbe #rrggbb</translation>
+    </message>
+    <message>
+        <source>Minutes from one wallpaper of the slide show to the next; 0: none</source>
+        <translation>Minuten von einem Bild der Diaschau zum nächsten; 0: keine</translation>
+    </message>
+    <message>
+        <source>Icon theme</source>
+        <translation>Symboldesign</translation>
+    </message>
+    <message>
+        <source>Decoration theme of windows and taskbar; empty: none</source>
+        <translation>Design der Fenster und der Taskleiste; leer: keines</translation>
+    </message>
+    <message>
+        <source>Seconds without input until the screensaver starts; 0: never</source>
+        <translation>Sekunden ohne Eingabe, bis der Bildschirmschoner startet; 0: nie</translation>
+    </message>
+    <message>
+        <source>Seconds until the locked display is switched off</source>
+        <translation>Sekunden, bis der gesperrte Bildschirm abgeschaltet wird</translation>
+    </message>
+    <message>
+        <source>Seconds that the locker waits after a wrong password</source>
+        <translation>Sekunden, die die Sperre nach einem falschen Passwort wartet</translation>
+    </message>
+    <message>
+        <source>Loudness of the bell for a wrong password, in percent</source>
+        <translation>Lautstärke des Signals bei falschem Passwort, in Prozent</translation>
+    </message>
+    <message>
+        <source>Program that draws transparency and shadows</source>
+        <translation>Programm, das Transparenz und Schatten zeichnet</translation>
+    </message>
+    <message>
+        <source>Whether that program runs</source>
+        <translation>Ob dieses Programm läuft</translation>
+    </message>
+    <message>
+        <source>Size of window thumbnails in pixels; 0: none</source>
+        <translation>Größe der Fenstervorschauen in Pixeln; 0: keine</translation>
+    </message>
+    <message>
+        <source>Sound theme; empty: none</source>
+        <translation>Klangdesign; leer: keines</translation>
+    </message>
+</context>
+<context>
     <name>ThemePage</name>
     <message>
         <source>Desktop</source>

@@ -989,6 +989,73 @@ for example ogg/oga to wav by oggdev utility.</translation>
     </message>
 </context>
 <context>
+    <name>ThemeKeys</name>
+    <message>
+        <source>Color at the end of the gradient: %1</source>
+        <translation>Color at the end of the gradient: %1</translation>
+    </message>
+    <message>
+        <source>Color: %1</source>
+        <translation>Color: %1</translation>
+    </message>
+    <message>
+        <source>Font: %1</source>
+        <translation>Font: %1</translation>
+    </message>
+    <message>
+        <source>Sound: %1</source>
+        <translation>Sound: %1</translation>
+    </message>
+    <message>
+        <source>Wallpaper: a file, a name or a color #rrggbb</source>
+        <translation>Wallpaper: a file, a name or a color #rrggbb</translation>
+    </message>
+    <message>
+        <source>Minutes from one wallpaper of the slide show to the next; 0: none</source>
+        <translation>Minutes from one wallpaper of the slide show to the next; 0: none</translation>
+    </message>
+    <message>
+        <source>Icon theme</source>
+        <translation>Icon theme</translation>
+    </message>
+    <message>
+        <source>Decoration theme of windows and taskbar; empty: none</source>
+        <translation>Decoration theme of windows and taskbar; empty: none</translation>
+    </message>
+    <message>
+        <source>Seconds without input until the screensaver starts; 0: never</source>
+        <translation>Seconds without input until the screensaver starts; 0: never</translation>
+    </message>
+    <message>
+        <source>Seconds until the locked display is switched off</source>
+        <translation>Seconds until the locked display is switched off</translation>
+    </message>
+    <message>
+        <source>Seconds that the locker waits after a wrong password</source>
+        <translation>Seconds that the locker waits after a wrong password</translation>
+    </message>
+    <message>
+        <source>Loudness of the bell for a wrong password, in percent</source>
+        <translation>Loudness of the bell for a wrong password, in percent</translation>
+    </message>
+    <message>
+        <source>Program that draws transparency and shadows</source>
+        <translation>Program that draws transparency and shadows</translation>
+    </message>
+    <message>
+        <source>Whether that program runs</source>
+        <translation>Whether that program runs</translation>
+    </message>
+    <message>
+        <source>Size of window thumbnails in pixels; 0: none</source>
+        <translation>Size of window thumbnails in pixels; 0: none</translation>
+    </message>
+    <message>
+        <source>Sound theme; empty: none</source>
+        <translation>Sound theme; empty: none</translation>
+    </message>
+</context>
+<context>
     <name>ThemePage</name>
     <message>
         <source>Desktop</source>

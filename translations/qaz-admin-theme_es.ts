@@ -989,6 +989,73 @@ por ejemplo de ogg/oga a wav con la herramienta oggdec.</translation>
     </message>
 </context>
 <context>
+    <name>ThemeKeys</name>
+    <message>
+        <source>Color at the end of the gradient: %1</source>
+        <translation>Color al final del degradado: %1</translation>
+    </message>
+    <message>
+        <source>Color: %1</source>
+        <translation>Color: %1</translation>
+    </message>
+    <message>
+        <source>Font: %1</source>
+        <translation>Fuente: %1</translation>
+    </message>
+    <message>
+        <source>Sound: %1</source>
+        <translation>Sonido: %1</translation>
+    </message>
+    <message>
+        <source>Wallpaper: a file, a name or a color #rrggbb</source>
+        <translation>Fondo: un archivo, un nombre o un color #rrggbb</translation>
+    </message>
+    <message>
+        <source>Minutes from one wallpaper of the slide show to the next; 0: none</source>
+        <translation>Minutos de una imagen de la presentación a la siguiente; 0: ninguna</translation>
+    </message>
+    <message>
+        <source>Icon theme</source>
+        <translation>Tema de iconos</translation>
+    </message>
+    <message>
+        <source>Decoration theme of windows and taskbar; empty: none</source>
+        <translation>Tema de decoración de ventanas y barra de tareas; vacío: ninguno</translation>
+    </message>
+    <message>
+        <source>Seconds without input until the screensaver starts; 0: never</source>
+        <translation>Segundos sin actividad hasta que empieza el salvapantallas; 0: nunca</translation>
+    </message>
+    <message>
+        <source>Seconds until the locked display is switched off</source>
+        <translation>Segundos hasta que se apaga la pantalla bloqueada</translation>
+    </message>
+    <message>
+        <source>Seconds that the locker waits after a wrong password</source>
+        <translation>Segundos que espera el bloqueo tras una contraseña incorrecta</translation>
+    </message>
+    <message>
+        <source>Loudness of the bell for a wrong password, in percent</source>
+        <translation>Volumen del aviso de contraseña incorrecta, en porcentaje</translation>
+    </message>
+    <message>
+        <source>Program that draws transparency and shadows</source>
+        <translation>Programa que dibuja la transparencia y las sombras</translation>
+    </message>
+    <message>
+        <source>Whether that program runs</source>
+        <translation>Si ese programa se ejecuta</translation>
+    </message>
+    <message>
+        <source>Size of window thumbnails in pixels; 0: none</source>
+        <translation>Tamaño de las miniaturas de ventanas en píxeles; 0: ninguna</translation>
+    </message>
+    <message>
+        <source>Sound theme; empty: none</source>
+        <translation>Tema de sonidos; vacío: ninguno</translation>
+    </message>
+</context>
+<context>
     <name>ThemePage</name>
     <message>
         <source>Desktop</source>

@@ -989,6 +989,73 @@ par exemple d’ogg/oga en wav avec l’outil oggdec.</translation>
     </message>
 </context>
 <context>
+    <name>ThemeKeys</name>
+    <message>
+        <source>Color at the end of the gradient: %1</source>
+        <translation>Couleur à la fin du dégradé : %1</translation>
+    </message>
+    <message>
+        <source>Color: %1</source>
+        <translation>Couleur : %1</translation>
+    </message>
+    <message>
+        <source>Font: %1</source>
+        <translation>Police : %1</translation>
+    </message>
+    <message>
+        <source>Sound: %1</source>
+        <translation>Son : %1</translation>
+    </message>
+    <message>
+        <source>Wallpaper: a file, a name or a color #rrggbb</source>
+        <translation>Fond : un fichier, un nom ou une couleur #rrggbb</translation>
+    </message>
+    <message>
+        <source>Minutes from one wallpaper of the slide show to the next; 0: none</source>
+        <translation>Minutes d’une image du diaporama à la suivante ; 0 : aucun</translation>
+    </message>
+    <message>
+        <source>Icon theme</source>
+        <translation>Thème d’icônes</translation>
+    </message>
+    <message>
+        <source>Decoration theme of windows and taskbar; empty: none</source>
+        <translation>Thème de décoration des fenêtres et de la barre des tâches ; vide : aucun</translation>
+    </message>
+    <message>
+        <source>Seconds without input until the screensaver starts; 0: never</source>
+        <translation>Secondes sans saisie avant l’écran de veille ; 0 : jamais</translation>
+    </message>
+    <message>
+        <source>Seconds until the locked display is switched off</source>
+        <translation>Secondes avant l’extinction de l’écran verrouillé</translation>
+    </message>
+    <message>
+        <source>Seconds that the locker waits after a wrong password</source>
+        <translation>Secondes d’attente du verrouillage après un mot de passe erroné</translation>
+    </message>
+    <message>
+        <source>Loudness of the bell for a wrong password, in percent</source>
+        <translation>Volume du signal pour un mot de passe erroné, en pour cent</translation>
+    </message>
+    <message>
+        <source>Program that draws transparency and shadows</source>
+        <translation>Programme qui dessine la transparence et les ombres</translation>
+    </message>
+    <message>
+        <source>Whether that program runs</source>
+        <translation>Si ce programme est lancé</translation>
+    </message>
+    <message>
+        <source>Size of window thumbnails in pixels; 0: none</source>
+        <translation>Taille des miniatures de fenêtres en pixels ; 0 : aucune</translation>
+    </message>
+    <message>
+        <source>Sound theme; empty: none</source>
+        <translation>Thème sonore ; vide : aucun</translation>
+    </message>
+</context>
+<context>
     <name>ThemePage</name>
     <message>
         <source>Desktop</source>

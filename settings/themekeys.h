@@ -1,0 +1,186 @@
+#pragma once
+
+#include <QCoreApplication>
+#include <QString>
+#include <QStringList>
+
+#include <iterator>
+#include <string_view>
+
+/// What texts a key of the theme file takes.
+enum class KeyKind {
+    Text,   ///< a theme's name, possibly empty
+    Number, ///< a whole number between two limits
+    Truth,  ///< "true" or "false"
+    Color,  ///< a colour's name or "#rrggbb"; also the old colour scheme's names
+    Font,   ///< a role font such as Verdana-10:bold
+    Word,   ///< one of a closed set
+    File    ///< an absolute path or a name that the desktop looks up
+};
+
+/// One key of the theme file.
+struct ThemeKey {
+    const char *name;
+    KeyKind kind;
+    const char *defaultText; ///< what holds while the key is missing
+    const char *context;     ///< of the translation of \a title
+    const char *title;
+    int minimum = 0; ///< of a number, in the file's unit
+    int maximum = 0;
+    const char *words = nullptr; ///< of a closed set, separated by commas
+    /// The pages load a missing key with another default than they save it with, on purpose: any value that is set
+    /// while the key is missing is new.
+    bool isNewWhenMissing = false;
+};
+
+// clang-format off
+/// Every key that the pages edit, in the order of the pages and of their rows.
+inline constexpr ThemeKey themeKeys[] = {
+    {"WallPaper",                KeyKind::File,   "qaz-default",           "ThemeKeys",  QT_TRANSLATE_NOOP("ThemeKeys", "Wallpaper: a file, a name or a color #rrggbb")},
+    {"WallPaperPos",             KeyKind::Word,   "Stretch",               "WallpaperForm", QT_TRANSLATE_NOOP("WallpaperForm", "How to fit wallpaper to desktop"), 0, 0, "Center,Tile,Stretch"},
+    {"WallPaperPeriod",          KeyKind::Number, "0",                     "ThemeKeys",  QT_TRANSLATE_NOOP("ThemeKeys", "Minutes from one wallpaper of the slide show to the next; 0: none"), 0, 3600},
+
+    {"IconTheme",                KeyKind::Text,   "qaz-tirsk",             "ThemeKeys",  QT_TRANSLATE_NOOP("ThemeKeys", "Icon theme"), 0, 0, nullptr, true},
+    {"DecorTheme",               KeyKind::Text,   "",                      "ThemeKeys",  QT_TRANSLATE_NOOP("ThemeKeys", "Decoration theme of windows and taskbar; empty: none")},
+    {"DesktopColor",             KeyKind::Color,  "#3a6ea5",               "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Desktop")},
+    {"DesktopColor2",            KeyKind::Color,  "#3a6ea5",               "ThemePage",  "Desktop"},
+    {"DesktopActiveColor",       KeyKind::Color,  "#000080",               "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Desktop active")},
+    {"TitlebarColor",            KeyKind::Color,  "#606060",               "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Titlebar")},
+    {"TitlebarColor2",           KeyKind::Color,  "#c0c0c0",               "ThemePage",  "Titlebar"},
+    {"TitlebarActiveColor",      KeyKind::Color,  "#000080",               "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Titlebar active")},
+    {"TitlebarActiveColor2",     KeyKind::Color,  "#a6caf0",               "ThemePage",  "Titlebar active"},
+    {"TitleStringColor",         KeyKind::Color,  "white",                 "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Title string")},
+    {"TitleStringActiveColor",   KeyKind::Color,  "white",                 "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Title string active")},
+    {"FrameColor",               KeyKind::Color,  "#c0c0c0",               "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Frame")},
+    {"FrameActiveColor",         KeyKind::Color,  "#c0c0c0",               "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Frame active")},
+    {"PagerColor",               KeyKind::Color,  "#a4a3be",               "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Pager")},
+    {"PagerColor2",              KeyKind::Color,  "#fbfcfd",               "ThemePage",  "Pager"},
+    {"PagerActiveColor",         KeyKind::Color,  "#606060",               "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Pager active")},
+    {"MiniatureColor",           KeyKind::Color,  "black",                 "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Pager miniature")},
+    {"MiniatureActiveColor",     KeyKind::Color,  "red",                   "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Pager miniatire active")},
+    {"TaskbarColor",             KeyKind::Color,  "#c0c0c0",               "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Taskbar")},
+    {"ClockStringColor",         KeyKind::Color,  "black",                 "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Clock string")},
+    {"IconStringColor",          KeyKind::Color,  "white",                 "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Icon string")},
+    {"IconStringActiveColor",    KeyKind::Color,  "white",                 "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Icon string active")},
+    {"IconForeColor",            KeyKind::Color,  "#000080",               "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Icon foreground")},
+    {"IconBackColor",            KeyKind::Color,  "#c0c0c0",               "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Icon background")},
+    {"MenuColor",                KeyKind::Color,  "#a4a3be",               "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Menu")},
+    {"MenuColor2",               KeyKind::Color,  "#fbfcfd",               "ThemePage",  "Menu"},
+    {"MenuActiveColor",          KeyKind::Color,  "#000080",               "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Menu active")},
+    {"MenuStringColor",          KeyKind::Color,  "black",                 "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Menu string")},
+    {"MenuStringActiveColor",    KeyKind::Color,  "white",                 "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Menu string active")},
+    {"StartMenuLogoColor",       KeyKind::Color,  "#501414",               "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Start menu logo")},
+    {"DialogColor",              KeyKind::Color,  "#c0c0c0",               "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Dialog")},
+    {"DialogStringColor",        KeyKind::Color,  "black",                 "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Dialog string")},
+    {"SwitcherColor",            KeyKind::Color,  "#c0c0c0",               "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Switcher")},
+    {"SwitcherActiveColor",      KeyKind::Color,  "#000080",               "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Switcher active")},
+    {"SwitcherStringColor",      KeyKind::Color,  "black",                 "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Switcher string")},
+    {"ButtonColor",              KeyKind::Color,  "#c0c0c0",               "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Button")},
+    {"ButtonActiveColor",        KeyKind::Color,  "#c0c0c0",               "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Button active")},
+    {"ButtonStringColor",        KeyKind::Color,  "black",                 "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Button string")},
+    {"ButtonStringActiveColor",  KeyKind::Color,  "black",                 "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Button string active")},
+    {"TooltipColor",             KeyKind::Color,  "#ffffe1",               "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Tooltip")},
+    {"TooltipStringColor",       KeyKind::Color,  "black",                 "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Tooltip string")},
+    // The defaults of the two sizes are those of a screen of usual or unknown resolution.
+    {"DesktopIconSize",          KeyKind::Word,   "48",                    "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Desktop icon size"), 16, 256, "16,22,32,48,64,96,128,256"},
+    {"TaskbarHeight",            KeyKind::Number, "49",                    "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Taskbar height"), 21, 280},
+
+    // A missing font is the role's default on load; a saved one is compared with the empty text.
+    {"DefaultFont",              KeyKind::Font,   "Verdana-10:normal",     "KFonts",     QT_TRANSLATE_NOOP("KFonts", "General"), 0, 0, nullptr, true},
+    {"TitleFont",                KeyKind::Font,   "Verdana-10:normal",     "KFonts",     QT_TRANSLATE_NOOP("KFonts", "Title"), 0, 0, nullptr, true},
+    {"StartMenuFont",            KeyKind::Font,   "Verdana-10:normal",     "KFonts",     QT_TRANSLATE_NOOP("KFonts", "Start Menu"), 0, 0, nullptr, true},
+    {"CascadeMenuFont",          KeyKind::Font,   "Verdana-10:normal",     "KFonts",     QT_TRANSLATE_NOOP("KFonts", "Cascade Menu"), 0, 0, nullptr, true},
+    {"CtrlMenuFont",             KeyKind::Font,   "Verdana-10:normal",     "KFonts",     QT_TRANSLATE_NOOP("KFonts", "Control Menu"), 0, 0, nullptr, true},
+    {"DialogFont",               KeyKind::Font,   "Verdana-10:normal",     "KFonts",     QT_TRANSLATE_NOOP("KFonts", "Dialog"), 0, 0, nullptr, true},
+    {"TaskbarFont",              KeyKind::Font,   "Verdana-10:normal",     "KFonts",     QT_TRANSLATE_NOOP("KFonts", "Taskbar"), 0, 0, nullptr, true},
+    {"TaskbarBoldFont",          KeyKind::Font,   "Verdana-10:bold",       "KFonts",     QT_TRANSLATE_NOOP("KFonts", "Taskbar bold"), 0, 0, nullptr, true},
+    {"TaskbarClockFont",         KeyKind::Font,   "Verdana-10:normal",     "KFonts",     QT_TRANSLATE_NOOP("KFonts", "Taskbar clock"), 0, 0, nullptr, true},
+    {"IconFont",                 KeyKind::Font,   "Verdana-10:normal",     "KFonts",     QT_TRANSLATE_NOOP("KFonts", "Icon"), 0, 0, nullptr, true},
+    {"TooltipFont",              KeyKind::Font,   "Verdana-10:normal",     "KFonts",     QT_TRANSLATE_NOOP("KFonts", "Tooltip"), 0, 0, nullptr, true},
+
+    {"ScreenSaverDelay",         KeyKind::Number, "600",                   "ThemeKeys",  QT_TRANSLATE_NOOP("ThemeKeys", "Seconds without input until the screensaver starts; 0: never"), 0, 59940},
+    {"LockerDpmsOffTimeout",     KeyKind::Number, "60",                    "ThemeKeys",  QT_TRANSLATE_NOOP("ThemeKeys", "Seconds until the locked display is switched off"), 0, 59940},
+    {"LockerWrongPasswdTimeout", KeyKind::Number, "2",                     "ThemeKeys",  QT_TRANSLATE_NOOP("ThemeKeys", "Seconds that the locker waits after a wrong password"), 0, 99},
+    {"LockerBellLevel",          KeyKind::Number, "50",                    "ThemeKeys",  QT_TRANSLATE_NOOP("ThemeKeys", "Loudness of the bell for a wrong password, in percent"), 0, 100},
+    {"LockerTTYLock",            KeyKind::Truth,  "true",                  "ScreensaverForm", QT_TRANSLATE_NOOP("ScreensaverForm", "Lock console switching")},
+    {"LockerXaccessLock",        KeyKind::Truth,  "false",                 "ScreensaverForm", QT_TRANSLATE_NOOP("ScreensaverForm", "Lock X Access")},
+
+    {"SmartPlacement",           KeyKind::Truth,  "true",                  "EffectForm", QT_TRANSLATE_NOOP("EffectForm", "Search free area to map window")},
+    {"OpaqueMove",               KeyKind::Truth,  "true",                  "EffectForm", QT_TRANSLATE_NOOP("EffectForm", "Opaque window move")},
+    {"OpaqueResize",             KeyKind::Truth,  "true",                  "EffectForm", QT_TRANSLATE_NOOP("EffectForm", "Opaque window resize")},
+    {"FullOpaque",               KeyKind::Truth,  "true",                  "EffectForm", "Opaque window resize"},
+    {"StartMenuMapSpeed",        KeyKind::Number, "0",                     "EffectForm", QT_TRANSLATE_NOOP("EffectForm", "Speed of start menu show animation"), 0, 25},
+    {"ArrangeWindowSpeed",       KeyKind::Number, "0",                     "EffectForm", QT_TRANSLATE_NOOP("EffectForm", "Speed of windows minimize-maximize, restore, rearrange"), 0, 25, nullptr, true},
+    {"GradWindowMapSpeed",       KeyKind::Number, "0",                     "EffectForm", QT_TRANSLATE_NOOP("EffectForm", "speed of window map/unmap"), 0, 30, nullptr, true},
+    {"GradWindowMapStyle",       KeyKind::Word,   "Normal",                "EffectForm", QT_TRANSLATE_NOOP("EffectForm", "Style of window map/ummap"), 0, 0, "Normal,TopToBottom,LeftToRight,CenterToTopBottom,CenterToLeftRight,CenterToAll,FromButton,RightToLeft,BottomToTop"},
+    {"MenuDelayTime",            KeyKind::Number, "300",                   "EffectForm", QT_TRANSLATE_NOOP("EffectForm", "menu show delay (ms)"), 0, 3000},
+    {"MenuDelayTime2",           KeyKind::Number, "300",                   "EffectForm", QT_TRANSLATE_NOOP("EffectForm", "menu hide delay (ms)"), 0, 3000},
+    {"GradMenuMapSpeed",         KeyKind::Number, "0",                     "EffectForm", QT_TRANSLATE_NOOP("EffectForm", "menu map animation speed"), 0, 10},
+    {"GradTaskbarMotionSpeed",   KeyKind::Number, "10",                    "EffectForm", QT_TRANSLATE_NOOP("EffectForm", "speed of autohided taskbar map/unmap"), 0, 30},
+    {"TaskbarShowDelay",         KeyKind::Number, "500",                   "EffectForm", QT_TRANSLATE_NOOP("EffectForm", "autohided taskbar show delay (ms)"), 0, 3000},
+    {"TaskbarHideDelay",         KeyKind::Number, "0",                     "EffectForm", QT_TRANSLATE_NOOP("EffectForm", "autohided taskbar hide delay (ms)"), 0, 3000},
+    {"PagingBeltSize",           KeyKind::Number, "0",                     "EffectForm", QT_TRANSLATE_NOOP("EffectForm", "Screen edge area for autopaging"), 0, 20},
+    {"PagingResistance",         KeyKind::Number, "1500",                  "EffectForm", QT_TRANSLATE_NOOP("EffectForm", "Autopaging resistance"), 0, 5000},
+    {"PagingSpeed",              KeyKind::Number, "30",                    "EffectForm", QT_TRANSLATE_NOOP("EffectForm", "Autopaging speed"), 0, 100},
+    {"PagingShiftCursor",        KeyKind::Number, "200",                   "EffectForm", QT_TRANSLATE_NOOP("EffectForm", "Shift cursor from edge when autopaging"), 0, 500},
+    {"MenuTransparency",         KeyKind::Number, "0",                     "EffectForm", QT_TRANSLATE_NOOP("EffectForm", "menu transparency left side value"), 0, 100},
+    {"MenuTransparency2",        KeyKind::Number, "0",                     "EffectForm", QT_TRANSLATE_NOOP("EffectForm", "menu transparency right side value"), 0, 100},
+    {"CompositeManager",         KeyKind::File,   "/usr/bin/qaz-kompmgr",  "ThemeKeys",  QT_TRANSLATE_NOOP("ThemeKeys", "Program that draws transparency and shadows")},
+    {"UseComposite",             KeyKind::Truth,  "true",                  "ThemeKeys",  QT_TRANSLATE_NOOP("ThemeKeys", "Whether that program runs"), 0, 0, nullptr, true},
+    {"ThumbSize",                KeyKind::Number, "0",                     "ThemeKeys",  QT_TRANSLATE_NOOP("ThemeKeys", "Size of window thumbnails in pixels; 0: none"), 0, 1000},
+
+    {"EnableSound",              KeyKind::Truth,  "false",                 "SoundForm",  QT_TRANSLATE_NOOP("SoundForm", "Use sounds in window manager")},
+    {"EnableAlsa",               KeyKind::Truth,  "false",                 "SoundForm",  "Use sounds in window manager"},
+    {"MenuPopupSound",           KeyKind::File,   "",                      "SoundForm",  QT_TRANSLATE_NOOP("SoundForm", "Menu Popup")},
+    {"MenuCommandSound",         KeyKind::File,   "",                      "SoundForm",  QT_TRANSLATE_NOOP("SoundForm", "Menu Command")},
+    {"OpenSound",                KeyKind::File,   "",                      "SoundForm",  QT_TRANSLATE_NOOP("SoundForm", "Open Window")},
+    {"CloseSound",               KeyKind::File,   "",                      "SoundForm",  QT_TRANSLATE_NOOP("SoundForm", "Close Window")},
+    {"RestoreUpSound",           KeyKind::File,   "",                      "SoundForm",  QT_TRANSLATE_NOOP("SoundForm", "Restore Window up")},
+    {"RestoreDownSound",         KeyKind::File,   "",                      "SoundForm",  QT_TRANSLATE_NOOP("SoundForm", "Restore Window down")},
+    {"MinimizeSound",            KeyKind::File,   "",                      "SoundForm",  QT_TRANSLATE_NOOP("SoundForm", "Minimize Window")},
+    {"MaximizeSound",            KeyKind::File,   "",                      "SoundForm",  QT_TRANSLATE_NOOP("SoundForm", "Maximize Window")},
+    {"SystemStartSound",         KeyKind::File,   "",                      "SoundForm",  QT_TRANSLATE_NOOP("SoundForm", "System Start")},
+    {"SystemExitSound",          KeyKind::File,   "",                      "SoundForm",  QT_TRANSLATE_NOOP("SoundForm", "System Exit")},
+    {"SystemLockSound",          KeyKind::File,   "",                      "SoundForm",  QT_TRANSLATE_NOOP("SoundForm", "System Lock")},
+    {"ErrorDialogSound",         KeyKind::File,   "",                      "SoundForm",  QT_TRANSLATE_NOOP("SoundForm", "Error Dialog")},
+    {"ForceTrayMessageSound",    KeyKind::File,   "",                      "SoundForm",  QT_TRANSLATE_NOOP("SoundForm", "Forced Tray Message")},
+    {"PagingSound",              KeyKind::File,   "",                      "SoundForm",  QT_TRANSLATE_NOOP("SoundForm", "Paging")},
+    {"SoundTheme",               KeyKind::Text,   "",                      "ThemeKeys",  QT_TRANSLATE_NOOP("ThemeKeys", "Sound theme; empty: none")}};
+// clang-format on
+
+/// The row of a key that exists: a wrong \a name does not compile where the row is a constant.
+constexpr const ThemeKey &themeKey(std::string_view name)
+{
+    std::size_t row = 0;
+    while (name != themeKeys[row].name)
+        ++row;
+    return themeKeys[row];
+}
+
+/// The row of the key \a name; null for a key that no page knows.
+const ThemeKey *findThemeKey(const QString &name);
+
+/// One line in the user's language that says what \a key means.
+QString meaning(const ThemeKey &key);
+
+/// The words of a closed set, "true" and "false" of a truth value; empty for all other kinds.
+QStringList closedSet(const ThemeKey &key);
+
+/// What \a key takes, in words: "a whole number from 0 to 100".
+QString allowedValues(const ThemeKey &key);
+
+/// Whether \a text may be stored under \a key.
+bool fits(const ThemeKey &key, const QString &text);
+
+/// Whether \a text may be stored under a key that no page knows.
+bool fitsAnyKey(const QString &text);
+
+/// Whether \a name could be a key of a theme file at all.
+bool isKeyName(const QString &name);
+
+/// A \a text that fits as the pages would store it: "7" for "+07".
+QString storedForm(const ThemeKey &key, const QString &text);
+
+/// Whether storing \a text in place of \a stored would change what the pages read: truth values and numbers are
+/// compared as such.
+bool differs(const ThemeKey &key, const QString &stored, const QString &text);

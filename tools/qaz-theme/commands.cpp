@@ -1,0 +1,76 @@
+#include "tools/qaz-theme/commands.h"
+
+#include "tools/qaz-theme/valuecommands.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace {
+
+// clang-format off
+constexpr Command commands[] = {
+    {"get", "KEY...", 1, -1, "print values, one a line",
+     "A key that is not set has its default. With a key that has neither, the status is 1.", getValues},
+    {"set", "KEY=VALUE...", 1, -1, "store and announce values",
+     "All values are checked before the first is stored. What changes is printed.", setValues},
+    {"unset", "KEY...", 1, -1, "go back to the defaults",
+     "Removes the keys from the theme file and announces their defaults.", unsetKeys},
+    {"list", "[PATTERN]", 0, 1, "print every known key",
+     "Each with its value, its default and what it means; '*' marks values that differ from the default.\n"
+     "PATTERN, such as 'Menu*', is compared without regard to case.", listKeys},
+    {"diff", "[FILE] [FILE]", 0, 2, "print what differs",
+     "Compares two theme files, defaults included; the theme file with FILE; or the defaults with the\n"
+     "theme file. The status is 1 when something differs.", diffFiles},
+    {"apply", "FILE", 1, 1, "take over the known keys of another theme file",
+     "All values are checked before the first is stored. What changes is announced and printed.", applyFile},
+    {"complete", "commands|keys|values [KEY]", 1, 2, "print the words that a shell completes",
+     "One a line.", complete}};
+// clang-format on
+
+constexpr char options[]
+    = "Options:\n"
+      "  -f FILE    work on FILE in place of the user's theme file\n"
+      "  --json     print one JSON object\n"
+      "  -n         say what would change, and change nothing\n"
+      "  -q         print errors only\n"
+      "  --force    take keys that no page knows\n"
+      "  --help     print help, also of one command\n"
+      "  --version  print the version\n"
+      "Status: 0 success; 1 not set, or different; 2 wrong arguments or a value that does\n"
+      "not fit, nothing was written; 3 a file can't be read or written.\n";
+
+} // namespace
+
+const Command *findCommand(const QString &name)
+{
+    const auto *found = std::find_if(
+        std::begin(commands), std::end(commands),
+        [&name](const Command &command) { return name == QLatin1String(command.name); });
+    return found == std::end(commands) ? nullptr : found;
+}
+
+QStringList commandNames()
+{
+    QStringList names;
+    for (const Command &command : commands)
+        names.append(QLatin1String(command.name));
+    return names;
+}
+
+QString helpText(const Command *command)
+{
+    if (command)
+        return QStringLiteral("Usage: qaz-theme %1 [OPTION]... %2\n%3.\n%4\n\n%5")
+            .arg(QLatin1String(command->name), QLatin1String(command->operands),
+                 QString::fromLatin1(command->summary)
+                     .replace(0, 1, QChar::fromLatin1(command->summary[0]).toUpper()),
+                 QLatin1String(command->help), QLatin1String(options));
+    QString text = QStringLiteral("Usage: qaz-theme COMMAND [OPTION]... [ARGUMENT]...\n"
+                                  "Reads and changes the desktop's settings as the theme editor does.\n\n");
+    for (const Command &each : commands)
+        text += QStringLiteral("  %1 %2\n")
+                    .arg(QStringLiteral("%1 %2").arg(QLatin1String(each.name), QLatin1String(each.operands)),
+                         -28)
+                    .arg(QLatin1String(each.summary));
+    return text + QLatin1Char('\n') + QLatin1String(options);
+}

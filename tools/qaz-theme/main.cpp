@@ -1,0 +1,46 @@
+// Reads and changes the desktop's settings from the command line, by the editor's rules.
+
+#include "freedesktop/dataroot.h"
+#include "tools/qaz-theme/commands.h"
+#include "tools/qaz-theme/output.h"
+
+#include <QCoreApplication>
+#include <QTextCodec>
+#include <QTranslator>
+
+#include <cstring>
+
+#include <langinfo.h>
+
+namespace {
+
+/// Scripts often run in the C locale, whose encoding knows no letter of a theme file but the plain ones.
+void takeTextsForUtf8InTheCLocale()
+{
+    if (std::strcmp(::nl_langinfo(CODESET), "ANSI_X3.4-1968") == 0)
+        QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const QCoreApplication application(argc, argv);
+    takeTextsForUtf8InTheCLocale();
+    Arguments arguments;
+    QString error;
+    if (!parseArguments(QCoreApplication::arguments().mid(1), &arguments, &error)) {
+        complain(QStringLiteral("%1; see qaz-theme --help").arg(error));
+        return Misuse;
+    }
+    if (arguments.version) {
+        printLine(QStringLiteral("qaz-theme " QAZ_VERSION));
+        return Success;
+    }
+    if (arguments.help) {
+        for (const QString &line : helpText(arguments.command).split(QLatin1Char('\n')))
+            printLine(line);
+        return Success;
+    }
+    return arguments.command->run(arguments);
+}
