@@ -1,19 +1,22 @@
 #include "pages/effects/compositesettings.h"
 
+#include "base/atomicfile.h"
 #include "base/diagnostics.h"
+#include "base/editfile.h"
+#include "base/xdgdirectories.h"
 #include "pages/effects/comptonconfig.h"
 #include "platform/findfileinpath.h"
 #include "platform/findinps.h"
 #include "platform/qazsettings.h"
 #include "settings/backup.h"
 #include "settings/directories.h"
+#include "settings/inifile.h"
 #include "settings/textvalues.h"
 #include "settings/updatevalues.h"
 #include "settings/wmcommands.h"
 
 #include <QFile>
 #include <QFileInfo>
-#include <QSettings>
 
 #include <climits>
 
@@ -35,60 +38,49 @@ QByteArray findManager(const QString &manager)
     return FindFileInPATH(QFile::encodeName(manager).constData(), path) ? QByteArray(path) : QByteArray();
 }
 
-/// The desktop's own manager reads this INI file; both of its values are negations of what the page shows.
-class KompmgrFile
+// The desktop's own manager reads kompmgrrc, whose values are negations of what the page shows.
+
+QString kompmgrPath()
 {
-public:
-    KompmgrFile()
-        : m_path(directoryPath(DirectoryKind::PersonalSettings) + QLatin1String("/kompmgrrc"))
-        , m_settings(m_path, QSettings::IniFormat)
-    {
-        m_settings.beginGroup(QStringLiteral("kompmgr"));
-    }
+    return directoryPath(DirectoryKind::PersonalSettings) + QLatin1String("/kompmgrrc");
+}
 
-    bool transparency() const
-    {
-        return !countsAsTrue(
-            m_settings.value(QStringLiteral("IgnoreTransparency"), QStringLiteral("true")).toString());
-    }
-    bool shadow() const
-    {
-        return !m_settings.value(QStringLiteral("Compmode"), simpleMode).toString().contains(simpleMode);
-    }
+void loadKompmgr(CompositeState *state)
+{
+    const auto text = [path = kompmgrPath()](const char *key, const QString &defaultText) {
+        return iniValue(path, QLatin1String("kompmgr/") + QLatin1String(key), defaultText).toString();
+    };
+    state->transparency = !countsAsTrue(text("IgnoreTransparency", boolText(true)));
+    state->shadow = !text("Compmode", simpleMode).contains(simpleMode);
+}
 
-    /// Writes what differs from \a state; returns whether anything did.
-    bool update(const CompositeState &state)
-    {
-        const bool newTransparency = state.transparency != transparency();
-        const bool newShadow = state.shadow != shadow();
-        if (!newTransparency && !newShadow)
-            return false;
-        // Writing drops comments, and boxes that were never loaded overwrite what the user had.
-        backUp(m_path);
-        if (newTransparency)
-            m_settings.setValue(QStringLiteral("IgnoreTransparency"), boolText(!state.transparency));
-        if (newShadow)
-            m_settings.setValue(QStringLiteral("Compmode"), QString(state.shadow ? shadowMode : simpleMode));
-        m_settings.sync();
-        if (m_settings.status() == QSettings::AccessError)
-            printDiagnostic(QStringLiteral("Can't write %1").arg(m_path));
-        return true;
-    }
-
-private:
-    QString m_path;
-    QSettings m_settings;
-};
+/// Writes what differs from \a state; returns whether anything did.
+bool updateKompmgr(const CompositeState &state)
+{
+    CompositeState stored;
+    loadKompmgr(&stored);
+    QMap<QString, QVariant> values;
+    if (stored.transparency != state.transparency)
+        values.insert(QStringLiteral("IgnoreTransparency"), boolText(!state.transparency));
+    if (stored.shadow != state.shadow)
+        values.insert(QStringLiteral("Compmode"), QString(state.shadow ? shadowMode : simpleMode));
+    if (values.isEmpty())
+        return false;
+    backUp(kompmgrPath()); // boxes that were never loaded overwrite what the user had
+    QString error;         // told where it happens
+    (void)writeIniValues(kompmgrPath(), QStringLiteral("kompmgr"), values, &error);
+    return true;
+}
 
 void loadCompton(const QString &path, CompositeState *state)
 {
-    const std::optional<ComptonConfig> config = ComptonConfig::read(path);
-    if (!config) {
+    const std::optional<ComptonValues> values = readComptonFile(path);
+    if (!values) {
         printDiagnostic(QStringLiteral("Can't read %1").arg(path));
         return;
     }
-    state->shadow = config->boolean(comptonShadow).value_or(false);
-    state->transparency = config->boolean(comptonTransparency).value_or(false);
+    state->shadow = values->shadow.value_or(false);
+    state->transparency = values->transparency.value_or(false);
 }
 
 /// Returns whether the file had other values than \a state, a missing one included.
@@ -96,18 +88,15 @@ bool updateCompton(const QString &path, const CompositeState &state)
 {
     if (path.isEmpty())
         return false;
-    std::optional<ComptonConfig> config = ComptonConfig::read(path);
-    if (!config) {
+    const std::optional<ComptonValues> stored = readComptonFile(path);
+    if (!stored) {
         printDiagnostic(QStringLiteral("Can't read %1").arg(path));
         return false;
     }
-    bool changed = config->updateBoolean(comptonTransparency, state.transparency);
-    changed = config->updateBoolean(comptonShadow, state.shadow) || changed;
-    if (!changed)
+    if (stored->transparency == state.transparency && stored->shadow == state.shadow)
         return false;
-    backUp(path);
-    if (QString reason; !config->write(&reason))
-        printDiagnostic(QStringLiteral("Can't write %1: %2").arg(path, reason));
+    if (QString error; !updateComptonFile(path, {state.transparency, state.shadow}, &error))
+        printDiagnostic(QStringLiteral("Can't write %1: %2").arg(path, error));
     return true;
 }
 
@@ -120,39 +109,67 @@ bool createFile(const QString &path)
     return QFile(path).open(QIODevice::WriteOnly | QIODevice::Append);
 }
 
+void copySystemFile(const QString &from, const QString &to)
+{
+    const FileContent file = readRegularFile(from);
+    if (file.state != FileState::Regular || !QFileInfo(QFileInfo(to).path()).isDir())
+        return;
+    const auto fill = [&file](const QByteArray &content) {
+        return content.isEmpty() ? file.content : content;
+    };
+    QString error;
+    (void)editFile(to, fill, &error); // without a copy the manager's defaults are shown
+}
+
+QString managerName(const QazSettings *settings)
+{
+    return settings->value(QStringLiteral("CompositeManager"), QStringLiteral("/usr/bin/qaz-kompmgr"))
+        .toString();
+}
+
+/// Whether the manager at \a path runs, with `UseComposite` brought in line.
+bool loadManagerOn(QazSettings *settings, const QByteArray &path)
+{
+    const bool isWanted = countsAsTrue(settings->value(useCompositeKey, boolText(true)).toString());
+    const bool isRunning = findInPS(path.mid(path.lastIndexOf('/') + 1).constData());
+    if (isRunning != isWanted)
+        settings->setValue(useCompositeKey, boolText(isRunning));
+    return isRunning;
+}
+
 } // namespace
 
-CompositeSettings::CompositeSettings(QazSettings *store, QString *comptonConfigPath)
-    : m_store(store)
-    , m_comptonConfigPath(comptonConfigPath)
-{}
-
-CompositeState CompositeSettings::load(const CompositeState &shown)
+CompositeState loadComposite(QazSettings *settings, const CompositeState &shown, QString *comptonConfigPath)
 {
     CompositeState state = shown;
-    const QString manager = managerName();
-    if (!loadManagerOn(manager, &state.managerOn))
+    const QString manager = managerName(settings);
+    const QByteArray path = findManager(manager);
+    if (path.isEmpty()) { // its file is left alone
+        printDiagnosticAs("qaz-admin-wm",
+                          QStringLiteral("can't find CompositeManager='%1' in PATH").arg(manager));
+        settings->setValue(useCompositeKey, boolText(false));
+        state.managerOn = false;
         return state;
-    if (isCompton(manager)) {
-        if (m_comptonConfigPath->isEmpty())
-            *m_comptonConfigPath = resolveComptonConfig({QFile::decodeName(qgetenv("XDG_CONFIG_HOME")),
-                                                         directoryPath(DirectoryKind::Home),
-                                                         QStringLiteral("/etc/xdg/compton.conf")});
-        loadCompton(*m_comptonConfigPath, &state);
-    } else {
-        const KompmgrFile file;
-        state.transparency = file.transparency();
-        state.shadow = file.shadow();
     }
+    state.managerOn = loadManagerOn(settings, path);
+    if (!isCompton(manager)) {
+        loadKompmgr(&state);
+        return state;
+    }
+    if (comptonConfigPath->isEmpty())
+        *comptonConfigPath = resolveComptonConfig({xdgDirectory("XDG_CONFIG_HOME", "/.config"),
+                                                   directoryPath(DirectoryKind::Home),
+                                                   QStringLiteral("/etc/xdg/compton.conf")});
+    loadCompton(*comptonConfigPath, &state);
     return state;
 }
 
-void CompositeSettings::save(const CompositeState &state)
+void saveComposite(QazSettings *settings, const CompositeState &state, const QString &comptonConfigPath)
 {
-    const bool fileChanged = isCompton(managerName()) ? updateCompton(*m_comptonConfigPath, state)
-                                                      : KompmgrFile().update(state);
-    const QString storedUse = m_store->value(useCompositeKey, boolText(false)).toString();
-    updateBoolValue(m_store, useCompositeKey, boolText(false), state.managerOn);
+    const bool fileChanged = isCompton(managerName(settings)) ? updateCompton(comptonConfigPath, state)
+                                                              : updateKompmgr(state);
+    const QString storedUse = settings->value(useCompositeKey, boolText(false)).toString();
+    updateBoolValue(settings, useCompositeKey, boolText(false), state.managerOn);
     if (state.managerOn && storedUse == boolText(true) && fileChanged) {
         // Only a restart makes the running manager read its file again.
         for (const bool on : {false, true})
@@ -160,43 +177,17 @@ void CompositeSettings::save(const CompositeState &state)
     }
 }
 
-QString CompositeSettings::managerName() const
-{
-    return m_store->value(QStringLiteral("CompositeManager"), QStringLiteral("/usr/bin/qaz-kompmgr"))
-        .toString();
-}
-
-/// Returns false when the manager isn't found, so that its file must be left alone.
-bool CompositeSettings::loadManagerOn(const QString &manager, bool *managerOn)
-{
-    const QByteArray path = findManager(manager);
-    if (path.isEmpty()) {
-        printDiagnosticAs("qaz-admin-wm",
-                          QStringLiteral("can't find CompositeManager='%1' in PATH").arg(manager));
-        *managerOn = false;
-        m_store->setValue(useCompositeKey, boolText(false));
-        return false;
-    }
-    const bool wanted = countsAsTrue(m_store->value(useCompositeKey, boolText(true)).toString());
-    *managerOn = findInPS(path.mid(path.lastIndexOf('/') + 1).constData());
-    if (*managerOn != wanted)
-        m_store->setValue(useCompositeKey, boolText(*managerOn));
-    return true;
-}
-
 QString resolveComptonConfig(const ComptonPlaces &places)
 {
-    const QString homeConfig = places.home + QLatin1String("/.config");
     const QString file = QStringLiteral("/compton.conf");
-    QString own = (places.configHome.isEmpty() ? homeConfig : places.configHome) + file;
-    if (QFileInfo::exists(own))
-        return own;
-    QString old = places.home + QLatin1String("/.compton.conf");
-    if (QFileInfo::exists(old))
-        return old;
+    for (const QString &path : {places.configHome + file, places.home + QLatin1String("/.compton.conf")}) {
+        if (QFileInfo::exists(path))
+            return path;
+    }
+    QString path = places.home + QLatin1String("/.config") + file;
     if (QFileInfo::exists(places.systemFile))
-        QFile::copy(places.systemFile, homeConfig + file);
-    else if (!createFile(homeConfig + file))
-        printDiagnostic(QStringLiteral("Can't create %1").arg(homeConfig + file));
-    return homeConfig + file;
+        copySystemFile(places.systemFile, path);
+    else if (!createFile(path))
+        printDiagnostic(QStringLiteral("Can't create %1").arg(path));
+    return path;
 }

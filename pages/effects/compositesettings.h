@@ -4,40 +4,27 @@
 
 class QazSettings;
 
-/// What the page shows of the compositing manager.
+/// What the page shows of the compositing manager: whether it runs, and the values of its own file.
 struct CompositeState {
     bool managerOn = false;
     bool transparency = false;
     bool shadow = false;
 };
 
-/// The compositing values of one load or save: the manager named by the theme file, whether it runs, and the
-/// file that holds its own settings. Failures are told on standard error and never stop anything.
-class CompositeSettings
-{
-public:
-    /// Works on \a store with \a comptonConfigPath, the compton file once it is known; both stay the caller's.
-    CompositeSettings(QazSettings *store, QString *comptonConfigPath);
+// Failures are told on standard error and never stop anything. The page keeps the path of the compton file, which is
+// empty until a load resolves it.
 
-    /// The state to show; what can't be read stays as in \a shown. `UseComposite` of the store is brought in
-    /// line with the running manager, without a command to the window manager.
-    CompositeState load(const CompositeState &shown);
+/// The state to show of the manager that \a settings name; what can't be read stays as in \a shown. `UseComposite` is
+/// brought in line with the running manager, without a command to the window manager.
+CompositeState loadComposite(QazSettings *settings, const CompositeState &shown, QString *comptonConfigPath);
 
-    /// Saves \a state to the manager's file and to `UseComposite`. A manager that runs on with a changed file is
-    /// restarted through the window manager.
-    void save(const CompositeState &state);
-
-private:
-    QString managerName() const;
-    bool loadManagerOn(const QString &manager, bool *managerOn);
-
-    QazSettings *m_store;
-    QString *m_comptonConfigPath;
-};
+/// Saves \a state to the manager's file and to `UseComposite`. A manager that runs on with a changed file is restarted
+/// through the window manager.
+void saveComposite(QazSettings *settings, const CompositeState &state, const QString &comptonConfigPath);
 
 /// Where a compton file may stand.
 struct ComptonPlaces {
-    QString configHome; ///< $XDG_CONFIG_HOME; may be empty
+    QString configHome; ///< $XDG_CONFIG_HOME, or what it is when it is not set
     QString home;
     QString systemFile;
 };

@@ -2,10 +2,14 @@
 
 #include "base/atomicfile.h"
 #include "base/chandle.h"
+#include "base/editfile.h"
 #include "pages/effects/libconfigtext.h"
+#include "settings/backup.h"
 
 #include <QFileInfo>
+#include <QMap>
 
+#include <algorithm>
 #include <clocale>
 #include <cstdio>
 #include <cstdlib>
@@ -14,6 +18,9 @@
 #include <libconfig.h>
 
 namespace {
+
+constexpr char transparencyName[] = "enable-transparency";
+constexpr char shadowName[] = "shadow";
 
 // The files in use are a few kilobytes long.
 constexpr int sizeLimit = 1024 * 1024;
@@ -41,15 +48,8 @@ private:
     locale_t m_before;
 };
 
-std::optional<QByteArray> expanded(const QByteArray &text, const QString &path)
-{
-    return withIncludes(text, QFileInfo(path).path(), sizeLimit);
-}
-
-} // namespace
-
 /// libconfig's tree of a text.
-class ComptonConfig::Tree
+class Tree
 {
 public:
     Tree() { ::config_init(&m_config); }
@@ -85,8 +85,8 @@ public:
             ::config_setting_set_bool(setting, value ? CONFIG_TRUE : CONFIG_FALSE);
     }
 
-    /// The whole configuration as libconfig writes it; empty when memory runs out.
-    QByteArray text() const
+    /// The whole configuration as libconfig writes it; nothing when memory runs out.
+    std::optional<QByteArray> text() const
     {
         char *buffer = nullptr;
         std::size_t size = 0;
@@ -106,77 +106,73 @@ private:
     config_t m_config;
 };
 
-ComptonConfig::ComptonConfig(const QString &path, const QByteArray &text, const QByteArray &wholeText,
-                             std::unique_ptr<Tree> tree)
-    : m_path(path)
-    , m_text(text)
-    , m_wholeText(wholeText)
-    , m_tree(std::move(tree))
-{}
-
-ComptonConfig::~ComptonConfig() = default;
-ComptonConfig::ComptonConfig(ComptonConfig &&) noexcept = default;
-
-std::optional<ComptonConfig> ComptonConfig::read(const QString &path)
+std::optional<QByteArray> expanded(const QByteArray &text, const QString &path)
 {
-    if (QFileInfo(path).size() > sizeLimit)
-        return {};
-    // Not config_read_file(): it may end the program, or block, on what is no regular file.
-    const FileContent file = readRegularFile(path);
-    if (file.state != FileState::Regular)
-        return {};
-    const std::optional<QByteArray> wholeText = expanded(file.content, path);
-    auto tree = std::make_unique<Tree>();
-    if (!wholeText || !tree->read(*wholeText))
-        return {};
-    return ComptonConfig(path, file.content, *wholeText, std::move(tree));
+    return withIncludes(text, QFileInfo(path).path(), sizeLimit);
 }
 
-std::optional<bool> ComptonConfig::boolean(const char *name) const
+/// libconfig has the last word on a text that was edited: it must hold \a updates.
+bool holds(const QByteArray &text, const QString &path, const QMap<QByteArray, bool> &updates)
 {
-    return m_tree->boolean(name);
+    const std::optional<QByteArray> wholeText = expanded(text, path);
+    Tree tree;
+    return wholeText && tree.read(*wholeText)
+           && std::all_of(updates.keyBegin(), updates.keyEnd(), [&](const QByteArray &name) {
+                  return tree.boolean(name.constData()) == updates.value(name);
+              });
 }
 
-bool ComptonConfig::updateBoolean(const char *name, bool value)
+/// \a text of the file at \a path with \a updates; nothing when it is no configuration.
+std::optional<QByteArray> updated(const QByteArray &text, const QString &path, QMap<QByteArray, bool> updates)
 {
-    if (boolean(name) == value)
-        return false;
-    m_tree->setBoolean(name, value);
-    m_updates.insert(name, value);
-    return true;
-}
-
-bool ComptonConfig::write(QString *error) const
-{
-    QByteArray text = withUpdates(m_text);
-    if (!areUpdatesIn(text)) // a name may stand only once, and one stands in an included file
-        text = withUpdates(m_wholeText);
-    if (!areUpdatesIn(text))
-        text = m_tree->text();
-    if (text.isEmpty()) {
-        *error = QStringLiteral("Out of memory");
-        return false;
-    }
-    return replaceFile(m_path, text, error);
-}
-
-QByteArray ComptonConfig::withUpdates(QByteArray text) const
-{
-    for (auto update = m_updates.cbegin(); update != m_updates.cend(); ++update)
-        text = withRootBoolean(text, update.key(), update.value());
-    return text;
-}
-
-/// libconfig has the last word on an edited text: it must hold the updates.
-bool ComptonConfig::areUpdatesIn(const QByteArray &text) const
-{
-    const std::optional<QByteArray> wholeText = expanded(text, m_path);
+    const std::optional<QByteArray> wholeText = expanded(text, path);
     Tree tree;
     if (!wholeText || !tree.read(*wholeText))
-        return false;
-    for (auto update = m_updates.cbegin(); update != m_updates.cend(); ++update) {
-        if (tree.boolean(update.key().constData()) != update.value())
-            return false;
+        return {};
+    for (const QByteArray &name : updates.keys()) {
+        if (tree.boolean(name.constData()) == updates.value(name))
+            updates.remove(name);
     }
-    return true;
+    // A name may stand only once, and it may stand in an included file.
+    for (QByteArray edited : {text, *wholeText}) {
+        for (auto update = updates.cbegin(); update != updates.cend(); ++update)
+            edited = withRootBoolean(edited, update.key(), *update);
+        if (holds(edited, path, updates))
+            return edited;
+    }
+    for (auto update = updates.cbegin(); update != updates.cend(); ++update)
+        tree.setBoolean(update.key().constData(), *update);
+    return tree.text();
+}
+
+} // namespace
+
+std::optional<ComptonValues> readComptonFile(const QString &path)
+{
+    // Not config_read_file(): it may end the program, or block, on what is no regular file.
+    const FileContent file = readRegularFile(path, sizeLimit);
+    const std::optional<QByteArray> wholeText = expanded(file.content, path);
+    Tree tree;
+    if (file.state != FileState::Regular || !wholeText || !tree.read(*wholeText))
+        return {};
+    return ComptonValues{tree.boolean(transparencyName), tree.boolean(shadowName)};
+}
+
+bool updateComptonFile(const QString &path, const ComptonValues &values, QString *error)
+{
+    QMap<QByteArray, bool> updates;
+    if (values.transparency)
+        updates.insert(transparencyName, *values.transparency);
+    if (values.shadow)
+        updates.insert(shadowName, *values.shadow);
+    const auto edit = [&](const QByteArray &text) {
+        std::optional<QByteArray> result = updated(text, path, updates);
+        if (!result)
+            *error = QStringLiteral("No configuration");
+        return result;
+    };
+    EditFileOptions options;
+    options.limit = sizeLimit;
+    options.beforeReplace = [](const QString &original) { backUp(original); };
+    return editFile(path, edit, error, options);
 }

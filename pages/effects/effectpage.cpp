@@ -74,7 +74,7 @@ bool EffectPage::loadValues(QazSettings *settings)
                                                   QLatin1String(thumbnailSetting.defaultText))
                                           .toString();
         m_ui->thumbCheckBox->setChecked(thumbnailSize.toInt() != 0);
-        showCompositeState(CompositeSettings(settings, &comptonConfigPath).load(compositeState()));
+        showCompositeState(loadComposite(settings, compositeState(), &comptonConfigPath));
     }
     connectEdits();
     if (m_ui->gradWindowMapStyleComboBox->currentIndex() == 0)
@@ -87,7 +87,7 @@ bool EffectPage::saveValues(QazSettings *settings)
 {
     for (const EffectSetting &setting : effectSettings)
         saveSetting(settings, setting);
-    CompositeSettings(settings, &comptonConfigPath).save(compositeState());
+    saveComposite(settings, compositeState(), comptonConfigPath);
     if (m_ui->thumbCheckBox->isEnabled())
         updateIntValue(settings, QLatin1String(thumbnailSetting.key),
                        QLatin1String(thumbnailSetting.defaultText),
@@ -155,7 +155,7 @@ void EffectPage::showCompositeState(const CompositeState &state)
 
 void EffectPage::connectEdits()
 {
-    // The page is loaded anew after a restore, so every connection is unique.
+    // Loading may run again, so the connections are unique.
     constexpr Qt::ConnectionType unique = Qt::UniqueConnection;
     for (const QSpinBox *box : findChildren<QSpinBox *>())
         connect(box, qOverload<int>(&QSpinBox::valueChanged), this, &EffectPage::changedSignal, unique);
@@ -163,10 +163,9 @@ void EffectPage::connectEdits()
     connect(style, &QComboBox::editTextChanged, this, &EffectPage::changedSignal, unique);
     connect(style, qOverload<int>(&QComboBox::activated), this, &EffectPage::changedSignal, unique);
     connect(style, qOverload<int>(&QComboBox::activated), this, &EffectPage::mapAnimationSlot, unique);
-    connect(m_ui->smartPlacementCheckBox, &QCheckBox::toggled, this, &EffectPage::changedSignal, unique);
-    for (const QCheckBox *box : {m_ui->opaqueMoveCheckBox, m_ui->opaqueResizeCheckBox,
-                                 m_ui->transparencyCheckBox, m_ui->shadowCheckBox, m_ui->thumbCheckBox})
-        connect(box, &QCheckBox::clicked, this, &EffectPage::changedSignal, unique);
+    for (const QCheckBox *box : findChildren<QCheckBox *>())
+        connect(box, box == m_ui->smartPlacementCheckBox ? &QCheckBox::toggled : &QCheckBox::clicked, this,
+                &EffectPage::changedSignal, unique);
     connect(m_ui->compositeGroupBox, &QGroupBox::clicked, this, &EffectPage::changedSignal, unique);
     connect(m_ui->pagingGroupBox, &QGroupBox::toggled, this, &EffectPage::changedSignal, unique);
     connect(m_ui->pagingGroupBox, &QGroupBox::toggled, this, &EffectPage::pagingBeltSlot, unique);

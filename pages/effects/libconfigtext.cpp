@@ -4,7 +4,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QFileInfo>
 
 #include <cstring>
 
@@ -172,9 +171,9 @@ std::optional<QByteArray> expand(const QByteArray &text, const QDir &directory, 
 
 std::optional<QByteArray> expandFile(const QString &path, const QDir &directory, int sizeLimit, int depth)
 {
-    if (depth > includeDepthLimit || QFileInfo(path).size() > sizeLimit)
+    if (depth > includeDepthLimit)
         return {};
-    const FileContent file = readRegularFile(path);
+    const FileContent file = readRegularFile(path, sizeLimit);
     if (file.state != FileState::Regular)
         return {};
     return expand(file.content, directory, sizeLimit, depth);

@@ -1,5 +1,4 @@
 #include "pages/effects/comptonconfig.h"
-#include "pages/effects/libconfigtext.h"
 #include "tests/fuzz/fuzzing.h"
 
 #include <QDir>
@@ -16,18 +15,16 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
     require(file.open(QIODevice::WriteOnly) && file.write(input.content) == input.content.size());
     file.close();
 
-    std::optional<ComptonConfig> config = ComptonConfig::read(path);
-    if (!config)
+    const std::optional<ComptonValues> values = readComptonFile(path);
+    if (!values)
         return 0;
     const bool shadow = input.argument.isEmpty();
-    const std::optional<bool> transparency = config->boolean(comptonTransparency);
-    config->updateBoolean(comptonShadow, shadow);
     QString error;
-    require(config->write(&error));
+    require(updateComptonFile(path, {std::nullopt, shadow}, &error));
 
-    const std::optional<ComptonConfig> written = ComptonConfig::read(path);
+    const std::optional<ComptonValues> written = readComptonFile(path);
     require(written.has_value());
-    require(written->boolean(comptonShadow) == shadow);
-    require(written->boolean(comptonTransparency) == transparency);
+    require(written->shadow == shadow);
+    require(written->transparency == values->transparency);
     return 0;
 }

@@ -12,6 +12,7 @@
 
 #include <memory>
 
+#include <sys/stat.h>
 #include <unistd.h>
 
 Q_DECLARE_METATYPE(CompositeState)
@@ -51,12 +52,9 @@ public:
     }
     CompositeState load(const CompositeState &shown = {})
     {
-        return CompositeSettings(openStore().get(), &comptonConfigPath).load(shown);
+        return loadComposite(openStore().get(), shown, &comptonConfigPath);
     }
-    void save(const CompositeState &state)
-    {
-        CompositeSettings(openStore().get(), &comptonConfigPath).save(state);
-    }
+    void save(const CompositeState &state) { saveComposite(openStore().get(), state, comptonConfigPath); }
     QStringList backups() const
     {
         return QDir(home.path(backupDirectory)).entryList({QStringLiteral("*Z-*")});
@@ -212,6 +210,17 @@ private slots:
                  QByteArray("enable-transparency = false;\nshadow = false;\n"));
     }
 
+    void configHomeThatIsNoneCountsAsUnset()
+    {
+        for (const char *value : {"", "relative"}) {
+            Session session(compton, true, {});
+            const ScopedEnvironment configHome("XDG_CONFIG_HOME", value);
+            session.load();
+            QCOMPARE(session.comptonConfigPath, session.home.path(comptonFile));
+            QCOMPARE(session.home.read(comptonFile), QByteArray(""));
+        }
+    }
+
     void unreadableComptonFileIsToldAndLeft()
     {
         Session session(compton, false, {});
@@ -226,6 +235,27 @@ private slots:
         QCOMPARE(session.home.read(comptonFile), QByteArray("shadow = "));
     }
 
+    void oddFilesAreNeitherReadNorReplaced()
+    {
+        for (const QString &manager : {ownManager, compton}) {
+            const QString file = manager == compton ? comptonFile : kompmgrFile;
+            for (const bool isFifo : {true, false}) {
+                Session session(manager, true, "UseComposite=true\n");
+                const QByteArray path = QFile::encodeName(session.home.path(file));
+                QCOMPARE(isFifo ? ::mkfifo(path.constData(), 0600) : ::mkdir(path.constData(), 0700), 0);
+                StandardError messages;
+                QVERIFY(session.load().managerOn);
+                session.save({true, true, true});
+                struct stat status = {};
+                QCOMPARE(::stat(path.constData(), &status), 0);
+                QVERIFY(isFifo ? S_ISFIFO(status.st_mode) : S_ISDIR(status.st_mode));
+                const QByteArray lines = messages.take();
+                QVERIFY2(lines.contains("qaz-admin-theme: Can't ") && lines.contains(path),
+                         lines.constData());
+            }
+        }
+    }
+
     void comptonPlacesAreTriedInOrder()
     {
         struct Case {
@@ -235,13 +265,13 @@ private slots:
             const char *content; // nullptr: there is no file
         };
         const Case cases[] = {
-            {"/xdg", "xdg/compton.conf .config/compton.conf .compton.conf etc", "xdg/compton.conf",
+            {"xdg", "xdg/compton.conf .config/compton.conf .compton.conf etc", "xdg/compton.conf",
              "xdg/compton.conf"},
             {"", ".config/compton.conf .compton.conf etc", ".config/compton.conf", ".config/compton.conf"},
-            {"/xdg", ".config/compton.conf .compton.conf etc", ".compton.conf", ".compton.conf"},
-            {"/xdg", ".config/x etc", ".config/compton.conf", "etc"},
-            {"/xdg", ".config/compton.conf", ".config/compton.conf", ".config/compton.conf"}, // not emptied
-            {"/xdg", ".config/x", ".config/compton.conf", ""},
+            {"xdg", ".config/compton.conf .compton.conf etc", ".compton.conf", ".compton.conf"},
+            {"xdg", ".config/x etc", ".config/compton.conf", "etc"},
+            {"xdg", ".config/compton.conf", ".config/compton.conf", ".config/compton.conf"}, // not emptied
+            {"xdg", ".config/x", ".config/compton.conf", ""},
             {"", "etc", ".config/compton.conf", nullptr},
             {"", "", ".config/compton.conf", nullptr}};
         for (const Case &one : cases) {
@@ -251,8 +281,7 @@ private slots:
                     home.write(QString::fromLatin1(file), file);
             }
             StandardError messages;
-            const QString configHome = *one.configHome ? home.path() + QLatin1String(one.configHome)
-                                                       : QString();
+            const QString configHome = home.path(QLatin1String(*one.configHome ? one.configHome : ".config"));
             const QString path = resolveComptonConfig(
                 {configHome, home.path(), home.path(QStringLiteral("etc"))});
             QCOMPARE(path, home.path(QLatin1String(one.resolved)));
