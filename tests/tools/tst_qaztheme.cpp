@@ -1,3 +1,4 @@
+#include "settings/backup.h"
 #include "tests/support/literals.h"
 #include "tests/support/temporaryhome.h"
 #include "tests/support/wmlistener.h"
@@ -43,6 +44,8 @@ private slots:
     void nothingIsLostBetweenTwoWriters();
     void withoutADisplayNobodyIsTold();
     void failuresAreTold();
+    void copiesAreListedAndPutBack();
+    void aDirectoryIsPutBack();
 };
 
 void TestQazTheme::commandsReadAndChangeTheFile_data()
@@ -255,6 +258,54 @@ void TestQazTheme::failuresAreTold()
         QVERIFY2(result.status == 3 && !result.errors.isEmpty() && result.out.isEmpty(), arguments);
         home.write("x.themerc"_s, {});
     }
+}
+
+void TestQazTheme::copiesAreListedAndPutBack()
+{
+    const TemporaryHome home;
+    home.write(themeFile, "PagingSpeed=1\n");
+    home.write(".config/other"_s, "other");
+    const QStringList copies{backUp(home.path(themeFile)), backUp(home.path(".config/other"_s))};
+    home.write(themeFile, "PagingSpeed=2\n# new\n");
+    const QByteArrayList lines = run("backups").out.trimmed().split('\n');
+    QCOMPARE(lines.size(), 2);
+    QVERIFY(lines.at(0).trimmed().startsWith("1 ") && lines.at(0).contains(QFile::encodeName(copies.at(1))));
+    const QByteArray ofTheme = run({"backups"_s, home.path(themeFile)}).out;
+    QVERIFY(ofTheme.trimmed().startsWith("2 ") && ofTheme.count('\n') == 1);
+    const auto list
+        = QJsonDocument::fromJson(run("backups --json").out).object().value("backups"_s).toArray();
+    QCOMPARE(list.at(1).toObject().value("original"_s).toString(), home.path(themeFile));
+
+    WmListener listener;
+    QCOMPARE(run("restore 3").status, 2);
+    QCOMPARE(run("restore -n 2").status, 0);
+    QCOMPARE(home.read(themeFile), QByteArray("PagingSpeed=2\n# new\n"));
+    QCOMPARE(listener.take(), QStringList());
+    QCOMPARE(run("restore 2").status, 0);
+    QCOMPARE(home.read(themeFile), QByteArray("PagingSpeed=1\n"));
+    QCOMPARE(listener.take(), QStringList{"QAZWM_UPDATE_VAL PagingSpeed 1"_s});
+    QCOMPARE(home.backups(), QByteArrayList({"PagingSpeed=1\n", "PagingSpeed=2\n# new\n", "other"}));
+    // What was there a moment ago is the newest copy of the file.
+    QCOMPARE(run({"restore"_s, home.path(themeFile)}).status, 0);
+    QCOMPARE(home.read(themeFile), QByteArray("PagingSpeed=2\n# new\n"));
+    QVERIFY(QFile::remove(home.path(".config/other"_s)));
+    QCOMPARE(run({"restore"_s, copies.at(1)}).status, 0);
+    QCOMPARE(home.read(".config/other"_s), QByteArray("other"));
+}
+
+void TestQazTheme::aDirectoryIsPutBack()
+{
+    const TemporaryHome home;
+    home.write(".config/qaz/a/b"_s, "1");
+    QVERIFY(!backUp(home.path(".config/qaz"_s)).isEmpty());
+    home.write(".config/qaz/a/b"_s, "2");
+    home.write(".config/qaz/c"_s, "3");
+    QCOMPARE(run({"restore"_s, home.path(".config/qaz"_s)}).status, 0);
+    QCOMPARE(home.read(".config/qaz/a/b"_s), QByteArray("1"));
+    QCOMPARE(QDir(home.path(".config"_s)).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+             QStringList{"qaz"_s});
+    QVERIFY(!home.exists(".config/qaz/c"_s));
+    QCOMPARE(run("backups").out.count('\n'), 2);
 }
 
 QTEST_GUILESS_MAIN(TestQazTheme)

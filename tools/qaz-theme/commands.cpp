@@ -1,5 +1,6 @@
 #include "tools/qaz-theme/commands.h"
 
+#include "tools/qaz-theme/backupcommands.h"
 #include "tools/qaz-theme/valuecommands.h"
 
 #include <algorithm>
@@ -23,6 +24,10 @@ constexpr Command commands[] = {
      "theme file. The status is 1 when something differs.", diffFiles},
     {"apply", "FILE", 1, 1, "take over the known keys of another theme file",
      "All values are checked before the first is stored. What changes is announced and printed.", applyFile},
+    {"backups", "[FILE]", 0, 1, "list the copies that were kept, newest first",
+     "All of them, or those of FILE.", listBackups},
+    {"restore", "N|FILE", 1, 1, "put a copy back",
+     "Copy N of the list of backups, or the newest copy of FILE. What stands there is backed up first.", restore},
     {"complete", "commands|keys|values [KEY]", 1, 2, "print the words that a shell completes",
      "One a line.", complete}};
 // clang-format on

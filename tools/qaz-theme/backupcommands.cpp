@@ -1,0 +1,102 @@
+#include "tools/qaz-theme/backupcommands.h"
+
+#include "settings/restorecopy.h"
+#include "settings/themeedit.h"
+#include "tools/qaz-theme/output.h"
+#include "tools/qaz-theme/valuecommands.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QFileInfo>
+#include <QTemporaryDir>
+
+#include <algorithm>
+#include <optional>
+
+namespace {
+
+QString absolute(const QString &path)
+{
+    return QDir::cleanPath(QFileInfo(path).absoluteFilePath());
+}
+
+QVector<Backup> newestFirst()
+{
+    QVector<Backup> copies = backups();
+    std::reverse(copies.begin(), copies.end());
+    return copies;
+}
+
+/// When the copy was made, from its name, in local time.
+QString timeOf(const Backup &backup)
+{
+    QDateTime time = QDateTime::fromString(QFileInfo(backup.copy).fileName().left(19),
+                                           QStringLiteral("yyyyMMdd'T'HHmmss.zzz"));
+    time.setTimeSpec(Qt::UTC);
+    return time.toLocalTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
+}
+
+/// The copy with that number in the list, the copy itself, or the newest one of a file.
+std::optional<Backup> chosenCopy(const QString &text)
+{
+    const QVector<Backup> copies = newestFirst();
+    bool isNumber = false;
+    const int number = text.toInt(&isNumber);
+    if (isNumber && number >= 1 && number <= copies.size())
+        return copies.at(number - 1);
+    const QString path = absolute(text);
+    for (const Backup &copy : copies) {
+        if (copy.copy == path || copy.original == path)
+            return copy;
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+Status listBackups(const Arguments &arguments)
+{
+    const QString file = arguments.operands.isEmpty() ? QString() : absolute(arguments.operands.constFirst());
+    QVector<JsonObject> objects;
+    int number = 0;
+    for (const Backup &backup : newestFirst()) {
+        ++number; // the same whether all copies are listed or some
+        if (!file.isEmpty() && backup.original != file)
+            continue;
+        JsonObject object;
+        object.add(QStringLiteral("number"), number);
+        object.add(QStringLiteral("time"), timeOf(backup));
+        object.add(QStringLiteral("original"), backup.original);
+        object.add(QStringLiteral("copy"), backup.copy);
+        objects.append(object);
+        if (!arguments.json)
+            printLine(QStringLiteral("%1  %2  %3  %4")
+                          .arg(number, 3)
+                          .arg(timeOf(backup), backup.original, backup.copy));
+    }
+    JsonObject all;
+    all.add(QStringLiteral("backups"), objects);
+    if (arguments.json)
+        print(all);
+    return Success;
+}
+
+Status restore(const Arguments &arguments)
+{
+    const QString text = arguments.operands.constFirst();
+    const std::optional<Backup> backup = chosenCopy(text);
+    if (!backup)
+        return complainOf({QStringLiteral("There is no copy '%1'; see qaz-theme backups").arg(text)});
+    const bool isThemeFile = backup->original == absolute(arguments.themeFile);
+    const ThemeChanges changes = isThemeFile ? differences(arguments.themeFile, backup->copy)
+                                             : ThemeChanges();
+    QString error;
+    if (!arguments.dryRun && !restoreCopy(*backup, &error)) {
+        complain(QStringLiteral("Can't restore %1: %2").arg(backup->original, error));
+        return Failure;
+    }
+    if (!arguments.quiet && !arguments.json)
+        printLine(QStringLiteral("%1: restored from %2").arg(backup->original, backup->copy));
+    tell(changes, arguments);
+    return Success;
+}
