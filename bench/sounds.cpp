@@ -11,6 +11,7 @@
 #include "bench/figures.h"
 #include "pages/sounds/soundpage.h"
 #include "platform/qazsettings.h"
+#include "settings/soundassignments.h"
 
 #include <unistd.h>
 

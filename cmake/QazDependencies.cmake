@@ -1,11 +1,9 @@
 # Every library that the program links, found once.
-find_package(Qt5 5.15 REQUIRED COMPONENTS Core Gui Widgets Xml Svg X11Extras Multimedia Network LinguistTools)
+find_package(Qt5 5.15 REQUIRED COMPONENTS Core Gui Widgets Xml Svg X11Extras Network LinguistTools)
 if(BUILD_TESTING)
     find_package(Qt5 5.15 REQUIRED COMPONENTS Test)
 endif()
 find_package(PkgConfig REQUIRED)
-find_package(Threads REQUIRED)
-find_package(PNG REQUIRED)
 pkg_check_modules(LibConfig REQUIRED IMPORTED_TARGET libconfig)
 pkg_check_modules(Expat REQUIRED IMPORTED_TARGET expat)
 pkg_check_modules(FontConfig REQUIRED IMPORTED_TARGET fontconfig)

@@ -2,8 +2,6 @@
 include(GNUInstallDirs)
 
 install(TARGETS qaz-admin-theme qaz-svg2png qaz-theme qaz-wm-listen RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
-# Not in lib/qaz-admin-theme itself, for which cpack would have the package run ldconfig.
-install(TARGETS qaz-qsound LIBRARY DESTINATION lib/qaz-admin-theme/modules)
 
 # The program looks for its data in ../share/qaz beside its own directory, wherever it was moved to.
 set(data share/qaz)

@@ -916,6 +916,14 @@ zum Beispiel ogg/oga in wav mit dem Programm oggdec.</translation>
         <source>Can&apos;t start &apos;qasmixer&apos;</source>
         <translation>„qasmixer“ kann nicht gestartet werden</translation>
     </message>
+    <message>
+        <source>Not all files in theme &apos;%1&apos; are in wav format
+They can&apos;t be converted: &apos;%2&apos; has to be renamed first.
+Blanks, quotation marks, backslashes and control characters are not safe.</source>
+        <translation>Nicht alle Dateien des Designs „%1“ sind im wav-Format
+Sie können nicht umgewandelt werden: „%2“ muss zuerst umbenannt werden.
+Leerzeichen, Anführungszeichen, umgekehrte Schrägstriche und Steuerzeichen sind nicht sicher.</translation>
+    </message>
 </context>
 <context>
     <name>ThemeForm</name>

@@ -916,6 +916,14 @@ for example ogg/oga to wav by oggdev utility.</translation>
         <source>Can&apos;t start &apos;qasmixer&apos;</source>
         <translation>Can&apos;t start &apos;qasmixer&apos;</translation>
     </message>
+    <message>
+        <source>Not all files in theme &apos;%1&apos; are in wav format
+They can&apos;t be converted: &apos;%2&apos; has to be renamed first.
+Blanks, quotation marks, backslashes and control characters are not safe.</source>
+        <translation>Not all files in theme &apos;%1&apos; are in wav format
+They can&apos;t be converted: &apos;%2&apos; has to be renamed first.
+Blanks, quotation marks, backslashes and control characters are not safe.</translation>
+    </message>
 </context>
 <context>
     <name>ThemeForm</name>

@@ -916,6 +916,14 @@ por ejemplo de ogg/oga a wav con la herramienta oggdec.</translation>
         <source>Can&apos;t start &apos;qasmixer&apos;</source>
         <translation>No se puede iniciar «qasmixer»</translation>
     </message>
+    <message>
+        <source>Not all files in theme &apos;%1&apos; are in wav format
+They can&apos;t be converted: &apos;%2&apos; has to be renamed first.
+Blanks, quotation marks, backslashes and control characters are not safe.</source>
+        <translation>No todos los archivos del tema «%1» están en formato wav
+No se pueden convertir: primero hay que cambiar el nombre de «%2».
+Los espacios, las comillas, las barras invertidas y los caracteres de control no son seguros.</translation>
+    </message>
 </context>
 <context>
     <name>ThemeForm</name>

@@ -916,6 +916,14 @@ par exemple d’ogg/oga en wav avec l’outil oggdec.</translation>
         <source>Can&apos;t start &apos;qasmixer&apos;</source>
         <translation>Impossible de lancer « qasmixer »</translation>
     </message>
+    <message>
+        <source>Not all files in theme &apos;%1&apos; are in wav format
+They can&apos;t be converted: &apos;%2&apos; has to be renamed first.
+Blanks, quotation marks, backslashes and control characters are not safe.</source>
+        <translation>Les fichiers du thème « %1 » ne sont pas tous au format wav
+Ils ne peuvent pas être convertis : « %2 » doit d’abord être renommé.
+Les espaces, guillemets, barres obliques inverses et caractères de contrôle ne sont pas sûrs.</translation>
+    </message>
 </context>
 <context>
     <name>ThemeForm</name>

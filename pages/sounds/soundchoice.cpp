@@ -59,16 +59,14 @@ QString usableSound(const QString &name, QazSoundTheme *theme, const QString &so
     return !path.isEmpty() && QFileInfo::exists(path) ? name : QString();
 }
 
-QString startDirectory(const QString &value, bool hasTheme, const QString &soundsDirectory)
+QString startOfChoice(const QString &value, bool hasTheme, const QString &soundsDirectory)
 {
-    QString directory;
-    if (soundKind(value) == SoundKind::File)
-        directory = QFileInfo(value).path();
-    else if (soundKind(value) == SoundKind::BuiltIn)
-        directory = soundsDirectory;
-    if (!directory.isEmpty() && QFileInfo(directory).isDir())
-        return directory;
-    return hasTheme ? QStringLiteral("/usr/share/sounds") : soundsDirectory;
+    const SoundKind kind = soundKind(value);
+    const QFileInfo used(kind == SoundKind::BuiltIn ? soundsDirectory + QLatin1Char('/') + value : value);
+    if ((kind == SoundKind::File || kind == SoundKind::BuiltIn) && QFileInfo(used.path()).isDir())
+        return used.isFile() ? used.filePath() : used.path();
+    const QString shared = hasTheme ? QStringLiteral("/usr/share/sounds") : soundsDirectory;
+    return QFileInfo(shared).isDir() ? shared : QString();
 }
 
 QString assignmentForFile(const QString &path, const QString &soundsDirectory)

@@ -1,11 +1,11 @@
 #include "pages/sounds/soundpage.h"
 
+#include "pages/common/dropfilter.h"
 #include "pages/common/messagebox.h"
 #include "pages/common/waitcursor.h"
 #include "pages/sounds/soundchoice.h"
-#include "pages/sounds/soundoutput.h"
+#include "pages/sounds/soundconversion.h"
 #include "pages/sounds/soundplayer.h"
-#include "pages/sounds/wavconverter.h"
 #include "platform/qazfiledialog.h"
 #include "platform/qazinit.h"
 #include "platform/qazsettings.h"
@@ -16,62 +16,72 @@
 #include "settings/updatevalues.h"
 #include "ui_soundform.h"
 
-#include <QFile>
 #include <QFileInfo>
+#include <QProcess>
+#include <QShortcut>
 #include <QSignalBlocker>
 
 namespace {
 
 const QLatin1String falseText("false");
 
+QString soundsDirectory()
+{
+    return directoryPath(DirectoryKind::Sounds);
+}
+
 } // namespace
 
 SoundPage::SoundPage(QWidget *parent)
     : QWidget(parent)
     , m_ui(std::make_unique<Ui::SoundForm>())
-    , m_player(std::make_unique<SoundPlayer>(this))
+    , m_player(std::make_unique<SoundPlayer>())
 {
     m_ui->setupUi(this);
-    createRows();
     setUpButtons();
+    setUpList();
     connect(m_player.get(), &SoundPlayer::started, this, &SoundPage::playStarted);
     connect(m_player.get(), &SoundPlayer::ended, this, &SoundPage::stopItem);
 }
 
 SoundPage::~SoundPage() = default;
 
-void SoundPage::createRows()
-{
-    for (const SoundEvent &event : soundEvents) {
-        const QString title = QCoreApplication::translate("SoundForm", event.title);
-        new QTreeWidgetItem(m_ui->soundListView, {title, QString(), QLatin1String(event.key)});
-    }
-    m_ui->soundListView->hideColumn(KeyColumn);
-    m_ui->soundListView->resizeColumnToContents(EventColumn);
-}
-
 void SoundPage::setUpButtons()
 {
-    struct IconButton {
-        QToolButton *button;
-        const char *iconName;
-        QStyle::StandardPixmap fallback; // an icon theme may lack the icon
-        void (SoundPage::*action)();
-    };
-    const IconButton iconButtons[] = {
-        {m_ui->selectSoundButton, "document-open", QStyle::SP_DialogOpenButton, &SoundPage::openItem},
-        {m_ui->removeSoundButton, "edit-delete", QStyle::SP_TrashIcon, &SoundPage::clearItem},
-        {m_ui->playButton, "media-playback-start", QStyle::SP_MediaPlay, &SoundPage::playItem},
-        {m_ui->stopButton, "media-playback-stop", QStyle::SP_MediaStop, &SoundPage::stopItem}};
     const int extent = int(qazDpiScaled(32));
-    for (const IconButton &entry : iconButtons) {
-        entry.button->setIcon(
-            QIcon::fromTheme(QLatin1String(entry.iconName), style()->standardIcon(entry.fallback)));
-        entry.button->setIconSize(QSize(extent, extent));
-        connect(entry.button, &QToolButton::released, this, entry.action);
-    }
+    const auto setUp = [this, extent](QToolButton *button, const char *icon, QStyle::StandardPixmap fallback,
+                                      void (SoundPage::*action)()) {
+        button->setIcon(QIcon::fromTheme(QLatin1String(icon), style()->standardIcon(fallback)));
+        button->setIconSize(QSize(extent, extent));
+        connect(button, &QToolButton::released, this, action);
+    };
+    setUp(m_ui->selectSoundButton, "document-open", QStyle::SP_DialogOpenButton, &SoundPage::openItem);
+    setUp(m_ui->removeSoundButton, "edit-delete", QStyle::SP_TrashIcon, &SoundPage::clearItem);
+    setUp(m_ui->playButton, "media-playback-start", QStyle::SP_MediaPlay, &SoundPage::playItem);
+    setUp(m_ui->stopButton, "media-playback-stop", QStyle::SP_MediaStop, &SoundPage::stopItem);
     connect(m_ui->mixerButton, &QPushButton::clicked, this, &SoundPage::callMixer);
     m_ui->mixerButton->hide();
+}
+
+void SoundPage::setUpList()
+{
+    QTreeWidget *list = m_ui->soundListView;
+    for (const SoundEvent &event : soundEvents) {
+        const QString title = QCoreApplication::translate("SoundForm", event.title);
+        new QTreeWidgetItem(list, {title, QString(), QLatin1String(event.key)});
+    }
+    list->hideColumn(KeyColumn);
+    list->resizeColumnToContents(EventColumn);
+    new DropFilter(list, [this](const QMimeData *data, const QPoint &at) { return taking(data, at); });
+    const auto onKey = [this, list](Qt::Key key, void (SoundPage::*action)()) {
+        auto *shortcut = new QShortcut(QKeySequence(key), list);
+        shortcut->setContext(Qt::WidgetShortcut);
+        connect(shortcut, &QShortcut::activated, this, action);
+    };
+    onKey(Qt::Key_Delete, &SoundPage::clearItem);
+    // The dialog would take Return for OK.
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space})
+        onKey(key, &SoundPage::openItem);
 }
 
 bool SoundPage::loadValues(QazSettings *settings)
@@ -84,10 +94,8 @@ bool SoundPage::loadValues(QazSettings *settings)
         fillThemes(settings);
         m_ui->wmSoundsGroupBox->setChecked(
             countsAsTrue(settings->value(QStringLiteral("EnableSound"), falseText).toString()));
-        for (int row = 0; row < m_ui->soundListView->topLevelItemCount(); ++row) {
-            QTreeWidgetItem *item = m_ui->soundListView->topLevelItem(row);
+        for (QTreeWidgetItem *item : rows())
             item->setText(FileColumn, settings->value(item->text(KeyColumn), QString()).toString());
-        }
     }
     connectChanges();
     soundEnabled(m_ui->wmSoundsGroupBox->isChecked());
@@ -112,23 +120,21 @@ void SoundPage::fillThemes(const QazSettings *settings)
 
 void SoundPage::connectChanges()
 {
-    // Loading may run again, so the connections are unique.
+    const auto unique = Qt::UniqueConnection; // loading may run again
     const QTreeWidget *list = m_ui->soundListView;
+    const QGroupBox *group = m_ui->wmSoundsGroupBox;
     connect(m_ui->soundThemeCombo, qOverload<int>(&QComboBox::activated), this, &SoundPage::themeSelected,
-            Qt::UniqueConnection);
-    connect(m_ui->wmSoundsGroupBox, &QGroupBox::toggled, this, &SoundPage::changedSignal,
-            Qt::UniqueConnection);
-    connect(m_ui->wmSoundsGroupBox, &QGroupBox::toggled, this, &SoundPage::soundEnabled,
-            Qt::UniqueConnection);
-    connect(list, &QTreeWidget::itemChanged, this, &SoundPage::changedSignal, Qt::UniqueConnection);
+            unique);
+    connect(group, &QGroupBox::toggled, this, &SoundPage::changedSignal, unique);
+    connect(group, &QGroupBox::toggled, this, &SoundPage::soundEnabled, unique);
+    connect(list, &QTreeWidget::itemChanged, this, &SoundPage::changedSignal, unique);
     if (QTreeWidgetItem *top = list->itemAt(0, 0))
         m_ui->soundListView->setCurrentItem(top);
-    connect(list, &QTreeWidget::itemSelectionChanged, this, &SoundPage::itemSelected, Qt::UniqueConnection);
-    connect(list, &QTreeWidget::itemChanged, this, &SoundPage::itemSelected, Qt::UniqueConnection);
-    connect(list, &QTreeWidget::itemDoubleClicked, this, &SoundPage::openItem, Qt::UniqueConnection);
-    connect(m_ui->clearSoundsButton, &QPushButton::clicked, this, &SoundPage::clearAll, Qt::UniqueConnection);
-    connect(m_ui->defaultSoundsButton, &QPushButton::clicked, this, &SoundPage::defaultAll,
-            Qt::UniqueConnection);
+    connect(list, &QTreeWidget::itemSelectionChanged, this, &SoundPage::itemSelected, unique);
+    connect(list, &QTreeWidget::itemChanged, this, &SoundPage::itemSelected, unique);
+    connect(list, &QTreeWidget::itemDoubleClicked, this, &SoundPage::openItem, unique);
+    connect(m_ui->clearSoundsButton, &QPushButton::clicked, this, &SoundPage::clearAll, unique);
+    connect(m_ui->defaultSoundsButton, &QPushButton::clicked, this, &SoundPage::defaultAll, unique);
 }
 
 bool SoundPage::saveValues(QazSettings *settings)
@@ -136,10 +142,8 @@ bool SoundPage::saveValues(QazSettings *settings)
     const bool isOn = m_ui->wmSoundsGroupBox->isChecked();
     updateBoolValue(settings, QStringLiteral("EnableSound"), falseText, isOn);
     updateBoolValue(settings, QStringLiteral("EnableAlsa"), falseText, isOn);
-    for (int row = 0; row < m_ui->soundListView->topLevelItemCount(); ++row) {
-        const QTreeWidgetItem *item = m_ui->soundListView->topLevelItem(row);
+    for (const QTreeWidgetItem *item : rows())
         updateStringValue(settings, item->text(KeyColumn), QString(), item->text(FileColumn));
-    }
     const QString theme = m_ui->soundThemeCombo->currentText();
     updateStringValue(settings, QStringLiteral("SoundTheme"), QString(),
                       theme == tr("No theme") ? QString() : theme);
@@ -180,8 +184,7 @@ void SoundPage::fillSoundFiles(bool fromTheme, bool clear, bool keepUserFiles)
     const QString directory = soundsDirectory();
     QazSoundTheme *theme = fromTheme ? m_theme.get() : nullptr;
     SoundFormats formats;
-    for (int row = 0; row < m_ui->soundListView->topLevelItemCount(); ++row) {
-        QTreeWidgetItem *item = m_ui->soundListView->topLevelItem(row);
+    for (QTreeWidgetItem *item : rows()) {
         if (clear) {
             item->setText(FileColumn, QString());
             continue;
@@ -191,32 +194,9 @@ void SoundPage::fillSoundFiles(bool fromTheme, bool clear, bool keepUserFiles)
         const QString name = defaultSound(item->text(KeyColumn), fromTheme);
         item->setText(FileColumn, usableSound(name, theme, directory, &formats));
     }
-    if (m_theme)
-        checkWavFormat(formats);
-}
-
-void SoundPage::checkWavFormat(const SoundFormats &formats)
-{
-    const QString name = QString::fromLocal8Bit(m_theme->getName());
-    if (formats.ogg) {
-        const QString question = tr("Not all files in theme '%1' are in wav format\n"
-                                    "Would you like to convert them to wav now?");
-        if (showMessage(this, QMessageBox::Question, tr("Attention"), question.arg(name),
-                        QMessageBox::Yes | QMessageBox::No)
-            == QMessageBox::Yes)
-            convertTheme();
-    } else if (formats.nonWav) {
-        showMessage(
-            this, QMessageBox::Information, tr("Attention"),
-            tr("Not all files in theme '%1' are in wav format\nYou should convert them to wav.").arg(name));
-    }
-}
-
-void SoundPage::convertTheme()
-{
-    WavConverter().convert(QFile::decodeName(m_theme->getPath()));
-    // The theme looks at its directories again; the rows' names now mean the converted files.
-    openTheme(QString::fromLocal8Bit(m_theme->getThemeName()));
+    // After a conversion the theme looks at its directories again; the rows' names mean the converted files.
+    if (m_theme && offerConversion(this, *m_theme, formats))
+        openTheme(QString::fromLocal8Bit(m_theme->getThemeName()));
 }
 
 void SoundPage::openTheme(const QString &name)
@@ -247,6 +227,11 @@ void SoundPage::defaultAll()
     fillSoundFiles(m_theme != nullptr, false, false);
 }
 
+QList<QTreeWidgetItem *> SoundPage::rows() const
+{
+    return m_ui->soundListView->findItems(QString(), Qt::MatchContains);
+}
+
 QTreeWidgetItem *SoundPage::selectedItem() const
 {
     return m_ui->soundListView->selectedItems().value(0);
@@ -257,12 +242,30 @@ void SoundPage::openItem()
     QTreeWidgetItem *item = selectedItem();
     if (!item)
         return;
-    const QString directory = soundsDirectory();
-    const QString start = startDirectory(item->text(FileColumn), m_theme != nullptr, directory);
     const QString path = QazFileDialog::getOpenFileName(
-        this, tr("Open File"), QFileInfo(start).isDir() ? start : QString(), tr("Sounds (*.wav *.au)"));
+        this, tr("Open File"), startOfChoice(item->text(FileColumn), m_theme != nullptr, soundsDirectory()),
+        tr("Sounds (*.wav *.au)"));
     if (!path.isEmpty())
-        item->setText(FileColumn, assignmentForFile(path, directory));
+        assignFile(item, path);
+}
+
+void SoundPage::assignFile(QTreeWidgetItem *item, const QString &path)
+{
+    item->setText(FileColumn, assignmentForFile(path, soundsDirectory()));
+}
+
+std::function<void()> SoundPage::taking(const QMimeData *data, const QPoint &position)
+{
+    const QTreeWidget *list = m_ui->soundListView;
+    QTreeWidgetItem *item = position.x() < 0 ? selectedItem()
+                                             : list->itemAt(list->viewport()->mapFrom(list, position));
+    const QString file = droppedFile(data, {QStringLiteral("wav"), QStringLiteral("au")});
+    if (!item || file.isEmpty())
+        return {};
+    return [this, item, file] {
+        m_ui->soundListView->setCurrentItem(item);
+        assignFile(item, file);
+    };
 }
 
 void SoundPage::clearItem()
@@ -274,9 +277,63 @@ void SoundPage::clearItem()
     item->setText(FileColumn, QString());
 }
 
-QString SoundPage::soundsDirectory()
+void SoundPage::playItem()
 {
-    return directoryPath(DirectoryKind::Sounds);
+    const QTreeWidgetItem *item = selectedItem();
+    if (!item)
+        return;
+    const PlayableSound sound = playableSound(item->text(FileColumn), m_theme.get(), soundsDirectory());
+    passFocus(m_ui->playButton, m_ui->soundListView);
+    m_ui->playButton->setEnabled(false);
+    const auto fail = [this](const QString &title, const QString &text) {
+        showMessage(this, QMessageBox::Critical, title, text);
+    };
+    if (!sound.isPlayable) {
+        fail(tr("Warning"), tr("File '%1' is not wav.\nSelect other theme or conver to wav,\n"
+                               "for example ogg/oga to wav by oggdev utility.")
+                                .arg(sound.path));
+    } else if (!m_player->isInstalled()) {
+        fail(tr("Error"), tr("Program %1 not found").arg(m_player->program()));
+    } else if (!QFileInfo::exists(sound.path)) {
+        fail(tr("Error"), tr("Sound '%1' doesn't exist").arg(sound.path));
+    } else {
+        m_startCursor = std::make_unique<WaitCursor>();
+        setPlaying(true); // before the start, which may fail at once and give the controls back
+        m_player->play(sound.path);
+    }
+}
+
+void SoundPage::playStarted()
+{
+    m_startCursor.reset();
+}
+
+void SoundPage::stopItem()
+{
+    m_startCursor.reset();
+    if (!selectedItem())
+        return;
+    m_player->stop();
+    setPlaying(false);
+}
+
+void SoundPage::setPlaying(bool playing)
+{
+    QWidget *next = playing ? m_ui->stopButton : m_ui->playButton;
+    next->setEnabled(true);
+    passFocus(playing ? static_cast<QWidget *>(m_ui->soundListView) : m_ui->stopButton, next);
+    m_ui->playButton->setEnabled(!playing);
+    m_ui->stopButton->setEnabled(playing);
+    for (QWidget *control : std::initializer_list<QWidget *>{m_ui->selectSoundButton, m_ui->removeSoundButton,
+                                                             m_ui->soundThemeCombo, m_ui->clearSoundsButton,
+                                                             m_ui->defaultSoundsButton, m_ui->soundListView})
+        control->setDisabled(playing);
+}
+
+void SoundPage::callMixer()
+{
+    if (!QProcess::startDetached(QStringLiteral("qasmixer"), {}))
+        showMessage(this, QMessageBox::Critical, tr("Error"), tr("Can't start 'qasmixer'"));
 }
 
 void SoundPage::passFocus(const QWidget *from, QWidget *to)

@@ -2,15 +2,15 @@
 
 #include <QWidget>
 
+#include <functional>
 #include <memory>
 
+class QMimeData;
 class QTreeWidgetItem;
 class QazSettings;
 class QazSoundTheme;
-class SoundOutput;
 class SoundPlayer;
 class WaitCursor;
-struct SoundFormats;
 
 namespace Ui {
 class SoundForm;
@@ -57,25 +57,23 @@ public slots:
 private:
     enum Column { EventColumn, FileColumn, KeyColumn };
 
-    void createRows();
     void setUpButtons();
+    void setUpList();
     void fillThemes(const QazSettings *settings);
     void connectChanges();
     void fillSoundFiles(bool fromTheme, bool clear, bool keepUserFiles);
-    void checkWavFormat(const SoundFormats &formats);
     void openTheme(const QString &name);
-    void convertTheme();
-    void startPlaying(const QString &path);
     void setPlaying(bool playing);
+    void assignFile(QTreeWidgetItem *item, const QString &path);
+    /// Assigns a sound file that is dropped on a row, or pasted for the selected one.
+    std::function<void()> taking(const QMimeData *data, const QPoint &position);
+    QList<QTreeWidgetItem *> rows() const;
     QTreeWidgetItem *selectedItem() const;
-    static QString soundsDirectory();
     /// Before \a from is disabled: Qt would pass its focus on to the dialog's buttons, which act on Return.
     static void passFocus(const QWidget *from, QWidget *to);
 
     std::unique_ptr<Ui::SoundForm> m_ui;
     std::unique_ptr<QazSoundTheme> m_theme; // none before the user chooses one
     std::unique_ptr<SoundPlayer> m_player;
-    std::unique_ptr<SoundOutput> m_sound;
     std::unique_ptr<WaitCursor> m_startCursor; // until the player has started
-    bool useQSound = false;
 };

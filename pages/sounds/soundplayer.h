@@ -1,7 +1,5 @@
 #pragma once
 
-#include <QObject>
-#include <QPointer>
 #include <QProcess>
 
 /// Plays one sound file at a time with an external player.
@@ -9,30 +7,27 @@ class SoundPlayer : public QObject
 {
     Q_OBJECT
 public:
-    /// Runs \a program; its processes become children of \a owner, which must outlive the player.
-    explicit SoundPlayer(QObject *owner, const QString &program = QStringLiteral("/usr/bin/aplay"));
+    explicit SoundPlayer(const QString &program = QStringLiteral("/usr/bin/aplay"));
     /// Ends a running player.
     ~SoundPlayer() override;
 
-    QString program() const { return m_program; }
+    QString program() const { return m_process.program(); }
     bool isInstalled() const;
-    bool isPlaying() const;
+    bool isPlaying() const { return m_process.state() != QProcess::NotRunning; }
 
     /// Starts the player on the file at \a path; a player that still runs is ended first.
     void play(const QString &path);
-    /// Ends the player, if one runs, and forgets it: ended() is not emitted.
+    /// Ends the player, if one runs: ended() is not emitted.
     void stop();
 
 signals:
     void started();
-    /// The player ended by itself, crashed or could not be started.
+    /// The player ended by itself, crashed or could not be started; what went wrong is one line on standard error.
     void ended();
 
 private:
     void reportFailure(QProcess::ProcessError error);
     void finish(int exitCode, QProcess::ExitStatus status);
 
-    QObject *m_owner;
-    QString m_program;
-    QPointer<QProcess> m_process;
+    QProcess m_process;
 };

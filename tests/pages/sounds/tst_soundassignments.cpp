@@ -1,5 +1,5 @@
 #include "pages/sounds/soundchoice.h"
-#include "pages/sounds/wavconverter.h"
+#include "pages/sounds/soundconversion.h"
 #include "platform/qazsoundtheme.h"
 #include "settings/soundassignments.h"
 #include "tests/support/literals.h"
@@ -55,13 +55,20 @@ private slots:
 
     void startsChoosingWhereTheFileIs()
     {
-        const QString shared = "/usr/share/sounds"_s;
-        QCOMPARE(startDirectory(m_home.path("missing.wav"_s), true, m_directory), m_home.path());
-        QCOMPARE(startDirectory("x.wav"_s, true, m_directory), m_directory);
-        QCOMPARE(startDirectory("x.wav"_s, true, "/missing"_s), shared);
-        for (const QString &value : {QString(), "one"_s, "/missing/x.wav"_s}) {
-            QCOMPARE(startDirectory(value, true, m_directory), shared);
-            QCOMPARE(startDirectory(value, false, m_directory), m_directory);
+        const QString themes = QFileInfo("/usr/share/sounds"_s).isDir() ? "/usr/share/sounds"_s : QString();
+        const QString used = m_home.write("used.wav"_s, "sound"), built = m_directory + "/built.wav"_s;
+        const QString rows[][4] = {// value, sounds directory, start with a theme and without
+                                   {used, m_directory, used, used},
+                                   {m_home.path("gone.wav"_s), m_directory, m_home.path(), m_home.path()},
+                                   {"built.wav"_s, m_directory, built, built},
+                                   {"x.wav"_s, m_directory, m_directory, m_directory},
+                                   {"x.wav"_s, "/missing"_s, themes, {}},
+                                   {{}, m_directory, themes, m_directory},
+                                   {"one"_s, m_directory, themes, m_directory},
+                                   {"/missing/x.wav"_s, m_directory, themes, m_directory}};
+        for (const auto &[value, directory, withTheme, alone] : rows) {
+            QCOMPARE(startOfChoice(value, true, directory), withTheme);
+            QCOMPARE(startOfChoice(value, false, directory), alone);
         }
     }
 
@@ -86,6 +93,50 @@ private slots:
         for (const QChar c : " \t\n\"\\$`;&|<>()*?[]{}!#~^"_s)
             QCOMPARE(conversionCommand(QLatin1String("/a") + c), command.arg("'/a%1'"_s.arg(c)));
         QCOMPARE(conversionCommand("/it's"_s), command.arg(QLatin1String("'/it'\\''s'")));
+    }
+
+    void unsafeNamesAreFound_data()
+    {
+        QTest::addColumn<bool>("isSafe");
+        for (const char *safe :
+             {"a.ogg", "sub/x-1_2.oga", "-o.ogg", "s\xc3\xb6hne.ogg", "a b.wav", "$(x);.ogg", "a b/c.wav"})
+            QTest::newRow(safe) << true;
+        for (const char *unsafe : {"a -o x.ogg", "d -o y/x.oga", "dir \n.ogg/", "it's.ogg", "a\"b.ogg",
+                                   "a`b.oga", "a\\b.ogg", "a\tb.ogg", "a\nb.ogg", "a\x1b.ogg",
+                                   "a\xc2\xa0"
+                                   "b.ogg",
+                                   ".hidden one.ogg"})
+            QTest::newRow(unsafe) << false;
+    }
+    void unsafeNamesAreFound()
+    {
+        QFETCH(bool, isSafe);
+        const TemporaryHome home;
+        const QString name = QString::fromUtf8(QTest::currentDataTag());
+        home.write("t/fine.ogg"_s, {});
+        if (name.endsWith(u'/'))
+            QVERIFY(home.makeDirectory("t/"_s + name.chopped(1)));
+        else
+            home.write("t/"_s + name, {});
+        QVERIFY(QFile::link("/"_s, home.path("t/link"_s))); // not followed
+        const QString expected = home.path("t/"_s + name);
+        QCOMPARE(unsafeForConversion(home.path("t"_s)), isSafe                ? QString()
+                                                        : name.endsWith(u'/') ? expected.chopped(1)
+                                                                              : expected);
+    }
+
+    void directoryItselfIsLookedAt()
+    {
+        const TemporaryHome home;
+        QVERIFY(home.makeDirectory("a b.ogg"_s));
+        QCOMPARE(unsafeForConversion(home.path("a b.ogg"_s)), home.path("a b.ogg"_s));
+        QVERIFY(home.makeDirectory("a b"_s)); // find prints nothing
+        QCOMPARE(unsafeForConversion(home.path("a b"_s)), QString());
+        home.write("a b/c.ogg"_s, {});
+        QCOMPARE(unsafeForConversion(home.path("a b"_s)), home.path("a b/c.ogg"_s));
+        // What can't be looked into may hold anything.
+        QCOMPARE(unsafeForConversion(home.path("missing"_s)), home.path("missing"_s));
+        QCOMPARE(unsafeForConversion("-d"_s), "-d"_s);
     }
 
 private:

@@ -9,10 +9,13 @@
 #include "tests/support/temporaryhome.h"
 #include "tests/support/wmlistener.h"
 
+#include <QClipboard>
 #include <QComboBox>
+#include <QDropEvent>
 #include <QFileDialog>
 #include <QGroupBox>
 #include <QLineEdit>
+#include <QMimeData>
 #include <QToolButton>
 #include <QTreeWidget>
 #include <QtTest>
@@ -270,7 +273,8 @@ private slots:
         const auto take = [&](const char *name) {
             QString found;
             driver.then([&found, path = over.path(name)](QDialog *dialog) {
-                found = qobject_cast<QFileDialog *>(dialog)->directory().path();
+                found = qobject_cast<QFileDialog *>(dialog)->directory().path() + u' '
+                        + dialog->findChild<QLineEdit *>()->text();
                 dialog->findChild<QLineEdit *>()->setText(path);
                 dialog->accept();
             });
@@ -278,14 +282,111 @@ private slots:
             found += QLatin1Char(' ') + over.assignments();
             return found.replace(over.path("data/sounds"), "DIR"_s);
         };
-        QCOMPARE(take("data/sounds/x-qaz-wm-chimes.wav"), "DIR 0=x-qaz-wm-chimes.wav"_s);
-        QCOMPARE(take("data/sounds/wav/menu-popup.wav"), "DIR 0=DIR/wav/menu-popup.wav"_s);
+        QCOMPARE(take("data/sounds/x-qaz-wm-chimes.wav"), "DIR  0=x-qaz-wm-chimes.wav"_s);
+        QCOMPARE(take("data/sounds/wav/menu-popup.wav"),
+                 "DIR x-qaz-wm-chimes.wav 0=DIR/wav/menu-popup.wav"_s);
         const QString before = over.assignments();
         driver.thenReject();
         over.click("selectSoundButton");
         QCOMPARE(over.assignments(), before);
         QCOMPARE(driver.seen().last(), "Open File|QazFileDialog"_s);
         QVERIFY(driver.isDone());
+    }
+
+    void keysActOnTheSelectedRow()
+    {
+        PageOverFile over("EnableSound=true\nMenuPopupSound=a.wav\nMenuCommandSound=b.wav\n");
+        QSignalSpy changes(over.page.get(), &SoundPage::changedSignal);
+        over.page->activateWindow();
+        over.list->setFocus();
+        QVERIFY(QTest::qWaitForWindowActive(over.page.get()));
+        ModalDriver driver;
+        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
+            driver.thenReject();
+            QTest::keyClick(over.list, key);
+            QCOMPARE(driver.seen().last(), "Open File|QazFileDialog"_s);
+        }
+        QCOMPARE(changes.count(), 0);
+        QTest::keyClick(over.list, Qt::Key_Down);
+        QTest::keyClick(over.list, Qt::Key_Delete);
+        QCOMPARE(over.assignments(), "0=a.wav"_s);
+        QCOMPARE(changes.count(), 1);
+        QVERIFY(driver.isDone());
+    }
+
+    void soundFilesAreDroppedOnRows_data()
+    {
+        QTest::addColumn<QByteArray>("dropped"); // a list of addresses, HOME for the home
+        QTest::addColumn<int>("row");            // -1: beside the rows
+        QTest::addColumn<QString>("assignments");
+        const char *own = "file://HOME/own%20a.WAV\r\n";
+        QTest::newRow("own file") << QByteArray(own) << 2 << "2=HOME/own a.WAV";
+        QTest::newRow("built-in file")
+            << QByteArray("file://HOME/data/sounds/x-qaz-wm-chimes.wav") << 0 << "0=x-qaz-wm-chimes.wav";
+        QTest::newRow("first that fits")
+            << "http://host/b.wav\r\nfile://HOME/some.themerc\r\nfile://HOME/data\r\n"
+               "file://HOME/gone.wav\r\n"
+                   + QByteArray(own)
+            << 13 << "13=HOME/own a.WAV";
+        QTest::newRow("no sound") << QByteArray("file://HOME/some.themerc") << 2 << "";
+        QTest::newRow("no row") << QByteArray(own) << -1 << "";
+    }
+    void soundFilesAreDroppedOnRows()
+    {
+        QFETCH(QByteArray, dropped);
+        QFETCH(int, row);
+        QFETCH(QString, assignments);
+        PageOverFile over("EnableSound=true\n");
+        over.home.write("own a.WAV"_s, "sound");
+        over.page->resize(400, 700);
+        QMimeData data;
+        data.setData("text/uri-list"_s, dropped.replace("HOME", QFile::encodeName(over.home.path())));
+        QWidget *viewport = over.list->viewport();
+        const QPoint place = row < 0 ? QPoint(5, viewport->height() - 2)
+                                     : over.list->visualItemRect(over.list->topLevelItem(row)).center();
+        const auto send = [&](QDropEvent &&event) {
+            QCoreApplication::sendEvent(viewport, &event);
+            return event.isAccepted() && event.dropAction() == Qt::CopyAction;
+        };
+        const auto move = Qt::MoveAction;
+        QCOMPARE(send(QDragEnterEvent(place, move | Qt::CopyAction, &data, Qt::LeftButton, {})),
+                 !assignments.isEmpty());
+        QCOMPARE(send(QDragMoveEvent(place, move | Qt::CopyAction, &data, Qt::LeftButton, {})),
+                 !assignments.isEmpty());
+        QCOMPARE(over.assignments(), QString());
+        QCOMPARE(send(QDropEvent(place, move | Qt::CopyAction, &data, Qt::LeftButton, {})),
+                 !assignments.isEmpty());
+        QCOMPARE(over.assignments(), assignments.replace("HOME"_s, over.home.path()));
+    }
+
+    void soundFileIsPastedForTheSelectedRow()
+    {
+        PageOverFile over("EnableSound=true\n");
+        auto *data = new QMimeData;
+        data->setUrls({QUrl::fromLocalFile(over.path("data/sounds/x-qaz-wm-chimes.wav"))});
+        QGuiApplication::clipboard()->setMimeData(data);
+        over.list->setCurrentItem(over.list->topLevelItem(3));
+        QTest::keyClick(over.list, Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(over.assignments(), "3=x-qaz-wm-chimes.wav"_s);
+    }
+
+    void unsafeThemeIsNotConverted()
+    {
+        FakePrograms programs;
+        programs.add("qaz-su"_s);
+        PageOverFile over("EnableSound=true\n");
+        const QString name = over.home.write("data/sounds/oga/a -o x.ogg"_s, "sound");
+        ModalDriver driver;
+        driver.thenAnswer(QMessageBox::Ok);
+        over.choose("oga"_s);
+        QCOMPARE(
+            driver.seen(),
+            QStringList(
+                "Attention|Not all files in theme 'Fine sounds' are in wav format\nThey can't be converted: '"_s
+                + name
+                + "' has to be renamed first.\nBlanks, quotation marks, backslashes and control "
+                  "characters are not safe."_s));
+        QVERIFY(driver.isDone() && programs.calls("qaz-su"_s).isEmpty());
     }
 };
 

@@ -1,0 +1,122 @@
+#include "pages/sounds/soundconversion.h"
+
+#include "pages/common/messagebox.h"
+#include "pages/common/waitcursor.h"
+#include "pages/sounds/soundchoice.h"
+#include "pages/sounds/soundpage.h"
+#include "platform/qazsoundtheme.h"
+
+#include <QEventLoop>
+#include <QFile>
+#include <QProcess>
+#include <QTimer>
+
+#include <algorithm>
+#include <filesystem>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// \a path as a shell reads it as one word; a path without special characters stays as it is.
+QString shellWord(const QString &path)
+{
+    const auto isOrdinary = [](QChar c) {
+        return c.isLetterOrNumber() || QLatin1String("/._-+,:@%=").contains(c);
+    };
+    if (std::all_of(path.begin(), path.end(), isOrdinary))
+        return path;
+    const QString quoted = QString(path).replace(QLatin1Char('\''), QLatin1String("'\\''"));
+    return QLatin1Char('\'') + quoted + QLatin1Char('\'');
+}
+
+/// xargs splits at blanks, whatever they are in the user's language, and understands quotes and backslashes.
+bool isSafe(const QString &path)
+{
+    const auto isHarmful = [](QChar c) {
+        return c.isSpace() || c.category() == QChar::Other_Control || QLatin1String("\"'`\\").contains(c);
+    };
+    return !path.startsWith(QLatin1Char('-')) && std::none_of(path.begin(), path.end(), isHarmful);
+}
+
+/// Whether the command's find prints it: directories and links, too.
+bool isFound(const fs::path &path)
+{
+    const QByteArray name = QByteArray::fromStdString(path.filename().string());
+    return name.endsWith(".ogg") || name.endsWith(".oga");
+}
+
+} // namespace
+
+bool offerConversion(QWidget *page, const QazSoundTheme &theme, const SoundFormats &formats)
+{
+    const QString title = SoundPage::tr("Attention");
+    const QString name = QString::fromLocal8Bit(theme.getName());
+    const QString directory = QFile::decodeName(theme.getPath());
+    if (!formats.ogg && formats.nonWav)
+        showMessage(
+            page, QMessageBox::Information, title,
+            SoundPage::tr("Not all files in theme '%1' are in wav format\nYou should convert them to wav.")
+                .arg(name));
+    if (!formats.ogg)
+        return false;
+    if (const QString file = unsafeForConversion(directory); !file.isEmpty()) {
+        showMessage(page, QMessageBox::Warning, title,
+                    SoundPage::tr("Not all files in theme '%1' are in wav format\n"
+                                  "They can't be converted: '%2' has to be renamed first.\n"
+                                  "Blanks, quotation marks, backslashes and control characters are not safe.")
+                        .arg(name, file));
+        return false;
+    }
+    const QString question = SoundPage::tr("Not all files in theme '%1' are in wav format\n"
+                                           "Would you like to convert them to wav now?");
+    if (showMessage(page, QMessageBox::Question, title, question.arg(name),
+                    QMessageBox::Yes | QMessageBox::No)
+        != QMessageBox::Yes)
+        return false;
+    convertToWav(directory);
+    return true;
+}
+
+QString conversionCommand(const QString &directory)
+{
+    return QStringLiteral("find %1 -name \"*.og[ga]\" | xargs oggdec").arg(shellWord(directory));
+}
+
+QString unsafeForConversion(const QString &directory)
+{
+    std::error_code error;
+    fs::path path(QFile::encodeName(directory).toStdString());
+    fs::recursive_directory_iterator entry(path, error);
+    const auto shown = [&path] { return QFile::decodeName(path.c_str()); };
+    while (!error) {
+        if (isFound(path) && !isSafe(shown()))
+            return shown();
+        if (entry == fs::recursive_directory_iterator())
+            return {};
+        path = entry->path();
+        entry.increment(error);
+    }
+    // What runs with more rights would look further.
+    return shown();
+}
+
+void convertToWav(const QString &directory, int limit)
+{
+    const WaitCursor waitCursor;
+    // Without an owner: it deletes itself at its end. Its destruction before that would kill the conversion, or,
+    // where it runs with other rights, wait for it in vain.
+    auto *process = new QProcess;
+    const auto finished = qOverload<int, QProcess::ExitStatus>(&QProcess::finished);
+    QEventLoop waiting;
+    QObject::connect(process, finished, &waiting, &QEventLoop::quit);
+    QObject::connect(process, &QProcess::errorOccurred, &waiting, &QEventLoop::quit);
+    QTimer::singleShot(limit, &waiting, &QEventLoop::quit);
+    process->start(QStringLiteral("qaz-su"), {QStringLiteral("-c"), conversionCommand(directory)});
+    if (process->state() != QProcess::NotRunning)
+        waiting.exec(QEventLoop::ExcludeUserInputEvents);
+    if (process->state() == QProcess::NotRunning)
+        process->deleteLater();
+    else
+        QObject::connect(process, finished, process, &QObject::deleteLater);
+}
