@@ -197,3 +197,19 @@ QByteArray KeyFileText::edited(std::vector<Edit> edits) const
     result.append(m_content.constData() + copied, m_content.size() - copied);
     return result;
 }
+
+QByteArrayList listItems(const QByteArray &value, const QByteArray &separators)
+{
+    QByteArrayList items;
+    QByteArray item;
+    for (const char c : value + separators.left(1)) {
+        if (!separators.contains(c)) {
+            item += c;
+            continue;
+        }
+        if (const QByteArray trimmed = item.trimmed(); !trimmed.isEmpty())
+            items.append(trimmed);
+        item.clear();
+    }
+    return items;
+}

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QByteArrayList>
 #include <QMap>
 
 #include <optional>
@@ -76,3 +77,6 @@ private:
     std::vector<Group> m_groups;
     std::vector<Entry> m_entries;
 };
+
+/// The items of a list value, cut at any of \a separators, without the blanks around them; empty ones are left out.
+QByteArrayList listItems(const QByteArray &value, const QByteArray &separators = ",;");

@@ -18,11 +18,11 @@ QByteArray findCursor(ThemeDirectories &directories, const QByteArray &theme, co
     if (seen.contains(theme))
         return {};
     seen.insert(theme);
-    const QByteArrayList locations = directories.locations(directories.searchPath(cursorSearchPath), theme);
+    const QByteArrayList locations = directories.locations(theme);
     for (const QByteArray &location : locations) {
         const QByteArray cursors = location + "/cursors";
         if (directories.listing(location).hasDirectory("cursors")
-            && directories.listing(cursors).hasFile(name.constData()))
+            && directories.listing(cursors).hasFile(name))
             return cursors + '/' + name;
     }
     if (const IconThemeIndex *index = directories.index(locations)) {
@@ -66,24 +66,21 @@ QByteArrayList cursorSearchPath()
     return result;
 }
 
-QByteArrayList cursorThemeNames()
+QByteArrayList cursorThemeNames(ThemeDirectories &directories)
 {
-    const std::shared_ptr<ThemeDirectories> directories = ThemeDirectories::current();
     QSet<QByteArray> names;
-    for (const QByteArray &base : directories->searchPath(cursorSearchPath)) {
-        for (const DirectoryListing::Entry &entry : directories->listing(base).entries()) {
-            const QByteArray location = base + '/' + entry.name;
-            if (entry.canBeDirectory && directories->listing(location).hasDirectory("cursors"))
+    for (const QByteArray &base : directories.searchPath()) {
+        for (const DirectoryListing::Entry &entry : directories.listing(base).entries()) {
+            if (entry.canBeDirectory && directories.listing(base + '/' + entry.name).hasDirectory("cursors"))
                 names.insert(entry.name);
         }
     }
     return names.values();
 }
 
-QByteArray cursorFile(const QByteArray &theme, const QByteArray &name)
+QByteArray cursorFile(ThemeDirectories &directories, const QByteArray &theme, const QByteArray &name)
 {
-    const std::shared_ptr<ThemeDirectories> directories = ThemeDirectories::current();
     QSet<QByteArray> seen;
-    QByteArray file = findCursor(*directories, theme, name, seen);
-    return file.isEmpty() ? findCursor(*directories, QByteArrayLiteral("default"), name, seen) : file;
+    QByteArray file = findCursor(directories, theme, name, seen);
+    return file.isEmpty() ? findCursor(directories, QByteArrayLiteral("default"), name, seen) : file;
 }

@@ -3,6 +3,8 @@
 #include <QByteArray>
 #include <QByteArrayList>
 
+class ThemeDirectories;
+
 /// The directories in which X clients look for cursor themes: `$XCURSOR_PATH`, else Xcursor's own path.
 QByteArrayList cursorClientPath();
 
@@ -10,9 +12,10 @@ QByteArrayList cursorClientPath();
 /// older Xcursor libraries do not know, and the desktop's own icons.
 QByteArrayList cursorSearchPath();
 
-/// The names of all themes on the search path that hold cursors, each once, in no particular order.
-QByteArrayList cursorThemeNames();
+/// The names of all themes in \a directories, those of cursorSearchPath(), that hold cursors, each once, in no
+/// particular order.
+QByteArrayList cursorThemeNames(ThemeDirectories &directories);
 
-/// The file of the cursor \a name in \a theme, found as Xcursor finds it: in the theme, in those it inherits
-/// from, in the "default" theme. Empty when there is none.
-QByteArray cursorFile(const QByteArray &theme, const QByteArray &name);
+/// The file of the cursor \a name in \a theme, found in \a directories as Xcursor finds it: in the theme, in those
+/// it inherits from, in the "default" theme. Empty when there is none.
+QByteArray cursorFile(ThemeDirectories &directories, const QByteArray &theme, const QByteArray &name);

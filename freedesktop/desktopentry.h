@@ -5,5 +5,5 @@
 /// The group of a desktop-entry file (`.directory`, `.desktop`) that says what it is.
 inline constexpr char desktopEntryGroup[] = "Desktop Entry";
 
-/// The text of a desktop-entry file, less a signature of UTF-8, which not all of its readers take.
+/// The text of a desktop-entry file or a theme's index.theme, less a signature of UTF-8, which not all of its readers take.
 KeyFileText desktopEntryText(const QByteArray &content);

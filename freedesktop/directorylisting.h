@@ -2,7 +2,6 @@
 
 #include <QByteArray>
 
-#include <string>
 #include <vector>
 
 /// The names in a directory, read once. A directory that can't be read has none.
@@ -10,23 +9,20 @@ class DirectoryListing
 {
 public:
     struct Entry {
-        const char *name;    ///< in the file system's own bytes; belongs to the listing
+        QByteArray name;     ///< in the file system's own bytes
         bool canBeDirectory; ///< a directory, or a link that may lead to one
         bool canBeFile;      ///< a regular file, or a link that may lead to one
     };
 
     explicit DirectoryListing(const QByteArray &path);
-    DirectoryListing(const DirectoryListing &) = delete; // the entries point into it
-    DirectoryListing &operator=(const DirectoryListing &) = delete;
 
     /// In the order of the names' bytes; "." and ".." are left out.
     const std::vector<Entry> &entries() const { return m_entries; }
-    bool hasFile(const char *name) const;
-    bool hasDirectory(const char *name) const;
+    bool hasFile(const QByteArray &name) const;
+    bool hasDirectory(const QByteArray &name) const;
 
 private:
-    const Entry *find(const char *name) const;
+    const Entry *find(const QByteArray &name) const;
 
-    std::string m_names; ///< each ended by NUL: one block for a directory of thousands of files
     std::vector<Entry> m_entries;
 };

@@ -17,7 +17,7 @@ QByteArray fileIn(ThemeDirectories &directories, const QByteArray &directory, co
 {
     const DirectoryListing &listing = directories.listing(directory);
     for (const char *ending : endings) {
-        if (listing.hasFile((name + ending).constData()))
+        if (listing.hasFile(name + ending))
             return directory + '/' + name + ending;
     }
     return {};
@@ -31,8 +31,7 @@ QByteArray fileInTheme(ThemeDirectories &directories, const QByteArrayList &loca
     const QByteArray top = slash < 0 ? path : path.left(slash);
     for (const QByteArray &location : locations) {
         // Indexes name directories that were never installed; the listing spares a look at each of them.
-        if (!top.isEmpty() && top != "." && top != ".."
-            && !directories.listing(location).hasDirectory(top.constData()))
+        if (!top.isEmpty() && top != "." && top != ".." && !directories.listing(location).hasDirectory(top))
             continue;
         if (QByteArray file = fileIn(directories, location + '/' + path, name); !file.isEmpty())
             return file;
@@ -82,7 +81,7 @@ struct Lookup {
         if (seen.contains(theme))
             return {};
         seen.insert(theme);
-        const QByteArrayList locations = directories.locations(directories.searchPath(iconSearchPath), theme);
+        const QByteArrayList locations = directories.locations(theme);
         const IconThemeIndex *index = directories.index(locations);
         if (!index)
             return {};
@@ -98,31 +97,18 @@ struct Lookup {
     }
 };
 
-void appendOnce(QByteArrayList &list, const QString &path)
-{
-    const QByteArray directory = QFile::encodeName(path);
-    if (!list.contains(directory))
-        list.append(directory);
-}
-
 } // namespace
 
 QByteArrayList iconSearchPath()
 {
+    QStringList paths{homeDirectory() + QLatin1String("/.icons")};
+    for (const QString &directory : xdgDataDirectories())
+        paths.append(directory + QLatin1String("/icons"));
+    paths << QStringLiteral("/usr/share/pixmaps") << dataRoot() + QLatin1String("/icons");
+    paths.removeDuplicates();
     QByteArrayList result;
-    appendOnce(result, homeDirectory() + QLatin1String("/.icons"));
-    appendOnce(result, xdgDirectory("XDG_DATA_HOME", "/.local/share") + QLatin1String("/icons"));
-    QByteArray shared = qgetenv("XDG_DATA_DIRS");
-    if (shared.isEmpty())
-        shared = "/usr/local/share:/usr/share";
-    for (QByteArray directory : shared.split(':')) {
-        while (directory.size() > 1 && directory.endsWith('/'))
-            directory.chop(1);
-        if (directory.startsWith('/')) // the standard has relative ones ignored
-            appendOnce(result, QFile::decodeName(directory) + QLatin1String("/icons"));
-    }
-    appendOnce(result, QStringLiteral("/usr/share/pixmaps"));
-    appendOnce(result, dataRoot() + QLatin1String("/icons"));
+    for (const QString &path : qAsConst(paths))
+        result.append(QFile::encodeName(path));
     return result;
 }
 
@@ -136,7 +122,7 @@ QByteArray iconFile(ThemeDirectories &directories, const QByteArray &theme, cons
         return file;
     if (!context.isEmpty())
         return {};
-    for (const QByteArray &base : directories.searchPath(iconSearchPath)) {
+    for (const QByteArray &base : directories.searchPath()) {
         if (QByteArray file = fileIn(directories, base, name); !file.isEmpty())
             return file;
     }

@@ -3,7 +3,6 @@
 #include "base/xdgdirectories.h"
 #include "freedesktop/dataroot.h"
 
-#include <QDir>
 #include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
@@ -12,19 +11,6 @@
 #include <iterator>
 
 namespace {
-
-QString environmentText(const char *name)
-{
-    return QFile::decodeName(qgetenv(name));
-}
-
-void addDirectory(QStringList *directories, const QString &directory)
-{
-    // The base directory standard tells to ignore paths that are not absolute.
-    const QString clean = QDir::cleanPath(directory);
-    if (QDir::isAbsolutePath(clean) && !directories->contains(clean))
-        directories->append(clean);
-}
 
 SoundCandidate::Rank rankOf(const QString &ending)
 {
@@ -61,15 +47,11 @@ QHash<QString, SoundCandidate> listSounds(const QString &directory)
 
 QStringList soundBaseDirectories()
 {
-    QString system = environmentText("XDG_DATA_DIRS");
-    if (system.isEmpty())
-        system = QStringLiteral("/usr/local/share:/usr/share");
-
-    QStringList directories;
-    addDirectory(&directories, xdgDirectory("XDG_DATA_HOME", "/.local/share") + QLatin1String("/sounds"));
-    for (const QString &directory : system.split(QLatin1Char(':'), Qt::SkipEmptyParts))
-        addDirectory(&directories, directory + QLatin1String("/sounds"));
-    addDirectory(&directories, QFileInfo(dataRoot()).absoluteFilePath() + QLatin1String("/sounds"));
+    QStringList directories = xdgDataDirectories();
+    directories.append(QFileInfo(dataRoot()).absoluteFilePath());
+    for (QString &directory : directories)
+        directory += QLatin1String("/sounds");
+    directories.removeDuplicates();
     return directories;
 }
 
@@ -78,7 +60,7 @@ QStringList localeVariants(const QString &locale)
     QString name = locale;
     for (const char *variable : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
         if (name.isEmpty())
-            name = environmentText(variable);
+            name = QFile::decodeName(qgetenv(variable));
     }
     const QString modifier = name.contains(QLatin1Char('@')) ? name.mid(name.indexOf(QLatin1Char('@')))
                                                              : QString();
@@ -95,15 +77,11 @@ QStringList localeVariants(const QString &locale)
     return variants << QString();
 }
 
-std::optional<SoundCandidate> SoundDirectoryCache::find(const QString &directory, const QString &name)
+std::optional<SoundCandidate> SoundDirectories::find(const QString &directory, const QString &name)
 {
-    const QFileInfo info(directory);
-    if (!info.isDir())
-        return std::nullopt;
-    const QDateTime modified = info.lastModified();
-    auto listing = m_listings.find(directory);
-    if (listing == m_listings.end() || listing->modified != modified)
-        listing = m_listings.insert(directory, {modified, listSounds(directory)});
-    const auto sound = listing->sounds.constFind(name);
-    return sound == listing->sounds.constEnd() ? std::nullopt : std::make_optional(*sound);
+    auto sounds = m_sounds.constFind(directory);
+    if (sounds == m_sounds.constEnd())
+        sounds = m_sounds.insert(directory, listSounds(directory));
+    const auto sound = sounds->constFind(name);
+    return sound == sounds->constEnd() ? std::nullopt : std::make_optional(*sound);
 }

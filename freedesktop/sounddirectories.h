@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QDateTime>
 #include <QHash>
 #include <QString>
 #include <QStringList>
@@ -24,18 +23,13 @@ struct SoundCandidate {
     QString path;
 };
 
-/// Lists directories of sound files, each once for as long as it does not change.
-class SoundDirectoryCache
+/// Directories of sound files, each listed once in the life of the object.
+class SoundDirectories
 {
 public:
     /// The best file for the sound \a name in \a directory; nothing without one or without the directory.
     std::optional<SoundCandidate> find(const QString &directory, const QString &name);
 
 private:
-    struct Listing {
-        QDateTime modified;
-        QHash<QString, SoundCandidate> sounds;
-    };
-
-    QHash<QString, Listing> m_listings;
+    QHash<QString, QHash<QString, SoundCandidate>> m_sounds; ///< by directory and name
 };

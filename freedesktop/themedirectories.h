@@ -4,34 +4,35 @@
 #include "freedesktop/iconthemeindex.h"
 
 #include <QByteArrayList>
-#include <QHash>
 
 #include <map>
-#include <memory>
+#include <optional>
 
-/// The directories and index files of icon and cursor themes. Each is read at most once in the life of the
-/// object, which is short: what the user installs meanwhile is seen by the next one.
+/// The directories and index files of icon or cursor themes. Each is read at most once in the life of the
+/// object, which is made for one listing: what the user installs meanwhile is seen by the next one.
 class ThemeDirectories
 {
 public:
-    /// The object of the work in progress: the same one until control returns to the event loop and the last
-    /// holder lets go.
-    static std::shared_ptr<ThemeDirectories> current();
+    /// Themes stand in the directories of \a searchPath, the first one's before the others'.
+    explicit ThemeDirectories(const QByteArrayList &searchPath)
+        : m_searchPath(searchPath)
+    {}
+    ThemeDirectories(const ThemeDirectories &) = delete;
+    ThemeDirectories &operator=(const ThemeDirectories &) = delete;
+
+    const QByteArrayList &searchPath() const { return m_searchPath; }
 
     /// The directory at \a path; an empty listing when it can't be read.
     const DirectoryListing &listing(const QByteArray &path);
 
-    /// Where the theme \a name stands in \a bases, in their order.
-    QByteArrayList locations(const QByteArrayList &bases, const QByteArray &name);
+    /// Where the theme \a name stands.
+    QByteArrayList locations(const QByteArray &name);
 
     /// The first index.theme in \a locations that can be read; null when there is none.
     const IconThemeIndex *index(const QByteArrayList &locations);
 
-    /// The result of \a compute, which is called once.
-    const QByteArrayList &searchPath(QByteArrayList (*compute)());
-
 private:
-    std::map<QByteArrayList (*)(), QByteArrayList> m_searchPaths;
-    QHash<QByteArray, std::shared_ptr<const DirectoryListing>> m_listings;
-    QHash<QByteArray, std::shared_ptr<const IconThemeIndex>> m_indexes; ///< by path; null: not readable
+    QByteArrayList m_searchPath;
+    std::map<QByteArray, DirectoryListing> m_listings;
+    std::map<QByteArray, std::optional<IconThemeIndex>> m_indexes; ///< by path
 };

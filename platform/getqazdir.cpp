@@ -3,28 +3,21 @@
 #include "base/xdgdirectories.h"
 #include "freedesktop/dataroot.h"
 
-#include <QDir>
 #include <QFile>
 #include <QMap>
 #include <QX11Info>
 
-#include <cerrno>
 #include <memory>
 
 #include <X11/Xatom.h>
 #include <X11/Xlib.h>
-#include <sys/stat.h>
 
 namespace {
 
 QString renderedWallpapers()
 {
     QString path = xdgDirectory("XDG_CACHE_HOME", "/.cache") + QLatin1String("/qaz/wallpapers");
-    if (QDir(path).exists())
-        return path;
-    QDir().mkpath(path.left(path.lastIndexOf(QLatin1Char('/'))));
-    const bool made = ::mkdir(QFile::encodeName(path).constData(), 0700) == 0 || errno == EEXIST;
-    return made && QDir(path).exists() ? path : QString();
+    return makeDirectories(path) ? path : QString();
 }
 
 /// The number of the current virtual desktop, counted from 1.

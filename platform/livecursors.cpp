@@ -1,6 +1,7 @@
 #include "platform/livecursors.h"
 
 #include "freedesktop/cursorfiles.h"
+#include "freedesktop/themedirectories.h"
 
 #include <X11/Xcursor/Xcursor.h>
 #include <X11/extensions/Xfixes.h>
@@ -48,10 +49,12 @@ void showCursorTheme(Display *display, const QByteArray &theme)
         XFreeCursor(display, pointer);
     }
     if (canChangeByName(display)) {
+        ThemeDirectories directories(cursorSearchPath());
         for (const char *name : cursorNames) {
             // Xcursor answers unknown names with the X font's cursor; a theme that lacks one changes nothing.
-            const Cursor cursor = cursorFile(theme, name).isEmpty() ? 0
-                                                                    : XcursorLibraryLoadCursor(display, name);
+            const Cursor cursor = cursorFile(directories, theme, name).isEmpty()
+                                      ? 0
+                                      : XcursorLibraryLoadCursor(display, name);
             if (!cursor)
                 continue;
             XFixesChangeCursorByName(display, cursor, name);

@@ -15,6 +15,16 @@ namespace {
 constexpr int usualSizes[] = {16, 22, 32, 48, 64, 96, 128, 256};
 constexpr int desktopKind = 1;
 
+/// Whoever goes through many themes keeps one of them, and so what all of them look up.
+std::shared_ptr<ThemeDirectories> sharedDirectories()
+{
+    static std::weak_ptr<ThemeDirectories> shared;
+    std::shared_ptr<ThemeDirectories> directories = shared.lock();
+    if (!directories)
+        shared = directories = std::make_shared<ThemeDirectories>(iconSearchPath());
+    return directories;
+}
+
 } // namespace
 
 QazIconTheme::QazIconTheme(const char *name, const QazIconTheme * /*parent*/, bool /*isFallback*/)
@@ -25,10 +35,8 @@ QazIconTheme::~QazIconTheme() = default;
 
 bool QazIconTheme::load()
 {
-    m_directories = ThemeDirectories::current();
-    const QByteArrayList locations = m_directories->locations(m_directories->searchPath(iconSearchPath),
-                                                              m_name);
-    const IconThemeIndex *index = m_directories->index(locations);
+    m_directories = sharedDirectories();
+    const IconThemeIndex *index = m_directories->index(m_directories->locations(m_name));
     return index && index->hasDirectories;
 }
 
@@ -42,18 +50,17 @@ bool QazIconTheme::getIcon(const char *name, int size, const char *context, QStr
 
 bool QazIconTheme::getThemesNames(List<char> *list)
 {
-    const std::shared_ptr<ThemeDirectories> directories = ThemeDirectories::current();
-    const QByteArrayList &bases = directories->searchPath(iconSearchPath);
+    const std::shared_ptr<ThemeDirectories> directories = sharedDirectories();
     QSet<QByteArray> names;
-    for (const QByteArray &base : bases) {
+    for (const QByteArray &base : directories->searchPath()) {
         for (const DirectoryListing::Entry &entry : directories->listing(base).entries()) {
             if (!entry.canBeDirectory || names.contains(entry.name))
                 continue;
-            const IconThemeIndex *index = directories->index(directories->locations(bases, entry.name));
+            const IconThemeIndex *index = directories->index(directories->locations(entry.name));
             if (!index || !index->hasDirectories)
                 continue;
             names.insert(entry.name);
-            list->append(entry.name);
+            list->append(entry.name.constData());
         }
     }
     return !list->isEmpty();
@@ -61,7 +68,8 @@ bool QazIconTheme::getThemesNames(List<char> *list)
 
 bool QazIconTheme::getCursorThemeNames(List<char> *list)
 {
-    for (const QByteArray &name : cursorThemeNames())
+    ThemeDirectories directories(cursorSearchPath());
+    for (const QByteArray &name : cursorThemeNames(directories))
         list->append(name.constData());
     return !list->isEmpty();
 }

@@ -48,5 +48,5 @@ public:
 
 private:
     QByteArray m_name;
-    std::shared_ptr<ThemeDirectories> m_directories;
+    std::shared_ptr<ThemeDirectories> m_directories; ///< shared with the themes that live at the same time
 };

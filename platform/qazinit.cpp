@@ -1,22 +1,20 @@
 #include "platform/qazinit.h"
 
+#include "base/xdgdirectories.h"
 #include "freedesktop/dataroot.h"
 #include "platform/getqazdir.h"
 
 #include <QApplication>
-#include <QDir>
 #include <QFile>
-#include <QFileInfo>
 #include <QIcon>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QScreen>
+#include <QSettings>
 #include <QTranslator>
 
 #include <algorithm>
 #include <cstring>
-
-#include <sys/stat.h>
 
 namespace {
 
@@ -25,13 +23,6 @@ void installCatalogue(const QString &name, const QString &directory)
     auto *translator = new QTranslator(QCoreApplication::instance());
     if (translator->load(QLocale(), name, QStringLiteral("_"), directory))
         QCoreApplication::installTranslator(translator);
-}
-
-void createPersonalDirectory()
-{
-    const QString path = QString::fromLocal8Bit(GetQazDir(2));
-    QDir().mkpath(QFileInfo(path).path());
-    ::mkdir(QFile::encodeName(path).constData(), 0700);
 }
 
 void useOwnIconsAsFallback()
@@ -49,7 +40,10 @@ void useOwnIconsAsFallback()
 
 bool qazInit(const char *version, const char * /*title*/)
 {
-    createPersonalDirectory();
+    makeDirectories(QFile::decodeName(GetQazDir(2)));
+    // Else QSettings takes a relative path for one below the home directory.
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
+                       xdgDirectory("XDG_CONFIG_HOME", "/.config"));
     QCoreApplication::setOrganizationName(QStringLiteral("qaz"));
     QCoreApplication::setApplicationName(QStringLiteral("qaz-admin-theme"));
     // The title is no display name on purpose: Qt would append it to every window title.

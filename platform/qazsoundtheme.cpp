@@ -1,7 +1,7 @@
 #include "platform/qazsoundtheme.h"
 
 #include "base/atomicfile.h"
-#include "freedesktop/indextheme.h"
+#include "freedesktop/desktopentry.h"
 #include "freedesktop/sounddirectories.h"
 
 #include <QDir>
@@ -18,7 +18,7 @@
 namespace {
 
 constexpr int soundBufferSize = 4096;
-const QLatin1String themeGroup("Sound Theme");
+constexpr char themeGroup[] = "Sound Theme";
 const QLatin1String defaultProfile("stereo");
 
 /// What one theme's index says, and where the theme's directories are.
@@ -40,26 +40,35 @@ bool isThemeName(const QString &name)
     return !name.isEmpty() && !name.startsWith(QLatin1Char('.')) && !name.contains(QLatin1Char('/'));
 }
 
-QString localisedName(const QHash<QString, QString> &group)
+QString textOf(const KeyFileText &index, const QByteArray &group, const QByteArray &key)
+{
+    return QString::fromUtf8(index.value(group, key).value_or(QByteArray()));
+}
+
+QStringList listOf(const KeyFileText &index, const QByteArray &key)
+{
+    QStringList items;
+    for (const QByteArray &item : listItems(index.value(themeGroup, key).value_or(QByteArray())))
+        items.append(QString::fromUtf8(item));
+    return items;
+}
+
+QString localisedName(const KeyFileText &index)
 {
     for (const QString &locale : localeVariants({})) {
-        const QString key = locale.isEmpty() ? QStringLiteral("Name")
-                                             : QStringLiteral("Name[%1]").arg(locale);
-        if (QString name = group.value(key); !name.isEmpty())
+        const QByteArray key = locale.isEmpty() ? QByteArrayLiteral("Name") : "Name[" + locale.toUtf8() + ']';
+        if (QString name = textOf(index, themeGroup, key); !name.isEmpty())
             return name;
     }
     return {};
 }
 
-void readIndex(const IndexThemeGroups &groups, ThemeIndex *index)
+void readIndex(const KeyFileText &text, ThemeIndex *index)
 {
-    const QHash<QString, QString> group = groups.value(themeGroup);
-    index->shownName = localisedName(group);
-    index->parents = indexThemeList(group.value(QStringLiteral("Inherits")));
-    for (const QString &directory : indexThemeList(group.value(QStringLiteral("Directories")))) {
-        const QString profile = groups.value(directory).value(QStringLiteral("OutputProfile"));
-        index->directoriesOfProfile[profile].append(directory);
-    }
+    index->shownName = localisedName(text);
+    index->parents = listOf(text, "Inherits");
+    for (const QString &directory : listOf(text, "Directories"))
+        index->directoriesOfProfile[textOf(text, directory.toUtf8(), "OutputProfile")].append(directory);
 }
 
 /// The index of the theme \a name as the first of \a baseDirectories that has one gives it.
@@ -79,20 +88,11 @@ std::optional<ThemeIndex> loadIndex(const QString &name, const QStringList &base
         if (file.state == FileState::Missing)
             continue;
         index.directory = placement;
-        readIndex(parseIndexTheme(file.content), &index);
+        readIndex(desktopEntryText(file.content), &index);
     }
     if (index.directoriesOfProfile.isEmpty() && index.parents.isEmpty())
         return std::nullopt;
     return index;
-}
-
-bool isHidden(const QByteArray &index)
-{
-    // Hardly any theme is; spare all the others the parsing.
-    if (!index.contains("Hidden") || !index.contains("true"))
-        return false;
-    const QHash<QString, QString> group = parseIndexTheme(index).value(themeGroup);
-    return group.value(QStringLiteral("Hidden")) == QLatin1String("true");
 }
 
 } // namespace
@@ -116,12 +116,13 @@ private:
     std::optional<SoundCandidate> findBest(const QString &placement, const QStringList &directories,
                                            const QString &locale, const QString &name);
 
-    SoundDirectoryCache m_cache;
+    SoundDirectories m_directories;
 };
 
 void QazSoundTheme::Private::loadChain()
 {
     chain.clear();
+    m_directories = {};
     QSet<QString> seen;
     // The standard's order: each parent is followed by its own parents; the common theme stands behind all.
     QStringList waiting{QString::fromLocal8Bit(themeName), QStringLiteral("freedesktop")};
@@ -149,7 +150,7 @@ std::optional<SoundCandidate> QazSoundTheme::Private::findBest(const QString &pl
         QString path = QDir::cleanPath(placement + QLatin1Char('/') + directory);
         if (!locale.isEmpty())
             path += QLatin1Char('/') + locale;
-        const std::optional<SoundCandidate> candidate = m_cache.find(path, name);
+        const std::optional<SoundCandidate> candidate = m_directories.find(path, name);
         if (candidate && (!best || candidate->rank < best->rank))
             best = candidate;
     }
@@ -191,7 +192,7 @@ QString QazSoundTheme::Private::findSound(const QString &name, const QString &pr
             break;
     }
     for (int i = 0; !found && i < baseDirectories.size(); ++i)
-        found = m_cache.find(baseDirectories.at(i), name); // sounds of no theme
+        found = m_directories.find(baseDirectories.at(i), name); // sounds of no theme
     return found && found->rank != SoundCandidate::Disabled ? found->path : QString();
 }
 
@@ -219,7 +220,8 @@ bool QazSoundTheme::getThemesNames(List<char> *names)
                 continue;
             const FileContent index = readRegularFile(indexPath(base, name));
             if (index.state != FileState::Missing)
-                isListed.insert(name, !isHidden(index.content));
+                isListed.insert(name, desktopEntryText(index.content).value(themeGroup, "Hidden")
+                                          != QByteArray("true"));
         }
     }
     const int before = names->count();

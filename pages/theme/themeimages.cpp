@@ -108,14 +108,14 @@ QByteArray decorThemesDirectory()
 
 } // namespace
 
-QImage loadCursorImage(unsigned shape, const QString &theme)
+QImage loadCursorImage(unsigned shape, const QString &theme, ThemeDirectories &directories)
 {
     const auto *known = std::find_if(
         std::begin(namedShapes), std::end(namedShapes),
         [shape](const NamedShape &candidate) { return candidate.shape == shape; });
     if (known == std::end(namedShapes))
         return {};
-    const QByteArray path = cursorFile(QFile::encodeName(theme), known->name);
+    const QByteArray path = cursorFile(directories, QFile::encodeName(theme), known->name);
     const FilePtr file = path.isEmpty() ? nullptr : openRegularFile(path);
     if (!file)
         return {};
@@ -137,12 +137,12 @@ QImage loadIconImage(const QString &path, int size)
 
 int listDecorThemes(QStringList *list)
 {
-    const std::shared_ptr<ThemeDirectories> directories = ThemeDirectories::current();
     const QByteArray root = decorThemesDirectory();
+    const DirectoryListing themes(root);
     list->clear();
-    for (const DirectoryListing::Entry &entry : directories->listing(root).entries()) {
-        if (entry.canBeDirectory && entry.name[0] != '.'
-            && directories->listing(root + '/' + entry.name).hasFile("default.theme"))
+    for (const DirectoryListing::Entry &entry : themes.entries()) {
+        if (entry.canBeDirectory && !entry.name.startsWith('.')
+            && DirectoryListing(root + '/' + entry.name).hasFile("default.theme"))
             list->append(QFile::decodeName(entry.name));
     }
     std::sort(list->begin(), list->end(),
@@ -152,9 +152,8 @@ int listDecorThemes(QStringList *list)
 
 std::optional<DecorImages> loadDecorImages(const QString &name)
 {
-    const std::shared_ptr<ThemeDirectories> directories = ThemeDirectories::current();
     const QByteArray directory = decorThemesDirectory() + '/' + QFile::encodeName(name);
-    const DirectoryListing &listing = directories->listing(directory);
+    const DirectoryListing listing(directory);
     DecorImages images;
     for (const DecorImage &row : decorFiles) {
         QImage &image = images.*row.image;

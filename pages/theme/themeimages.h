@@ -8,9 +8,12 @@
 
 #include <optional>
 
+class ThemeDirectories;
+
 /// The cursor of \a shape (a number of the X cursor font: 68 left pointer, 150 watch, 152 text cursor) of a
-/// cursor theme at the display's default cursor size; a null image when the cursor or its image is missing.
-QImage loadCursorImage(unsigned shape, const QString &theme);
+/// cursor theme, found in \a directories, at the display's default cursor size; a null image when the cursor or its
+/// image is missing.
+QImage loadCursorImage(unsigned shape, const QString &theme, ThemeDirectories &directories);
 
 /// The icon at \a path for \a size pixels: an image file's own pixels, or an SVG drawn in that size. Null when
 /// it can't be read, or is so large that it can't be meant as an icon.

@@ -1,6 +1,8 @@
 #include "pages/theme/themelists.h"
 
 #include "base/diagnostics.h"
+#include "freedesktop/cursorfiles.h"
+#include "freedesktop/themedirectories.h"
 #include "pages/theme/previews.h"
 #include "pages/theme/themeimages.h"
 #include "platform/qazicontheme.h"
@@ -92,10 +94,11 @@ QVector<ThemeEntry> cursorThemeEntries(const QSize &size)
     QVector<ThemeEntry> entries;
     List<char> list;
     QazIconTheme::getCursorThemeNames(&list);
+    ThemeDirectories directories(cursorSearchPath());
     for (const QString &name : sortedNames(list)) {
-        const QImage pointer = loadCursorImage(pointerShape, name);
-        const QImage watch = loadCursorImage(watchShape, name);
-        const QImage text = loadCursorImage(textShape, name);
+        const QImage pointer = loadCursorImage(pointerShape, name, directories);
+        const QImage watch = loadCursorImage(watchShape, name, directories);
+        const QImage text = loadCursorImage(textShape, name, directories);
         if (!pointer.isNull() && !watch.isNull() && !text.isNull())
             entries.append({name, iconOf(threeImagesPreview(size, pointer, watch, text))});
     }
@@ -106,6 +109,8 @@ QVector<ThemeEntry> iconThemeEntries(const QSize &size)
 {
     QVector<ThemeEntry> entries;
     List<char> list;
+    QazIconTheme common("hicolor", nullptr, false); // alive to the end: the themes share what they look up
+    common.load();
     QazIconTheme::getThemesNames(&list);
     for (const QString &name : sortedNames(list)) {
         if (name == QLatin1String("hicolor") || name == QLatin1String("default"))

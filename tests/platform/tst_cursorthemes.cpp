@@ -1,4 +1,5 @@
 #include "freedesktop/cursorfiles.h"
+#include "freedesktop/themedirectories.h"
 #include "platform/qazicontheme.h"
 
 #include <QFile>
@@ -67,7 +68,8 @@ void TestCursorThemes::listsEveryDirectoryWithCursors()
         QVERIFY(home.makeDirectory(QLatin1String(theme) + QLatin1String("/cursors")));
     home.write(QStringLiteral(".icons/IconsOnly/index.theme"), "[Icon Theme]\nDirectories=a\n");
     home.write(QStringLiteral(".icons/File/cursors"), "not a directory");
-    const QByteArrayList names = cursorThemeNames();
+    ThemeDirectories directories(cursorSearchPath());
+    const QByteArrayList names = cursorThemeNames(directories);
     for (const char *listed : {"InData", "OnPath", "Described", "WithoutIndex"})
         QCOMPARE(names.count(listed), 1);
     for (const char *other : {"IconsOnly", "File", "default"})
@@ -84,11 +86,12 @@ void TestCursorThemes::findsCursorsAsXcursorDoes()
     home.write(QStringLiteral(".icons/C/cursors/watch"), "x");
     home.write(QStringLiteral(".icons/default/cursors/xterm"), "x");
     const QByteArray icons = QFile::encodeName(home.path(QStringLiteral(".icons/")));
-    QCOMPARE(cursorFile("B", "left_ptr"), icons + "A/cursors/left_ptr");
-    QCOMPARE(cursorFile("A", "watch"), icons + "C/cursors/watch");
-    QCOMPARE(cursorFile("A", "xterm"), icons + "default/cursors/xterm");
-    QCOMPARE(cursorFile("A", "nowhere"), QByteArray());
-    QCOMPARE(cursorFile("../icons/A", "left_ptr"), QByteArray());
+    ThemeDirectories directories(cursorSearchPath());
+    QCOMPARE(cursorFile(directories, "B", "left_ptr"), icons + "A/cursors/left_ptr");
+    QCOMPARE(cursorFile(directories, "A", "watch"), icons + "C/cursors/watch");
+    QCOMPARE(cursorFile(directories, "A", "xterm"), icons + "default/cursors/xterm");
+    QCOMPARE(cursorFile(directories, "A", "nowhere"), QByteArray());
+    QCOMPARE(cursorFile(directories, "../icons/A", "left_ptr"), QByteArray());
 }
 
 void TestCursorThemes::settingReachesNewClients_data()
@@ -101,9 +104,9 @@ void TestCursorThemes::settingReachesNewClients_data()
     };
     row("new file", "Red One", nullptr, "[Icon Theme]\nInherits=Red One\n");
     row("replaced in place", "A", "# c\n[Icon Theme]\nName=D\n Inherits = B\nX=1\n[Other]\nInherits=z\n",
-        "# c\n[Icon Theme]\nName=D\nInherits=A\nX=1\n[Other]\nInherits=z\n");
+        "# c\n[Icon Theme]\nName=D\n Inherits = A\nX=1\n[Other]\nInherits=z\n");
     row("added to the group", "A", "[Other]\nInherits=z\n[Icon Theme]\nName=D",
-        "[Other]\nInherits=z\n[Icon Theme]\nInherits=A\nName=D");
+        "[Other]\nInherits=z\n[Icon Theme]\nName=D\nInherits=A\n");
     row("group added", "A", "[Other]\na=1", "[Other]\na=1\n[Icon Theme]\nInherits=A\n");
     row("default inherits not from itself", "default", "[Icon Theme]\nInherits=B\nName=D\nInherits=C\n",
         "[Icon Theme]\nName=D\n");

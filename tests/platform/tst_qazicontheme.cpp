@@ -23,7 +23,6 @@ class TestQazIconTheme : public QObject
 {
     Q_OBJECT
 private slots:
-    void cleanup() { QCoreApplication::processEvents(); } // ends the reading pass
     void namesAreThoseOfIconThemes();
     void findsIcons_data();
     void findsIcons();

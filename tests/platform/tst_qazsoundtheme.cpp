@@ -5,7 +5,6 @@
 
 #include <QtTest>
 
-#include <fcntl.h>
 #include <sys/stat.h>
 
 namespace {
@@ -129,8 +128,8 @@ private slots:
         QCOMPARE(sound(theme, "../s/x"), QString());
 
         const QString converted = files.write("user/dir/s/x.wav");
-        const timespec past[2] = {{1000, 0}, {1000, 0}}; // a time of change that surely differs
-        QCOMPARE(::utimensat(AT_FDCWD, QFile::encodeName(QFileInfo(plain).path()).constData(), past, 0), 0);
+        QCOMPARE(sound(theme, "x"), plain);
+        QVERIFY(theme.load());
         QCOMPARE(sound(theme, "x"), converted);
     }
 
