@@ -2,12 +2,11 @@
 
 #include "fonts/fontaasettings.h"
 #include "fonts/fontuseitem.h"
-#include "fonts/serverresources.h"
 #include "fonts/userfontfiles.h"
 #include "fonts/xresources.h"
+#include "freedesktop/xresources.h"
 #include "pages/common/messagebox.h"
 #include "platform/setxrdbparameterinfile.h"
-#include "settings/directories.h"
 #include "settings/fontroles.h"
 #include "settings/renderingstore.h"
 
@@ -67,12 +66,21 @@ void widenToTexts(QComboBox *comboBox)
         comboBox->setMinimumWidth(option.rect.width() + missing);
 }
 
+/// Sets the line of the DPI in the user's X resources, or removes it for 0. A file that was made for the line goes with
+/// it.
 void writeDpiToResourceFile(int dpi)
 {
-    const QByteArray file = QFile::encodeName(directoryPath(DirectoryKind::Home)
-                                              + QLatin1String("/.Xresources"));
+    const QString file = userXresources();
+    const QString isOurs = QLatin1String(RenderingKey::madeXresources);
+    QSettings store;
+    if (dpi != 0 && !QFileInfo::exists(file))
+        store.setValue(isOurs, true);
     const QByteArray value = QByteArray::number(dpi);
-    setXrdbParameterInFile(file.constData(), "Xft.dpi:", " ", dpi != 0 ? value.constData() : nullptr, false);
+    setXrdbParameterInFile(QFile::encodeName(file).constData(), "Xft.dpi:", " ",
+                           dpi != 0 ? value.constData() : nullptr, false);
+    const QFileInfo info(file);
+    if (store.value(isOurs).toBool() && info.isFile() && info.size() == 0 && QFile::remove(file))
+        store.remove(isOurs);
 }
 
 } // namespace

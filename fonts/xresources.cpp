@@ -1,56 +1,71 @@
 #include "fonts/xresources.h"
 
-#include "fonts/serverresources.h"
-#include "settings/directories.h"
+#include "base/atomicfile.h"
+#include "base/chandle.h"
+#include "base/diagnostics.h"
+#include "base/xdgdirectories.h"
+#include "freedesktop/serverresources.h"
+#include "freedesktop/xresources.h"
 #include "settings/renderingstore.h"
 
+#include <QDataStream>
+#include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
-#include <QProcess>
 #include <QRegularExpression>
 #include <QSettings>
 #include <QTemporaryFile>
+#include <QX11Info>
+
+#include <memory>
+
+#include <X11/Xlib.h>
 
 namespace {
 
-constexpr int xrdbTimeout = 30000; // ms, for its start and for its end
-constexpr char xrdb[] = "xrdb";
-
-QString userResourceFile()
+/// xrdb hands the name of a file to a shell without quotes.
+bool needsQuotes(const QString &path)
 {
-    const QString home = directoryPath(DirectoryKind::Home);
-    const QString file = home + QLatin1String("/.Xresources");
-    return QFileInfo::exists(file) ? file : home + QLatin1String("/.Xdefaults");
+    static const QRegularExpression special(QStringLiteral("[^A-Za-z0-9/._+-]"));
+    return path.contains(special);
 }
 
-/// Where the merged file goes. xrdb hands its name to a shell without quotes, so the path must not need any.
-QString temporaryDirectory()
+/// Opens the file for the merged resources: beside the user's own, which may include others by relative paths.
+bool openMergedFile(QTemporaryFile *file)
 {
-    static const QRegularExpression needsQuotes(QStringLiteral("[^A-Za-z0-9/._+-]"));
-    const QString usual = QDir::tempPath();
-    return usual.contains(needsQuotes) ? QStringLiteral("/tmp") : usual;
+    const QString home = homeDirectory();
+    file->setFileTemplate(home + QLatin1String("/.qaz-XXXXXX"));
+    if (!needsQuotes(home) && file->open())
+        return true;
+    printDiagnostic(
+        QStringLiteral("Can't merge X resources in %1, files that they include may not be found: %2")
+            .arg(home, needsQuotes(home) ? QStringLiteral("xrdb does not understand its name")
+                                         : file->errorString()));
+    const QString usual = needsQuotes(QDir::tempPath()) ? QStringLiteral("/tmp") : QDir::tempPath();
+    file->setFileTemplate(usual + QLatin1String("/qaz-admin-theme.XXXXXX"));
+    return file->open();
 }
 
-/// Copies the user's own resources, ended by a newline, so that what follows stands on lines of its own.
-void copyUserResources(QFile *target)
+QByteArray userResources()
 {
-    QFile source(userResourceFile());
-    // Opening a FIFO would wait for a writer.
-    if (!QFileInfo(source).isFile() || !source.open(QIODevice::ReadOnly))
+    const QString file = userXresources();
+    const QString older = homeDirectory() + QLatin1String("/.Xdefaults");
+    return endedXresources(readRegularFile(QFileInfo::exists(file) ? file : older).content);
+}
+
+void stampSettingsChange()
+{
+    if (!QX11Info::isPlatformX11())
         return;
-    QByteArray block = source.read(8192);
-    char last = '\n';
-    char beforeLast = '\n';
-    for (; !block.isEmpty(); block = source.read(8192)) {
-        target->write(block);
-        beforeLast = block.size() > 1 ? block.at(block.size() - 2) : last;
-        last = block.at(block.size() - 1);
-    }
-    if (last != '\n')
-        target->write("\n");
-    // A continued last line would swallow our first one.
-    if (last == '\\' || (last == '\n' && beforeLast == '\\'))
-        target->write("\n");
+    QByteArray stamp;
+    QDataStream stream(&stamp, QIODevice::WriteOnly);
+    stream << QDateTime::currentDateTime();
+    Display *display = QX11Info::display();
+    const QByteArray name = QByteArray("_QT_SETTINGS_TIMESTAMP_").append(XDisplayName(nullptr));
+    const Atom atom = XInternAtom(display, name.constData(), False);
+    XChangeProperty(display, QX11Info::appRootWindow(), atom, atom, 8, PropModeReplace,
+                    reinterpret_cast<const unsigned char *>(stamp.constData()), stamp.size());
+    XFlush(display);
 }
 
 } // namespace
@@ -58,20 +73,20 @@ void copyUserResources(QFile *target)
 void applyXResources(unsigned flags)
 {
     const QSettings store;
-    QTemporaryFile merged(temporaryDirectory() + QLatin1String("/qaz-admin-theme.XXXXXX"));
-    if (!merged.open())
+    QTemporaryFile merged;
+    if (!openMergedFile(&merged))
         return;
-    copyUserResources(&merged);
+    QByteArray resources = userResources();
     if (flags & exportXftSettings) {
-        const QString lines = xftResourceLines(store);
+        resources += xftResourceLines(store).toLatin1();
         if (store.value(QLatin1String(RenderingKey::forceFontDpi), 0).toInt() == 0)
             removeDpiFromServer();
-        merged.write(lines.toLatin1());
     }
-    merged.flush();
-    QProcess process;
-    process.start(QLatin1String(xrdb), {QStringLiteral("-merge"), merged.fileName()});
-    process.waitForFinished(-1);
+    // Not written through the open file: behind a limit of its size waits a signal.
+    if (QString error; replaceFile(merged.fileName(), resources, &error))
+        runXrdb({QStringLiteral("-merge"), merged.fileName()});
+    else
+        printDiagnostic(QStringLiteral("Can't write %1: %2").arg(merged.fileName(), error));
     stampSettingsChange();
 }
 
@@ -79,16 +94,18 @@ void removeDpiFromServer()
 {
     // Removing takes all of the server's resources, whatever xrdb is told to read.
     std::vector<ServerResource> resources = readServerResources();
-    QProcess process;
-    process.start(QLatin1String(xrdb),
-                  {QStringLiteral("-quiet"), QStringLiteral("-remove"), QStringLiteral("-nocpp")},
-                  QIODevice::ReadWrite);
-    if (process.waitForStarted(xrdbTimeout)) {
-        process.write("Xft.dpi\n");
-        process.closeWriteChannel();
-        process.waitForFinished(xrdbTimeout);
-    }
+    runXrdb({QStringLiteral("-quiet"), QStringLiteral("-remove"), QStringLiteral("-nocpp")}, "Xft.dpi\n");
     for (ServerResource &resource : resources)
-        resource.text = withoutResource(resource.text, QByteArrayLiteral("Xft.dpi"));
+        resource.text = withXresource(resource.text, "Xft.dpi", {});
     writeServerResources(resources);
+}
+
+QByteArray xftDpiResource()
+{
+    if (!QX11Info::isPlatformX11())
+        return {};
+    // A connection keeps the resources of the time it was opened: the application's own would answer with old ones.
+    const std::unique_ptr<Display, Release<XCloseDisplay>> display(
+        XOpenDisplay(XDisplayString(QX11Info::display())));
+    return display ? QByteArray(XGetDefault(display.get(), "Xft", "dpi")) : QByteArray();
 }

@@ -2,16 +2,17 @@
 
 #include "base/atomicfile.h"
 #include "base/diagnostics.h"
+#include "base/editfile.h"
 #include "base/xdgdirectories.h"
 #include "freedesktop/cursorfiles.h"
 #include "freedesktop/iconthemeindex.h"
+#include "freedesktop/serverresources.h"
+#include "freedesktop/xresources.h"
 #include "platform/livecursors.h"
 #include "platform/setxrdbparameterinfile.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QX11Info>
 
@@ -23,7 +24,6 @@ namespace {
 
 const QByteArray defaultTheme = QByteArrayLiteral("default");
 const char resource[] = "Xcursor.theme:";
-constexpr int xrdbTimeout = 30000; // ms
 
 QString userIconsDirectory()
 {
@@ -80,8 +80,9 @@ bool writeDefaultTheme(const QByteArray &name)
     return replaceFile(path, content, &reason) || reportFailure(path, reason);
 }
 
-/// Links a theme that X clients would not find, because it is not on their path, into the user's icons.
-bool makeReachable(const QByteArray &name)
+/// Links a theme that X clients would not find, because it is not on their path, into the user's icons. \a made is
+/// the new link.
+bool makeReachable(const QByteArray &name, QString *made)
 {
     const auto holdsCursors = [&name](const QByteArray &base) {
         return QFileInfo::exists(QFile::decodeName(base + '/' + name + "/cursors"));
@@ -95,12 +96,14 @@ bool makeReachable(const QByteArray &name)
         if (!holdsCursors(base))
             continue;
         const QString link = userIconsDirectory() + QLatin1Char('/') + QFile::decodeName(name);
-        QDir().mkpath(userIconsDirectory());
+        makeDirectories(userIconsDirectory());
         // A link to a theme that has moved, as one made here before, is in the way.
         if (const QFileInfo old(link); old.isSymLink() && !old.exists())
             QFile::remove(link);
-        return QFile::link(QFile::decodeName(base + '/' + name), link)
-               || reportFailure(link, QStringLiteral("the cursor theme can't be linked"));
+        if (!QFile::link(QFile::decodeName(base + '/' + name), link))
+            return reportFailure(link, QStringLiteral("the cursor theme can't be linked"));
+        *made = link;
+        return true;
     }
     return true;
 }
@@ -113,21 +116,24 @@ QByteArray resourceValue(const QByteArray &text)
     return value.startsWith(' ') || value.startsWith('\t') ? '\\' + value : value;
 }
 
-void mergeIntoServer(const QByteArray &line)
+bool mergeIntoServer(const QByteArray &line)
 {
-    QProcess xrdb;
-    xrdb.setProcessChannelMode(QProcess::ForwardedChannels);
-    xrdb.start(QStringLiteral("xrdb"),
-               {QStringLiteral("-quiet"), QStringLiteral("-merge"), QStringLiteral("-nocpp")});
-    if (xrdb.waitForStarted(xrdbTimeout)) {
-        xrdb.write(line);
-        xrdb.closeWriteChannel();
-        if (xrdb.waitForFinished(xrdbTimeout) && xrdb.exitStatus() == QProcess::NormalExit
-            && xrdb.exitCode() == 0)
-            return;
-    }
-    printDiagnostic(
-        QStringLiteral("Can't merge the cursor theme into the X server: %1").arg(xrdb.errorString()));
+    if (runXrdb({QStringLiteral("-quiet"), QStringLiteral("-merge"), QStringLiteral("-nocpp")}, line))
+        return true;
+    printDiagnostic(QStringLiteral("Can't merge the cursor theme into the X server"));
+    return false;
+}
+
+/// Gives the file at \a path its content of \a before again, unless it is no longer what we wrote there.
+void putBack(const QString &path, const FileContent &before, const QByteArray &written)
+{
+    EditFileOptions options;
+    options.removeWhenEmpty = before.state == FileState::Missing;
+    const auto edit = [&](const QByteArray &content) {
+        return content == written ? before.content : content;
+    };
+    if (QString error; !editFile(path, edit, &error, options))
+        reportFailure(path, error);
 }
 
 } // namespace
@@ -144,13 +150,25 @@ QByteArray currentCursorTheme(Display *display)
 
 bool setCurrentCursorTheme(const QByteArray &name)
 {
-    const QByteArray file = QFile::encodeName(homeDirectory() + QLatin1String("/.Xresources"));
+    const QString path = userXresources();
     const QByteArray value = resourceValue(name);
-    bool isDone = makeReachable(name);
-    isDone = writeDefaultTheme(name) && isDone;
-    isDone = setXrdbParameterInFile(file.constData(), resource, " ", value.constData(), false) && isDone;
-    mergeIntoServer(resource + QByteArrayLiteral(" ") + value + '\n');
-    if (isDone)
-        showCursorTheme(QX11Info::isPlatformX11() ? QX11Info::display() : nullptr, name);
-    return isDone;
+    QString link;
+    if (!makeReachable(name, &link))
+        return false;
+    const FileContent fileBefore = readRegularFile(path);
+    const std::vector<ServerResource> serverBefore = readServerResources();
+    // Last what can't be put back as it was.
+    if (setXrdbParameterInFile(QFile::encodeName(path).constData(), resource, " ", value.constData(),
+                               false)) {
+        const QByteArray written = readRegularFile(path).content;
+        if (mergeIntoServer(resource + QByteArrayLiteral(" ") + value + '\n') && writeDefaultTheme(name)) {
+            showCursorTheme(QX11Info::isPlatformX11() ? QX11Info::display() : nullptr, name);
+            return true;
+        }
+        writeServerResources(serverBefore);
+        putBack(path, fileBefore, written);
+    }
+    if (!link.isEmpty())
+        QFile::remove(link);
+    return false;
 }

@@ -11,8 +11,9 @@ namespace RenderingKey {
 inline constexpr char forceFontDpi[] = "forceFontDPI";                 ///< integer, 0 when not forced
 inline constexpr char dontChangeAaSettings[] = "dontChangeAASettings"; ///< true: the system's files decide
 inline constexpr char antialias[] = "XftAntialias";                    ///< boolean
-inline constexpr char subPixel[] = "XftSubPixel";   ///< name in fontconfig's files, such as rgb
-inline constexpr char hintStyle[] = "XftHintStyle"; ///< name in fontconfig's files, such as hintmedium
+inline constexpr char subPixel[] = "XftSubPixel";          ///< name in fontconfig's files, such as rgb
+inline constexpr char hintStyle[] = "XftHintStyle";        ///< name in fontconfig's files, such as hintmedium
+inline constexpr char madeXresources[] = "madeXresources"; ///< whether ~/.Xresources was made for the DPI
 } // namespace RenderingKey
 
 /// Stores \a value unless it is there already: Qt writes the file even when every value set was the old one.

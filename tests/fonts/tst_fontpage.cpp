@@ -208,6 +208,25 @@ private slots:
         QCOMPARE(manager.take(), QStringList());
     }
 
+    void fileMadeForTheDpiGoesWithIt()
+    {
+        const QString file = QStringLiteral(".Xresources");
+        for (const bool isOurs : {true, false}) {
+            const TemporaryHome home;
+            if (!isOurs)
+                home.write(file, "");
+            for (const int dpi : {120, 0}) {
+                Editor editor(home);
+                ModalDriver driver;
+                driver.thenAnswer(QMessageBox::Ok);
+                editor.dpi()->setValue(dpi);
+                editor.save();
+                QCOMPARE(home.read(file), QByteArray(dpi != 0 ? "Xft.dpi: 120\n" : ""));
+            }
+            QCOMPARE(home.exists(file), !isOurs);
+        }
+    }
+
     void dpiIsNoLongerForced()
     {
         const TemporaryHome home;

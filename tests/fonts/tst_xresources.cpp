@@ -1,8 +1,9 @@
 #include "fonts/xresources.h"
 
-#include "fonts/serverresources.h"
+#include "freedesktop/xresources.h"
 #include "settings/renderingstore.h"
 #include "tests/support/fakeprogram.h"
+#include "tests/support/standarderror.h"
 #include "tests/support/temporaryhome.h"
 
 #include <QProcess>
@@ -96,16 +97,29 @@ private slots:
         QCOMPARE(forcedDpi(120, "1e999"), 120);
     }
 
-    void resourceIsDropped()
+    void linesEndAsXrdbSeesThem()
     {
-        const auto kept = [](const char *text) { return withoutResource(text, "Xft.dpi"); };
-        QCOMPARE(kept("A.b:\t1\nXft.dpi:\t120\nXft.rgba:\trgb\n"), QByteArray("A.b:\t1\nXft.rgba:\trgb\n"));
-        QCOMPARE(kept("A.b: 1\n Xft.dpi : 120"), QByteArray("A.b: 1\n"));
-        QCOMPARE(kept("Xft.dpi: 1\\\n20\nA.b: 1\n"), QByteArray("A.b: 1\n"));
-        QCOMPARE(kept("A.b: x\\\\\nXft.dpi: 1\n"), QByteArray("A.b: x\\\\\n"));
-        QCOMPARE(kept("! x\\\nXft.dpi: 1\n"), QByteArray("! x\\\n"));
-        for (const char *other : {"A.b: x\\\nXft.dpi: 1\nC.d: 2\\", "Xft.dpi2: 1\nmyXft.dpi: 2\n"})
-            QCOMPARE(kept(other), QByteArray(other));
+        const struct {
+            const char *what;
+            const char *text;
+            bool holdsDpi;
+        } rows[] = {
+            {"own line", "A.b: 1\nXft.dpi: 120\n", true},
+            {"blanks around", "A.b: 1\n Xft.dpi : 120", true},
+            {"continued", "A.b: x\\\nXft.dpi: 1\n", false},
+            {"a backslash is its value", "A.b: x\\\\\nXft.dpi: 1\n", true},
+            {"continued comment", "! x\\\nXft.dpi: 1\n", false},
+            {"comment that ends in two", "! x\\\\\nXft.dpi: 1\n", true},
+            {"other names", "Xft.dpi2: 1\nmyXft.dpi: 2\nXft.dpi\n", false},
+        };
+        for (const auto &row : rows) {
+            const QByteArray text = row.text;
+            QVERIFY2((withXresource(text, "Xft.dpi", {}) != text) == row.holdsDpi, row.what);
+            loadServer(text);
+            const QByteArray seen = '\n' + run("xrdb", {QStringLiteral("-query")});
+            QVERIFY2(seen.contains("\nXft.dpi:\t") == row.holdsDpi, row.what);
+        }
+        QCOMPARE(withXresource("Xft.dpi: 1\\\n20\nA.b: 1\n", "Xft.dpi", {}), QByteArray("A.b: 1\n"));
     }
 
     void merging_data()
@@ -122,7 +136,9 @@ private slots:
         row("a forced DPI goes, Xresources wins", "A.a: 1\n", "B.b: 2\n", 0, "A.a: 1\nOther.one: x\n");
         row("Xdefaults", {}, "B.b: 2\n", 0, "B.b: 2\nOther.one: x\n");
         row("no final newline", "A.a: 1", {}, 110, "A.a: 1\nOther.one: x\nXft.dpi: 110\n");
-        row("continued last line", "A.a: 1\\\n", {}, 110, "A.a: 1\nOther.one: x\nXft.dpi: 110\n");
+        for (const char *end : {"\\\n", "\\", "\\ ", "\\\r\n"})
+            row(end, QByteArray("A.a: 1") + end, {}, 110, "A.a: 1\nOther.one: x\nXft.dpi: 110\n");
+        row("included by a relative path", "#include \".included\"\n", {}, 0, "A.in: 1\nOther.one: x\n");
         const QByteArray big = "A.a: " + QByteArray(9000, 'a') + '\n';
         row("more than a block", big, {}, 110, big + "Other.one: x\nXft.dpi: 110\n");
     }
@@ -136,6 +152,7 @@ private slots:
             home.write(QStringLiteral(".Xresources"), xresources);
         if (!xdefaults.isNull())
             home.write(QStringLiteral(".Xdefaults"), xdefaults);
+        home.write(QStringLiteral(".included"), "A.in: 1\n");
         forceDpi(dpi);
         loadServer("Other.one: x\nXft.dpi: 99\n");
         applyXResources(exportXftSettings);
@@ -153,12 +170,20 @@ private slots:
         QCOMPARE(serverResources(), QByteArray("A.a: 1\n"));
 
         QCOMPARE(::mkfifo(QFile::encodeName(home.path(QStringLiteral(".Xresources"))).constData(), 0600), 0);
-        const QString directory = QStringLiteral("with blank; exit");
-        QVERIFY(home.makeDirectory(directory));
-        const ScopedEnvironment temporary("TMPDIR", QFile::encodeName(home.path(directory)));
         forceDpi(130);
+        const QString directory = QStringLiteral("with blank; exit");
+        home.write(directory + QLatin1String("/.Xresources"), "B.b: 2\n");
+        const QByteArray odd = QFile::encodeName(home.path(directory));
+        const ScopedEnvironment temporary("TMPDIR", odd);
         applyXResources(exportXftSettings);
         QCOMPARE(serverResources(), QByteArray("A.a: 1\nXft.dpi: 130\n"));
+        const ScopedEnvironment oddHome("HOME", odd);
+        StandardError standardError;
+        applyXResources(0);
+        QCOMPARE(serverResources(), QByteArray("A.a: 1\nB.b: 2\nXft.dpi: 130\n"));
+        QCOMPARE(standardError.take(), "qaz-admin-theme: Can't merge X resources in " + odd
+                                           + ", files that they include may not be found: xrdb does not "
+                                             "understand its name\n");
     }
 
     void callsOfXrdb()
@@ -166,17 +191,19 @@ private slots:
         const TemporaryHome home;
         FakePrograms programs;
         const QString xrdb = QStringLiteral("xrdb");
-        programs.add(xrdb, "[ \"$1\" = -merge ] && cat \"$2\" >\"$HOME/merged\"");
+        programs.add(xrdb, "[ \"$1\" = -merge ] && { cat \"$2\"; stat -c '! %a' \"$2\"; } >\"$HOME/merged\"");
         home.write(QStringLiteral(".Xresources"), "A.a: 1\n");
         QSettings().setValue(QLatin1String(RenderingKey::antialias), true);
         applyXResources(exportXftSettings);
-        QCOMPARE(home.read(QStringLiteral("merged")), QByteArray("A.a: 1\nXft.antialias: 1\n"));
+        QCOMPARE(home.read(QStringLiteral("merged")), QByteArray("A.a: 1\nXft.antialias: 1\n! 600\n"));
         applyXResources(0);
-        QCOMPARE(home.read(QStringLiteral("merged")), QByteArray("A.a: 1\n"));
+        QCOMPARE(home.read(QStringLiteral("merged")), QByteArray("A.a: 1\n! 600\n"));
         const QVector<QStringList> calls = programs.calls(xrdb);
         QCOMPARE(calls.size(), 3);
         QCOMPARE(calls.at(0).join(QLatin1Char(' ')), QStringLiteral("-quiet -remove -nocpp"));
         QCOMPARE(calls.at(1).value(0), QStringLiteral("-merge"));
+        QVERIFY2(calls.at(1).value(1).startsWith(home.path(QStringLiteral(".qaz-"))),
+                 "beside the user's file");
         QVERIFY2(!QFile::exists(calls.at(1).value(1)), "the merged file is temporary");
         const QByteArray property = "_QT_SETTINGS_TIMESTAMP_" + qgetenv("DISPLAY");
         const QByteArray stamp = run("xprop", {QStringLiteral("-root"), QString::fromLocal8Bit(property)});

@@ -9,6 +9,7 @@
 #include <memory>
 
 #include "tests/support/environment.h"
+#include "tests/support/fakeprogram.h"
 #include "tests/support/samplethemes.h"
 #include "tests/support/temporaryhome.h"
 
@@ -54,7 +55,8 @@ private slots:
     void linkedDefaultThemeStaysWhole();
     void linksThemesThatClientsWouldNotFind();
     void runningProgramsGetTheCursor();
-    void failureIsReported();
+    void failurePutsEverythingBack_data();
+    void failurePutsEverythingBack();
 };
 
 void TestCursorThemes::listsEveryDirectoryWithCursors()
@@ -181,13 +183,42 @@ void TestCursorThemes::runningProgramsGetTheCursor()
     QTRY_COMPARE(shownCursor(other.get()), QColor(Qt::blue)); // the root window's
 }
 
-void TestCursorThemes::failureIsReported()
+void TestCursorThemes::failurePutsEverythingBack_data()
 {
+    QTest::addColumn<QString>("inTheWay"); // a directory where a file should be
+    QTest::addColumn<bool>("hasXrdb");
+    QTest::addColumn<QByteArray>("file"); // of X resources; null: there is none
+    QTest::newRow("index.theme") << defaultIndex << true << QByteArray("Xcursor.theme :\tGreen\n! mine");
+    QTest::newRow("index.theme, no resources") << defaultIndex << true << QByteArray();
+    QTest::newRow("resources") << resources << true << QByteArray();
+    QTest::newRow("server") << QStringLiteral("unused") << false << QByteArray("A.a: 1\\");
+    QTest::newRow("server, no resources") << QStringLiteral("unused") << false << QByteArray();
+}
+
+void TestCursorThemes::failurePutsEverythingBack()
+{
+    QFETCH(QString, inTheWay);
+    QFETCH(bool, hasXrdb);
+    QFETCH(QByteArray, file);
     const TemporaryHome home;
-    const QByteArray before(QazIconTheme::getCurrentCursorThemeName(QX11Info::display()));
-    home.write(QStringLiteral(".icons"), "a file where the directory should be");
-    QVERIFY(!QazIconTheme::setCurrentCursorThemeName("Red"));
-    QCOMPARE(QByteArray(QazIconTheme::getCurrentCursorThemeName(QX11Info::display())), before);
+    const ScopedEnvironment data("QAZ_DATA_DIR", QFile::encodeName(home.path(QStringLiteral("data"))));
+    makeCursorTheme(home, QStringLiteral("data/icons/Far"), Qt::red);
+    QVERIFY(home.makeDirectory(inTheWay));
+    QVERIFY(home.makeDirectory(QStringLiteral(".icons")));
+    if (!file.isNull())
+        home.write(resources, file);
+    std::unique_ptr<FakePrograms> programs;
+    if (!hasXrdb)
+        programs = std::make_unique<FakePrograms>(FakePrograms::Path::Instead);
+    const QByteArray theme = themeOfNewClient();
+    const QByteArray current(QazIconTheme::getCurrentCursorThemeName(QX11Info::display()));
+    QVERIFY(!QazIconTheme::setCurrentCursorThemeName("Far"));
+    QCOMPARE(QByteArray(QazIconTheme::getCurrentCursorThemeName(QX11Info::display())), current);
+    QCOMPARE(themeOfNewClient(), theme);
+    QCOMPARE(home.read(resources), file);
+    QCOMPARE(home.exists(resources), !file.isNull() || inTheWay == resources);
+    QVERIFY(!QFileInfo(home.path(QStringLiteral(".icons/Far"))).isSymLink());
+    QVERIFY(hasXrdb || !home.exists(defaultIndex));
 }
 
 QTEST_MAIN(TestCursorThemes)

@@ -37,6 +37,10 @@ private slots:
             {"Xft.dpix: 1\n!Xft.dpi: 2\n", "3", "Xft.dpix: 1\n!Xft.dpi: 2\nXft.dpi: 3\n"},
             {"Xft.dpi: 1\na: 1\nXft.dpi: 2\nb: 2\n", "3", "a: 1\nXft.dpi: 3\nb: 2\n"}, // the last one counts
             {"Xft.dpi: \\\n 96\na: \\\nXft.dpi: text\n", nullptr, "a: \\\nXft.dpi: text\n"},
+            {"B: 1\\\\\nXft.dpi: 96\n", "7", "B: 1\\\\\nXft.dpi: 7\n"},
+            {"! mine\\\nXft.dpi: 96\n", "7", "! mine\\\nXft.dpi: 96\nXft.dpi: 7\n"}, // still the comment's
+            {"a: 1\\", "7", "a: 1\\\n\nXft.dpi: 7\n"},
+            {"a: 1\\\n", "7", "a: 1\\\n\nXft.dpi: 7\n"},
             {"a: \xff\r\nXft.dpi: 96\r\nb: 1\r\n", "7", "a: \xff\r\nXft.dpi: 7\r\nb: 1\r\n"},
         };
         for (const auto &row : rows) {
