@@ -1,6 +1,7 @@
 #include "tools/qaz-theme/commands.h"
 
 #include "tools/qaz-theme/backupcommands.h"
+#include "tools/qaz-theme/packagecommands.h"
 #include "tools/qaz-theme/valuecommands.h"
 
 #include <algorithm>
@@ -24,6 +25,11 @@ constexpr Command commands[] = {
      "theme file. The status is 1 when something differs.", diffFiles},
     {"apply", "FILE", 1, 1, "take over the known keys of another theme file",
      "All values are checked before the first is stored. What changes is announced and printed.", applyFile},
+    {"pack", "FILE.qaztheme", 1, 1, "put theme file, wallpaper, sounds and theme names in one archive",
+     "An existing FILE is backed up before it is replaced.", pack},
+    {"unpack", "FILE.qaztheme", 1, 1, "put what was packed in place",
+     "Takes over the packed values and copies wallpaper and sounds to ~/.local/share. What stands there is\n"
+     "backed up before it is replaced. What changes is announced and printed.", unpack},
     {"backups", "[FILE]", 0, 1, "list the copies that were kept, newest first",
      "All of them, or those of FILE.", listBackups},
     {"restore", "N|FILE", 1, 1, "put a copy back",

@@ -7,6 +7,7 @@
 #include "tools/qaz-theme/commands.h"
 #include "tools/qaz-theme/output.h"
 
+#include <QFileInfo>
 #include <QRegularExpression>
 #include <QTranslator>
 
@@ -79,6 +80,15 @@ bool isReadable(const QString &path)
     if (file.state == FileState::Unreadable)
         complain(QStringLiteral("Can't read %1: %2").arg(path, file.error));
     return file.state != FileState::Unreadable;
+}
+
+bool isThere(const QString &path)
+{
+    if (!isReadable(path))
+        return false;
+    if (!QFileInfo::exists(path))
+        complain(QStringLiteral("%1 does not exist").arg(path));
+    return QFileInfo::exists(path);
 }
 
 Status complainOf(const QStringList &errors)
@@ -204,14 +214,12 @@ Status diffFiles(const Arguments &arguments)
     const QString first = arguments.operands.value(0);
     const QString second = arguments.operands.value(1);
     for (const QString &path : arguments.operands) {
-        if (readRegularFile(path).state == FileState::Missing) {
-            complain(QStringLiteral("%1 does not exist").arg(path));
+        if (!isThere(path))
             return Failure;
-        }
     }
     const QString from = first.isEmpty() ? QString() : second.isEmpty() ? arguments.themeFile : first;
     const QString to = first.isEmpty() ? arguments.themeFile : second.isEmpty() ? first : second;
-    if ((!from.isEmpty() && !isReadable(from)) || !isReadable(to))
+    if (!isReadable(arguments.themeFile))
         return Failure;
     const ThemeChanges changes = differences(from, to);
     if (!arguments.quiet)
@@ -222,12 +230,8 @@ Status diffFiles(const Arguments &arguments)
 Status applyFile(const Arguments &arguments)
 {
     const QString path = arguments.operands.constFirst();
-    if (!isReadable(path) || !isReadable(arguments.themeFile))
+    if (!isThere(path) || !isReadable(arguments.themeFile))
         return Failure;
-    if (readRegularFile(path).state == FileState::Missing) {
-        complain(QStringLiteral("%1 does not exist").arg(path));
-        return Failure;
-    }
     const ThemeValues values = knownValues(path);
     if (const QStringList wrong = misfits(values); !wrong.isEmpty())
         return complainOf(wrong);

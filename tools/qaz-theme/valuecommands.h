@@ -16,6 +16,9 @@ Status complete(const Arguments &arguments);
 /// Whether \a path can be read as a theme file, existing or not; complains otherwise.
 bool isReadable(const QString &path);
 
+/// Whether there is a readable file at \a path; complains otherwise.
+bool isThere(const QString &path);
+
 /// Prints each of \a errors; Misuse when there is one.
 Status complainOf(const QStringList &errors);
 
