@@ -7,11 +7,11 @@
 #include "bridge/values.h"
 #include "bridge/xconnection.h"
 #include "platform/qazicontheme.h"
+#include "settings/inifile.h"
 #include "settings/renderingstore.h"
 #include "settings/rolefonttext.h"
 
 #include <QProcess>
-#include <QSettings>
 
 #include <csignal>
 
@@ -97,7 +97,7 @@ XSettingsTexts XSettings::texts() const
     if (texts.rendering.isEmpty())
         texts.rendering = QString::fromLocal8Bit(
                               xftSettingsCommand(
-                                  QSettings(QStringLiteral("qaz"), QStringLiteral("qaz-admin-theme"))))
+                                  iniFile(QStringLiteral("qaz"), QStringLiteral("qaz-admin-theme"))))
                               .section(QLatin1Char(' '), 2)
                               .trimmed();
     return texts;

@@ -7,7 +7,6 @@
 #include "ui_fontaasettingsform.h"
 
 #include <QPushButton>
-#include <QSettings>
 #include <QSignalBlocker>
 
 namespace {
@@ -89,9 +88,8 @@ bool FontAASettings::load()
 
     if (config.hintStyle() == HintStyle::NotSet) {
         config.setHintStyle(HintStyle::Medium);
-        QSettings store;
-        storeValue(&store, RenderingKey::hintStyle, FontRendering::fileName(HintStyle::Medium));
-        store.sync();
+        storeRendering(
+            {{QLatin1String(RenderingKey::hintStyle), FontRendering::fileName(HintStyle::Medium)}});
     }
     m_ui->hintStyleCombo->setCurrentText(FontRendering::displayName(config.hintStyle()));
 
@@ -120,11 +118,11 @@ bool FontAASettings::save(bool useAntiAliasing, QString *error)
     }
     m_rangeEdited = false;
 
-    QSettings store;
-    storeValue(&store, RenderingKey::subPixel, FontRendering::fileName(order));
-    storeValue(&store, RenderingKey::antialias, useAntiAliasing);
-    const bool hintStyleChanged = storeValue(&store, RenderingKey::hintStyle, FontRendering::fileName(style));
-    store.sync();
+    const QString styleName = FontRendering::fileName(style);
+    const bool hintStyleChanged = storedRendering(RenderingKey::hintStyle).toString() != styleName;
+    storeRendering({{QLatin1String(RenderingKey::subPixel), FontRendering::fileName(order)},
+                    {QLatin1String(RenderingKey::antialias), useAntiAliasing},
+                    {QLatin1String(RenderingKey::hintStyle), styleName}});
     return hintStyleChanged || fileChanged;
 }
 

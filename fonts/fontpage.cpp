@@ -4,8 +4,6 @@
 #include "settings/renderingstore.h"
 #include "settings/wmcommands.h"
 
-#include <QSettings>
-
 FontPage::FontPage(QWidget *parent)
     : KFonts(parent)
 {
@@ -25,6 +23,6 @@ bool FontPage::loadValues(QazSettings *settings)
 bool FontPage::saveValues(QazSettings *settings)
 {
     if (saveSettings(settings))
-        sendToWindowManager(xftSettingsCommand(QSettings()));
+        sendToWindowManager(xftSettingsCommand(ownSettingsFile()));
     return true;
 }

@@ -1,11 +1,11 @@
 #include "fonts/fontuseitem.h"
 
 #include "platform/qazsettings.h"
+#include "settings/inifile.h"
 #include "settings/rolefonttext.h"
 #include "settings/updatevalues.h"
 
 #include <QFontInfo>
-#include <QSettings>
 
 FontUseItem::FontUseItem(QWidget *parent, const QString &name, const QString &group, const QString &key,
                          const QString &resourceFile, const QFont &defaultFont, bool onlyFixed)
@@ -28,8 +28,11 @@ void FontUseItem::saveFont(QazSettings *settings)
 {
     if (!updateStringValue(settings, m_key, QString(), fontToText(font())))
         return;
+    // What programs built on the toolkit take for their font, too.
+    QString error;
     if (m_key == QLatin1String("DefaultFont"))
-        QSettings(QStringLiteral("Trolltech")).setValue(QStringLiteral("/Qt/font"), font().toString());
+        (void)writeIniValues(iniFile(QStringLiteral("Trolltech")), QStringLiteral("Qt"),
+                             {{QStringLiteral("font"), font().toString()}}, &error); // tells itself
 }
 
 void FontUseItem::restoreDefault()

@@ -17,7 +17,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QSettings>
 #include <QSpinBox>
 #include <QStyleOptionComboBox>
 #include <QTimer>
@@ -72,15 +71,15 @@ void writeDpiToResourceFile(int dpi)
 {
     const QString file = userXresources();
     const QString isOurs = QLatin1String(RenderingKey::madeXresources);
-    QSettings store;
     if (dpi != 0 && !QFileInfo::exists(file))
-        store.setValue(isOurs, true);
+        storeRendering({{isOurs, true}});
     const QByteArray value = QByteArray::number(dpi);
     setXrdbParameterInFile(QFile::encodeName(file).constData(), "Xft.dpi:", " ",
                            dpi != 0 ? value.constData() : nullptr, false);
     const QFileInfo info(file);
-    if (store.value(isOurs).toBool() && info.isFile() && info.size() == 0 && QFile::remove(file))
-        store.remove(isOurs);
+    const bool isEmpty = info.isFile() && info.size() == 0;
+    if (isEmpty && storedRendering(RenderingKey::madeXresources).toBool() && QFile::remove(file))
+        storeRendering({{isOurs, false}});
 }
 
 } // namespace
@@ -191,7 +190,8 @@ void KFonts::loadSettings(QazSettings *settings)
     const int dpi = loadedDpi();
     m_dpiSpinBox->setValue(dpi);
     dpiAtLoad = dpi;
-    if (QSettings().value(QLatin1String(RenderingKey::dontChangeAaSettings), true).toBool())
+    if (const QVariant choice = storedRendering(RenderingKey::dontChangeAaSettings);
+        choice.isNull() || choice.toBool())
         showAntiAliasing(AaSystemSettings);
     aaModeAtLoad = aaMode;
     emit changed(false);
@@ -206,7 +206,7 @@ void KFonts::showAntiAliasing(int mode)
 
 int KFonts::loadedDpi() const
 {
-    const int stored = QSettings().value(QLatin1String(RenderingKey::forceFontDpi), 0).toInt();
+    const int stored = storedRendering(RenderingKey::forceFontDpi).toInt();
     return stored == 0 ? 0 : forcedDpi(stored, xftDpiResource());
 }
 
@@ -218,7 +218,8 @@ bool KFonts::saveSettings(QazSettings *settings)
 
     const int dpi = m_dpiSpinBox->value();
     const bool systemDecides = m_aaComboBox->currentIndex() == AaSystemSettings;
-    storeChoices(dpi, systemDecides);
+    storeRendering({{QLatin1String(RenderingKey::forceFontDpi), dpi},
+                    {QLatin1String(RenderingKey::dontChangeAaSettings), systemDecides}});
     if (dpi == 0 && dpiAtLoad != 0)
         removeDpiFromServer();
     if (dpi != dpiAtLoad)
@@ -246,14 +247,6 @@ bool KFonts::saveSettings(QazSettings *settings)
     if (!error.isEmpty())
         QTimer::singleShot(0, this, [this] { emit changed(true); });
     return isChanged;
-}
-
-void KFonts::storeChoices(int dpi, bool systemDecides) const
-{
-    QSettings store;
-    storeValue(&store, RenderingKey::forceFontDpi, dpi);
-    storeValue(&store, RenderingKey::dontChangeAaSettings, systemDecides);
-    store.sync();
 }
 
 void KFonts::resetToDefaults()

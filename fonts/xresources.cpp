@@ -13,7 +13,6 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QRegularExpression>
-#include <QSettings>
 #include <QTemporaryFile>
 #include <QX11Info>
 
@@ -72,14 +71,13 @@ void stampSettingsChange()
 
 void applyXResources(unsigned flags)
 {
-    const QSettings store;
     QTemporaryFile merged;
     if (!openMergedFile(&merged))
         return;
     QByteArray resources = userResources();
     if (flags & exportXftSettings) {
-        resources += xftResourceLines(store).toLatin1();
-        if (store.value(QLatin1String(RenderingKey::forceFontDpi), 0).toInt() == 0)
+        resources += xftResourceLines(ownSettingsFile()).toLatin1();
+        if (storedRendering(RenderingKey::forceFontDpi).toInt() == 0)
             removeDpiFromServer();
     }
     // Not written through the open file: behind a limit of its size waits a signal.

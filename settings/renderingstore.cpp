@@ -1,6 +1,8 @@
 #include "settings/renderingstore.h"
 
-#include <QSettings>
+#include "settings/inifile.h"
+
+#include <QCoreApplication>
 
 #include <charconv>
 #include <cmath>
@@ -9,14 +11,14 @@
 
 namespace {
 
-QString text(const QSettings &store, const char *key, const char *defaultText)
+QVariant value(const QString &file, const char *key)
 {
-    return store.value(QLatin1String(key), QLatin1String(defaultText)).toString();
+    return iniValue(file, QLatin1String(key));
 }
 
-bool has(const QSettings &store, const char *key)
+QString text(const QString &file, const char *key, const char *defaultText)
 {
-    return store.contains(QLatin1String(key));
+    return iniValue(file, QLatin1String(key), QLatin1String(defaultText)).toString();
 }
 
 /// The decimal number that \a bytes begin with, without its fraction.
@@ -35,38 +37,46 @@ std::optional<int> leadingNumber(const QByteArray &bytes)
 
 } // namespace
 
-bool storeValue(QSettings *store, const char *key, const QVariant &value)
+QString ownSettingsFile()
 {
-    if (store->value(QLatin1String(key)).toString() == value.toString())
-        return false;
-    store->setValue(QLatin1String(key), value);
-    return true;
+    return iniFile(QCoreApplication::organizationName(), QCoreApplication::applicationName());
 }
 
-QByteArray xftSettingsCommand(const QSettings &store)
+QVariant storedRendering(const char *key)
 {
-    const QByteArray dpi = text(store, RenderingKey::forceFontDpi, "0").toLocal8Bit();
-    const bool systemDecides = text(store, RenderingKey::dontChangeAaSettings, "true")
+    return value(ownSettingsFile(), key);
+}
+
+void storeRendering(const QMap<QString, QVariant> &values)
+{
+    QString error;
+    (void)writeIniValues(ownSettingsFile(), {}, values, &error); // tells itself
+}
+
+QByteArray xftSettingsCommand(const QString &file)
+{
+    const QByteArray dpi = text(file, RenderingKey::forceFontDpi, "0").toLocal8Bit();
+    const bool systemDecides = text(file, RenderingKey::dontChangeAaSettings, "true")
                                == QLatin1String("true");
     const QByteArray antialias = systemDecides ? QByteArrayLiteral("unknown")
-                                               : text(store, RenderingKey::antialias, "false").toLocal8Bit();
-    const QByteArray subPixel = text(store, RenderingKey::subPixel, "rgb").toLocal8Bit();
-    const QByteArray hintStyle = text(store, RenderingKey::hintStyle, "full").toLocal8Bit();
+                                               : text(file, RenderingKey::antialias, "false").toLocal8Bit();
+    const QByteArray subPixel = text(file, RenderingKey::subPixel, "rgb").toLocal8Bit();
+    const QByteArray hintStyle = text(file, RenderingKey::hintStyle, "full").toLocal8Bit();
     char command[256];
     qsnprintf(command, sizeof command, "QAZWM_UPDATE_VAL XftSettings %s %s %s %s\n", dpi.constData(),
               antialias.constData(), subPixel.constData(), hintStyle.constData());
     return command;
 }
 
-QString xftResourceLines(const QSettings &store)
+QString xftResourceLines(const QString &file)
 {
     QString lines;
-    if (has(store, RenderingKey::antialias)) {
-        const bool on = store.value(QLatin1String(RenderingKey::antialias), true).toBool();
+    if (value(file, RenderingKey::antialias).isValid()) {
+        const bool on = value(file, RenderingKey::antialias).toBool();
         lines += QLatin1String(on ? "Xft.antialias: 1\n" : "Xft.antialias: 0\n");
     }
-    if (has(store, RenderingKey::hintStyle)) {
-        const QString style = text(store, RenderingKey::hintStyle, "hintmedium");
+    if (value(file, RenderingKey::hintStyle).isValid()) {
+        const QString style = text(file, RenderingKey::hintStyle, "hintmedium");
         if (style.isEmpty()) {
             lines += QLatin1String("Xft.hinting: -1\n");
         } else {
@@ -75,10 +85,10 @@ QString xftResourceLines(const QSettings &store)
             lines += QLatin1String("Xft.hintstyle: ") + style + QLatin1Char('\n');
         }
     }
-    const QString subPixel = text(store, RenderingKey::subPixel, "");
+    const QString subPixel = text(file, RenderingKey::subPixel, "");
     if (!subPixel.isEmpty())
         lines += QLatin1String("Xft.rgba: ") + subPixel + QLatin1Char('\n');
-    const QVariant dpi = store.value(QLatin1String(RenderingKey::forceFontDpi), 0);
+    const QVariant dpi = value(file, RenderingKey::forceFontDpi);
     if (dpi.toInt() != 0)
         lines += QLatin1String("Xft.dpi: ") + dpi.toString() + QLatin1Char('\n');
     return lines;

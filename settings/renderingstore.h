@@ -1,10 +1,9 @@
 #pragma once
 
 #include <QByteArray>
+#include <QMap>
 #include <QString>
-
-class QSettings;
-class QVariant;
+#include <QVariant>
 
 /// Keys of the program's own Qt settings that hold how fonts are rendered.
 namespace RenderingKey {
@@ -16,16 +15,22 @@ inline constexpr char hintStyle[] = "XftHintStyle";        ///< name in fontconf
 inline constexpr char madeXresources[] = "madeXresources"; ///< whether ~/.Xresources was made for the DPI
 } // namespace RenderingKey
 
-/// Stores \a value unless it is there already: Qt writes the file even when every value set was the old one.
-/// Returns whether it was new.
-bool storeValue(QSettings *store, const char *key, const QVariant &value);
+/// The file of the running program's own settings.
+QString ownSettingsFile();
 
-/// The command that tells the window manager what \a store holds. It is cut to what fits into 256 bytes with
-/// the final NUL.
-QByteArray xftSettingsCommand(const QSettings &store);
+/// What the program's own settings hold under \a key; invalid when it was never stored.
+QVariant storedRendering(const char *key);
 
-/// The X resource lines of what \a store holds, each ended by a newline. A key that is absent gives no line.
-QString xftResourceLines(const QSettings &store);
+/// Stores \a values, by their keys, in the program's own settings. Why that failed is told on standard error.
+void storeRendering(const QMap<QString, QVariant> &values);
+
+/// The command that tells the window manager what the settings \a file holds. It is cut to what fits into 256 bytes
+/// with the final NUL.
+QByteArray xftSettingsCommand(const QString &file);
+
+/// The X resource lines of what the settings \a file holds, each ended by a newline. A key that is absent gives no
+/// line.
+QString xftResourceLines(const QString &file);
 
 /// The DPI that is forced, 0 for none. The number at the start of the X resource \a resource counts, without its
 /// fraction; \a stored only decides whether any DPI is forced, and stands in for a resource without a number.

@@ -129,8 +129,11 @@ private slots:
         editor.role("TitleFont")->applyChosenFont(mono);
         editor.save();
         QVERIFY2(!home.exists(file), home.read(file).constData());
+        home.write(file, "; mine\n[Qt]\nstyle=x, y\nfont=\"Old,9\"\n[Other]\nfont=z\n");
         editor.role("DefaultFont")->applyChosenFont(mono);
         editor.save();
+        QVERIFY(home.read(file).startsWith("; mine\n[Qt]\nstyle=x, y\nfont=\"DejaVu Sans Mono,12,"));
+        QVERIFY(home.read(file).endsWith("\"\n[Other]\nfont=z\n"));
         const QSettings toolkit(home.path(file), QSettings::IniFormat);
         QCOMPARE(toolkit.value(QStringLiteral("Qt/font")).toString(),
                  editor.role("DefaultFont")->font().toString());

@@ -80,7 +80,7 @@ private slots:
     {
         const TemporaryHome home;
         QFETCH(QByteArray, stored);
-        const QSettings store(home.write(QStringLiteral("store"), stored), QSettings::IniFormat);
+        const QString store = home.write(QStringLiteral("store"), stored);
         QTEST(xftResourceLines(store).toLatin1(), "lines");
         QTEST(xftSettingsCommand(store), "command");
     }
