@@ -88,7 +88,13 @@ QFont nearestInstalledFont(const QFont &wanted)
     int size = wanted.pointSize();
     if (!database.isSmoothlyScalable(family, style))
         size = nearestSize(database.smoothSizes(family, style), size);
-    return database.font(family, style, size);
+    QFont font = database.font(family, style, size);
+    // What the family has no face for, the toolkit makes from another one.
+    if ((font.weight() > QFont::Normal) != (wanted.weight() > QFont::Normal))
+        font.setWeight(wanted.weight());
+    if (font.italic() != wanted.italic())
+        font.setStyle(wanted.style());
+    return font;
 }
 
 int nearestSize(const QList<int> &sizes, int wanted)

@@ -55,6 +55,32 @@ private slots:
         QCOMPARE(substitute.pointSize(), 13);
     }
 
+    void missingFacesAreMadeUp_data()
+    {
+        QTest::addColumn<QString>("style");
+        for (const char *style : {":normal", ":bold", ":normal:italic", ":bold:italic"})
+            QTest::newRow(style) << QString::fromLatin1(style);
+    }
+    void missingFacesAreMadeUp()
+    {
+        QFETCH(QString, style);
+        const QFontDatabase database;
+        QString slim; // a family of one plain face
+        for (const QString &family : database.families()) {
+            const QStringList styles = database.styles(family);
+            if (styles.size() == 1 && database.isSmoothlyScalable(family)
+                && !database.bold(family, styles.first()) && !database.italic(family, styles.first())
+                && !family.contains(QLatin1Char('-')))
+                slim = family;
+        }
+        const QString text = slim + QLatin1String("-10") + style;
+        TitleItem item(storedRoleFont(text, QFont(sans, 7)));
+        QCOMPARE(fontToText(item.font()), text);
+        const QFontInfo shown(item.findChild<QLabel *>()->font());
+        QCOMPARE(shown.bold(), style.contains(QLatin1String("bold")));
+        QCOMPARE(shown.italic(), style.contains(QLatin1String("italic")));
+    }
+
     void chosenFontArrivesInEveryRole_data()
     {
         QTest::addColumn<QFont>("chosen");
