@@ -1,31 +1,25 @@
 #include "app/configdialog.h"
 
-#include "app/wheelguard.h"
-#include "fonts/fontpage.h"
-#include "pages/effects/effectpage.h"
-#include "pages/screensaver/screensaverpage.h"
-#include "pages/sounds/soundpage.h"
-#include "pages/theme/themepage.h"
-#include "pages/wallpaper/wallpaperpage.h"
+#include "app/controlguard.h"
+#include "app/pagetable.h"
+#include "app/windowsize.h"
 #include "platform/qazhelp.h"
 #include "platform/qazinit.h"
 #include "platform/qazsettings.h"
 #include "platform/slidingstackedwidget.h"
 
+#include <QApplication>
 #include <QCloseEvent>
-#include <QCoreApplication>
 #include <QDialogButtonBox>
 #include <QFileInfo>
 #include <QIcon>
 #include <QListWidget>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QSettings>
+#include <QScrollArea>
+#include <QShortcut>
 #include <QVBoxLayout>
 #include <QX11Info>
-
-#include <algorithm>
-#include <iterator>
 
 namespace {
 
@@ -34,69 +28,19 @@ int listItemWidth = 0;
 
 constexpr int narrowestLabel = 64;
 
-/// What the dialog needs of a page class.
-struct PageType {
-    QWidget *(*create)(QWidget *stack);
-    void (*connectEdits)(QWidget *page, ConfigDialog *dialog);
-    bool (*isLoaded)(const QWidget *page);
-    void (*load)(QWidget *page, QazSettings *store);
-    void (*save)(QWidget *page, QazSettings *store);
-};
-
-template<typename Page>
-constexpr PageType typeOf = {
-    [](QWidget *stack) -> QWidget * { return new Page(stack); },
-    [](QWidget *page, ConfigDialog *dialog) {
-        QObject::connect(static_cast<Page *>(page), &Page::changedSignal, dialog, &ConfigDialog::changedSlot);
-    },
-    [](const QWidget *page) { return static_cast<const Page *>(page)->loaded; },
-    [](QWidget *page, QazSettings *store) { static_cast<Page *>(page)->loadValues(store); },
-    [](QWidget *page, QazSettings *store) { static_cast<Page *>(page)->saveValues(store); }};
-
-struct PageEntry {
-    const char *iconName;
-    const char *text;
-    const PageType *type;
-};
-
-// In the order of the list's rows, and so of the stack.
-// clang-format off
-constexpr PageEntry pageEntries[] = {
-    {"preferences-desktop-wallpaper",   QT_TRANSLATE_NOOP("ConfigDialog", "Wallpaper"),   &typeOf<WallpaperPage>},
-    {"preferences-desktop-theme",       QT_TRANSLATE_NOOP("ConfigDialog", "Theme"),       &typeOf<ThemePage>},
-    {"preferences-desktop-font",        QT_TRANSLATE_NOOP("ConfigDialog", "Fonts"),       &typeOf<FontPage>},
-    {"preferences-desktop-screensaver", QT_TRANSLATE_NOOP("ConfigDialog", "Screensaver"), &typeOf<ScreensaverPage>},
-    {"system-run",                      QT_TRANSLATE_NOOP("ConfigDialog", "Effects"),     &typeOf<EffectPage>},
-    {"preferences-desktop-sound",       QT_TRANSLATE_NOOP("ConfigDialog", "Sounds"),      &typeOf<SoundPage>}};
-// clang-format on
-
-// The window manager is told in this order, in which the pages end, too.
-constexpr const PageType *saveOrder[] = {&typeOf<WallpaperPage>, &typeOf<EffectPage>,
-                                         &typeOf<ThemePage>,     &typeOf<FontPage>,
-                                         &typeOf<SoundPage>,     &typeOf<ScreensaverPage>};
-static_assert(std::size(saveOrder) == std::size(pageEntries));
-
-/// The row of the list, and of the stack, that a page of \a type has.
-int rowOf(const PageType *type)
-{
-    const auto *const entry = std::find_if(std::begin(pageEntries), std::end(pageEntries),
-                                           [type](const PageEntry &each) { return each.type == type; });
-    return int(entry - std::begin(pageEntries));
-}
-
 constexpr int iconExtent = 64;
 constexpr int defaultWidth = 800;
-constexpr int largestExtent = 32767; // an X window can't be larger
+constexpr int pageMargin = 9;
 
 int gridRowHeight(const QFontMetrics &metrics)
 {
     return metrics.height() + iconExtent + 10;
 }
 
-int storedExtent(const QSettings &settings, const QString &key, int defaultExtent)
+/// The icon of the theme in use, else the compiled-in one: a theme may lack it, and be no theme of ours.
+QIcon iconNamed(const QString &name)
 {
-    const int extent = settings.value(key, defaultExtent).toInt();
-    return extent > 0 && extent <= largestExtent ? extent : defaultExtent;
+    return QIcon::fromTheme(name, QIcon(QStringLiteral(":/fallback/%1.svg").arg(name)));
 }
 
 /// A file name may itself hold the place mark of the modified sign.
@@ -110,7 +54,8 @@ QString titleText(const QString &fileName)
 ConfigDialog::ConfigDialog(const QString &fileName, QWidget *parent, Qt::WindowFlags flags)
     : QDialog(parent, flags)
     , contentsWidget(new QListWidget(this))
-    , pagesWidget(new SlidingStackedWidget(this))
+    , m_pageArea(new QScrollArea(this))
+    , pagesWidget(new SlidingStackedWidget(m_pageArea))
     , themeFile(fileName)
 {
     fillContents();
@@ -119,11 +64,12 @@ ConfigDialog::ConfigDialog(const QString &fileName, QWidget *parent, Qt::WindowF
     contentsWidget->setCurrentRow(0);
     createButtons();
     createLayout();
+    createShortcuts();
     restoreSize();
 
     const QString title = tr("Qaz Theme Editor");
     setWindowTitle(title);
-    setWindowIcon(QIcon::fromTheme(QStringLiteral("preferences-desktop-theme")));
+    setWindowIcon(iconNamed(QStringLiteral("preferences-desktop-theme")));
     setWindowIconText(title);
     const QString name = QFileInfo(themeFile).fileName();
     if (fileOpen() && !name.isEmpty())
@@ -150,8 +96,8 @@ void ConfigDialog::fillContents()
     listItemWidth = narrowestLabel;
     const QFontMetrics metrics(font);
     for (const PageEntry &entry : pageEntries) {
-        auto *item = new QListWidgetItem(QIcon::fromTheme(QLatin1String(entry.iconName), QIcon()),
-                                         tr(entry.text), contentsWidget);
+        auto *item = new QListWidgetItem(iconNamed(QLatin1String(entry.iconName)), tr(entry.text),
+                                         contentsWidget);
         item->setFlags(Qt::ItemIsSelectable | Qt::ItemIsEnabled);
         item->setTextAlignment(Qt::AlignHCenter);
         listItemWidth = qMax(listItemWidth, metrics.horizontalAdvance(item->text()));
@@ -171,11 +117,21 @@ void ConfigDialog::fillContents()
 void ConfigDialog::createPages()
 {
     pagesWidget->setObjectName(QStringLiteral("pagesWidget"));
-    for (const PageEntry &entry : pageEntries)
-        pagesWidget->addWidget(entry.type->create(pagesWidget));
+    const QMargins margins(pageMargin, pageMargin, pageMargin, pageMargin);
+    for (const PageEntry &entry : pageEntries) {
+        QWidget *page = entry.type->create(pagesWidget);
+        page->layout()->setContentsMargins(margins);
+        pagesWidget->addWidget(page);
+    }
+    connect(pagesWidget, &QStackedWidget::currentChanged, this, &ConfigDialog::scrollOnlyForPageInView);
+    m_pageArea->setObjectName(QStringLiteral("pageArea"));
+    m_pageArea->setFrameShape(QFrame::NoFrame);
+    m_pageArea->setFocusPolicy(Qt::NoFocus);
+    m_pageArea->setWidgetResizable(true);
+    m_pageArea->setWidget(pagesWidget);
 
-    auto *wheelGuard = new WheelGuard(this);
-    wheelGuard->guard(pagesWidget);
+    auto *controlGuard = new ControlGuard(this);
+    controlGuard->guard(pagesWidget);
     // A focused button of a page would take Return away from OK.
     const QList<QPushButton *> pageButtons = pagesWidget->findChildren<QPushButton *>();
     for (QPushButton *button : pageButtons) {
@@ -214,26 +170,51 @@ void ConfigDialog::createLayout()
     auto *rows = new QVBoxLayout(this);
     auto *contents = new QHBoxLayout;
     contents->addWidget(contentsWidget, 0);
-    contents->addWidget(pagesWidget, 1);
+    contents->addWidget(m_pageArea, 1);
     rows->addLayout(contents);
     rows->addSpacing(12);
     rows->addWidget(m_buttonBox);
 }
 
+void ConfigDialog::createShortcuts()
+{
+    const auto add = [this](const QKeySequence &key, auto row) {
+        connect(new QShortcut(key, this), &QShortcut::activated, contentsWidget,
+                [this, row] { contentsWidget->setCurrentRow(row()); });
+    };
+    const int rows = contentsWidget->count();
+    for (int i = 0; i < rows; ++i)
+        add(QKeySequence(Qt::ALT | Qt::Key(Qt::Key_1 + i)), [i] { return i; });
+    add(QKeySequence(Qt::CTRL | Qt::Key_PageUp), [=] { return qMax(0, contentsWidget->currentRow() - 1); });
+    add(QKeySequence(Qt::CTRL | Qt::Key_PageDown),
+        [=] { return qMin(rows - 1, contentsWidget->currentRow() + 1); });
+}
+
 void ConfigDialog::restoreSize()
 {
-    const QSettings settings;
-    // Seven rows of the list: its six entries and one to spare.
-    const int defaultHeight = gridRowHeight(QFontMetrics(contentsWidget->font())) * 7;
-    const int height = storedExtent(settings, QStringLiteral("height"), defaultHeight);
-    resize(storedExtent(settings, QStringLiteral("/width"), defaultWidth), height);
+    // Seven rows of the list: its six entries and one to spare. All pages are seen whole.
+    const QSize usual(defaultWidth, gridRowHeight(QFontMetrics(contentsWidget->font())) * 7);
+    m_pageArea->setMinimumSize(pagesWidget->minimumSizeHint());
+    m_wantedSize = storedWindowSize(usual.expandedTo(layout()->minimumSize()));
+    m_pageArea->setMinimumSize(0, 0);
+    scrollOnlyForPageInView();
+    resize(sizeOnScreen(m_wantedSize, this));
+    m_firstSize = size();
+}
+
+void ConfigDialog::scrollOnlyForPageInView()
+{
+    for (int i = 0; i < pagesWidget->count(); ++i) {
+        const auto policy = i == pagesWidget->currentIndex() ? QSizePolicy::Preferred : QSizePolicy::Ignored;
+        pagesWidget->widget(i)->setSizePolicy(policy, policy);
+    }
 }
 
 void ConfigDialog::storeSize() const
 {
-    QSettings settings;
-    settings.setValue(QStringLiteral("/width"), width());
-    settings.setValue(QStringLiteral("/height"), height());
+    // A small screen's limits are not the user's wish.
+    storeWindowSize({width() == m_firstSize.width() ? m_wantedSize.width() : width(),
+                     height() == m_firstSize.height() ? m_wantedSize.height() : height()});
 }
 
 void ConfigDialog::connectPages()
@@ -352,8 +333,11 @@ bool ConfigDialog::messageReceived(const QString & /*message*/)
     // A window manager refuses the focus to a window that the user left long ago.
     if (QX11Info::isPlatformX11())
         QX11Info::setAppUserTime(QX11Info::getTimestamp());
-    raise();
-    activateWindow();
+    QWidget *modal = QApplication::activeModalWidget();
+    for (QWidget *window : {static_cast<QWidget *>(this), modal ? modal : this}) {
+        window->raise();
+        window->activateWindow();
+    }
     return true;
 }
 

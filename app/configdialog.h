@@ -52,15 +52,20 @@ private:
     void createPages();
     void createButtons();
     void createLayout();
+    void createShortcuts();
     void restoreSize();
+    void scrollOnlyForPageInView();
     void connectPages();
     /// Loads the page of \a row from the theme file as it is now.
     void loadPage(int row);
     void setEdited(bool edited);
 
     QListWidget *contentsWidget;
+    class QScrollArea *m_pageArea;
     SlidingStackedWidget *pagesWidget;
     bool slideFinished = true;
     QDialogButtonBox *m_buttonBox = nullptr;
     QString themeFile;
+    QSize m_wantedSize; // of the user, whatever the screen has room for
+    QSize m_firstSize;  // the one shown for it
 };

@@ -48,7 +48,8 @@ QTextBrowser *helpWindow()
         window->setAttribute(Qt::WA_QuitOnClose, false);
         window->setObjectName(QStringLiteral("helpWindow"));
         window->setWindowTitle(QCoreApplication::translate("Help", "Qaz Theme Editor Help"));
-        window->setWindowIcon(QIcon::fromTheme(QStringLiteral("help-contents")));
+        window->setWindowIcon(QIcon::fromTheme(QStringLiteral("help-contents"),
+                                               QIcon(QStringLiteral(":/fallback/help-contents.svg"))));
         window->setOpenExternalLinks(false);
         window->resize(760, 640);
         window->document()->setDocumentMargin(16);
