@@ -1,31 +1,21 @@
-#include "app/configdialog.h"
-#include "fonts/fontpage.h"
-#include "pages/effects/effectpage.h"
-#include "pages/screensaver/screensaverpage.h"
-#include "pages/sounds/soundpage.h"
-#include "pages/theme/themepage.h"
-#include "pages/wallpaper/wallpaperpage.h"
-#include "platform/qazinit.h"
-#include "platform/slidingstackedwidget.h"
-#include "resources/registerresources.h"
-#include "tests/support/fakeprogram.h"
-#include "tests/support/literals.h"
-#include "tests/support/modaldriver.h"
-#include "tests/support/temporaryhome.h"
-#include "tests/support/wmlistener.h"
+#include "tests/app/dialogtest.h"
 
-#include <QCheckBox>
+#include "pages/effects/effectpage.h"
+#include "tests/support/fakeprogram.h"
+#include "tests/support/modaldriver.h"
+
 #include <QComboBox>
-#include <QDialogButtonBox>
-#include <QListWidget>
-#include <QPushButton>
-#include <QSpinBox>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QSettings>
 #include <QWheelEvent>
-#include <QtTest>
 
 #include <malloc.h>
 
 namespace {
+
+const QString ownSettings = ".config/qaz/qaz-admin-theme.conf"_s;
 
 /// Bytes that this process has allocated and not freed; sanitizers, which look for leaks themselves, tell none.
 qint64 bytesInUse()
@@ -44,138 +34,86 @@ void turnWheel(QWidget *widget)
 
 } // namespace
 
-class TestConfigDialog : public QObject
+/// The window: its size, its keys, and how it behaves around the pages.
+class TestConfigDialog : public DialogTest
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        const TemporaryHome home;
-        registerResources();
-        qazInit("1", "title");
-    }
-
-    void init() { m_home = std::make_unique<TemporaryHome>(); }
-
-    void cleanup()
-    {
-        m_dialog.reset();
-        m_home.reset();
-    }
-
-    void itOpensCleanAndLoadsPagesWhenFirstShown()
-    {
-        open();
-        QStringList rows;
-        QStringList pages;
-        for (int row = 0; row < m_list->count(); ++row) {
-            rows.append(m_list->item(row)->text());
-            pages.append(QLatin1String(m_stack->widget(row)->metaObject()->className()));
-            QCOMPARE(m_list->item(row)->flags(), Qt::ItemIsSelectable | Qt::ItemIsEnabled);
-            QVERIFY2(!m_list->item(row)->icon().isNull(), "the fallback icon theme has every icon");
-        }
-        QCOMPARE(rows.join(u' '), "Wallpaper Theme Fonts Screensaver Effects Sounds"_s);
-        QCOMPARE(pages.join(u' '), "WallpaperPage ThemePage FontPage ScreensaverPage EffectPage SoundPage"_s);
-        QCOMPARE(m_list->currentRow(), 0);
-        QCOMPARE(m_stack->currentIndex(), 0);
-        QCOMPARE(m_list->width(), m_list->gridSize().width() + 20);
-        QCOMPARE(m_dialog->windowTitle(), "Qaz Theme Editor - t[*]"_s);
-        verifyEdited(false);
-        QCOMPARE(m_dialog->requestToSave(true), int(QMessageBox::No));
-
-        const auto loaded = [this] {
-            return QList<bool>{find<WallpaperPage>()->loaded, find<ThemePage>()->loaded,
-                               find<FontPage>()->loaded,      find<ScreensaverPage>()->loaded,
-                               find<EffectPage>()->loaded,    find<SoundPage>()->loaded};
-        };
-        QList<bool> expected{true, false, false, false, false, false};
-        QCOMPARE(loaded(), expected);
-        for (int row = 5; row > 0; --row) {
-            m_list->setCurrentRow(row);
-            expected[row] = true;
-            QCOMPARE(loaded(), expected);
-            QCOMPARE(m_stack->currentIndex(), row);
-            QVERIFY2(!m_dialog->isWindowModified(), qPrintable(rows.at(row)));
-        }
-        QVERIFY2(!QGuiApplication::overrideCursor(), "every page gives the cursor back");
-    }
-
     void sizesAreKept()
     {
-        const std::pair<const char *, QSize> rows[] = {
-            {"", {}},
-            {"width=1000\nheight=900\n", {1000, 900}},
-            {"width=wide\nheight=-3\n", {}},
-            {"width=99999999\nheight=0\n", {}}}; // empty: the default
-        for (const auto &[stored, size] : rows) {
-            m_home->write(".config/qaz/qaz-admin-theme.conf"_s, QByteArray("[General]\n") + stored);
-            QSettings().sync();
+        const QSize screen = qApp->primaryScreen()->availableSize();
+        const std::tuple<const char *, QSize, QSize> rows[] = {
+            {"", {}, {}},
+            {"width=1000\nheight=900\n", {1000, 900}, {1000, 900}},
+            {"width=900\nheight=500\nother=%1\n", {900, 500}, {900, 500}},
+            {"width=wide\nheight=-3\n", {}, {}},
+            {"width=99999999\nheight=0\n", {}, {}},
+            {"width=3000\nheight=700\n", {screen.width() - 10, 700}, {3000, 700}}}; // empty: the default
+        for (const auto &[stored, shown, kept] : rows) {
+            m_home->write(ownSettings, QByteArray("[General]\n") + stored);
             open();
-            const QSize usual(qMax(800, m_dialog->minimumSizeHint().width()),
-                              (m_list->fontMetrics().height() + 74) * 7);
-            const QSize expected = size.isEmpty() ? usual : size;
-            QCOMPARE(m_dialog->size(), expected);
+            const QSize usual(800, (m_list->fontMetrics().height() + 74) * 7);
+            QCOMPARE(m_dialog->size(), shown.isEmpty() ? usual : shown);
+            QVERIFY(qApp->primaryScreen()->availableGeometry().contains(m_dialog->geometry()));
             m_dialog.reset();
-            QCOMPARE(QSettings().value("width"_s).toInt(), expected.width());
-            QCOMPARE(QSettings().value("height"_s).toInt(), expected.height());
+            QCOMPARE(QSettings(m_home->path(ownSettings), QSettings::IniFormat).value("width"_s).toInt(),
+                     kept.isEmpty() ? usual.width() : kept.width());
+            QCOMPARE(QSettings(m_home->path(ownSettings), QSettings::IniFormat).value("height"_s).toInt(),
+                     kept.isEmpty() ? usual.height() : kept.height());
         }
+        open();
+        m_dialog->resize(700, 400); // at will
+        m_dialog.reset();
+        const QByteArray kept = m_home->read(ownSettings);
+        QVERIFY2(kept.contains("\nwidth=700\n") && kept.contains("\nheight=400\n"), kept.constData());
     }
 
-    void onlyVisitedPagesAreSavedInOrderAndOnce()
+    void keysSwitchPagesFromAnywhere()
     {
-        open("ScreenSaverDelay=600\nOpaqueMove=false\nEnableSound=TRUE\n");
-        WmListener listener;
-        editTheDelay(7);
-        verifyEdited(true);
-        showPage("Effects");
-        showPage("Screensaver"); // which is not loaded again
-        find<QCheckBox>("opaqueMoveCheckBox")->click();
-        find<QComboBox>("wallpaperPositionCombo")->setCurrentIndex(1);
-        button(QDialogButtonBox::Apply)->click();
-        QStringList keys;
-        for (const QString &command : listener.take())
-            keys.append(command.section(u' ', 1, 1));
-        QVERIFY2(keys.indexOf("WallPaperPos"_s) == 0, qPrintable(keys.join(u' ')));
-        QVERIFY(keys.indexOf("OpaqueMove"_s) > 0);
-        QCOMPARE(keys.last(), "ScreenSaverDelay"_s);
-        QCOMPARE(delay()->value(), 7);
-        const QByteArray saved = m_home->read("t"_s);
-        QVERIFY2(saved.contains("\nEnableSound=TRUE\n") && !saved.contains("Color"), saved.constData());
+        open();
+        const std::tuple<int, Qt::KeyboardModifier, int> steps[] = {
+            {Qt::Key_4, Qt::AltModifier, 3},
+            {Qt::Key_PageDown, Qt::ControlModifier, 4},
+            {Qt::Key_PageDown, Qt::ControlModifier, 5},
+            {Qt::Key_PageDown, Qt::ControlModifier, 5},
+            {Qt::Key_1, Qt::AltModifier, 0},
+            {Qt::Key_PageUp, Qt::ControlModifier, 0},
+            {Qt::Key_6, Qt::AltModifier, 5},
+            {Qt::Key_PageUp, Qt::ControlModifier, 4},
+            {Qt::Key_2, Qt::AltModifier, 1},
+            {Qt::Key_3, Qt::AltModifier, 2},
+            {Qt::Key_5, Qt::AltModifier, 4}};
+        for (const auto &[key, modifier, row] : steps) {
+            // From whatever control has the focus there.
+            m_stack->currentWidget()->setFocus();
+            QTest::keyClick(m_dialog->focusWidget(), Qt::Key_Tab);
+            QTest::keyClick(m_dialog->focusWidget(), Qt::Key(key), modifier);
+            QCOMPARE(m_list->currentRow(), row);
+        }
         verifyEdited(false);
-
-        const QString before = m_home->fingerprint();
-        m_dialog->applySlot();
-        QCOMPARE(listener.take(), QStringList());
-        QCOMPARE(m_home->fingerprint(), before);
     }
 
-    void unsavedEditsAreGuarded()
+    void returnChangesNothing()
     {
-        for (const auto answer : {QMessageBox::Yes, QMessageBox::No, QMessageBox::Cancel}) {
-            open("ScreenSaverDelay=600\n");
-            editTheDelay(5);
-            ModalDriver driver;
-            if (answer == QMessageBox::Cancel)
-                driver.then([](QDialog *box) { QTest::keyClick(box, Qt::Key_Escape); });
-            else
-                driver.thenAnswer(answer);
-            QTest::keyClick(m_dialog.get(), Qt::Key_Escape);
-            QVERIFY(driver.isDone());
-            QCOMPARE(driver.seen(), QStringList{"Save ?|Save changes?"_s});
-            QCOMPARE(m_dialog->isVisible(), answer == QMessageBox::Cancel);
-            QCOMPARE(m_home->read("t"_s), QByteArray(answer == QMessageBox::Yes ? "ScreenSaverDelay=300\n"
-                                                                                : "ScreenSaverDelay=600\n"));
+        open("ScreenSaverDelay=600\n");
+        for (int row = 0; row < m_list->count(); ++row) {
+            m_list->setCurrentRow(row);
+            for (auto *box : m_stack->currentWidget()->findChildren<QSpinBox *>()) {
+                box->setEnabled(true);
+                box->setFocus();
+                QTest::keyClick(box, Qt::Key_Return);
+                QTest::keyClick(box, Qt::Key_Enter, Qt::KeypadModifier);
+                QVERIFY2(m_dialog->isVisible() && !m_dialog->isWindowModified(),
+                         qPrintable(box->objectName()));
+            }
         }
-
-        ModalDriver driver;
-        driver.then([](QDialog *dialog) {
-            auto *box = qobject_cast<QMessageBox *>(dialog);
-            QVERIFY(box && box->buttons().size() == 2 && !box->button(QMessageBox::Cancel));
-            box->button(QMessageBox::No)->click();
-        });
-        QCOMPARE(m_dialog->requestToSave(false), int(QMessageBox::No));
-        QVERIFY(driver.isDone());
+        showPage("Screensaver");
+        delay()->selectAll();
+        QTest::keyClicks(delay(), "8"_s);
+        QTest::keyClick(delay(), Qt::Key_Return);
+        QVERIFY(!m_dialog->isVisible());
+        QVERIFY(m_home->read("t"_s).contains("ScreenSaverDelay=480\n"));
     }
 
     void returnPressesOkOnEveryPage()
@@ -249,10 +187,16 @@ private slots:
         open();
         for (int row = 0; row < m_list->count(); ++row)
             m_list->setCurrentRow(row);
-        m_dialog->resize(1024, 560);
-        QTRY_COMPARE(m_dialog->size(), QSize(1024, 560));
+        m_dialog->resize(790, 440);
+        QTRY_COMPARE(m_dialog->size(), QSize(790, 440));
         for (const QAbstractButton *each : m_dialog->buttonBox()->buttons())
             QVERIFY(m_dialog->rect().contains(QRect(each->mapTo(m_dialog.get(), QPoint()), each->size())));
+        auto *area = find<QScrollArea>("pageArea");
+        for (int row = 0; row < m_list->count(); ++row) {
+            m_list->setCurrentRow(row);
+            QTRY_VERIFY(area->widget()->height() >= m_stack->currentWidget()->minimumSizeHint().height());
+            QCOMPARE(area->horizontalScrollBar()->maximum(), 0);
+        }
     }
 
     void aMessageBringsTheWindowUp()
@@ -264,6 +208,20 @@ private slots:
         m_dialog->hide();
         QVERIFY(m_dialog->messageReceived(QString()));
         QVERIFY(m_dialog->isVisible());
+        // Above the window, what it waits for.
+        QWidget other;
+        other.setGeometry(m_dialog->geometry());
+        ModalDriver driver;
+        driver.then([this, &other](QDialog *box) {
+            other.show();
+            QVERIFY(QTest::qWaitForWindowExposed(&other));
+            other.raise();
+            m_dialog->messageReceived(QString());
+            QTRY_VERIFY(box->isActiveWindow());
+            box->reject();
+        });
+        m_dialog->restoreSlot();
+        QVERIFY(driver.isDone());
     }
 
     void memoryStaysFlat()
@@ -291,52 +249,6 @@ private slots:
         QVERIFY(growth(1000, switchPage) < 100 * 1000);
         QVERIFY(growth(200, apply) < 100 * 200);
     }
-
-private:
-    /// Opens the window over the theme file "t" with \a content; a null array makes no file.
-    void open(const QByteArray &content = {})
-    {
-        if (!content.isNull())
-            m_home->write("t"_s, content);
-        m_dialog.reset(); // of two windows, either may have the focus
-        m_dialog = std::make_unique<ConfigDialog>(m_home->path("t"_s));
-        m_list = find<QListWidget>("contentsWidget");
-        m_stack = find<SlidingStackedWidget>();
-        m_dialog->show();
-        QVERIFY(QTest::qWaitForWindowExposed(m_dialog.get()));
-        m_dialog->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(m_dialog.get()));
-    }
-    void showPage(const char *name)
-    {
-        m_list->setCurrentItem(m_list->findItems(QLatin1String(name), Qt::MatchExactly).value(0));
-    }
-    void editTheDelay(int minutes)
-    {
-        showPage("Screensaver");
-        delay()->setValue(minutes);
-    }
-    void verifyEdited(bool isEdited)
-    {
-        QCOMPARE(m_dialog->isWindowModified(), isEdited);
-        QCOMPARE(button(QDialogButtonBox::Ok)->isEnabled(), isEdited);
-        QCOMPARE(button(QDialogButtonBox::Apply)->isEnabled(), isEdited);
-    }
-    QPushButton *button(QDialogButtonBox::StandardButton which)
-    {
-        return m_dialog->buttonBox()->button(which);
-    }
-    template<typename Widget>
-    Widget *find(const char *name = nullptr)
-    {
-        return m_dialog->findChild<Widget *>(QLatin1String(name));
-    }
-    QSpinBox *delay() { return find<QSpinBox>("minutesToStartSpinBox"); }
-
-    std::unique_ptr<TemporaryHome> m_home;
-    std::unique_ptr<ConfigDialog> m_dialog;
-    QListWidget *m_list = nullptr;
-    SlidingStackedWidget *m_stack = nullptr;
 };
 
 QTEST_MAIN(TestConfigDialog)

@@ -1,0 +1,202 @@
+#include "tests/app/dialogtest.h"
+
+#include "fonts/fontpage.h"
+#include "pages/effects/effectpage.h"
+#include "pages/screensaver/screensaverpage.h"
+#include "pages/sounds/soundpage.h"
+#include "pages/theme/themepage.h"
+#include "pages/wallpaper/wallpaperpage.h"
+#include "tests/support/fakeprogram.h"
+#include "tests/support/modaldriver.h"
+#include "tests/support/wmlistener.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QInputDialog>
+
+namespace {
+
+QStringList keysOf(const QStringList &commands)
+{
+    QStringList keys;
+    for (const QString &command : commands)
+        keys.append(command.section(u' ', 1, 1));
+    return keys;
+}
+
+} // namespace
+
+/// How the dialog loads its pages, learns of their edits, and saves them.
+class TestPages : public DialogTest
+{
+    Q_OBJECT
+
+private slots:
+    void itOpensCleanAndLoadsPagesWhenFirstShown()
+    {
+        open();
+        QStringList rows;
+        QStringList pages;
+        for (int row = 0; row < m_list->count(); ++row) {
+            rows.append(m_list->item(row)->text());
+            pages.append(QLatin1String(m_stack->widget(row)->metaObject()->className()));
+            QCOMPARE(m_list->item(row)->flags(), Qt::ItemIsSelectable | Qt::ItemIsEnabled);
+            QVERIFY2(!m_list->item(row)->icon().isNull(), "the fallback icon theme has every icon");
+        }
+        QCOMPARE(rows.join(u' '), "Wallpaper Theme Fonts Screensaver Effects Sounds"_s);
+        QCOMPARE(pages.join(u' '), "WallpaperPage ThemePage FontPage ScreensaverPage EffectPage SoundPage"_s);
+        QCOMPARE(m_list->currentRow(), 0);
+        QCOMPARE(m_stack->currentIndex(), 0);
+        QCOMPARE(m_list->width(), m_list->gridSize().width() + 20);
+        QCOMPARE(m_dialog->windowTitle(), "Qaz Theme Editor - t[*]"_s);
+        verifyEdited(false);
+        QCOMPARE(m_dialog->requestToSave(true), int(QMessageBox::No));
+
+        const auto loaded = [this] {
+            return QList<bool>{find<WallpaperPage>()->loaded, find<ThemePage>()->loaded,
+                               find<FontPage>()->loaded,      find<ScreensaverPage>()->loaded,
+                               find<EffectPage>()->loaded,    find<SoundPage>()->loaded};
+        };
+        QList<bool> expected{true, false, false, false, false, false};
+        QCOMPARE(loaded(), expected);
+        for (int row = 5; row > 0; --row) {
+            m_list->setCurrentRow(row);
+            expected[row] = true;
+            QCOMPARE(loaded(), expected);
+            QCOMPARE(m_stack->currentIndex(), row);
+            QVERIFY2(!m_dialog->isWindowModified(), qPrintable(rows.at(row)));
+        }
+        QVERIFY2(!QGuiApplication::overrideCursor(), "every page gives the cursor back");
+    }
+
+    void onlyVisitedPagesAreSavedInOrderAndOnce()
+    {
+        const QByteArray before = "ScreenSaverDelay=600\nOpaqueMove=false\nEnableSound=TRUE\n";
+        open(before);
+        WmListener listener;
+        editTheDelay(7);
+        verifyEdited(true);
+        showPage("Effects");
+        showPage("Screensaver"); // which is not loaded again
+        find<QCheckBox>("opaqueMoveCheckBox")->click();
+        find<QComboBox>("wallpaperPositionCombo")->setCurrentIndex(1);
+        button(QDialogButtonBox::Apply)->click();
+        QCOMPARE(keysOf(listener.take()).first(), "WallPaperPos"_s);
+        QCOMPARE(delay()->value(), 7);
+        const QByteArray saved = m_home->read("t"_s);
+        QVERIFY2(saved.contains("\nEnableSound=TRUE\n") && !saved.contains("Color"), saved.constData());
+        verifyEdited(false);
+
+        const QString fingerprint = m_home->fingerprint();
+        m_dialog->applySlot();
+        QCOMPARE(listener.take(), QStringList());
+        QCOMPARE(m_home->fingerprint(), fingerprint);
+    }
+
+    void pagesAreSavedInTheirOrder()
+    {
+        FakePrograms programs;
+        programs.add("xrdb"_s);
+        // The values that an empty form saves stand in the file: only one edit of each page is announced.
+        open("x=1\n");
+        for (int row = 0; row < m_list->count(); ++row)
+            m_list->setCurrentRow(row);
+        m_dialog->applySlot();
+        WmListener listener;
+        find<QSpinBox>("minutesToStartSpinBox")->setValue(7);
+        QTest::mouseClick(find<QGroupBox>("wmSoundsGroupBox"), Qt::LeftButton, {}, QPoint(8, 8));
+        find<QComboBox>("wallpaperPositionCombo")->setCurrentIndex(1);
+        find<QCheckBox>("opaqueMoveCheckBox")->click();
+        QTest::keyClick(find<QComboBox>("decorThemeCombo"), Qt::Key_Down);
+        find<QSpinBox>("dpiSpinBox")->setValue(120);
+        ModalDriver driver;
+        driver.thenAnswer(QMessageBox::Ok); // fonts have changed
+        button(QDialogButtonBox::Apply)->click();
+        QCOMPARE(keysOf(listener.take()).join(u' '),
+                 "WallPaperPos OpaqueMove DecorTheme XftSettings EnableSound EnableAlsa ScreenSaverDelay"_s);
+    }
+
+    void everyPagesEditsCanBeApplied()
+    {
+        FakePrograms programs;
+        programs.add("xrdb"_s);
+        open();
+        for (int row = 0; row < m_list->count(); ++row) {
+            m_list->setCurrentRow(row);
+            int edits = 0;
+            for (auto *control : m_stack->currentWidget()->findChildren<QWidget *>()) {
+                if (control->window() != m_dialog.get())
+                    continue;
+                control->setEnabled(true);
+                auto *spinBox = qobject_cast<QSpinBox *>(control);
+                if (spinBox)
+                    spinBox->stepBy(spinBox->value() < spinBox->maximum() ? 1 : -1);
+                else if (qobject_cast<QCheckBox *>(control) || control->property("checkable").toBool())
+                    QTest::mouseClick(control, Qt::LeftButton, {}, QPoint(8, 8));
+                else
+                    continue;
+                QVERIFY2(button(QDialogButtonBox::Apply)->isEnabled(), qPrintable(control->objectName()));
+                QVERIFY2(button(QDialogButtonBox::Ok)->isEnabled(), qPrintable(control->objectName()));
+                ModalDriver driver;
+                if (control->objectName() == "dpiSpinBox"_s)
+                    driver.thenAnswer(QMessageBox::Ok); // fonts have changed
+                button(QDialogButtonBox::Apply)->click();
+                QVERIFY(driver.isDone());
+                verifyEdited(false);
+                ++edits;
+            }
+            const bool hasChooser = row == 1; // which has colours and sizes to choose instead
+            QVERIFY2(edits > 0 || hasChooser, qPrintable(m_list->item(row)->text()));
+        }
+        showPage("Theme");
+        ModalDriver driver;
+        driver.then([](QDialog *dialog) {
+            qobject_cast<QInputDialog *>(dialog)->setTextValue("64"_s);
+            dialog->accept();
+        });
+        find<QPushButton>("sizeButton")->click();
+        verifyEdited(true);
+    }
+
+    void pagesAreLoadedByTheirRowWhateverTheirLabel()
+    {
+        open();
+        for (int row = 0; row < m_list->count(); ++row)
+            m_list->item(row)->setText("alike"_s);
+        m_list->setCurrentRow(4);
+        QVERIFY(find<EffectPage>()->loaded && !find<ThemePage>()->loaded && !find<SoundPage>()->loaded);
+        QCOMPARE(m_stack->currentWidget(), find<EffectPage>());
+    }
+
+    void unsavedEditsAreGuarded()
+    {
+        for (const auto answer : {QMessageBox::Yes, QMessageBox::No, QMessageBox::Cancel}) {
+            open("ScreenSaverDelay=600\n");
+            editTheDelay(5);
+            ModalDriver driver;
+            if (answer == QMessageBox::Cancel)
+                driver.then([](QDialog *box) { QTest::keyClick(box, Qt::Key_Escape); });
+            else
+                driver.thenAnswer(answer);
+            QTest::keyClick(m_dialog.get(), Qt::Key_Escape);
+            QVERIFY(driver.isDone());
+            QCOMPARE(driver.seen(), QStringList{"Save ?|Save changes?"_s});
+            QCOMPARE(m_dialog->isVisible(), answer == QMessageBox::Cancel);
+            QCOMPARE(m_home->read("t"_s), QByteArray(answer == QMessageBox::Yes ? "ScreenSaverDelay=300\n"
+                                                                                : "ScreenSaverDelay=600\n"));
+        }
+
+        ModalDriver driver;
+        driver.then([](QDialog *dialog) {
+            auto *box = qobject_cast<QMessageBox *>(dialog);
+            QVERIFY(box && box->buttons().size() == 2 && !box->button(QMessageBox::Cancel));
+            box->button(QMessageBox::No)->click();
+        });
+        QCOMPARE(m_dialog->requestToSave(false), int(QMessageBox::No));
+        QVERIFY(driver.isDone());
+    }
+};
+
+QTEST_MAIN(TestPages)
+#include "tst_pages.moc"
