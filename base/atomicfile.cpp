@@ -5,10 +5,10 @@
 #include "base/diagnostics.h"
 #include "base/xdgdirectories.h"
 
-#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
-#include <QThread>
+#include <QScopeGuard>
+#include <QTemporaryFile>
 
 #include <cerrno>
 #include <csignal>
@@ -18,7 +18,6 @@
 
 #include <dirent.h>
 #include <fcntl.h>
-#include <sys/file.h>
 #include <sys/stat.h>
 #include <sys/xattr.h>
 #include <unistd.h>
@@ -28,37 +27,6 @@ namespace {
 constexpr int linkLimit = 40; // what the kernel follows, too
 constexpr char temporaryName[] = ".qaz-XXXXXX";
 constexpr std::time_t staleSeconds = 3600;
-
-/// While it lives, a write beyond the limit of the file size fails as on a full disk; the signal would end the process.
-class SizeLimitFails
-{
-public:
-    SizeLimitFails()
-        : m_before(std::signal(SIGXFSZ, SIG_IGN))
-    {}
-    ~SizeLimitFails() { std::signal(SIGXFSZ, m_before); }
-    SizeLimitFails(const SizeLimitFails &) = delete;
-    SizeLimitFails &operator=(const SizeLimitFails &) = delete;
-
-private:
-    void (*m_before)(int);
-};
-
-bool writeAll(int descriptor, const QByteArray &content)
-{
-    const SizeLimitFails sizeLimitFails;
-    const char *data = content.constData();
-    for (qint64 left = content.size(); left > 0;) {
-        const ssize_t written = ::write(descriptor, data, size_t(left));
-        if (written < 0 && errno == EINTR)
-            continue;
-        if (written < 0)
-            return false;
-        data += written;
-        left -= written;
-    }
-    return true;
-}
 
 /// Reads to the end of a file of about \a size bytes; it may grow or shrink meanwhile, and files of the kernel
 /// state no size at all. Fails with errno set.
@@ -218,48 +186,22 @@ bool replaceFile(const QString &path, const QByteArray &content, QString *error,
     }
 
     removeStaleTemporaries(directory);
-    QByteArray temporary = QFile::encodeName(directory) + '/' + temporaryName;
-    Descriptor file(::mkostemp(temporary.data(), O_CLOEXEC));
-    if (!file.isOpen()) {
-        *error = systemErrorText(errno);
+    // A write beyond the limit of the file size fails as on a full disk; the signal would end the process.
+    const auto putBack = qScopeGuard(
+        [before = std::signal(SIGXFSZ, SIG_IGN)] { std::signal(SIGXFSZ, before); });
+    QTemporaryFile file(directory + QLatin1Char('/') + QLatin1String(temporaryName));
+    const bool isReplaced = file.open() && file.write(content) == content.size() && file.flush()
+                            && takeOverAttributes(file.handle(), name, newFileMode)
+                            && ::fsync(file.handle()) == 0
+                            && ::rename(QFile::encodeName(file.fileName()).constData(), name.constData())
+                                   == 0;
+    if (!isReplaced) {
+        *error = file.error() != QFileDevice::NoError ? file.errorString() : systemErrorText(errno);
         return false;
     }
-    const bool written = writeAll(file.get(), content) && takeOverAttributes(file.get(), name, newFileMode)
-                         && ::fsync(file.get()) == 0 && file.close()
-                         && ::rename(temporary.constData(), name.constData()) == 0;
-    if (!written) {
-        *error = systemErrorText(errno);
-        ::unlink(temporary.constData());
-        return false;
-    }
+    file.setAutoRemove(false);
     const Descriptor parent(::open(QFile::encodeName(directory).constData(), O_RDONLY | O_CLOEXEC));
     if (parent.isOpen())
         ::fsync(parent.get());
     return true;
-}
-
-DirectoryLock::DirectoryLock(const QString &filePath, int timeoutMs)
-    : m_descriptor(
-        ::open(QFile::encodeName(QFileInfo(filePath).path()).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC))
-{
-    if (m_descriptor < 0) {
-        m_error = systemErrorText(errno);
-        return;
-    }
-    QElapsedTimer timer;
-    timer.start();
-    while (::flock(m_descriptor, LOCK_EX | LOCK_NB) != 0) {
-        if ((errno != EWOULDBLOCK && errno != EINTR) || timer.hasExpired(timeoutMs)) {
-            m_error = systemErrorText(errno);
-            return;
-        }
-        QThread::msleep(10);
-    }
-    m_held = true;
-}
-
-DirectoryLock::~DirectoryLock()
-{
-    if (m_descriptor >= 0)
-        ::close(m_descriptor);
 }

@@ -37,24 +37,3 @@ void removeStaleTemporaries(const QString &directory);
 /// \a path with every symbolic link of its last component followed, also to a file that doesn't exist yet;
 /// empty for a loop of links.
 QString linkTarget(const QString &path);
-
-/// Holds an advisory lock on the directory of a file: programs that read, change and replace files there
-/// take turns. It leaves no lock file behind and ends with the process.
-class DirectoryLock
-{
-public:
-    /// Waits up to \a timeoutMs for the lock on the directory of \a filePath.
-    explicit DirectoryLock(const QString &filePath, int timeoutMs = 10000);
-    ~DirectoryLock();
-    DirectoryLock(const DirectoryLock &) = delete;
-    DirectoryLock &operator=(const DirectoryLock &) = delete;
-
-    /// False when the directory can't be opened or another program kept the lock too long; see error().
-    bool isHeld() const { return m_held; }
-    QString error() const { return m_error; }
-
-private:
-    int m_descriptor = -1;
-    bool m_held = false;
-    QString m_error;
-};

@@ -34,7 +34,7 @@ QString xdgDirectory(const char *variable, const char *fallback)
 {
     const QByteArray named = qgetenv(variable);
     if (named.startsWith('/'))
-        return QFile::decodeName(named);
+        return QDir::cleanPath(QFile::decodeName(named));
     return homeDirectory() + QLatin1String(fallback);
 }
 
@@ -43,7 +43,7 @@ QStringList xdgDataDirectories()
     QByteArray system = qgetenv("XDG_DATA_DIRS");
     if (system.isEmpty())
         system = "/usr/local/share:/usr/share";
-    QStringList directories{QDir::cleanPath(xdgDirectory("XDG_DATA_HOME", "/.local/share"))};
+    QStringList directories{xdgDirectory("XDG_DATA_HOME", "/.local/share")};
     for (const QByteArray &directory : system.split(':')) {
         if (directory.startsWith('/'))
             directories.append(QDir::cleanPath(QFile::decodeName(directory)));

@@ -7,3 +7,6 @@ inline constexpr char desktopEntryGroup[] = "Desktop Entry";
 
 /// The text of a desktop-entry file or a theme's index.theme, less a signature of UTF-8, which not all of its readers take.
 KeyFileText desktopEntryText(const QByteArray &content);
+
+/// A theme's index.theme that is larger than this many bytes is none.
+inline constexpr qint64 themeIndexLimit = 1024 * 1024;

@@ -1,6 +1,7 @@
 #include "freedesktop/themedirectories.h"
 
 #include "base/atomicfile.h"
+#include "freedesktop/desktopentry.h"
 
 #include <QFile>
 
@@ -29,7 +30,7 @@ const IconThemeIndex *ThemeDirectories::index(const QByteArrayList &locations)
         const QByteArray path = location + "/index.theme";
         const auto [index, isNew] = m_indexes.try_emplace(path);
         if (isNew) {
-            const FileContent file = readRegularFile(QFile::decodeName(path));
+            const FileContent file = readRegularFile(QFile::decodeName(path), themeIndexLimit);
             if (file.state == FileState::Regular)
                 index->second = parseIconThemeIndex(file.content);
         }

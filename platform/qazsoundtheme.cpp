@@ -84,7 +84,7 @@ std::optional<ThemeIndex> loadIndex(const QString &name, const QStringList &base
         index.placements.append(placement);
         if (!index.directory.isEmpty())
             continue;
-        const FileContent file = readRegularFile(indexPath(base, name));
+        const FileContent file = readRegularFile(indexPath(base, name), themeIndexLimit);
         if (file.state == FileState::Missing)
             continue;
         index.directory = placement;
@@ -218,7 +218,7 @@ bool QazSoundTheme::getThemesNames(List<char> *names)
             const QString name = directories.fileName();
             if (isListed.contains(name))
                 continue;
-            const FileContent index = readRegularFile(indexPath(base, name));
+            const FileContent index = readRegularFile(indexPath(base, name), themeIndexLimit);
             if (index.state != FileState::Missing)
                 isListed.insert(name, desktopEntryText(index.content).value(themeGroup, "Hidden")
                                           != QByteArray("true"));

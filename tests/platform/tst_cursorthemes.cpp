@@ -1,5 +1,3 @@
-#include "freedesktop/cursorfiles.h"
-#include "freedesktop/themedirectories.h"
 #include "platform/qazicontheme.h"
 
 #include <QFile>
@@ -48,8 +46,6 @@ class TestCursorThemes : public QObject
     Q_OBJECT
 private slots:
     void cleanup() { QCoreApplication::processEvents(); } // ends the reading pass
-    void listsEveryDirectoryWithCursors();
-    void findsCursorsAsXcursorDoes();
     void settingReachesNewClients_data();
     void settingReachesNewClients();
     void linkedDefaultThemeStaysWhole();
@@ -58,43 +54,6 @@ private slots:
     void failurePutsEverythingBack_data();
     void failurePutsEverythingBack();
 };
-
-void TestCursorThemes::listsEveryDirectoryWithCursors()
-{
-    const TemporaryHome home;
-    const ScopedEnvironment path("XCURSOR_PATH",
-                                 QFile::encodeName(home.path(QStringLiteral("extra"))) + ":~/.icons");
-    home.write(QStringLiteral(".icons/Described/cursor.theme"), "[Icon Theme]\nInherits=x\n");
-    for (const char *theme : {".icons/Described", ".icons/WithoutIndex", "extra/OnPath", "extra/WithoutIndex",
-                              ".local/share/icons/InData"})
-        QVERIFY(home.makeDirectory(QLatin1String(theme) + QLatin1String("/cursors")));
-    home.write(QStringLiteral(".icons/IconsOnly/index.theme"), "[Icon Theme]\nDirectories=a\n");
-    home.write(QStringLiteral(".icons/File/cursors"), "not a directory");
-    ThemeDirectories directories(cursorSearchPath());
-    const QByteArrayList names = cursorThemeNames(directories);
-    for (const char *listed : {"InData", "OnPath", "Described", "WithoutIndex"})
-        QCOMPARE(names.count(listed), 1);
-    for (const char *other : {"IconsOnly", "File", "default"})
-        QVERIFY2(!names.contains(other), other);
-}
-
-void TestCursorThemes::findsCursorsAsXcursorDoes()
-{
-    const TemporaryHome home;
-    const ScopedEnvironment path("XCURSOR_PATH", "~/.icons");
-    home.write(QStringLiteral(".icons/A/cursors/left_ptr"), "x");
-    home.write(QStringLiteral(".icons/A/index.theme"), "[Icon Theme]\nInherits=A;B, C\n");
-    home.write(QStringLiteral(".icons/B/index.theme"), "[Icon Theme]\nInherits=A\n");
-    home.write(QStringLiteral(".icons/C/cursors/watch"), "x");
-    home.write(QStringLiteral(".icons/default/cursors/xterm"), "x");
-    const QByteArray icons = QFile::encodeName(home.path(QStringLiteral(".icons/")));
-    ThemeDirectories directories(cursorSearchPath());
-    QCOMPARE(cursorFile(directories, "B", "left_ptr"), icons + "A/cursors/left_ptr");
-    QCOMPARE(cursorFile(directories, "A", "watch"), icons + "C/cursors/watch");
-    QCOMPARE(cursorFile(directories, "A", "xterm"), icons + "default/cursors/xterm");
-    QCOMPARE(cursorFile(directories, "A", "nowhere"), QByteArray());
-    QCOMPARE(cursorFile(directories, "../icons/A", "left_ptr"), QByteArray());
-}
 
 void TestCursorThemes::settingReachesNewClients_data()
 {

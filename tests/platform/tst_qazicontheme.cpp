@@ -1,10 +1,6 @@
 #include "platform/qazicontheme.h"
 
-#include "freedesktop/iconthemeindex.h"
-
 #include <QTest>
-
-#include <climits>
 
 #include "tests/support/temporaryhome.h"
 
@@ -26,7 +22,6 @@ private slots:
     void namesAreThoseOfIconThemes();
     void findsIcons_data();
     void findsIcons();
-    void matchesSizes();
 };
 
 void TestQazIconTheme::namesAreThoseOfIconThemes()
@@ -96,26 +91,6 @@ void TestQazIconTheme::findsIcons()
     QString found;
     QCOMPARE(theme.getIcon(names.at(1).constData(), 32, context.constData(), &found), !path.isEmpty());
     QCOMPARE(found, path.isEmpty() ? QString() : home.path(path));
-}
-
-void TestQazIconTheme::matchesSizes()
-{
-    const std::pair<const char *, int> groups[] // with the distance from 32 pixels; -1: a match
-        = {{"Type=Fixed\nSize=32", -1},
-           {"Type=Fixed\nSize=30", 2},
-           {"Type=Scalable\nSize=64\nMinSize=8\nMaxSize=512", -1},
-           {"Type=Scalable\nSize=64\nMinSize=40", 8},
-           {"Size=30", -1}, // the threshold is 2
-           {"Size=24\nThreshold=3", 5},
-           {"Type=Fixed\nSize=32\nScale=2", 32},
-           {"Size=2147483647\nScale=2147483647", INT_MAX}};
-    for (const auto &[group, distance] : groups) {
-        const IconThemeIndex theme = parseIconThemeIndex(
-            QByteArrayLiteral("[Icon Theme]\nDirectories=a,unknown\n[a]\n") + group);
-        QCOMPARE(theme.directories.size(), 1);
-        QVERIFY2(matchesSize(theme.directories.first(), 32) == (distance < 0), group);
-        QCOMPARE(sizeDistance(theme.directories.first(), 32), qMax(0, distance));
-    }
 }
 
 QTEST_MAIN(TestQazIconTheme)

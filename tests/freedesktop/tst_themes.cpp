@@ -1,0 +1,151 @@
+#include "freedesktop/cursorfiles.h"
+#include "freedesktop/iconfiles.h"
+#include "freedesktop/iconthemeindex.h"
+#include "freedesktop/sounddirectories.h"
+#include "freedesktop/themedirectories.h"
+#include "tests/support/literals.h"
+#include "tests/support/temporaryhome.h"
+
+#include <QTest>
+
+#include <climits>
+
+#include <sys/stat.h>
+
+class TestThemes : public QObject
+{
+    Q_OBJECT
+private slots:
+    void listsEveryDirectoryWithCursors()
+    {
+        const TemporaryHome home;
+        const ScopedEnvironment path("XCURSOR_PATH",
+                                     QFile::encodeName(home.path(QStringLiteral("extra"))) + ":~/.icons");
+        home.write(QStringLiteral(".icons/Described/cursor.theme"), "[Icon Theme]\nInherits=x\n");
+        for (const char *theme : {".icons/Described", ".icons/WithoutIndex", "extra/OnPath",
+                                  "extra/WithoutIndex", ".local/share/icons/InData"})
+            QVERIFY(home.makeDirectory(QLatin1String(theme) + QLatin1String("/cursors")));
+        home.write(QStringLiteral(".icons/IconsOnly/index.theme"), "[Icon Theme]\nDirectories=a\n");
+        home.write(QStringLiteral(".icons/File/cursors"), "not a directory");
+        ThemeDirectories directories(cursorSearchPath());
+        const QByteArrayList names = cursorThemeNames(directories);
+        for (const char *listed : {"InData", "OnPath", "Described", "WithoutIndex"})
+            QCOMPARE(names.count(listed), 1);
+        for (const char *other : {"IconsOnly", "File", "default"})
+            QVERIFY2(!names.contains(other), other);
+    }
+
+    void findsCursorsAsXcursorDoes()
+    {
+        const TemporaryHome home;
+        const ScopedEnvironment path("XCURSOR_PATH", "~/.icons");
+        home.write(QStringLiteral(".icons/A/cursors/left_ptr"), "x");
+        home.write(QStringLiteral(".icons/A/index.theme"), "[Icon Theme]\nInherits=A;B, C\n");
+        home.write(QStringLiteral(".icons/B/index.theme"), "[Icon Theme]\nInherits=A\n");
+        home.write(QStringLiteral(".icons/C/cursors/watch"), "x");
+        home.write(QStringLiteral(".icons/default/cursors/xterm"), "x");
+        const QByteArray icons = QFile::encodeName(home.path(QStringLiteral(".icons/")));
+        ThemeDirectories directories(cursorSearchPath());
+        QCOMPARE(cursorFile(directories, "B", "left_ptr"), icons + "A/cursors/left_ptr");
+        QCOMPARE(cursorFile(directories, "A", "watch"), icons + "C/cursors/watch");
+        QCOMPARE(cursorFile(directories, "A", "xterm"), icons + "default/cursors/xterm");
+        QCOMPARE(cursorFile(directories, "A", "nowhere"), QByteArray());
+        QCOMPARE(cursorFile(directories, "../icons/A", "left_ptr"), QByteArray());
+    }
+
+    void theStandardsSayWhereThemesStand()
+    {
+        const TemporaryHome home;
+        const ScopedEnvironment data("QAZ_DATA_DIR", "/root");
+        const ScopedEnvironment cursors("XCURSOR_PATH", "~/.icons:/a/:/a");
+        const QByteArray user = QFile::encodeName(home.path());
+        const struct {
+            const char *dataHome;
+            const char *dataDirs;
+            QByteArray first;
+            QByteArray others; // with a star for the kind
+        } rows[] = {{"/h/", "/b/://c:", "/h", "/b/*:/c/*:"},
+                    {"h", "b:./c:..", user + "/.local/share", ""},
+                    {"", "", user + "/.local/share", "/usr/local/share/*:/usr/share/*:"}};
+        for (const auto &row : rows) {
+            const ScopedEnvironment dataHome("XDG_DATA_HOME", row.dataHome);
+            const ScopedEnvironment dataDirs("XDG_DATA_DIRS", row.dataDirs);
+            const auto others = [&row](const char *kind) {
+                return QByteArray(row.others).replace('*', kind);
+            };
+            QCOMPARE(iconSearchPath().join(':'), user + "/.icons:" + row.first + "/icons:" + others("icons")
+                                                     + "/usr/share/pixmaps:/root/icons");
+            QCOMPARE(cursorSearchPath().join(':'), user + "/.icons:/a:" + row.first + "/icons:/root/icons");
+            QCOMPARE(soundBaseDirectories().join(u':').toUtf8(),
+                     row.first + "/sounds:" + others("sounds") + "/root/sounds");
+        }
+    }
+
+    void anIndexIsOneSmallRegularFile()
+    {
+        const TemporaryHome home;
+        const QByteArray index = "[Icon Theme]\nInherits=parent\nDirectories=\n";
+        ThemeDirectories directories(
+            {QFile::encodeName(home.path("a"_s)), QFile::encodeName(home.path("b"_s))});
+        for (const char *theme :
+             {"b/fifo", "b/large", "b/directory", "a/directory/index.theme", "a/fifo", "b/none"})
+            QVERIFY(home.makeDirectory(QLatin1String(theme)));
+        QCOMPARE(::mkfifo(QFile::encodeName(home.path("a/fifo/index.theme"_s)).constData(), 0600), 0);
+        home.write("a/large/index.theme"_s, index + QByteArray(1024 * 1024, '#'));
+        for (const char *theme : {"fifo", "large", "directory"}) {
+            home.write("b/%1/index.theme"_s.arg(QLatin1String(theme)), index);
+            const QByteArrayList locations = directories.locations(theme);
+            QCOMPARE(locations.size(), 2);
+            const IconThemeIndex *found = directories.index(locations);
+            QVERIFY2(found && found->hasDirectories && found->inherits == QByteArrayList{"parent"}, theme);
+        }
+        QVERIFY(!directories.index(directories.locations("none")));
+        for (const char *name : {"", ".", "..", "../a", "missing"})
+            QCOMPARE(directories.locations(name), QByteArrayList());
+    }
+
+    void oneThemeIsInherited()
+    {
+        const struct {
+            QByteArray before;
+            QByteArray name; // empty: none
+            QByteArray after;
+        } rows[] = {
+            {"", "A", "[Icon Theme]\nInherits=A\n"},
+            {"# c\r\n[Icon Theme]\r\n Inherits = B, C\r\nX=1\r\n[Other]\r\nInherits=z\r\n", "A",
+             "# c\r\n[Icon Theme]\r\n Inherits = A\r\nX=1\r\n[Other]\r\nInherits=z\r\n"},
+            {"[Icon Theme]\nInherits=B\nName=D\nInherits=C\n", "A", "[Icon Theme]\nName=D\nInherits=A\n"},
+            {"[Icon Theme]\nInherits=B\nName=D\nInherits=C\n", "", "[Icon Theme]\nName=D\n"}};
+        for (const auto &row : rows) {
+            QCOMPARE(withInherits(row.before, row.name), row.after);
+            QCOMPARE(parseIconThemeIndex(row.after).inherits.join(','), row.name);
+        }
+        const IconThemeIndex index = parseIconThemeIndex(
+            "[Icon Theme]\nInherits= , A;B c,\n[X]\nInherits=z\n");
+        QCOMPARE(index.inherits, (QByteArrayList{"A", "B c"}));
+        QCOMPARE(index.cursorInherits, (QByteArrayList{"A", "B", "c"}));
+    }
+
+    void matchesSizes()
+    {
+        const std::pair<const char *, int> groups[] // with the distance from 32 pixels; -1: a match
+            = {{"Type=Fixed\nSize=32", -1},
+               {"Type=Fixed\nSize=30", 2},
+               {"Type=Scalable\nSize=64\nMinSize=8\nMaxSize=512", -1},
+               {"Type=Scalable\nSize=64\nMinSize=40", 8},
+               {"Size=30", -1}, // the threshold is 2
+               {"Size=24\nThreshold=3", 5},
+               {"Type=Fixed\nSize=32\nScale=2", 32},
+               {"Size=2147483647\nScale=2147483647", INT_MAX}};
+        for (const auto &[group, distance] : groups) {
+            const IconThemeIndex theme = parseIconThemeIndex(
+                QByteArrayLiteral("[Icon Theme]\nDirectories=a,unknown\n[a]\n") + group);
+            QCOMPARE(theme.directories.size(), 1);
+            QVERIFY2(matchesSize(theme.directories.first(), 32) == (distance < 0), group);
+            QCOMPARE(sizeDistance(theme.directories.first(), 32), qMax(0, distance));
+        }
+    }
+};
+
+QTEST_GUILESS_MAIN(TestThemes)
+#include "tst_themes.moc"
