@@ -49,6 +49,13 @@ QImage loadImage(const QString &path, qint64 pixelLimit)
     return pixelCount(image.size()) > pixelLimit ? QImage() : image;
 }
 
+QSize imageSize(const QString &path)
+{
+    FileContent file = readRegularFile(path);
+    QBuffer buffer(&file.content);
+    return QImageReader(&buffer).size();
+}
+
 QImage drawSvg(const QByteArray &svg, const QSize &size, const QColor &background, Qt::AspectRatioMode mode)
 {
     QSvgRenderer renderer;

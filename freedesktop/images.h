@@ -10,6 +10,9 @@ constexpr qint64 largestPicture = 256 * 1024 * 1024;
 /// \a pixelLimit pixels. Of a JPEG that ends too early what there is.
 QImage loadImage(const QString &path, qint64 pixelLimit = largestPicture);
 
+/// The size that the image file at \a path states, in pixels; empty for what is no image.
+QSize imageSize(const QString &path);
+
 /// Whether a file is taken for an SVG: by its ending. Upper-case endings are other images, which their content tells.
 inline bool isSvg(const QString &path)
 {

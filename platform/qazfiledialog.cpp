@@ -1,9 +1,13 @@
 #include "platform/qazfiledialog.h"
 
+#include "platform/filepreview.h"
+
 #include <QFileInfo>
 #include <QFileSystemModel>
 #include <QLineEdit>
 #include <QListView>
+#include <QScreen>
+#include <QSplitter>
 
 QazFileDialog::QazFileDialog(QWidget *parent, const QString &caption, const QString &location,
                              const QString &filter)
@@ -13,12 +17,17 @@ QazFileDialog::QazFileDialog(QWidget *parent, const QString &caption, const QStr
     setOption(DontUseNativeDialog);
     setFileMode(ExistingFile);
     letTypedPathsCount();
+    auto *preview = new FilePreview(findChild<QSplitter *>()); // beside the list
+    connect(this, &QFileDialog::currentChanged, preview, &FilePreview::showFile);
+    const int wider = width() + preview->sizeHint().width();
+    resize(qMin(wider, screen()->availableGeometry().width()), height());
     const QFileInfo info(location);
     if (info.isDir()) {
         setDirectory(location);
     } else if (!location.isEmpty()) {
         setDirectory(info.path());
         selectFile(info.fileName());
+        preview->showFile(location);
         // Only the name field holds it: a selected row would join the next name put there, as a second file.
         findChild<QListView *>(QStringLiteral("listView"))->selectionModel()->clearSelection();
     }

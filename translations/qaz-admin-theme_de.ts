@@ -386,6 +386,19 @@ Trotzdem entfernen?</translation>
     </message>
 </context>
 <context>
+    <name>FilePreview</name>
+    <message>
+        <source>%1, %2 Hz, %3 × %4 bit
+Length: %5 s</source>
+        <translation>%1, %2 Hz, %3 × %4 Bit
+Länge: %5 s</translation>
+    </message>
+    <message>
+        <source>%1 × %2 pixels</source>
+        <translation>%1 × %2 Pixel</translation>
+    </message>
+</context>
+<context>
     <name>FontAASettings</name>
     <message>
         <source>The font settings could not be saved in the file &apos;%1&apos;: %2</source>

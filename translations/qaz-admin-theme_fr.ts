@@ -386,6 +386,19 @@ Le supprimer quand même ?</translation>
     </message>
 </context>
 <context>
+    <name>FilePreview</name>
+    <message>
+        <source>%1, %2 Hz, %3 × %4 bit
+Length: %5 s</source>
+        <translation>%1, %2 Hz, %3 × %4 bits
+Durée : %5 s</translation>
+    </message>
+    <message>
+        <source>%1 × %2 pixels</source>
+        <translation>%1 × %2 pixels</translation>
+    </message>
+</context>
+<context>
     <name>FontAASettings</name>
     <message>
         <source>The font settings could not be saved in the file &apos;%1&apos;: %2</source>

@@ -6,7 +6,6 @@
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMimeData>
-#include <QRegularExpression>
 #include <QUrl>
 #include <QWidget>
 
@@ -34,15 +33,6 @@ QString droppedFile(const QMimeData *data, const QStringList &endings)
     return {};
 }
 
-QColor droppedColor(const QMimeData *data)
-{
-    if (data->hasColor())
-        return data->colorData().value<QColor>();
-    static const QRegularExpression color(QStringLiteral("^#[0-9a-fA-F]{6}$"));
-    const QString text = data->text().trimmed();
-    return color.match(text).hasMatch() ? QColor(text) : QColor();
-}
-
 DropFilter::DropFilter(QWidget *target, const Taking &taking)
     : QObject(target)
     , m_taking(taking)
@@ -60,7 +50,8 @@ bool DropFilter::eventFilter(QObject *object, QEvent *event)
 {
     const QEvent::Type type = event->type();
     if (type == QEvent::KeyPress && static_cast<QKeyEvent *>(event)->matches(QKeySequence::Paste)) {
-        const auto take = m_taking(QGuiApplication::clipboard()->mimeData(), QPoint(-1, -1));
+        const QMimeData *data = QGuiApplication::clipboard()->mimeData();
+        const auto take = data ? m_taking(data, QPoint(-1, -1)) : std::function<void()>();
         if (take)
             take();
         return bool(take);

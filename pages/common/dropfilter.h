@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QColor>
 #include <QObject>
 #include <QPoint>
 #include <QString>
@@ -16,9 +15,6 @@ QString droppedFile(const QMimeData *data, const QStringList &endings);
 
 /// The local path that a text like "file:///a%20b" names, of several lines the first; empty for another text.
 QString localPath(const QString &text);
-
-/// The colour that was dropped or pasted, as colour data or as a text "#rrggbb"; invalid when there is none.
-QColor droppedColor(const QMimeData *data);
 
 /// Lets a widget take what is dropped on it, or pasted while it has the focus. What doesn't fit is left to the widget
 /// when it is pasted; it can't be dropped.

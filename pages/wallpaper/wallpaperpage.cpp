@@ -1,6 +1,8 @@
 #include "pages/wallpaper/wallpaperpage.h"
 
 #include "freedesktop/images.h"
+#include "pages/common/colordrop.h"
+#include "pages/common/dropfilter.h"
 #include "pages/common/messagebox.h"
 #include "pages/common/waitcursor.h"
 #include "pages/wallpaper/keptpreview.h"
@@ -18,6 +20,7 @@
 #include <QDirModel>
 #include <QFileInfo>
 #include <QScreen>
+#include <QTimer>
 #include <QUrl>
 
 namespace {
@@ -62,6 +65,7 @@ WallpaperPage::WallpaperPage(QWidget *parent)
     m_ui->setupUi(this);
     m_ui->wallpaperLineEdit->setCompleter(createPathCompleter(this));
     m_ui->wallpaperLineEdit->setClearButtonEnabled(true);
+    new DropFilter(this, [this](const QMimeData *data, const QPoint & /*position*/) { return taking(data); });
 }
 
 WallpaperPage::~WallpaperPage() = default;
@@ -150,20 +154,34 @@ void WallpaperPage::selectWallpaperFile()
         this, tr("Select wallpaper image file"),
         selectionStart(m_ui->wallpaperLineEdit->text(), screenSize()),
         tr("Images (*.png *.xpm *.jpg *.jpeg *.svg *.svgz *.PNG *.XPM *.JPG *.JPEG *.SVG *.SVGZ)"));
-    QList<QUrl> places = dialog.sidebarUrls();
-    places += QUrl::fromLocalFile(QStringLiteral("/usr/share/wallpapers"));
-    dialog.setSidebarUrls(places);
+    dialog.setSidebarUrls(sidebarPlaces(dialog.sidebarUrls()));
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return;
-    QString file = dialog.selectedFiles().constFirst();
-    if (isSvg(file))
-        file = convertedFile(file);
+    takeFile(dialog.selectedFiles().constFirst());
+}
+
+/// Takes a file that the user has chosen or dropped.
+void WallpaperPage::takeFile(const QString &chosen)
+{
+    const QString file = isSvg(chosen) ? convertedFile(chosen) : chosen;
     if (file.isEmpty() || !QFileInfo::exists(file))
         return;
     if (file == m_ui->wallpaperLineEdit->text())
         slotWallpaperType(); // its content may be a new one
     else
         m_ui->wallpaperLineEdit->setText(file);
+}
+
+std::function<void()> WallpaperPage::taking(const QMimeData *data)
+{
+    if (const QColor color = colorOf(data); color.isValid())
+        return [this, color] { takeColor(color); };
+    const QString file = droppedFile(data,
+                                     QStringLiteral("png xpm jpg jpeg svg svgz").split(QLatin1Char(' ')));
+    if (file.isEmpty())
+        return {};
+    // When the drag has ended: a question would keep the program that it came from waiting.
+    return [this, file] { QTimer::singleShot(0, this, [this, file] { takeFile(file); }); };
 }
 
 /// The PNG made of the SVG \a file; empty when the user declines.
@@ -192,14 +210,22 @@ bool WallpaperPage::asks(const QString &title, const QString &question)
 void WallpaperPage::selectWallpaperColor()
 {
     const QColor color = QColorDialog::getColor(m_color, this, QString());
-    if (!color.isValid())
-        return;
+    if (color.isValid())
+        takeColor(color);
+}
+
+void WallpaperPage::takeColor(const QColor &color)
+{
     m_color = color;
     m_ui->wallpaperLineEdit->setText(color.name());
 }
 
 void WallpaperPage::selectWallpaper(const QString &text)
 {
+    if (const QString path = localPath(text); !path.isEmpty()) {
+        m_ui->wallpaperLineEdit->setText(path); // which draws the preview
+        return;
+    }
     if (isColorText(text))
         adoptColor(text);
     m_ui->wallpaperPixmapLabel->setPixmap(QPixmap::fromImage(preview(text)));

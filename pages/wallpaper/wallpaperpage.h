@@ -3,8 +3,10 @@
 #include <QColor>
 #include <QWidget>
 
+#include <functional>
 #include <memory>
 
+class QMimeData;
 class QazSettings;
 
 namespace Ui {
@@ -46,6 +48,10 @@ private:
     void loadGlobalValues(const QazSettings *settings);
     void connectWidgets();
     void clickFileButton();
+    void takeFile(const QString &chosen);
+    void takeColor(const QColor &color);
+    /// Takes a picture or a colour that is dropped on the page, or pasted into the line edit.
+    std::function<void()> taking(const QMimeData *data);
     QString convertedFile(const QString &file);
     bool asks(const QString &title, const QString &question);
     void adoptColor(const QString &text);

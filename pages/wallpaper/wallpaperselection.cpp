@@ -1,6 +1,7 @@
 #include "pages/wallpaper/wallpaperselection.h"
 
 #include "base/atomicfile.h"
+#include "freedesktop/dataroot.h"
 #include "freedesktop/images.h"
 #include "platform/wallpapersizeforscreen.h"
 #include "settings/backup.h"
@@ -10,6 +11,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QImage>
+#include <QStandardPaths>
 
 namespace {
 
@@ -43,6 +45,19 @@ QString selectionStart(const QString &text, const QSize &screenSize)
             return place;
     }
     return QDir::homePath();
+}
+
+QList<QUrl> sidebarPlaces(QList<QUrl> places)
+{
+    for (const QString &directory :
+         {QDir::homePath(), QStandardPaths::writableLocation(QStandardPaths::PicturesLocation),
+          directoryPath(DirectoryKind::Wallpapers), dataRoot() + QLatin1String("/wallpapers")}) {
+        const QUrl place = QUrl::fromLocalFile(directory);
+        if (QFileInfo(directory).isDir() && !places.contains(place))
+            places += place;
+    }
+    places += QUrl::fromLocalFile(systemWallpapers); // there or not
+    return places;
 }
 
 QString conversionTarget(const QString &path, const QSize &screenSize)

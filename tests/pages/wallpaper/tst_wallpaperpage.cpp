@@ -1,4 +1,5 @@
 #include "pages/wallpaper/wallpaperpage.h"
+#include "pages/wallpaper/wallpaperselection.h"
 #include "platform/qazsettings.h"
 #include "resources/registerresources.h"
 #include "tests/support/literals.h"
@@ -278,6 +279,78 @@ private slots:
         button->click();
         QCOMPARE(page.lineEdit->text(), "#a6caf0"_s);
         QVERIFY(page.driver.isDone());
+    }
+
+    void droppedAndPastedDataIsTaken_data()
+    {
+        QTest::addColumn<QString>("type");
+        QTest::addColumn<QString>("data"); // HOME stands for the home
+        QTest::addColumn<QString>("text"); // what is chosen; empty: nothing
+        const auto row = [](const char *title, const char *type, const char *data, const char *text) {
+            QTest::newRow(title) << QString::fromLatin1(type) << QString::fromLatin1(data)
+                                 << QString::fromLatin1(text);
+        };
+        row("picture", "text/uri-list", "file://HOME/a%20b.XPM\r\n", "HOME/a b.XPM");
+        row("first that fits", "text/uri-list",
+            "http://host/x.png\r\nfile://HOME/current.themerc\r\nfile://HOME/none.png\r\nfile://HOME/"
+            "a%20b.XPM\r\n",
+            "HOME/a b.XPM");
+        row("picture as text", "text/plain", "file://HOME/a%20b.XPM", "HOME/a b.XPM");
+        row("colour", "text/plain", " #A6caf0\n", "#a6caf0");
+        row("no picture", "text/uri-list", "file://HOME/current.themerc\r\n", "");
+        row("other text", "text/plain", "#a6caf", "");
+    }
+    void droppedAndPastedDataIsTaken()
+    {
+        QFETCH(QString, type);
+        QFETCH(QString, data);
+        QFETCH(QString, text);
+        const bool fits = !text.isEmpty();
+        for (const char *target : {"", "wallpaperLineEdit", "qt_spinbox_lineedit", "paste"}) {
+            Page page("WallPaper=/x\n");
+            page.home.write("a b.XPM"_s, picture("red"));
+            const QString expected = fits ? QString(text).replace("HOME"_s, page.home.path()) : "/x"_s;
+            auto *mime = new QMimeData;
+            mime->setData(type, QString(data).replace("HOME"_s, page.home.path()).toLatin1());
+            if (QLatin1String(target) == QLatin1String("paste")) {
+                QGuiApplication::clipboard()->setMimeData(mime);
+                if (fits)
+                    QTest::keyClick(page.lineEdit, Qt::Key_V, Qt::ControlModifier);
+            } else {
+                const std::unique_ptr<QMimeData> owner(mime);
+                QWidget *child = page.child<QWidget>(target);
+                QDragEnterEvent enter({1, 1}, Qt::MoveAction | Qt::CopyAction, mime, Qt::LeftButton, {});
+                QDropEvent drop({1, 1}, Qt::MoveAction | Qt::CopyAction, mime, Qt::LeftButton, {});
+                for (QDropEvent *event : {static_cast<QDropEvent *>(&enter), &drop}) {
+                    QCoreApplication::sendEvent(child ? child : &page.page, event);
+                    QCOMPARE(event->isAccepted(), fits);
+                }
+            }
+            QTRY_COMPARE(page.lineEdit->text(), expected);
+            QCOMPARE(page.changed.count() > 0, fits);
+        }
+    }
+
+    void sidebarHasThePlacesOfPictures()
+    {
+        const TemporaryHome home;
+        const ScopedEnvironment data("QAZ_DATA_DIR", QFile::encodeName(home.path("data"_s)));
+        const QUrl own("file:///own"_s), last("file:///usr/share/wallpapers"_s),
+            atHome = QUrl::fromLocalFile(home.path());
+        QCOMPARE(sidebarPlaces({own}), QList<QUrl>({own, atHome, last}));
+        QList<QUrl> expected = {atHome, own};
+        for (const QString &place : {"Pictures"_s, ".local/share/wallpapers"_s, "data/wallpapers"_s}) {
+            QVERIFY(home.makeDirectory(place));
+            expected += QUrl::fromLocalFile(home.path(place));
+        }
+        QCOMPARE(sidebarPlaces({atHome, own}), expected << last);
+    }
+
+    void addressesBecomePaths()
+    {
+        Page page("WallPaper=/x\n");
+        page.lineEdit->setText("file:///a%20b.png"_s); // typed, or pasted with the mouse
+        QCOMPARE(page.lineEdit->text(), "/a b.png"_s);
     }
 };
 
