@@ -3,10 +3,12 @@
 #include "fonts/kxftconfig.h"
 #include "fonts/lcdfiltering.h"
 #include "fonts/subpixelswatch.h"
+#include "platform/qazhelp.h"
 #include "settings/renderingstore.h"
 #include "ui_fontaasettingsform.h"
 
 #include <QPushButton>
+#include <QShortcut>
 #include <QSignalBlocker>
 
 namespace {
@@ -20,12 +22,6 @@ constexpr HintStyle hintStyles[] = {HintStyle::None, HintStyle::Slight, HintStyl
 
 constexpr ExcludeRange defaultPixels{0, 14};
 constexpr ExcludeRange defaultPoints{0, 10};
-
-bool isLcdFilteringSupported()
-{
-    static LcdFilterSupport support(probeLcdFiltering);
-    return support.isSupported();
-}
 
 /// The value that \a spinBox shows for \a value.
 double shownValue(const QDoubleSpinBox *spinBox, double value)
@@ -49,9 +45,11 @@ FontAASettings::FontAASettings(QWidget *parent)
     connect(m_ui->buttonBox, &QDialogButtonBox::accepted, this, &FontAASettings::accept);
     connect(m_ui->buttonBox, &QDialogButtonBox::rejected, this, &FontAASettings::reject);
 
+    connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this,
+            [] { qazHelpShow(QStringLiteral("antialiasing")); });
+
     showExcludeRange(defaultRange());
     load();
-    enableWidgets();
 
     connect(m_ui->excludeRangeCheckBox, &QCheckBox::toggled, this, &FontAASettings::rangeChanged);
     connect(m_ui->useSubPixelCheckBox, &QCheckBox::toggled, this, &FontAASettings::changed);

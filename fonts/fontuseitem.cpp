@@ -7,11 +7,9 @@
 
 #include <QFontInfo>
 
-FontUseItem::FontUseItem(QWidget *parent, const QString &name, const QString &group, const QString &key,
-                         const QString &resourceFile, const QFont &defaultFont, bool onlyFixed)
+FontUseItem::FontUseItem(QWidget *parent, const QString &name, const QString &key, const QFont &defaultFont,
+                         bool onlyFixed)
     : KFontRequester(parent, onlyFixed)
-    , m_resourceFile(resourceFile)
-    , m_group(group)
     , m_key(key)
     , m_defaultFont(defaultFont)
 {

@@ -11,8 +11,8 @@ class FontUseItem : public KFontRequester
 {
     Q_OBJECT
 public:
-    FontUseItem(QWidget *parent, const QString &name, const QString &group, const QString &key,
-                const QString &resourceFile, const QFont &defaultFont, bool onlyFixed = false);
+    FontUseItem(QWidget *parent, const QString &name, const QString &key, const QFont &defaultFont,
+                bool onlyFixed = false);
 
     /// Selects the stored font; the default one when nothing usable is stored.
     void loadFont(QazSettings *settings);
@@ -25,8 +25,6 @@ public:
     void applyChosenFont(const QFont &chosen);
 
 private:
-    QString m_resourceFile; // of a role in resource files and groups of its own; the theme file has neither
-    QString m_group;
     QString m_key;
     QFont m_defaultFont;
 };

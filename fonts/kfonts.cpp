@@ -122,9 +122,8 @@ void KFonts::addRoles(QGridLayout *grid)
     grid->setColumnStretch(2, 0);
     for (const FontRole &role : fontRoles) {
         const QString key = QLatin1String(role.key);
-        auto *item = new FontUseItem(
-            this, tr(role.label), QLatin1String(role.group), key, QLatin1String(role.resourceFile),
-            QFont(QLatin1String(role.family), role.pointSize, role.weight), role.fixedOnly);
+        const QFont defaultFont(QLatin1String(roleFamily), rolePointSize, role.isBold ? QFont::Bold : -1);
+        auto *item = new FontUseItem(this, tr(role.label), key, defaultFont);
         item->setObjectName(key);
         m_fontUseItems.append(item);
         connect(item, &FontUseItem::fontSelected, this, &KFonts::fontSelected);

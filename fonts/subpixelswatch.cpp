@@ -1,43 +1,19 @@
 #include "fonts/subpixelswatch.h"
 
-#include <iterator>
-
-namespace {
-
-// clang-format off
-constexpr const char *rgbSwatch[] = {
-    "12 12 3 1", "r c #e01b24", "g c #26a269", "b c #1a5fb4",
-    "rrrrggggbbbb", "rrrrggggbbbb", "rrrrggggbbbb", "rrrrggggbbbb",
-    "rrrrggggbbbb", "rrrrggggbbbb", "rrrrggggbbbb", "rrrrggggbbbb",
-    "rrrrggggbbbb", "rrrrggggbbbb", "rrrrggggbbbb", "rrrrggggbbbb"};
-
-constexpr const char *bgrSwatch[] = {
-    "12 12 3 1", "r c #e01b24", "g c #26a269", "b c #1a5fb4",
-    "bbbbggggrrrr", "bbbbggggrrrr", "bbbbggggrrrr", "bbbbggggrrrr",
-    "bbbbggggrrrr", "bbbbggggrrrr", "bbbbggggrrrr", "bbbbggggrrrr",
-    "bbbbggggrrrr", "bbbbggggrrrr", "bbbbggggrrrr", "bbbbggggrrrr"};
-
-constexpr const char *verticalRgbSwatch[] = {
-    "12 12 3 1", "r c #e01b24", "g c #26a269", "b c #1a5fb4",
-    "rrrrrrrrrrrr", "rrrrrrrrrrrr", "rrrrrrrrrrrr", "rrrrrrrrrrrr",
-    "gggggggggggg", "gggggggggggg", "gggggggggggg", "gggggggggggg",
-    "bbbbbbbbbbbb", "bbbbbbbbbbbb", "bbbbbbbbbbbb", "bbbbbbbbbbbb"};
-
-constexpr const char *verticalBgrSwatch[] = {
-    "12 12 3 1", "r c #e01b24", "g c #26a269", "b c #1a5fb4",
-    "bbbbbbbbbbbb", "bbbbbbbbbbbb", "bbbbbbbbbbbb", "bbbbbbbbbbbb",
-    "gggggggggggg", "gggggggggggg", "gggggggggggg", "gggggggggggg",
-    "rrrrrrrrrrrr", "rrrrrrrrrrrr", "rrrrrrrrrrrr", "rrrrrrrrrrrr"};
-// clang-format on
-
-constexpr const char *const *swatches[] = {nullptr, rgbSwatch, bgrSwatch, verticalRgbSwatch,
-                                           verticalBgrSwatch};
-static_assert(std::size(swatches) == std::size_t(SubPixelOrder::Count));
-
-} // namespace
+#include <QPainter>
 
 QPixmap subPixelSwatch(SubPixelOrder order)
 {
-    const char *const *swatch = swatches[std::size_t(order)];
-    return swatch ? QPixmap(swatch) : QPixmap();
+    constexpr int extent = 12;
+    constexpr int stripe = extent / 3;
+    const QColor colors[] = {0xe01b24, 0x26a269, 0x1a5fb4};
+    const bool isVertical = order == SubPixelOrder::VerticalRgb || order == SubPixelOrder::VerticalBgr;
+    const bool beginsWithRed = order == SubPixelOrder::Rgb || order == SubPixelOrder::VerticalRgb;
+    QPixmap swatch(extent, extent);
+    QPainter painter(&swatch);
+    for (int i = 0; i < 3; ++i)
+        painter.fillRect(isVertical ? QRect(0, i * stripe, extent, stripe)
+                                    : QRect(i * stripe, 0, stripe, extent),
+                         colors[beginsWithRed ? i : 2 - i]);
+    return swatch;
 }

@@ -4,6 +4,5 @@
 
 #include <QPixmap>
 
-/// A picture of one pixel, 12 by 12, that shows where its red, green and blue stripes lie; null for
-/// SubPixelOrder::None.
+/// A picture of one pixel, 12 by 12, that shows where its red, green and blue stripes lie.
 QPixmap subPixelSwatch(SubPixelOrder order);

@@ -402,7 +402,7 @@ Duración: %5 s</translation>
     <name>FontAASettings</name>
     <message>
         <source>The font settings could not be saved in the file &apos;%1&apos;: %2</source>
-        <translation>No se pudo guardar la configuración de los tipos de letra en el archivo «%1»: %2</translation>
+        <translation>No se pudieron guardar los ajustes de las fuentes en el archivo «%1»: %2</translation>
     </message>
 </context>
 <context>

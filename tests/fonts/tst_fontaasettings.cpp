@@ -1,6 +1,6 @@
 #include "fonts/fontaasettings.h"
-#include "fonts/lcdfiltering.h"
 #include "fonts/subpixelswatch.h"
+#include "resources/registerresources.h"
 #include "tests/support/modaldriver.h"
 #include "tests/support/temporaryhome.h"
 
@@ -11,6 +11,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QSettings>
+#include <QTextBrowser>
 #include <QtTest>
 
 namespace {
@@ -213,6 +214,28 @@ private slots:
         QVERIFY(driver.isDone());
     }
 
+    void helpCanBeReadBesideTheDialog()
+    {
+        registerResources();
+        DialogOverFile file({});
+        ModalDriver driver;
+        driver.then([](QDialog *dialog) {
+            QTest::keyClick(dialog, Qt::Key_F1);
+            QTextBrowser *help = nullptr;
+            for (QWidget *window : QApplication::topLevelWidgets()) {
+                if (window->objectName() == QLatin1String("helpWindow"))
+                    help = qobject_cast<QTextBrowser *>(window);
+            }
+            QVERIFY(help && help->isVisible());
+            QCOMPARE(help->source().fragment(), QStringLiteral("antialiasing"));
+            QCOMPARE(dialog->windowModality(), Qt::WindowModal); // which leaves the help alone
+            help->close();
+            dialog->reject();
+        });
+        file.dialog->exec();
+        QVERIFY(driver.isDone());
+    }
+
     void unknownNamesHaveAFallback()
     {
         QCOMPARE(FontRendering::fileName(SubPixelOrder::VerticalRgb), QStringLiteral("vrgb"));
@@ -221,16 +244,6 @@ private slots:
         QCOMPARE(FontRendering::fileName(HintStyle::NotSet), QStringLiteral("hintmedium"));
         QCOMPARE(FontRendering::subPixelOrder(QStringLiteral("RGB")), SubPixelOrder::None);
         QCOMPARE(FontRendering::hintStyle(QString()), HintStyle::NotSet);
-    }
-
-    void uncertainAnswerIsAskedForAgain()
-    {
-        QVector<LcdFiltering> answers = {LcdFiltering::Unknown, LcdFiltering::No, LcdFiltering::Yes};
-        LcdFilterSupport support([&answers] { return answers.takeFirst(); });
-        QVERIFY(support.isSupported());
-        QVERIFY(!support.isSupported());
-        QVERIFY(!support.isSupported());
-        QCOMPARE(answers.size(), 1);
     }
 
     void swatchesShowTheStripes()

@@ -2,7 +2,6 @@
 
 #include "fonts/fontuseitem.h"
 #include "platform/qazsettings.h"
-#include "settings/fontroles.h"
 #include "tests/support/fakeprogram.h"
 #include "tests/support/modaldriver.h"
 #include "tests/support/temporaryhome.h"
@@ -24,6 +23,22 @@ const QString messageBox = QStringLiteral(
     "Font Settings Changed|<p>Some changes such as anti-aliasing or DPI will only affect newly started "
     "applications.</p>");
 const QFont mono(QStringLiteral("DejaVu Sans Mono"), 12, QFont::Bold);
+
+constexpr struct {
+    const char *key;
+    const char *label;
+    const char *help;
+} roles[] = {{"DefaultFont", "General", "Default."},
+             {"TitleFont", "Title", "Window titles."},
+             {"StartMenuFont", "Start Menu", "Start menu."},
+             {"CascadeMenuFont", "Cascade Menu", "Cascade menus, context menus."},
+             {"CtrlMenuFont", "Control Menu", "Control menus."},
+             {"DialogFont", "Dialog", "Dialogs."},
+             {"TaskbarFont", "Taskbar", "Taskbar."},
+             {"TaskbarBoldFont", "Taskbar bold", "Taskbar bold."},
+             {"TaskbarClockFont", "Taskbar clock", "Taskbar clock."},
+             {"IconFont", "Icon", "Icons."},
+             {"TooltipFont", "Tooltip", "Tooltips."}};
 
 /// The page as the dialog uses it: a fresh store on the theme file for each load and save.
 class Editor
@@ -73,12 +88,12 @@ private slots:
         QProcess::execute(QStringLiteral("xrdb"), {QStringLiteral("-quiet"), QStringLiteral("-remove")});
     }
 
-    void rolesFollowTheTable()
+    void rolesStandInTheirOrder()
     {
         const TemporaryHome home;
         QByteArray theme;
         int size = 6;
-        for (const FontRole &role : fontRoles)
+        for (const auto &role : roles)
             theme += QByteArray(role.key) + "=DejaVu Sans-" + QByteArray::number(size++) + ":bold\n";
         home.write(QStringLiteral("theme"), theme);
         const Editor editor(home);
@@ -86,13 +101,18 @@ private slots:
         const QList<FontUseItem *> items = editor.page.findChildren<FontUseItem *>();
         QCOMPARE(items.size(), 11);
         for (int i = 0; i < items.size(); ++i) {
-            const QString key = QLatin1String(fontRoles[i].key);
-            QCOMPARE(items.at(i)->objectName(), key);
+            QCOMPARE(items.at(i)->objectName(), QLatin1String(roles[i].key));
             const auto *preview = items.at(i)->findChild<QLabel *>();
             QCOMPARE(preview->text(), QStringLiteral("DejaVu Sans %1").arg(6 + i));
-            const auto *label = editor.page.findChild<QLabel *>(key + QLatin1String("Label"));
-            QCOMPARE(preview->toolTip(), QStringLiteral("Preview of the \"%1\" font").arg(label->text()));
-            QCOMPARE(label->whatsThis(), QLatin1String(fontRoles[i].help));
+            const QString name = QLatin1String(roles[i].label);
+            QCOMPARE(preview->toolTip(), QStringLiteral("Preview of the \"%1\" font").arg(name));
+            const auto *label = editor.page.findChild<QLabel *>(items.at(i)->objectName()
+                                                                + QLatin1String("Label"));
+            QCOMPARE(label->text(), name);
+            QCOMPARE(label->whatsThis(), QLatin1String(roles[i].help));
+            items.at(i)->restoreDefault();
+            QCOMPARE(items.at(i)->font().bold(), i == 7);
+            QCOMPARE(items.at(i)->font().pointSize(), 10);
         }
     }
 
@@ -108,7 +128,7 @@ private slots:
         for (const QString &command : manager.take())
             announced.append(command.section(QLatin1Char(' '), 0, 1));
         QStringList expected;
-        for (const FontRole &role : fontRoles) {
+        for (const auto &role : roles) {
             QVERIFY2(saved.contains(QByteArray(role.key) + "=DejaVu Sans"), saved.constData());
             expected.append(QLatin1String("QAZWM_UPDATE_VAL ") + QLatin1String(role.key));
         }

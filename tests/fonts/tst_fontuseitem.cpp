@@ -18,7 +18,7 @@ class TitleItem : public FontUseItem
 {
 public:
     explicit TitleItem(const QFont &font, bool onlyFixed = false)
-        : FontUseItem(nullptr, QStringLiteral("Title"), {}, QStringLiteral("TitleFont"), {}, font, onlyFixed)
+        : FontUseItem(nullptr, QStringLiteral("Title"), QStringLiteral("TitleFont"), font, onlyFixed)
     {
         restoreDefault();
     }

@@ -107,9 +107,9 @@ void TestGuide::chaptersLinksAndPicturesAreThere()
     const QStringList chapters = captured(text, QStringLiteral("<a name=\"(\\w+)\">"));
     QCOMPARE(chapters,
              QStringList({QStringLiteral("index"), QStringLiteral("wallpaper"), QStringLiteral("theme"),
-                          QStringLiteral("font"), QStringLiteral("screensaver"), QStringLiteral("effect"),
-                          QStringLiteral("sound"), QStringLiteral("restore"), QStringLiteral("files"),
-                          QStringLiteral("keys")}));
+                          QStringLiteral("font"), QStringLiteral("antialiasing"),
+                          QStringLiteral("screensaver"), QStringLiteral("effect"), QStringLiteral("sound"),
+                          QStringLiteral("restore"), QStringLiteral("files"), QStringLiteral("keys")}));
     const QStringList links = captured(text, QStringLiteral("href=\"([^\"]*)\""));
     QCOMPARE(QSet<QString>(links.cbegin(), links.cend()).size(), chapters.size());
     for (const QString &link : links)
