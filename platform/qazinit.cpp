@@ -10,7 +10,6 @@
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QScreen>
-#include <QSettings>
 #include <QTranslator>
 
 #include <algorithm>
@@ -41,9 +40,6 @@ void useOwnIconsAsFallback()
 bool qazInit(const char *version, const char * /*title*/)
 {
     makeDirectories(QFile::decodeName(GetQazDir(2)));
-    // Else QSettings takes a relative path for one below the home directory.
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
-                       xdgDirectory("XDG_CONFIG_HOME", "/.config"));
     QCoreApplication::setOrganizationName(QStringLiteral("qaz"));
     QCoreApplication::setApplicationName(QStringLiteral("qaz-admin-theme"));
     // The title is no display name on purpose: Qt would append it to every window title.

@@ -84,7 +84,7 @@ private slots:
         }
 
         QRandomGenerator random(1);
-        constexpr int rounds = 300;
+        constexpr int rounds = 150;
         int finished = 0;
         for (int round = 0; round < rounds; ++round) {
             putBack();
