@@ -1,8 +1,6 @@
 #include "resources/registerresources.h"
 
-#include <QtPlugin>
-
-Q_IMPORT_PLUGIN(PngReader)
+#include <QtGlobal>
 
 void registerResources()
 {
