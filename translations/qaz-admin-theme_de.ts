@@ -866,6 +866,22 @@ Länge: %5 s</translation>
         <source>Paging</source>
         <translation>Wechsel der Arbeitsfläche</translation>
     </message>
+    <message>
+        <source>Choosing a theme takes its sound for every event. Files that you chose yourself stay.</source>
+        <translation>Die Wahl eines Designs übernimmt dessen Klang für jedes Ereignis. Selbst gewählte Dateien bleiben.</translation>
+    </message>
+    <message>
+        <source>Without it the window manager plays no sound. The assignments are kept.</source>
+        <translation>Ohne dies spielt die Fensterverwaltung keinen Klang. Die Zuordnungen bleiben erhalten.</translation>
+    </message>
+    <message>
+        <source>Takes the theme&apos;s sounds for all events, also in place of your own files.</source>
+        <translation>Übernimmt die Klänge des Designs für alle Ereignisse, auch anstelle eigener Dateien.</translation>
+    </message>
+    <message>
+        <source>Each event of the window manager with its sound: a file of yours, a built-in file or a sound of the theme. Return chooses a file, Delete removes it. A sound file can be dropped on a row.</source>
+        <translation>Jedes Ereignis der Fensterverwaltung mit seinem Klang: eine eigene Datei, eine eingebaute Datei oder ein Klang des Designs. Die Eingabetaste wählt eine Datei, Entf entfernt sie. Eine Klangdatei kann auf einer Zeile abgelegt werden.</translation>
+    </message>
 </context>
 <context>
     <name>SoundPage</name>
@@ -1316,6 +1332,22 @@ Leerzeichen, Anführungszeichen, umgekehrte Schrägstriche und Steuerzeichen sin
     <message>
         <source>for current desktop only</source>
         <translation>nur für die aktuelle Arbeitsfläche</translation>
+    </message>
+    <message>
+        <source>What stands behind all windows: an image file, the name of a wallpaper such as qaz-default, or a color such as #3a6ea5. An empty field means the color that was chosen last. Files and colors can be dropped here.</source>
+        <translation>Was hinter allen Fenstern steht: eine Bilddatei, der Name eines Hintergrundbilds wie qaz-default oder eine Farbe wie #3a6ea5. Ein leeres Feld bedeutet die zuletzt gewählte Farbe. Dateien und Farben können hier abgelegt werden.</translation>
+    </message>
+    <message>
+        <source>Center shows the picture in its own size, Tile repeats it, Stretch makes it fill the screen.</source>
+        <translation>„Zentriert“ zeigt das Bild in seiner Größe, „Gekachelt“ wiederholt es, „Gestreckt“ füllt damit den Bildschirm.</translation>
+    </message>
+    <message>
+        <source>After how many minutes the next picture of the same directory is shown, from 0 to 3600. 0 means that the picture stays.</source>
+        <translation>Nach wie vielen Minuten das nächste Bild desselben Ordners gezeigt wird, von 0 bis 3600. 0 bedeutet, dass das Bild bleibt.</translation>
+    </message>
+    <message>
+        <source>Stores the wallpaper for the virtual desktop in view only. Position and slide show belong to all desktops.</source>
+        <translation>Speichert den Hintergrund nur für die sichtbare Arbeitsfläche. Position und Diaschau gelten für alle Arbeitsflächen.</translation>
     </message>
 </context>
 <context>

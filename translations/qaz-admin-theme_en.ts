@@ -866,6 +866,22 @@ Length: %5 s</translation>
         <source>Paging</source>
         <translation>Paging</translation>
     </message>
+    <message>
+        <source>Choosing a theme takes its sound for every event. Files that you chose yourself stay.</source>
+        <translation>Choosing a theme takes its sound for every event. Files that you chose yourself stay.</translation>
+    </message>
+    <message>
+        <source>Without it the window manager plays no sound. The assignments are kept.</source>
+        <translation>Without it the window manager plays no sound. The assignments are kept.</translation>
+    </message>
+    <message>
+        <source>Takes the theme&apos;s sounds for all events, also in place of your own files.</source>
+        <translation>Takes the theme&apos;s sounds for all events, also in place of your own files.</translation>
+    </message>
+    <message>
+        <source>Each event of the window manager with its sound: a file of yours, a built-in file or a sound of the theme. Return chooses a file, Delete removes it. A sound file can be dropped on a row.</source>
+        <translation>Each event of the window manager with its sound: a file of yours, a built-in file or a sound of the theme. Return chooses a file, Delete removes it. A sound file can be dropped on a row.</translation>
+    </message>
 </context>
 <context>
     <name>SoundPage</name>
@@ -1316,6 +1332,22 @@ Blanks, quotation marks, backslashes and control characters are not safe.</trans
     <message>
         <source>for current desktop only</source>
         <translation>for current desktop only</translation>
+    </message>
+    <message>
+        <source>What stands behind all windows: an image file, the name of a wallpaper such as qaz-default, or a color such as #3a6ea5. An empty field means the color that was chosen last. Files and colors can be dropped here.</source>
+        <translation>What stands behind all windows: an image file, the name of a wallpaper such as qaz-default, or a color such as #3a6ea5. An empty field means the color that was chosen last. Files and colors can be dropped here.</translation>
+    </message>
+    <message>
+        <source>Center shows the picture in its own size, Tile repeats it, Stretch makes it fill the screen.</source>
+        <translation>Center shows the picture in its own size, Tile repeats it, Stretch makes it fill the screen.</translation>
+    </message>
+    <message>
+        <source>After how many minutes the next picture of the same directory is shown, from 0 to 3600. 0 means that the picture stays.</source>
+        <translation>After how many minutes the next picture of the same directory is shown, from 0 to 3600. 0 means that the picture stays.</translation>
+    </message>
+    <message>
+        <source>Stores the wallpaper for the virtual desktop in view only. Position and slide show belong to all desktops.</source>
+        <translation>Stores the wallpaper for the virtual desktop in view only. Position and slide show belong to all desktops.</translation>
     </message>
 </context>
 <context>

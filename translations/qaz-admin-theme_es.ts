@@ -866,6 +866,22 @@ Duración: %5 s</translation>
         <source>Paging</source>
         <translation>Cambio de escritorio</translation>
     </message>
+    <message>
+        <source>Choosing a theme takes its sound for every event. Files that you chose yourself stay.</source>
+        <translation>Elegir un tema toma su sonido para cada evento. Los archivos que usted eligió se mantienen.</translation>
+    </message>
+    <message>
+        <source>Without it the window manager plays no sound. The assignments are kept.</source>
+        <translation>Sin esto el gestor de ventanas no reproduce ningún sonido. Las asignaciones se conservan.</translation>
+    </message>
+    <message>
+        <source>Takes the theme&apos;s sounds for all events, also in place of your own files.</source>
+        <translation>Toma los sonidos del tema para todos los eventos, también en lugar de sus propios archivos.</translation>
+    </message>
+    <message>
+        <source>Each event of the window manager with its sound: a file of yours, a built-in file or a sound of the theme. Return chooses a file, Delete removes it. A sound file can be dropped on a row.</source>
+        <translation>Cada evento del gestor de ventanas con su sonido: un archivo propio, un archivo interno o un sonido del tema. Intro elige un archivo, Supr lo quita. Se puede soltar un archivo de sonido en una fila.</translation>
+    </message>
 </context>
 <context>
     <name>SoundPage</name>
@@ -1316,6 +1332,22 @@ Los espacios, las comillas, las barras invertidas y los caracteres de control no
     <message>
         <source>for current desktop only</source>
         <translation>solo para el escritorio actual</translation>
+    </message>
+    <message>
+        <source>What stands behind all windows: an image file, the name of a wallpaper such as qaz-default, or a color such as #3a6ea5. An empty field means the color that was chosen last. Files and colors can be dropped here.</source>
+        <translation>Lo que hay detrás de todas las ventanas: un archivo de imagen, el nombre de un fondo como qaz-default o un color como #3a6ea5. Un campo vacío significa el último color elegido. Aquí se pueden soltar archivos y colores.</translation>
+    </message>
+    <message>
+        <source>Center shows the picture in its own size, Tile repeats it, Stretch makes it fill the screen.</source>
+        <translation>«Centrado» muestra la imagen en su tamaño, «Mosaico» la repite, «Estirado» llena con ella la pantalla.</translation>
+    </message>
+    <message>
+        <source>After how many minutes the next picture of the same directory is shown, from 0 to 3600. 0 means that the picture stays.</source>
+        <translation>Tras cuántos minutos se muestra la siguiente imagen de la misma carpeta, de 0 a 3600. 0 significa que la imagen no cambia.</translation>
+    </message>
+    <message>
+        <source>Stores the wallpaper for the virtual desktop in view only. Position and slide show belong to all desktops.</source>
+        <translation>Guarda el fondo solo para el escritorio virtual a la vista. La posición y el pase son comunes a todos los escritorios.</translation>
     </message>
 </context>
 <context>

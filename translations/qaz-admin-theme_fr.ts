@@ -866,6 +866,22 @@ Durée : %5 s</translation>
         <source>Paging</source>
         <translation>Changement de bureau</translation>
     </message>
+    <message>
+        <source>Choosing a theme takes its sound for every event. Files that you chose yourself stay.</source>
+        <translation>Choisir un thème prend son son pour chaque événement. Les fichiers choisis vous-même restent.</translation>
+    </message>
+    <message>
+        <source>Without it the window manager plays no sound. The assignments are kept.</source>
+        <translation>Sans cela, le gestionnaire de fenêtres ne joue aucun son. Les affectations sont conservées.</translation>
+    </message>
+    <message>
+        <source>Takes the theme&apos;s sounds for all events, also in place of your own files.</source>
+        <translation>Prend les sons du thème pour tous les événements, y compris à la place de vos propres fichiers.</translation>
+    </message>
+    <message>
+        <source>Each event of the window manager with its sound: a file of yours, a built-in file or a sound of the theme. Return chooses a file, Delete removes it. A sound file can be dropped on a row.</source>
+        <translation>Chaque événement du gestionnaire de fenêtres avec son son : un fichier à vous, un fichier intégré ou un son du thème. Entrée choisit un fichier, Suppr le retire. Un fichier son peut être déposé sur une ligne.</translation>
+    </message>
 </context>
 <context>
     <name>SoundPage</name>
@@ -1316,6 +1332,22 @@ Les espaces, guillemets, barres obliques inverses et caractères de contrôle ne
     <message>
         <source>for current desktop only</source>
         <translation>pour le bureau actuel seulement</translation>
+    </message>
+    <message>
+        <source>What stands behind all windows: an image file, the name of a wallpaper such as qaz-default, or a color such as #3a6ea5. An empty field means the color that was chosen last. Files and colors can be dropped here.</source>
+        <translation>Ce qui se trouve derrière toutes les fenêtres : un fichier image, le nom d’un fond d’écran comme qaz-default, ou une couleur comme #3a6ea5. Un champ vide désigne la dernière couleur choisie. Des fichiers et des couleurs peuvent être déposés ici.</translation>
+    </message>
+    <message>
+        <source>Center shows the picture in its own size, Tile repeats it, Stretch makes it fill the screen.</source>
+        <translation>« Centré » montre l’image à sa taille, « Mosaïque » la répète, « Étiré » en remplit l’écran.</translation>
+    </message>
+    <message>
+        <source>After how many minutes the next picture of the same directory is shown, from 0 to 3600. 0 means that the picture stays.</source>
+        <translation>Au bout de combien de minutes l’image suivante du même dossier est affichée, de 0 à 3600. 0 signifie que l’image reste.</translation>
+    </message>
+    <message>
+        <source>Stores the wallpaper for the virtual desktop in view only. Position and slide show belong to all desktops.</source>
+        <translation>N’enregistre le fond que pour le bureau virtuel affiché. La position et le diaporama valent pour tous les bureaux.</translation>
     </message>
 </context>
 <context>
