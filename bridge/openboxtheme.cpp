@@ -1,11 +1,9 @@
 #include "bridge/openboxtheme.h"
 
-#include "settings/colorelements.h"
 #include "settings/colortexts.h"
+#include "settings/themekeys.h"
 
 #include <QColor>
-
-#include <algorithm>
 
 namespace {
 
@@ -44,16 +42,11 @@ constexpr char fixedLines[] = "border.width: 1\n"
                               "menu.items.active.bg: Flat Solid\n"
                               "window.label.text.justify: left\n";
 
-const ColorElement &elementOf(const char *key)
+QByteArray colorName(const ValueOf &value, const QByteArray &key)
 {
-    return *std::find_if(std::begin(colorElements), std::end(colorElements),
-                         [key](const ColorElement &element) { return qstrcmp(element.key, key) == 0; });
-}
-
-QByteArray colorName(const ValueOf &value, const QByteArray &key, const char *defaultColor)
-{
-    const QString fallback = QString::fromLatin1(defaultColor);
-    const QColor color(currentColorText(value(key.constData(), defaultColor), fallback));
+    const QString fallback = QString::fromLatin1(themeKey(key.constData()).defaultText);
+    const QColor color(
+        currentColorText(value(key.constData(), themeKey(key.constData()).defaultText), fallback));
     return (color.isValid() ? color : QColor(fallback)).name().toLatin1();
 }
 
@@ -63,19 +56,16 @@ QByteArray openboxTheme(const ValueOf &value)
 {
     QByteArray text = fixedLines;
     for (const Part &part : plainParts) {
-        const QByteArray color = colorName(value, part.key, elementOf(part.key).defaultColor);
+        const QByteArray color = colorName(value, part.key);
         for (const QByteArray &line : QByteArray(part.lines).split(' '))
             text += line + ": " + color + '\n';
     }
     for (const Part &part : filledParts) {
-        const ColorElement &element = elementOf(part.key);
-        const QByteArray from = colorName(value, part.key, element.defaultColor);
-        const QByteArray to = colorName(value, QByteArray(part.key) + '2', element.secondDefault);
+        const QByteArray from = colorName(value, part.key);
+        const QByteArray to = colorName(value, QByteArray(part.key) + '2');
         for (const QByteArray &line : QByteArray(part.lines).split(' '))
             text += line + (from == to ? ": Flat Solid\n" : ": Flat Gradient Horizontal\n") + line
                     + ".color: " + from + '\n' + line + ".colorTo: " + to + '\n';
     }
-    return text + "menu.title.text.color: "
-           + colorName(value, "TitleStringActiveColor", elementOf("TitleStringActiveColor").defaultColor)
-           + '\n';
+    return text + "menu.title.text.color: " + colorName(value, "TitleStringActiveColor") + '\n';
 }

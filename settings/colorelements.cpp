@@ -4,42 +4,40 @@
 #include "settings/colortexts.h"
 #include "settings/updatevalues.h"
 
-bool isGradient(const ColorElement &element)
+std::vector<ColorElement> colorElements()
 {
-    return element.secondDefault != nullptr;
-}
-
-QStringList colorKeys(const ColorElement &element)
-{
-    const QString key = QLatin1String(element.key);
-    return isGradient(element) ? QStringList{key, key + QLatin1Char('2')} : QStringList{key};
-}
-
-QStringList defaultColors(const ColorElement &element)
-{
-    const QString color = QLatin1String(element.defaultColor);
-    return isGradient(element) ? QStringList{color, QLatin1String(element.secondDefault)}
-                               : QStringList{color};
+    std::vector<ColorElement> elements;
+    for (const ThemeKey &key : themeKeys) {
+        if (key.kind != KeyKind::Color)
+            continue;
+        if (QLatin1String(key.name).endsWith(QLatin1Char('2')))
+            elements.back().push_back(&key);
+        else
+            elements.push_back({&key});
+    }
+    return elements;
 }
 
 QStringList storedColors(const ColorElement &element, const QazSettings &settings)
 {
-    const QStringList keys = colorKeys(element);
-    QStringList colors = defaultColors(element);
-    for (int i = 0; i < keys.size(); ++i)
-        colors[i] = currentColorText(settings.value(keys.at(i), colors.at(i)).toString(), colors.at(i));
+    QStringList colors;
+    for (const ThemeKey *key : element) {
+        const QString defaultColor = QLatin1String(key->defaultText);
+        colors += currentColorText(settings.value(QLatin1String(key->name), defaultColor).toString(),
+                                   defaultColor);
+    }
     return colors;
 }
 
 void saveColors(const ColorElement &element, const QStringList &colors, QazSettings *settings)
 {
-    const QStringList keys = colorKeys(element);
-    const QStringList defaults = defaultColors(element);
-    for (int i = 0; i < keys.size(); ++i)
-        updateStringValue(settings, keys.at(i), defaults.at(i), colors.at(i));
+    int i = 0;
+    for (const ThemeKey *key : element)
+        updateStringValue(settings, QLatin1String(key->name), QLatin1String(key->defaultText),
+                          colors.at(i++));
 }
 
-QString colorItemData(const QString &key, const QStringList &colors)
+QString colorItemData(const ColorElement &element, const QStringList &colors)
 {
-    return key + QLatin1Char(',') + colors.join(QLatin1Char(','));
+    return QLatin1String(element.front()->name) + QLatin1Char(',') + colors.join(QLatin1Char(','));
 }

@@ -31,10 +31,17 @@ struct ThemeKey {
     /// The pages load a missing key with another default than they save it with, on purpose: any value that is set
     /// while the key is missing is new.
     bool isNewWhenMissing = false;
+    const char *part = nullptr; ///< of the desktop that has a colour, where the title is no more than its name
 };
 
+/// A row of a colour; the key of a gradient's end is that of its begin and "2".
+constexpr ThemeKey colorKey(const char *name, const char *defaultText, const char *title, const char *part)
+{
+    return {name, KeyKind::Color, defaultText, "ThemePage", title, 0, 0, nullptr, false, part};
+}
+
 // clang-format off
-/// Every key that the pages edit, in the order of the pages and of their rows.
+/// Every key that the pages edit, in the order of the pages and of their rows. Colours stand in the order of their keys.
 inline constexpr ThemeKey themeKeys[] = {
     {"WallPaper",                KeyKind::File,   "qaz-default",           "ThemeKeys",  QT_TRANSLATE_NOOP("ThemeKeys", "Wallpaper: a file, a name or a color #rrggbb")},
     {"WallPaperPos",             KeyKind::Word,   "Stretch",               "WallpaperForm", QT_TRANSLATE_NOOP("WallpaperForm", "How to fit wallpaper to desktop"), 0, 0, "Center,Tile,Stretch"},
@@ -42,45 +49,45 @@ inline constexpr ThemeKey themeKeys[] = {
 
     {"IconTheme",                KeyKind::Text,   "qaz-tirsk",             "ThemeKeys",  QT_TRANSLATE_NOOP("ThemeKeys", "Icon theme"), 0, 0, nullptr, true},
     {"DecorTheme",               KeyKind::Text,   "",                      "ThemeKeys",  QT_TRANSLATE_NOOP("ThemeKeys", "Decoration theme of windows and taskbar; empty: none")},
-    {"DesktopColor",             KeyKind::Color,  "#3a6ea5",               "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Desktop")},
-    {"DesktopColor2",            KeyKind::Color,  "#3a6ea5",               "ThemePage",  "Desktop"},
-    {"DesktopActiveColor",       KeyKind::Color,  "#000080",               "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Desktop active")},
-    {"TitlebarColor",            KeyKind::Color,  "#606060",               "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Titlebar")},
-    {"TitlebarColor2",           KeyKind::Color,  "#c0c0c0",               "ThemePage",  "Titlebar"},
-    {"TitlebarActiveColor",      KeyKind::Color,  "#000080",               "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Titlebar active")},
-    {"TitlebarActiveColor2",     KeyKind::Color,  "#a6caf0",               "ThemePage",  "Titlebar active"},
-    {"TitleStringColor",         KeyKind::Color,  "white",                 "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Title string")},
-    {"TitleStringActiveColor",   KeyKind::Color,  "white",                 "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Title string active")},
-    {"FrameColor",               KeyKind::Color,  "#c0c0c0",               "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Frame")},
-    {"FrameActiveColor",         KeyKind::Color,  "#c0c0c0",               "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Frame active")},
-    {"PagerColor",               KeyKind::Color,  "#a4a3be",               "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Pager")},
-    {"PagerColor2",              KeyKind::Color,  "#fbfcfd",               "ThemePage",  "Pager"},
-    {"PagerActiveColor",         KeyKind::Color,  "#606060",               "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Pager active")},
-    {"MiniatureColor",           KeyKind::Color,  "black",                 "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Pager miniature")},
-    {"MiniatureActiveColor",     KeyKind::Color,  "red",                   "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Pager miniatire active")},
-    {"TaskbarColor",             KeyKind::Color,  "#c0c0c0",               "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Taskbar")},
-    {"ClockStringColor",         KeyKind::Color,  "black",                 "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Clock string")},
-    {"IconStringColor",          KeyKind::Color,  "white",                 "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Icon string")},
-    {"IconStringActiveColor",    KeyKind::Color,  "white",                 "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Icon string active")},
-    {"IconForeColor",            KeyKind::Color,  "#000080",               "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Icon foreground")},
-    {"IconBackColor",            KeyKind::Color,  "#c0c0c0",               "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Icon background")},
-    {"MenuColor",                KeyKind::Color,  "#a4a3be",               "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Menu")},
-    {"MenuColor2",               KeyKind::Color,  "#fbfcfd",               "ThemePage",  "Menu"},
-    {"MenuActiveColor",          KeyKind::Color,  "#000080",               "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Menu active")},
-    {"MenuStringColor",          KeyKind::Color,  "black",                 "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Menu string")},
-    {"MenuStringActiveColor",    KeyKind::Color,  "white",                 "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Menu string active")},
-    {"StartMenuLogoColor",       KeyKind::Color,  "#501414",               "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Start menu logo")},
-    {"DialogColor",              KeyKind::Color,  "#c0c0c0",               "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Dialog")},
-    {"DialogStringColor",        KeyKind::Color,  "black",                 "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Dialog string")},
-    {"SwitcherColor",            KeyKind::Color,  "#c0c0c0",               "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Switcher")},
-    {"SwitcherActiveColor",      KeyKind::Color,  "#000080",               "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Switcher active")},
-    {"SwitcherStringColor",      KeyKind::Color,  "black",                 "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Switcher string")},
-    {"ButtonColor",              KeyKind::Color,  "#c0c0c0",               "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Button")},
-    {"ButtonActiveColor",        KeyKind::Color,  "#c0c0c0",               "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Button active")},
-    {"ButtonStringColor",        KeyKind::Color,  "black",                 "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Button string")},
-    {"ButtonStringActiveColor",  KeyKind::Color,  "black",                 "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Button string active")},
-    {"TooltipColor",             KeyKind::Color,  "#ffffe1",               "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Tooltip")},
-    {"TooltipStringColor",       KeyKind::Color,  "black",                 "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Tooltip string")},
+    colorKey("ButtonActiveColor",       "#c0c0c0", QT_TRANSLATE_NOOP("ThemePage", "Button active"), QT_TRANSLATE_NOOP("ThemeKeys", "buttons under the pointer")),
+    colorKey("ButtonColor",             "#c0c0c0", QT_TRANSLATE_NOOP("ThemePage", "Button"), QT_TRANSLATE_NOOP("ThemeKeys", "buttons")),
+    colorKey("ButtonStringActiveColor", "black",   QT_TRANSLATE_NOOP("ThemePage", "Button string active"), QT_TRANSLATE_NOOP("ThemeKeys", "text on buttons under the pointer")),
+    colorKey("ButtonStringColor",       "black",   QT_TRANSLATE_NOOP("ThemePage", "Button string"), QT_TRANSLATE_NOOP("ThemeKeys", "text on buttons")),
+    colorKey("ClockStringColor",        "black",   QT_TRANSLATE_NOOP("ThemePage", "Clock string"), QT_TRANSLATE_NOOP("ThemeKeys", "text of the clock in the taskbar")),
+    colorKey("DesktopActiveColor",      "#000080", QT_TRANSLATE_NOOP("ThemePage", "Desktop active"), QT_TRANSLATE_NOOP("ThemeKeys", "what is selected on the desktop")),
+    colorKey("DesktopColor",            "#3a6ea5", QT_TRANSLATE_NOOP("ThemePage", "Desktop"), QT_TRANSLATE_NOOP("ThemeKeys", "background of the desktop where no wallpaper covers it")),
+    colorKey("DesktopColor2",           "#3a6ea5", "Desktop", "background of the desktop where no wallpaper covers it"),
+    colorKey("DialogColor",             "#c0c0c0", QT_TRANSLATE_NOOP("ThemePage", "Dialog"), QT_TRANSLATE_NOOP("ThemeKeys", "background of the desktop's dialogs")),
+    colorKey("DialogStringColor",       "black",   QT_TRANSLATE_NOOP("ThemePage", "Dialog string"), QT_TRANSLATE_NOOP("ThemeKeys", "text in the desktop's dialogs")),
+    colorKey("FrameActiveColor",        "#c0c0c0", QT_TRANSLATE_NOOP("ThemePage", "Frame active"), QT_TRANSLATE_NOOP("ThemeKeys", "frame of the active window")),
+    colorKey("FrameColor",              "#c0c0c0", QT_TRANSLATE_NOOP("ThemePage", "Frame"), QT_TRANSLATE_NOOP("ThemeKeys", "frames of the other windows")),
+    colorKey("IconBackColor",           "#c0c0c0", QT_TRANSLATE_NOOP("ThemePage", "Icon background"), QT_TRANSLATE_NOOP("ThemeKeys", "background of icons")),
+    colorKey("IconForeColor",           "#000080", QT_TRANSLATE_NOOP("ThemePage", "Icon foreground"), QT_TRANSLATE_NOOP("ThemeKeys", "foreground of icons")),
+    colorKey("IconStringActiveColor",   "white",   QT_TRANSLATE_NOOP("ThemePage", "Icon string active"), QT_TRANSLATE_NOOP("ThemeKeys", "text of selected icons")),
+    colorKey("IconStringColor",         "white",   QT_TRANSLATE_NOOP("ThemePage", "Icon string"), QT_TRANSLATE_NOOP("ThemeKeys", "text of icons")),
+    colorKey("MenuActiveColor",         "#000080", QT_TRANSLATE_NOOP("ThemePage", "Menu active"), QT_TRANSLATE_NOOP("ThemeKeys", "selected entry of a menu")),
+    colorKey("MenuColor",               "#a4a3be", QT_TRANSLATE_NOOP("ThemePage", "Menu"), QT_TRANSLATE_NOOP("ThemeKeys", "background of menus")),
+    colorKey("MenuColor2",              "#fbfcfd", "Menu", "background of menus"),
+    colorKey("MenuStringActiveColor",   "white",   QT_TRANSLATE_NOOP("ThemePage", "Menu string active"), QT_TRANSLATE_NOOP("ThemeKeys", "text of the selected entry of a menu")),
+    colorKey("MenuStringColor",         "black",   QT_TRANSLATE_NOOP("ThemePage", "Menu string"), QT_TRANSLATE_NOOP("ThemeKeys", "text in menus")),
+    colorKey("MiniatureActiveColor",    "red",     QT_TRANSLATE_NOOP("ThemePage", "Pager miniatire active"), QT_TRANSLATE_NOOP("ThemeKeys", "miniature of the active window in the pager")),
+    colorKey("MiniatureColor",          "black",   QT_TRANSLATE_NOOP("ThemePage", "Pager miniature"), QT_TRANSLATE_NOOP("ThemeKeys", "miniatures of windows in the pager")),
+    colorKey("PagerActiveColor",        "#606060", QT_TRANSLATE_NOOP("ThemePage", "Pager active"), QT_TRANSLATE_NOOP("ThemeKeys", "desktop in view in the pager")),
+    colorKey("PagerColor",              "#a4a3be", QT_TRANSLATE_NOOP("ThemePage", "Pager"), QT_TRANSLATE_NOOP("ThemeKeys", "background of the pager")),
+    colorKey("PagerColor2",             "#fbfcfd", "Pager", "background of the pager"),
+    colorKey("StartMenuLogoColor",      "#501414", QT_TRANSLATE_NOOP("ThemePage", "Start menu logo"), QT_TRANSLATE_NOOP("ThemeKeys", "logo of the start menu")),
+    colorKey("SwitcherActiveColor",     "#000080", QT_TRANSLATE_NOOP("ThemePage", "Switcher active"), QT_TRANSLATE_NOOP("ThemeKeys", "selected window in the task switcher")),
+    colorKey("SwitcherColor",           "#c0c0c0", QT_TRANSLATE_NOOP("ThemePage", "Switcher"), QT_TRANSLATE_NOOP("ThemeKeys", "background of the task switcher")),
+    colorKey("SwitcherStringColor",     "black",   QT_TRANSLATE_NOOP("ThemePage", "Switcher string"), QT_TRANSLATE_NOOP("ThemeKeys", "text in the task switcher")),
+    colorKey("TaskbarColor",            "#c0c0c0", QT_TRANSLATE_NOOP("ThemePage", "Taskbar"), QT_TRANSLATE_NOOP("ThemeKeys", "background of the taskbar")),
+    colorKey("TitleStringActiveColor",  "white",   QT_TRANSLATE_NOOP("ThemePage", "Title string active"), QT_TRANSLATE_NOOP("ThemeKeys", "title of the active window")),
+    colorKey("TitleStringColor",        "white",   QT_TRANSLATE_NOOP("ThemePage", "Title string"), QT_TRANSLATE_NOOP("ThemeKeys", "titles of the other windows")),
+    colorKey("TitlebarActiveColor",     "#000080", QT_TRANSLATE_NOOP("ThemePage", "Titlebar active"), QT_TRANSLATE_NOOP("ThemeKeys", "title bar of the active window")),
+    colorKey("TitlebarActiveColor2",    "#a6caf0", "Titlebar active", "title bar of the active window"),
+    colorKey("TitlebarColor",           "#606060", QT_TRANSLATE_NOOP("ThemePage", "Titlebar"), QT_TRANSLATE_NOOP("ThemeKeys", "title bars of the other windows")),
+    colorKey("TitlebarColor2",          "#c0c0c0", "Titlebar", "title bars of the other windows"),
+    colorKey("TooltipColor",            "#ffffe1", QT_TRANSLATE_NOOP("ThemePage", "Tooltip"), QT_TRANSLATE_NOOP("ThemeKeys", "background of tool tips")),
+    colorKey("TooltipStringColor",      "black",   QT_TRANSLATE_NOOP("ThemePage", "Tooltip string"), QT_TRANSLATE_NOOP("ThemeKeys", "text of tool tips")),
     // The defaults of the two sizes are those of a screen of usual or unknown resolution.
     {"DesktopIconSize",          KeyKind::Word,   "48",                    "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Desktop icon size"), 16, 256, "16,22,32,48,64,96,128,256"},
     {"TaskbarHeight",            KeyKind::Number, "49",                    "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Taskbar height"), 21, 280},

@@ -384,6 +384,66 @@ Trotzdem entfernen?</translation>
         <source>MenuTransparency2:</source>
         <translation>Menü rechts:</translation>
     </message>
+    <message>
+        <source>How fast windows appear and disappear: a number without a unit, from 0 to 30. 0 means no animation.</source>
+        <translation>Wie schnell Fenster erscheinen und verschwinden: eine Zahl ohne Einheit von 0 bis 30. 0 bedeutet keine Animation.</translation>
+    </message>
+    <message>
+        <source>How fast windows are minimized, maximized, restored and rearranged: a number without a unit, from 0 to 25. 0 means no animation.</source>
+        <translation>Wie schnell Fenster minimiert, maximiert, wiederhergestellt und angeordnet werden: eine Zahl ohne Einheit von 0 bis 25. 0 bedeutet keine Animation.</translation>
+    </message>
+    <message>
+        <source>How fast the start menu appears: a number without a unit, from 0 to 25. 0 means no animation.</source>
+        <translation>Wie schnell das Startmenü erscheint: eine Zahl ohne Einheit von 0 bis 25. 0 bedeutet keine Animation.</translation>
+    </message>
+    <message>
+        <source>How long the pointer rests at the screen&apos;s edge until a hidden taskbar appears: milliseconds, from 0 to 3000. 0 means at once.</source>
+        <translation>Wie lange der Mauszeiger am Bildschirmrand ruht, bis eine ausgeblendete Taskleiste erscheint: Millisekunden von 0 bis 3000. 0 bedeutet sofort.</translation>
+    </message>
+    <message>
+        <source>How long the taskbar stays after the pointer has left it: milliseconds, from 0 to 3000. 0 means not at all.</source>
+        <translation>Wie lange die Taskleiste noch bleibt, nachdem der Mauszeiger sie verlassen hat: Millisekunden von 0 bis 3000. 0 bedeutet gar nicht.</translation>
+    </message>
+    <message>
+        <source>How fast a taskbar that hides itself moves: a number without a unit, from 0 to 30. 0 means no animation.</source>
+        <translation>Wie schnell sich eine Taskleiste bewegt, die sich ausblendet: eine Zahl ohne Einheit von 0 bis 30. 0 bedeutet keine Animation.</translation>
+    </message>
+    <message>
+        <source>How long the pointer rests on an entry until its menu appears: milliseconds, from 0 to 3000. 0 means at once.</source>
+        <translation>Wie lange der Mauszeiger auf einem Eintrag ruht, bis dessen Menü erscheint: Millisekunden von 0 bis 3000. 0 bedeutet sofort.</translation>
+    </message>
+    <message>
+        <source>How long a menu stays after the pointer has left it: milliseconds, from 0 to 3000. 0 means not at all.</source>
+        <translation>Wie lange ein Menü noch bleibt, nachdem der Mauszeiger es verlassen hat: Millisekunden von 0 bis 3000. 0 bedeutet gar nicht.</translation>
+    </message>
+    <message>
+        <source>How fast menus appear: a number without a unit, from 0 to 10. 0 means no animation.</source>
+        <translation>Wie schnell Menüs erscheinen: eine Zahl ohne Einheit von 0 bis 10. 0 bedeutet keine Animation.</translation>
+    </message>
+    <message>
+        <source>How wide the area at the screen&apos;s edges is from which the pointer leads to the next desktop: pixels, from 0 to 20. 0 switches autopaging off.</source>
+        <translation>Wie breit der Bereich an den Bildschirmrändern ist, von dem aus der Mauszeiger zur nächsten Arbeitsfläche führt: Pixel von 0 bis 20. 0 schaltet den Arbeitsflächenwechsel aus.</translation>
+    </message>
+    <message>
+        <source>How long the pointer pushes against the edge until the desktop changes: milliseconds, from 0 to 5000. 0 means at once.</source>
+        <translation>Wie lange der Mauszeiger gegen den Rand drückt, bis die Arbeitsfläche wechselt: Millisekunden von 0 bis 5000. 0 bedeutet sofort.</translation>
+    </message>
+    <message>
+        <source>How far from the edge the pointer arrives on the next desktop: pixels, from 0 to 500. 0 leaves it at the edge.</source>
+        <translation>Wie weit vom Rand entfernt der Mauszeiger auf der nächsten Arbeitsfläche ankommt: Pixel von 0 bis 500. 0 lässt ihn am Rand.</translation>
+    </message>
+    <message>
+        <source>How fast the desktops move: a number without a unit, from 0 to 100. 0 means no animation.</source>
+        <translation>Wie schnell sich die Arbeitsflächen bewegen: eine Zahl ohne Einheit von 0 bis 100. 0 bedeutet keine Animation.</translation>
+    </message>
+    <message>
+        <source>How transparent menus are at their left side: percent, from 0 to 100. 0 means opaque.</source>
+        <translation>Wie durchsichtig Menüs an ihrer linken Seite sind: Prozent von 0 bis 100. 0 bedeutet deckend.</translation>
+    </message>
+    <message>
+        <source>How transparent menus are at their right side: percent, from 0 to 100. 0 means opaque.</source>
+        <translation>Wie durchsichtig Menüs an ihrer rechten Seite sind: Prozent von 0 bis 100. 0 bedeutet deckend.</translation>
+    </message>
 </context>
 <context>
     <name>FilePreview</name>
@@ -731,6 +791,50 @@ Länge: %5 s</translation>
         <source>Lock X Access</source>
         <translation>X-Zugriff sperren</translation>
     </message>
+    <message>
+        <source>Start the screensaver when keyboard and mouse are not used</source>
+        <translation>Den Bildschirmschoner starten, wenn Tastatur und Maus nicht benutzt werden</translation>
+    </message>
+    <message>
+        <source>Minutes without input until the screensaver starts</source>
+        <translation>Minuten ohne Eingabe, bis der Bildschirmschoner startet</translation>
+    </message>
+    <message>
+        <source>Minutes without input until the screensaver starts, from 0 to 999. 0 means never.</source>
+        <translation>Minuten ohne Eingabe von 0 bis 999, bis der Bildschirmschoner startet. 0 bedeutet nie.</translation>
+    </message>
+    <message>
+        <source>Minutes until the locked display is switched off</source>
+        <translation>Minuten, bis der gesperrte Bildschirm ausgeschaltet wird</translation>
+    </message>
+    <message>
+        <source>DPMS switches the display off to save energy. This is after how many minutes it does so while the screen is locked, from 0 to 999. 0 means never.</source>
+        <translation>DPMS schaltet den Bildschirm aus, um Energie zu sparen. Hier steht, nach wie vielen Minuten das bei gesperrtem Bildschirm geschieht, von 0 bis 999. 0 bedeutet nie.</translation>
+    </message>
+    <message>
+        <source>How long the locker waits after a wrong password</source>
+        <translation>Wie lange die Bildschirmsperre nach einem falschen Passwort wartet</translation>
+    </message>
+    <message>
+        <source>Seconds that the locker waits after a wrong password, from 0 to 99. 0 means not at all.</source>
+        <translation>Sekunden von 0 bis 99, die die Bildschirmsperre nach einem falschen Passwort wartet. 0 bedeutet gar nicht.</translation>
+    </message>
+    <message>
+        <source>How loud the bell for a wrong password is</source>
+        <translation>Wie laut der Signalton für ein falsches Passwort ist</translation>
+    </message>
+    <message>
+        <source>Loudness of the bell for a wrong password in percent, from 0 to 100. 0 is silent.</source>
+        <translation>Lautstärke des Signaltons für ein falsches Passwort in Prozent, von 0 bis 100. 0 ist stumm.</translation>
+    </message>
+    <message>
+        <source>Ctrl+Alt+F1 and the like don&apos;t leave the locked screen</source>
+        <translation>Strg+Alt+F1 und Ähnliches führen nicht vom gesperrten Bildschirm weg</translation>
+    </message>
+    <message>
+        <source>Other programs can&apos;t connect to the locked display</source>
+        <translation>Andere Programme können sich nicht mit dem gesperrten Bildschirm verbinden</translation>
+    </message>
 </context>
 <context>
     <name>SoundForm</name>
@@ -1024,6 +1128,10 @@ Leerzeichen, Anführungszeichen, umgekehrte Schrägstriche und Steuerzeichen sin
         <source>Size</source>
         <translation>Größe</translation>
     </message>
+    <message>
+        <source>The size of icons on the desktop and the height of the taskbar in pixels. The button beside the list changes the size in view.</source>
+        <translation>Die Größe der Symbole auf der Arbeitsfläche und die Höhe der Taskleiste in Pixeln. Die Schaltfläche neben der Liste ändert die angezeigte Größe.</translation>
+    </message>
 </context>
 <context>
     <name>ThemeKeys</name>
@@ -1090,6 +1198,142 @@ Leerzeichen, Anführungszeichen, umgekehrte Schrägstriche und Steuerzeichen sin
     <message>
         <source>Sound theme; empty: none</source>
         <translation>Klangdesign; leer: keines</translation>
+    </message>
+    <message>
+        <source>buttons under the pointer</source>
+        <translation>Schaltflächen unter dem Mauszeiger</translation>
+    </message>
+    <message>
+        <source>buttons</source>
+        <translation>Schaltflächen</translation>
+    </message>
+    <message>
+        <source>text on buttons under the pointer</source>
+        <translation>Text auf Schaltflächen unter dem Mauszeiger</translation>
+    </message>
+    <message>
+        <source>text on buttons</source>
+        <translation>Text auf Schaltflächen</translation>
+    </message>
+    <message>
+        <source>text of the clock in the taskbar</source>
+        <translation>Text der Uhr in der Taskleiste</translation>
+    </message>
+    <message>
+        <source>what is selected on the desktop</source>
+        <translation>was auf der Arbeitsfläche ausgewählt ist</translation>
+    </message>
+    <message>
+        <source>background of the desktop where no wallpaper covers it</source>
+        <translation>Hintergrund der Arbeitsfläche, wo ihn kein Hintergrundbild verdeckt</translation>
+    </message>
+    <message>
+        <source>background of the desktop&apos;s dialogs</source>
+        <translation>Hintergrund der Dialoge des Desktops</translation>
+    </message>
+    <message>
+        <source>text in the desktop&apos;s dialogs</source>
+        <translation>Text in den Dialogen des Desktops</translation>
+    </message>
+    <message>
+        <source>frame of the active window</source>
+        <translation>Rahmen des aktiven Fensters</translation>
+    </message>
+    <message>
+        <source>frames of the other windows</source>
+        <translation>Rahmen der übrigen Fenster</translation>
+    </message>
+    <message>
+        <source>background of icons</source>
+        <translation>Hintergrund von Symbolen</translation>
+    </message>
+    <message>
+        <source>foreground of icons</source>
+        <translation>Vordergrund von Symbolen</translation>
+    </message>
+    <message>
+        <source>text of selected icons</source>
+        <translation>Text ausgewählter Symbole</translation>
+    </message>
+    <message>
+        <source>text of icons</source>
+        <translation>Text von Symbolen</translation>
+    </message>
+    <message>
+        <source>selected entry of a menu</source>
+        <translation>ausgewählter Eintrag eines Menüs</translation>
+    </message>
+    <message>
+        <source>background of menus</source>
+        <translation>Hintergrund von Menüs</translation>
+    </message>
+    <message>
+        <source>text of the selected entry of a menu</source>
+        <translation>Text des ausgewählten Eintrags eines Menüs</translation>
+    </message>
+    <message>
+        <source>text in menus</source>
+        <translation>Text in Menüs</translation>
+    </message>
+    <message>
+        <source>miniature of the active window in the pager</source>
+        <translation>Miniatur des aktiven Fensters im Pager</translation>
+    </message>
+    <message>
+        <source>miniatures of windows in the pager</source>
+        <translation>Miniaturen von Fenstern im Pager</translation>
+    </message>
+    <message>
+        <source>desktop in view in the pager</source>
+        <translation>sichtbare Arbeitsfläche im Pager</translation>
+    </message>
+    <message>
+        <source>background of the pager</source>
+        <translation>Hintergrund des Pagers</translation>
+    </message>
+    <message>
+        <source>logo of the start menu</source>
+        <translation>Logo des Startmenüs</translation>
+    </message>
+    <message>
+        <source>selected window in the task switcher</source>
+        <translation>ausgewähltes Fenster im Fensterumschalter</translation>
+    </message>
+    <message>
+        <source>background of the task switcher</source>
+        <translation>Hintergrund des Fensterumschalters</translation>
+    </message>
+    <message>
+        <source>text in the task switcher</source>
+        <translation>Text im Fensterumschalter</translation>
+    </message>
+    <message>
+        <source>background of the taskbar</source>
+        <translation>Hintergrund der Taskleiste</translation>
+    </message>
+    <message>
+        <source>title of the active window</source>
+        <translation>Titel des aktiven Fensters</translation>
+    </message>
+    <message>
+        <source>titles of the other windows</source>
+        <translation>Titel der übrigen Fenster</translation>
+    </message>
+    <message>
+        <source>title bar of the active window</source>
+        <translation>Titelleiste des aktiven Fensters</translation>
+    </message>
+    <message>
+        <source>title bars of the other windows</source>
+        <translation>Titelleisten der übrigen Fenster</translation>
+    </message>
+    <message>
+        <source>background of tool tips</source>
+        <translation>Hintergrund von Kurzinfos</translation>
+    </message>
+    <message>
+        <source>text of tool tips</source>
+        <translation>Text von Kurzinfos</translation>
     </message>
 </context>
 <context>

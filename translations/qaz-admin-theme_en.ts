@@ -384,6 +384,66 @@ Remove it all the same?</translation>
         <source>MenuTransparency2:</source>
         <translation>MenuTransparency2:</translation>
     </message>
+    <message>
+        <source>How fast windows appear and disappear: a number without a unit, from 0 to 30. 0 means no animation.</source>
+        <translation>How fast windows appear and disappear: a number without a unit, from 0 to 30. 0 means no animation.</translation>
+    </message>
+    <message>
+        <source>How fast windows are minimized, maximized, restored and rearranged: a number without a unit, from 0 to 25. 0 means no animation.</source>
+        <translation>How fast windows are minimized, maximized, restored and rearranged: a number without a unit, from 0 to 25. 0 means no animation.</translation>
+    </message>
+    <message>
+        <source>How fast the start menu appears: a number without a unit, from 0 to 25. 0 means no animation.</source>
+        <translation>How fast the start menu appears: a number without a unit, from 0 to 25. 0 means no animation.</translation>
+    </message>
+    <message>
+        <source>How long the pointer rests at the screen&apos;s edge until a hidden taskbar appears: milliseconds, from 0 to 3000. 0 means at once.</source>
+        <translation>How long the pointer rests at the screen&apos;s edge until a hidden taskbar appears: milliseconds, from 0 to 3000. 0 means at once.</translation>
+    </message>
+    <message>
+        <source>How long the taskbar stays after the pointer has left it: milliseconds, from 0 to 3000. 0 means not at all.</source>
+        <translation>How long the taskbar stays after the pointer has left it: milliseconds, from 0 to 3000. 0 means not at all.</translation>
+    </message>
+    <message>
+        <source>How fast a taskbar that hides itself moves: a number without a unit, from 0 to 30. 0 means no animation.</source>
+        <translation>How fast a taskbar that hides itself moves: a number without a unit, from 0 to 30. 0 means no animation.</translation>
+    </message>
+    <message>
+        <source>How long the pointer rests on an entry until its menu appears: milliseconds, from 0 to 3000. 0 means at once.</source>
+        <translation>How long the pointer rests on an entry until its menu appears: milliseconds, from 0 to 3000. 0 means at once.</translation>
+    </message>
+    <message>
+        <source>How long a menu stays after the pointer has left it: milliseconds, from 0 to 3000. 0 means not at all.</source>
+        <translation>How long a menu stays after the pointer has left it: milliseconds, from 0 to 3000. 0 means not at all.</translation>
+    </message>
+    <message>
+        <source>How fast menus appear: a number without a unit, from 0 to 10. 0 means no animation.</source>
+        <translation>How fast menus appear: a number without a unit, from 0 to 10. 0 means no animation.</translation>
+    </message>
+    <message>
+        <source>How wide the area at the screen&apos;s edges is from which the pointer leads to the next desktop: pixels, from 0 to 20. 0 switches autopaging off.</source>
+        <translation>How wide the area at the screen&apos;s edges is from which the pointer leads to the next desktop: pixels, from 0 to 20. 0 switches autopaging off.</translation>
+    </message>
+    <message>
+        <source>How long the pointer pushes against the edge until the desktop changes: milliseconds, from 0 to 5000. 0 means at once.</source>
+        <translation>How long the pointer pushes against the edge until the desktop changes: milliseconds, from 0 to 5000. 0 means at once.</translation>
+    </message>
+    <message>
+        <source>How far from the edge the pointer arrives on the next desktop: pixels, from 0 to 500. 0 leaves it at the edge.</source>
+        <translation>How far from the edge the pointer arrives on the next desktop: pixels, from 0 to 500. 0 leaves it at the edge.</translation>
+    </message>
+    <message>
+        <source>How fast the desktops move: a number without a unit, from 0 to 100. 0 means no animation.</source>
+        <translation>How fast the desktops move: a number without a unit, from 0 to 100. 0 means no animation.</translation>
+    </message>
+    <message>
+        <source>How transparent menus are at their left side: percent, from 0 to 100. 0 means opaque.</source>
+        <translation>How transparent menus are at their left side: percent, from 0 to 100. 0 means opaque.</translation>
+    </message>
+    <message>
+        <source>How transparent menus are at their right side: percent, from 0 to 100. 0 means opaque.</source>
+        <translation>How transparent menus are at their right side: percent, from 0 to 100. 0 means opaque.</translation>
+    </message>
 </context>
 <context>
     <name>FilePreview</name>
@@ -731,6 +791,50 @@ Length: %5 s</translation>
         <source>Lock X Access</source>
         <translation>Lock X Access</translation>
     </message>
+    <message>
+        <source>Start the screensaver when keyboard and mouse are not used</source>
+        <translation>Start the screensaver when keyboard and mouse are not used</translation>
+    </message>
+    <message>
+        <source>Minutes without input until the screensaver starts</source>
+        <translation>Minutes without input until the screensaver starts</translation>
+    </message>
+    <message>
+        <source>Minutes without input until the screensaver starts, from 0 to 999. 0 means never.</source>
+        <translation>Minutes without input until the screensaver starts, from 0 to 999. 0 means never.</translation>
+    </message>
+    <message>
+        <source>Minutes until the locked display is switched off</source>
+        <translation>Minutes until the locked display is switched off</translation>
+    </message>
+    <message>
+        <source>DPMS switches the display off to save energy. This is after how many minutes it does so while the screen is locked, from 0 to 999. 0 means never.</source>
+        <translation>DPMS switches the display off to save energy. This is after how many minutes it does so while the screen is locked, from 0 to 999. 0 means never.</translation>
+    </message>
+    <message>
+        <source>How long the locker waits after a wrong password</source>
+        <translation>How long the locker waits after a wrong password</translation>
+    </message>
+    <message>
+        <source>Seconds that the locker waits after a wrong password, from 0 to 99. 0 means not at all.</source>
+        <translation>Seconds that the locker waits after a wrong password, from 0 to 99. 0 means not at all.</translation>
+    </message>
+    <message>
+        <source>How loud the bell for a wrong password is</source>
+        <translation>How loud the bell for a wrong password is</translation>
+    </message>
+    <message>
+        <source>Loudness of the bell for a wrong password in percent, from 0 to 100. 0 is silent.</source>
+        <translation>Loudness of the bell for a wrong password in percent, from 0 to 100. 0 is silent.</translation>
+    </message>
+    <message>
+        <source>Ctrl+Alt+F1 and the like don&apos;t leave the locked screen</source>
+        <translation>Ctrl+Alt+F1 and the like don&apos;t leave the locked screen</translation>
+    </message>
+    <message>
+        <source>Other programs can&apos;t connect to the locked display</source>
+        <translation>Other programs can&apos;t connect to the locked display</translation>
+    </message>
 </context>
 <context>
     <name>SoundForm</name>
@@ -1024,6 +1128,10 @@ Blanks, quotation marks, backslashes and control characters are not safe.</trans
         <source>Size</source>
         <translation>Size</translation>
     </message>
+    <message>
+        <source>The size of icons on the desktop and the height of the taskbar in pixels. The button beside the list changes the size in view.</source>
+        <translation>The size of icons on the desktop and the height of the taskbar in pixels. The button beside the list changes the size in view.</translation>
+    </message>
 </context>
 <context>
     <name>ThemeKeys</name>
@@ -1090,6 +1198,142 @@ Blanks, quotation marks, backslashes and control characters are not safe.</trans
     <message>
         <source>Sound theme; empty: none</source>
         <translation>Sound theme; empty: none</translation>
+    </message>
+    <message>
+        <source>buttons under the pointer</source>
+        <translation>buttons under the pointer</translation>
+    </message>
+    <message>
+        <source>buttons</source>
+        <translation>buttons</translation>
+    </message>
+    <message>
+        <source>text on buttons under the pointer</source>
+        <translation>text on buttons under the pointer</translation>
+    </message>
+    <message>
+        <source>text on buttons</source>
+        <translation>text on buttons</translation>
+    </message>
+    <message>
+        <source>text of the clock in the taskbar</source>
+        <translation>text of the clock in the taskbar</translation>
+    </message>
+    <message>
+        <source>what is selected on the desktop</source>
+        <translation>what is selected on the desktop</translation>
+    </message>
+    <message>
+        <source>background of the desktop where no wallpaper covers it</source>
+        <translation>background of the desktop where no wallpaper covers it</translation>
+    </message>
+    <message>
+        <source>background of the desktop&apos;s dialogs</source>
+        <translation>background of the desktop&apos;s dialogs</translation>
+    </message>
+    <message>
+        <source>text in the desktop&apos;s dialogs</source>
+        <translation>text in the desktop&apos;s dialogs</translation>
+    </message>
+    <message>
+        <source>frame of the active window</source>
+        <translation>frame of the active window</translation>
+    </message>
+    <message>
+        <source>frames of the other windows</source>
+        <translation>frames of the other windows</translation>
+    </message>
+    <message>
+        <source>background of icons</source>
+        <translation>background of icons</translation>
+    </message>
+    <message>
+        <source>foreground of icons</source>
+        <translation>foreground of icons</translation>
+    </message>
+    <message>
+        <source>text of selected icons</source>
+        <translation>text of selected icons</translation>
+    </message>
+    <message>
+        <source>text of icons</source>
+        <translation>text of icons</translation>
+    </message>
+    <message>
+        <source>selected entry of a menu</source>
+        <translation>selected entry of a menu</translation>
+    </message>
+    <message>
+        <source>background of menus</source>
+        <translation>background of menus</translation>
+    </message>
+    <message>
+        <source>text of the selected entry of a menu</source>
+        <translation>text of the selected entry of a menu</translation>
+    </message>
+    <message>
+        <source>text in menus</source>
+        <translation>text in menus</translation>
+    </message>
+    <message>
+        <source>miniature of the active window in the pager</source>
+        <translation>miniature of the active window in the pager</translation>
+    </message>
+    <message>
+        <source>miniatures of windows in the pager</source>
+        <translation>miniatures of windows in the pager</translation>
+    </message>
+    <message>
+        <source>desktop in view in the pager</source>
+        <translation>desktop in view in the pager</translation>
+    </message>
+    <message>
+        <source>background of the pager</source>
+        <translation>background of the pager</translation>
+    </message>
+    <message>
+        <source>logo of the start menu</source>
+        <translation>logo of the start menu</translation>
+    </message>
+    <message>
+        <source>selected window in the task switcher</source>
+        <translation>selected window in the task switcher</translation>
+    </message>
+    <message>
+        <source>background of the task switcher</source>
+        <translation>background of the task switcher</translation>
+    </message>
+    <message>
+        <source>text in the task switcher</source>
+        <translation>text in the task switcher</translation>
+    </message>
+    <message>
+        <source>background of the taskbar</source>
+        <translation>background of the taskbar</translation>
+    </message>
+    <message>
+        <source>title of the active window</source>
+        <translation>title of the active window</translation>
+    </message>
+    <message>
+        <source>titles of the other windows</source>
+        <translation>titles of the other windows</translation>
+    </message>
+    <message>
+        <source>title bar of the active window</source>
+        <translation>title bar of the active window</translation>
+    </message>
+    <message>
+        <source>title bars of the other windows</source>
+        <translation>title bars of the other windows</translation>
+    </message>
+    <message>
+        <source>background of tool tips</source>
+        <translation>background of tool tips</translation>
+    </message>
+    <message>
+        <source>text of tool tips</source>
+        <translation>text of tool tips</translation>
     </message>
 </context>
 <context>

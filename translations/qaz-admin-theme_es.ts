@@ -384,6 +384,66 @@ Remove it all the same?</source>
         <source>MenuTransparency2:</source>
         <translation>Menús, derecha:</translation>
     </message>
+    <message>
+        <source>How fast windows appear and disappear: a number without a unit, from 0 to 30. 0 means no animation.</source>
+        <translation>La velocidad con la que aparecen y desaparecen las ventanas: un número sin unidad, de 0 a 30. 0 significa sin animación.</translation>
+    </message>
+    <message>
+        <source>How fast windows are minimized, maximized, restored and rearranged: a number without a unit, from 0 to 25. 0 means no animation.</source>
+        <translation>La velocidad con la que se minimizan, maximizan, restauran y reorganizan las ventanas: un número sin unidad, de 0 a 25. 0 significa sin animación.</translation>
+    </message>
+    <message>
+        <source>How fast the start menu appears: a number without a unit, from 0 to 25. 0 means no animation.</source>
+        <translation>La velocidad con la que aparece el menú de inicio: un número sin unidad, de 0 a 25. 0 significa sin animación.</translation>
+    </message>
+    <message>
+        <source>How long the pointer rests at the screen&apos;s edge until a hidden taskbar appears: milliseconds, from 0 to 3000. 0 means at once.</source>
+        <translation>El tiempo que el puntero permanece en el borde de la pantalla hasta que aparece la barra de tareas oculta: milisegundos, de 0 a 3000. 0 significa al instante.</translation>
+    </message>
+    <message>
+        <source>How long the taskbar stays after the pointer has left it: milliseconds, from 0 to 3000. 0 means not at all.</source>
+        <translation>El tiempo que la barra de tareas permanece después de que el puntero la abandona: milisegundos, de 0 a 3000. 0 significa nada.</translation>
+    </message>
+    <message>
+        <source>How fast a taskbar that hides itself moves: a number without a unit, from 0 to 30. 0 means no animation.</source>
+        <translation>La velocidad con la que se mueve una barra de tareas que se oculta: un número sin unidad, de 0 a 30. 0 significa sin animación.</translation>
+    </message>
+    <message>
+        <source>How long the pointer rests on an entry until its menu appears: milliseconds, from 0 to 3000. 0 means at once.</source>
+        <translation>El tiempo que el puntero permanece sobre una entrada hasta que aparece su menú: milisegundos, de 0 a 3000. 0 significa al instante.</translation>
+    </message>
+    <message>
+        <source>How long a menu stays after the pointer has left it: milliseconds, from 0 to 3000. 0 means not at all.</source>
+        <translation>El tiempo que un menú permanece después de que el puntero lo abandona: milisegundos, de 0 a 3000. 0 significa nada.</translation>
+    </message>
+    <message>
+        <source>How fast menus appear: a number without a unit, from 0 to 10. 0 means no animation.</source>
+        <translation>La velocidad con la que aparecen los menús: un número sin unidad, de 0 a 10. 0 significa sin animación.</translation>
+    </message>
+    <message>
+        <source>How wide the area at the screen&apos;s edges is from which the pointer leads to the next desktop: pixels, from 0 to 20. 0 switches autopaging off.</source>
+        <translation>El ancho de la zona en los bordes de la pantalla desde la que el puntero lleva al escritorio siguiente: píxeles, de 0 a 20. 0 desactiva el cambio de escritorio.</translation>
+    </message>
+    <message>
+        <source>How long the pointer pushes against the edge until the desktop changes: milliseconds, from 0 to 5000. 0 means at once.</source>
+        <translation>El tiempo que el puntero empuja contra el borde hasta que cambia el escritorio: milisegundos, de 0 a 5000. 0 significa al instante.</translation>
+    </message>
+    <message>
+        <source>How far from the edge the pointer arrives on the next desktop: pixels, from 0 to 500. 0 leaves it at the edge.</source>
+        <translation>La distancia del borde a la que el puntero llega al escritorio siguiente: píxeles, de 0 a 500. 0 lo deja en el borde.</translation>
+    </message>
+    <message>
+        <source>How fast the desktops move: a number without a unit, from 0 to 100. 0 means no animation.</source>
+        <translation>La velocidad con la que se mueven los escritorios: un número sin unidad, de 0 a 100. 0 significa sin animación.</translation>
+    </message>
+    <message>
+        <source>How transparent menus are at their left side: percent, from 0 to 100. 0 means opaque.</source>
+        <translation>La transparencia de los menús en su lado izquierdo: por ciento, de 0 a 100. 0 significa opaco.</translation>
+    </message>
+    <message>
+        <source>How transparent menus are at their right side: percent, from 0 to 100. 0 means opaque.</source>
+        <translation>La transparencia de los menús en su lado derecho: por ciento, de 0 a 100. 0 significa opaco.</translation>
+    </message>
 </context>
 <context>
     <name>FilePreview</name>
@@ -731,6 +791,50 @@ Duración: %5 s</translation>
         <source>Lock X Access</source>
         <translation>Bloquear el acceso a X</translation>
     </message>
+    <message>
+        <source>Start the screensaver when keyboard and mouse are not used</source>
+        <translation>Iniciar el salvapantallas cuando no se usan el teclado ni el ratón</translation>
+    </message>
+    <message>
+        <source>Minutes without input until the screensaver starts</source>
+        <translation>Minutos sin actividad hasta que se inicia el salvapantallas</translation>
+    </message>
+    <message>
+        <source>Minutes without input until the screensaver starts, from 0 to 999. 0 means never.</source>
+        <translation>Minutos sin actividad hasta que se inicia el salvapantallas, de 0 a 999. 0 significa nunca.</translation>
+    </message>
+    <message>
+        <source>Minutes until the locked display is switched off</source>
+        <translation>Minutos hasta que se apaga la pantalla bloqueada</translation>
+    </message>
+    <message>
+        <source>DPMS switches the display off to save energy. This is after how many minutes it does so while the screen is locked, from 0 to 999. 0 means never.</source>
+        <translation>DPMS apaga la pantalla para ahorrar energía. Aquí se indica tras cuántos minutos lo hace con la pantalla bloqueada, de 0 a 999. 0 significa nunca.</translation>
+    </message>
+    <message>
+        <source>How long the locker waits after a wrong password</source>
+        <translation>El tiempo que espera el bloqueo tras una contraseña incorrecta</translation>
+    </message>
+    <message>
+        <source>Seconds that the locker waits after a wrong password, from 0 to 99. 0 means not at all.</source>
+        <translation>Segundos que espera el bloqueo tras una contraseña incorrecta, de 0 a 99. 0 significa nada.</translation>
+    </message>
+    <message>
+        <source>How loud the bell for a wrong password is</source>
+        <translation>El volumen del aviso por una contraseña incorrecta</translation>
+    </message>
+    <message>
+        <source>Loudness of the bell for a wrong password in percent, from 0 to 100. 0 is silent.</source>
+        <translation>Volumen del aviso por una contraseña incorrecta en por ciento, de 0 a 100. 0 es silencio.</translation>
+    </message>
+    <message>
+        <source>Ctrl+Alt+F1 and the like don&apos;t leave the locked screen</source>
+        <translation>Ctrl+Alt+F1 y similares no salen de la pantalla bloqueada</translation>
+    </message>
+    <message>
+        <source>Other programs can&apos;t connect to the locked display</source>
+        <translation>Otros programas no pueden conectarse a la pantalla bloqueada</translation>
+    </message>
 </context>
 <context>
     <name>SoundForm</name>
@@ -1024,6 +1128,10 @@ Los espacios, las comillas, las barras invertidas y los caracteres de control no
         <source>Size</source>
         <translation>Tamaño</translation>
     </message>
+    <message>
+        <source>The size of icons on the desktop and the height of the taskbar in pixels. The button beside the list changes the size in view.</source>
+        <translation>El tamaño de los iconos del escritorio y la altura de la barra de tareas en píxeles. El botón junto a la lista cambia el tamaño mostrado.</translation>
+    </message>
 </context>
 <context>
     <name>ThemeKeys</name>
@@ -1090,6 +1198,142 @@ Los espacios, las comillas, las barras invertidas y los caracteres de control no
     <message>
         <source>Sound theme; empty: none</source>
         <translation>Tema de sonidos; vacío: ninguno</translation>
+    </message>
+    <message>
+        <source>buttons under the pointer</source>
+        <translation>botones bajo el puntero</translation>
+    </message>
+    <message>
+        <source>buttons</source>
+        <translation>botones</translation>
+    </message>
+    <message>
+        <source>text on buttons under the pointer</source>
+        <translation>texto de los botones bajo el puntero</translation>
+    </message>
+    <message>
+        <source>text on buttons</source>
+        <translation>texto de los botones</translation>
+    </message>
+    <message>
+        <source>text of the clock in the taskbar</source>
+        <translation>texto del reloj en la barra de tareas</translation>
+    </message>
+    <message>
+        <source>what is selected on the desktop</source>
+        <translation>lo que está seleccionado en el escritorio</translation>
+    </message>
+    <message>
+        <source>background of the desktop where no wallpaper covers it</source>
+        <translation>fondo del escritorio donde no lo cubre ningún fondo de pantalla</translation>
+    </message>
+    <message>
+        <source>background of the desktop&apos;s dialogs</source>
+        <translation>fondo de los diálogos del escritorio</translation>
+    </message>
+    <message>
+        <source>text in the desktop&apos;s dialogs</source>
+        <translation>texto de los diálogos del escritorio</translation>
+    </message>
+    <message>
+        <source>frame of the active window</source>
+        <translation>marco de la ventana activa</translation>
+    </message>
+    <message>
+        <source>frames of the other windows</source>
+        <translation>marcos de las demás ventanas</translation>
+    </message>
+    <message>
+        <source>background of icons</source>
+        <translation>fondo de los iconos</translation>
+    </message>
+    <message>
+        <source>foreground of icons</source>
+        <translation>primer plano de los iconos</translation>
+    </message>
+    <message>
+        <source>text of selected icons</source>
+        <translation>texto de los iconos seleccionados</translation>
+    </message>
+    <message>
+        <source>text of icons</source>
+        <translation>texto de los iconos</translation>
+    </message>
+    <message>
+        <source>selected entry of a menu</source>
+        <translation>entrada seleccionada de un menú</translation>
+    </message>
+    <message>
+        <source>background of menus</source>
+        <translation>fondo de los menús</translation>
+    </message>
+    <message>
+        <source>text of the selected entry of a menu</source>
+        <translation>texto de la entrada seleccionada de un menú</translation>
+    </message>
+    <message>
+        <source>text in menus</source>
+        <translation>texto de los menús</translation>
+    </message>
+    <message>
+        <source>miniature of the active window in the pager</source>
+        <translation>miniatura de la ventana activa en el paginador</translation>
+    </message>
+    <message>
+        <source>miniatures of windows in the pager</source>
+        <translation>miniaturas de las ventanas en el paginador</translation>
+    </message>
+    <message>
+        <source>desktop in view in the pager</source>
+        <translation>escritorio a la vista en el paginador</translation>
+    </message>
+    <message>
+        <source>background of the pager</source>
+        <translation>fondo del paginador</translation>
+    </message>
+    <message>
+        <source>logo of the start menu</source>
+        <translation>logotipo del menú de inicio</translation>
+    </message>
+    <message>
+        <source>selected window in the task switcher</source>
+        <translation>ventana seleccionada en el selector de ventanas</translation>
+    </message>
+    <message>
+        <source>background of the task switcher</source>
+        <translation>fondo del selector de ventanas</translation>
+    </message>
+    <message>
+        <source>text in the task switcher</source>
+        <translation>texto del selector de ventanas</translation>
+    </message>
+    <message>
+        <source>background of the taskbar</source>
+        <translation>fondo de la barra de tareas</translation>
+    </message>
+    <message>
+        <source>title of the active window</source>
+        <translation>título de la ventana activa</translation>
+    </message>
+    <message>
+        <source>titles of the other windows</source>
+        <translation>títulos de las demás ventanas</translation>
+    </message>
+    <message>
+        <source>title bar of the active window</source>
+        <translation>barra de título de la ventana activa</translation>
+    </message>
+    <message>
+        <source>title bars of the other windows</source>
+        <translation>barras de título de las demás ventanas</translation>
+    </message>
+    <message>
+        <source>background of tool tips</source>
+        <translation>fondo de las ayudas emergentes</translation>
+    </message>
+    <message>
+        <source>text of tool tips</source>
+        <translation>texto de las ayudas emergentes</translation>
     </message>
 </context>
 <context>

@@ -384,6 +384,66 @@ Le supprimer quand même ?</translation>
         <source>MenuTransparency2:</source>
         <translation>Menus, à droite :</translation>
     </message>
+    <message>
+        <source>How fast windows appear and disappear: a number without a unit, from 0 to 30. 0 means no animation.</source>
+        <translation>La vitesse à laquelle les fenêtres apparaissent et disparaissent : un nombre sans unité, de 0 à 30. 0 signifie sans animation.</translation>
+    </message>
+    <message>
+        <source>How fast windows are minimized, maximized, restored and rearranged: a number without a unit, from 0 to 25. 0 means no animation.</source>
+        <translation>La vitesse à laquelle les fenêtres sont réduites, agrandies, restaurées et réorganisées : un nombre sans unité, de 0 à 25. 0 signifie sans animation.</translation>
+    </message>
+    <message>
+        <source>How fast the start menu appears: a number without a unit, from 0 to 25. 0 means no animation.</source>
+        <translation>La vitesse à laquelle le menu de démarrage apparaît : un nombre sans unité, de 0 à 25. 0 signifie sans animation.</translation>
+    </message>
+    <message>
+        <source>How long the pointer rests at the screen&apos;s edge until a hidden taskbar appears: milliseconds, from 0 to 3000. 0 means at once.</source>
+        <translation>Le temps que le pointeur reste au bord de l’écran avant que la barre des tâches masquée apparaisse : en millisecondes, de 0 à 3000. 0 signifie aussitôt.</translation>
+    </message>
+    <message>
+        <source>How long the taskbar stays after the pointer has left it: milliseconds, from 0 to 3000. 0 means not at all.</source>
+        <translation>Le temps que la barre des tâches reste après le départ du pointeur : en millisecondes, de 0 à 3000. 0 signifie pas du tout.</translation>
+    </message>
+    <message>
+        <source>How fast a taskbar that hides itself moves: a number without a unit, from 0 to 30. 0 means no animation.</source>
+        <translation>La vitesse à laquelle se déplace une barre des tâches qui se masque : un nombre sans unité, de 0 à 30. 0 signifie sans animation.</translation>
+    </message>
+    <message>
+        <source>How long the pointer rests on an entry until its menu appears: milliseconds, from 0 to 3000. 0 means at once.</source>
+        <translation>Le temps que le pointeur reste sur une entrée avant que son menu apparaisse : en millisecondes, de 0 à 3000. 0 signifie aussitôt.</translation>
+    </message>
+    <message>
+        <source>How long a menu stays after the pointer has left it: milliseconds, from 0 to 3000. 0 means not at all.</source>
+        <translation>Le temps qu’un menu reste après le départ du pointeur : en millisecondes, de 0 à 3000. 0 signifie pas du tout.</translation>
+    </message>
+    <message>
+        <source>How fast menus appear: a number without a unit, from 0 to 10. 0 means no animation.</source>
+        <translation>La vitesse à laquelle les menus apparaissent : un nombre sans unité, de 0 à 10. 0 signifie sans animation.</translation>
+    </message>
+    <message>
+        <source>How wide the area at the screen&apos;s edges is from which the pointer leads to the next desktop: pixels, from 0 to 20. 0 switches autopaging off.</source>
+        <translation>La largeur de la zone au bord de l’écran depuis laquelle le pointeur mène au bureau suivant : en pixels, de 0 à 20. 0 désactive le changement de bureau.</translation>
+    </message>
+    <message>
+        <source>How long the pointer pushes against the edge until the desktop changes: milliseconds, from 0 to 5000. 0 means at once.</source>
+        <translation>Le temps que le pointeur pousse contre le bord avant que le bureau change : en millisecondes, de 0 à 5000. 0 signifie aussitôt.</translation>
+    </message>
+    <message>
+        <source>How far from the edge the pointer arrives on the next desktop: pixels, from 0 to 500. 0 leaves it at the edge.</source>
+        <translation>La distance du bord à laquelle le pointeur arrive sur le bureau suivant : en pixels, de 0 à 500. 0 le laisse au bord.</translation>
+    </message>
+    <message>
+        <source>How fast the desktops move: a number without a unit, from 0 to 100. 0 means no animation.</source>
+        <translation>La vitesse à laquelle les bureaux défilent : un nombre sans unité, de 0 à 100. 0 signifie sans animation.</translation>
+    </message>
+    <message>
+        <source>How transparent menus are at their left side: percent, from 0 to 100. 0 means opaque.</source>
+        <translation>La transparence des menus à leur gauche : en pour cent, de 0 à 100. 0 signifie opaque.</translation>
+    </message>
+    <message>
+        <source>How transparent menus are at their right side: percent, from 0 to 100. 0 means opaque.</source>
+        <translation>La transparence des menus à leur droite : en pour cent, de 0 à 100. 0 signifie opaque.</translation>
+    </message>
 </context>
 <context>
     <name>FilePreview</name>
@@ -731,6 +791,50 @@ Durée : %5 s</translation>
         <source>Lock X Access</source>
         <translation>Verrouiller l’accès à X</translation>
     </message>
+    <message>
+        <source>Start the screensaver when keyboard and mouse are not used</source>
+        <translation>Démarrer l’écran de veille quand le clavier et la souris ne sont pas utilisés</translation>
+    </message>
+    <message>
+        <source>Minutes without input until the screensaver starts</source>
+        <translation>Minutes sans saisie avant le démarrage de l’écran de veille</translation>
+    </message>
+    <message>
+        <source>Minutes without input until the screensaver starts, from 0 to 999. 0 means never.</source>
+        <translation>Minutes sans saisie avant le démarrage de l’écran de veille, de 0 à 999. 0 signifie jamais.</translation>
+    </message>
+    <message>
+        <source>Minutes until the locked display is switched off</source>
+        <translation>Minutes avant l’extinction de l’écran verrouillé</translation>
+    </message>
+    <message>
+        <source>DPMS switches the display off to save energy. This is after how many minutes it does so while the screen is locked, from 0 to 999. 0 means never.</source>
+        <translation>DPMS éteint l’écran pour économiser l’énergie. Voici après combien de minutes il le fait quand l’écran est verrouillé, de 0 à 999. 0 signifie jamais.</translation>
+    </message>
+    <message>
+        <source>How long the locker waits after a wrong password</source>
+        <translation>Le temps d’attente du verrouillage après un mot de passe erroné</translation>
+    </message>
+    <message>
+        <source>Seconds that the locker waits after a wrong password, from 0 to 99. 0 means not at all.</source>
+        <translation>Secondes d’attente du verrouillage après un mot de passe erroné, de 0 à 99. 0 signifie aucune attente.</translation>
+    </message>
+    <message>
+        <source>How loud the bell for a wrong password is</source>
+        <translation>Le volume du signal sonore pour un mot de passe erroné</translation>
+    </message>
+    <message>
+        <source>Loudness of the bell for a wrong password in percent, from 0 to 100. 0 is silent.</source>
+        <translation>Volume du signal sonore pour un mot de passe erroné en pour cent, de 0 à 100. 0 est muet.</translation>
+    </message>
+    <message>
+        <source>Ctrl+Alt+F1 and the like don&apos;t leave the locked screen</source>
+        <translation>Ctrl+Alt+F1 et semblables ne quittent pas l’écran verrouillé</translation>
+    </message>
+    <message>
+        <source>Other programs can&apos;t connect to the locked display</source>
+        <translation>Les autres programmes ne peuvent pas se connecter à l’écran verrouillé</translation>
+    </message>
 </context>
 <context>
     <name>SoundForm</name>
@@ -1024,6 +1128,10 @@ Les espaces, guillemets, barres obliques inverses et caractères de contrôle ne
         <source>Size</source>
         <translation>Taille</translation>
     </message>
+    <message>
+        <source>The size of icons on the desktop and the height of the taskbar in pixels. The button beside the list changes the size in view.</source>
+        <translation>La taille des icônes du bureau et la hauteur de la barre des tâches en pixels. Le bouton à côté de la liste modifie la taille affichée.</translation>
+    </message>
 </context>
 <context>
     <name>ThemeKeys</name>
@@ -1090,6 +1198,142 @@ Les espaces, guillemets, barres obliques inverses et caractères de contrôle ne
     <message>
         <source>Sound theme; empty: none</source>
         <translation>Thème sonore ; vide : aucun</translation>
+    </message>
+    <message>
+        <source>buttons under the pointer</source>
+        <translation>boutons sous le pointeur</translation>
+    </message>
+    <message>
+        <source>buttons</source>
+        <translation>boutons</translation>
+    </message>
+    <message>
+        <source>text on buttons under the pointer</source>
+        <translation>texte des boutons sous le pointeur</translation>
+    </message>
+    <message>
+        <source>text on buttons</source>
+        <translation>texte des boutons</translation>
+    </message>
+    <message>
+        <source>text of the clock in the taskbar</source>
+        <translation>texte de l’horloge dans la barre des tâches</translation>
+    </message>
+    <message>
+        <source>what is selected on the desktop</source>
+        <translation>ce qui est sélectionné sur le bureau</translation>
+    </message>
+    <message>
+        <source>background of the desktop where no wallpaper covers it</source>
+        <translation>fond du bureau là où aucun fond d’écran ne le couvre</translation>
+    </message>
+    <message>
+        <source>background of the desktop&apos;s dialogs</source>
+        <translation>fond des boîtes de dialogue du bureau</translation>
+    </message>
+    <message>
+        <source>text in the desktop&apos;s dialogs</source>
+        <translation>texte des boîtes de dialogue du bureau</translation>
+    </message>
+    <message>
+        <source>frame of the active window</source>
+        <translation>cadre de la fenêtre active</translation>
+    </message>
+    <message>
+        <source>frames of the other windows</source>
+        <translation>cadres des autres fenêtres</translation>
+    </message>
+    <message>
+        <source>background of icons</source>
+        <translation>arrière-plan des icônes</translation>
+    </message>
+    <message>
+        <source>foreground of icons</source>
+        <translation>premier plan des icônes</translation>
+    </message>
+    <message>
+        <source>text of selected icons</source>
+        <translation>texte des icônes sélectionnées</translation>
+    </message>
+    <message>
+        <source>text of icons</source>
+        <translation>texte des icônes</translation>
+    </message>
+    <message>
+        <source>selected entry of a menu</source>
+        <translation>entrée sélectionnée d’un menu</translation>
+    </message>
+    <message>
+        <source>background of menus</source>
+        <translation>fond des menus</translation>
+    </message>
+    <message>
+        <source>text of the selected entry of a menu</source>
+        <translation>texte de l’entrée sélectionnée d’un menu</translation>
+    </message>
+    <message>
+        <source>text in menus</source>
+        <translation>texte des menus</translation>
+    </message>
+    <message>
+        <source>miniature of the active window in the pager</source>
+        <translation>miniature de la fenêtre active dans le sélecteur de bureaux</translation>
+    </message>
+    <message>
+        <source>miniatures of windows in the pager</source>
+        <translation>miniatures des fenêtres dans le sélecteur de bureaux</translation>
+    </message>
+    <message>
+        <source>desktop in view in the pager</source>
+        <translation>bureau affiché dans le sélecteur de bureaux</translation>
+    </message>
+    <message>
+        <source>background of the pager</source>
+        <translation>fond du sélecteur de bureaux</translation>
+    </message>
+    <message>
+        <source>logo of the start menu</source>
+        <translation>logo du menu de démarrage</translation>
+    </message>
+    <message>
+        <source>selected window in the task switcher</source>
+        <translation>fenêtre sélectionnée dans le sélecteur de fenêtres</translation>
+    </message>
+    <message>
+        <source>background of the task switcher</source>
+        <translation>fond du sélecteur de fenêtres</translation>
+    </message>
+    <message>
+        <source>text in the task switcher</source>
+        <translation>texte du sélecteur de fenêtres</translation>
+    </message>
+    <message>
+        <source>background of the taskbar</source>
+        <translation>fond de la barre des tâches</translation>
+    </message>
+    <message>
+        <source>title of the active window</source>
+        <translation>titre de la fenêtre active</translation>
+    </message>
+    <message>
+        <source>titles of the other windows</source>
+        <translation>titres des autres fenêtres</translation>
+    </message>
+    <message>
+        <source>title bar of the active window</source>
+        <translation>barre de titre de la fenêtre active</translation>
+    </message>
+    <message>
+        <source>title bars of the other windows</source>
+        <translation>barres de titre des autres fenêtres</translation>
+    </message>
+    <message>
+        <source>background of tool tips</source>
+        <translation>fond des infobulles</translation>
+    </message>
+    <message>
+        <source>text of tool tips</source>
+        <translation>texte des infobulles</translation>
     </message>
 </context>
 <context>

@@ -27,16 +27,15 @@ constexpr int storedRole = Qt::UserRole + 1;
 constexpr PreviewComboBox *Ui::ThemeForm::*themeCombos[] = {
     &Ui::ThemeForm::cursorThemeCombo, &Ui::ThemeForm::iconThemeCombo, &Ui::ThemeForm::decorThemeCombo};
 
-constexpr char iconThemeKey[] = "IconTheme";
-constexpr char iconThemeSaveDefault[] = "qaz-tirsk"; // on load the default is empty, on purpose
-constexpr char decorThemeKey[] = "DecorTheme";
+constexpr const ThemeKey &iconThemeKey = themeKey("IconTheme"); // on load the default is empty, on purpose
+constexpr const ThemeKey &decorThemeKey = themeKey("DecorTheme");
 constexpr int noDecorThemeIndex = 0;
 
 constexpr int comboIconHeight = 32; // at 96 dpi
 
-QString storedText(const QazSettings *settings, const char *key, const QString &defaultText)
+QString storedText(const QazSettings *settings, const ThemeKey &key, const QString &defaultText)
 {
-    return settings->value(QLatin1String(key), defaultText).toString();
+    return settings->value(QLatin1String(key.name), defaultText).toString();
 }
 
 /// Adds \a entries to those of \a combo, and selects the added one named \a current, or nothing.
@@ -141,11 +140,11 @@ void ThemePage::loadDecorThemes(const QazSettings *settings)
 void ThemePage::loadColors(const QazSettings *settings)
 {
     QComboBox *combo = m_ui->elementComboBox;
-    for (const ColorElement &element : colorElements) {
+    for (const ColorElement &element : colorElements()) {
         const QStringList colors = storedColors(element, *settings);
         const QImage swatch = colorSwatch(combo->iconSize(), colorAt(colors, 0), colorAt(colors, 1));
-        combo->addItem(QPixmap::fromImage(swatch), tr(element.name),
-                       colorItemData(QLatin1String(element.key), colors));
+        combo->addItem(QPixmap::fromImage(swatch), tr(element.front()->title),
+                       colorItemData(element, colors));
         combo->setItemData(combo->count() - 1, colors, storedRole);
     }
     combo->setCurrentIndex(0);
@@ -161,8 +160,8 @@ void ThemePage::loadSizes(const QazSettings *settings)
     QComboBox *combo = m_ui->sizeComboBox;
     const double dpi = screenDpi();
     for (const SizeElement &element : sizeElements) {
-        const QString value = storedText(settings, element.key, defaultSize(element, dpi));
-        combo->addItem(sizeText(value, tr(element.name)), QLatin1String(element.key));
+        const QString value = storedText(settings, *element.key, defaultSize(element, dpi));
+        combo->addItem(sizeText(value, tr(element.key->title)), QLatin1String(element.key->name));
         combo->setItemData(combo->count() - 1, value, storedRole);
     }
     connect(m_ui->sizeButton, &QPushButton::clicked, this, &ThemePage::selectSize, Qt::UniqueConnection);
@@ -184,6 +183,10 @@ void ThemePage::colorElementSelected(int ind)
     const bool hasEnd = colors.size() > 1;
     showColor(m_ui->color1Button, colorAt(colors, 0));
     showColor(m_ui->color2Button, colorAt(colors, hasEnd ? 1 : 0));
+    const ColorElement element = colorElements()[std::size_t(ind)];
+    m_ui->elementComboBox->setWhatsThis(meaning(*element.front()));
+    m_ui->color1Button->setWhatsThis(meaning(*element.front()));
+    m_ui->color2Button->setWhatsThis(meaning(*element.back()));
     m_ui->color2Button->setVisible(hasEnd);
     m_ui->color2Button->setEnabled(hasEnd);
 }
@@ -225,7 +228,7 @@ void ThemePage::setColor(int which, const QColor &color)
     if (!color.isValid() || which >= colors.size() || color.name() == colors.at(which))
         return;
     colors[which] = color.name();
-    combo->setItemData(index, colorItemData(QLatin1String(colorElements[index].key), colors));
+    combo->setItemData(index, colorItemData(colorElements()[std::size_t(index)], colors));
     combo->setItemData(index, colors, storedRole);
     colorElementSelected(index);
     const QColor first = colorAt(colors, 0);
@@ -248,13 +251,13 @@ void ThemePage::selectSize()
         return;
     const SizeElement &element = sizeElements[index]; // the entries stand in the table's order
     const int value = combo->currentData(storedRole).toString().section(QLatin1Char(','), 0, 0).toInt();
-    const QString name = tr(element.name);
-    const QStringList choices = sizeChoices(element);
+    const QString name = tr(element.key->title);
+    const QStringList choices = closedSet(*element.key);
     bool isAccepted = false;
     int chosen = value;
     if (choices.isEmpty())
-        chosen = QInputDialog::getInt(this, tr("Select size"), name, value, element.minimum, element.maximum,
-                                      1, &isAccepted);
+        chosen = QInputDialog::getInt(this, tr("Select size"), name, value, element.key->minimum,
+                                      element.key->maximum, 1, &isAccepted);
     else
         chosen = QInputDialog::getItem(this, tr("Select size"), name, choices,
                                        qMax(0, choices.indexOf(QString::number(value))), false, &isAccepted)
@@ -270,14 +273,14 @@ bool ThemePage::saveValues(QazSettings *settings)
 {
     saveCursorTheme();
     if (m_ui->iconThemeCombo->currentIndex() >= 0)
-        updateStringValue(settings, QLatin1String(iconThemeKey), QLatin1String(iconThemeSaveDefault),
+        updateStringValue(settings, QLatin1String(iconThemeKey.name), QLatin1String(iconThemeKey.defaultText),
                           m_ui->iconThemeCombo->currentText());
-    if (const int index = m_ui->decorThemeCombo->currentIndex(); index >= 0)
-        updateStringValue(settings, QLatin1String(decorThemeKey), QString(),
-                          index == noDecorThemeIndex ? QString() : m_ui->decorThemeCombo->currentText());
-    for (int index = 0; index < m_ui->elementComboBox->count(); ++index)
-        saveColors(colorElements[index], m_ui->elementComboBox->itemData(index, storedRole).toStringList(),
-                   settings);
+    if (const int chosen = m_ui->decorThemeCombo->currentIndex(); chosen >= 0)
+        updateStringValue(settings, QLatin1String(decorThemeKey.name), QString(),
+                          chosen == noDecorThemeIndex ? QString() : m_ui->decorThemeCombo->currentText());
+    int index = 0;
+    for (const ColorElement &element : colorElements())
+        saveColors(element, m_ui->elementComboBox->itemData(index++, storedRole).toStringList(), settings);
     saveSizes(settings);
     return true;
 }
@@ -300,7 +303,7 @@ void ThemePage::saveSizes(QazSettings *settings)
     const double dpi = screenDpi();
     for (int index = 0; index < m_ui->sizeComboBox->count(); ++index) {
         const SizeElement &element = sizeElements[index];
-        updateStringValue(settings, QLatin1String(element.key), defaultSize(element, dpi),
+        updateStringValue(settings, QLatin1String(element.key->name), defaultSize(element, dpi),
                           m_ui->sizeComboBox->itemData(index, storedRole).toString());
     }
 }

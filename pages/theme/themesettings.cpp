@@ -6,10 +6,5 @@ QString defaultSize(const SizeElement &element, double dpi)
 {
     if (int(dpi) > 75 && dpi < 120)
         return QString::number(QazIconTheme::GetIconSizeForDPI(dpi, element.iconKind) + element.margin);
-    return QLatin1String(element.defaultSize);
-}
-
-QStringList sizeChoices(const SizeElement &element)
-{
-    return QString::fromLatin1(element.choices).split(QLatin1Char(','), Qt::SkipEmptyParts);
+    return QLatin1String(element.key->defaultText);
 }

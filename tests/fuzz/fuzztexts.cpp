@@ -1,4 +1,3 @@
-#include "settings/colorelements.h"
 #include "settings/colortexts.h"
 #include "settings/rolefonttext.h"
 #include "tests/fuzz/fuzzing.h"

@@ -216,7 +216,7 @@ void TestQazTheme::listDescribesTheKeys()
     QVERIFY(lines.first().contains("WallPaper ") && lines.at(102).contains("SoundTheme "));
     const ScopedEnvironment language("LANGUAGE", "de");
     QCOMPARE(run("list PagerColor2").out.simplified(),
-             QByteArray("PagerColor2 #fbfcfd #fbfcfd Farbe am Ende des Verlaufs: Pager"));
+             QByteArray("PagerColor2 #fbfcfd #fbfcfd Farbe am Ende des Verlaufs: Hintergrund des Pagers"));
 }
 
 void TestQazTheme::nothingIsLostBetweenTwoWriters()

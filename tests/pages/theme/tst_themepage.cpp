@@ -205,6 +205,8 @@ void TestThemePage::showsColorsAndSizes()
     QCOMPARE(elements->currentData().toString(), QStringLiteral("MenuColor,nonsense,red"));
     QCOMPARE(test.pixel("elementComboBox", elements->currentIndex(), 109, 16), QColor(Qt::white));
     QVERIFY(end->isVisible() && end->isEnabled());
+    QCOMPARE(elements->whatsThis(), QStringLiteral("Color: background of menus"));
+    QCOMPARE(end->whatsThis(), QStringLiteral("Color at the end of the gradient: background of menus"));
     const QImage shown = end->grab().toImage();
     QCOMPARE(shown.pixelColor(shown.rect().center()), QColor(Qt::red));
     QCOMPARE(test.texts("sizeComboBox"), QStringLiteral("48,   Desktop icon size|77,   Taskbar height"));
