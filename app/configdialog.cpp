@@ -2,7 +2,9 @@
 
 #include "app/controlguard.h"
 #include "app/pagetable.h"
+#include "app/themefilewatcher.h"
 #include "app/windowsize.h"
+#include "base/atomicfile.h"
 #include "platform/qazhelp.h"
 #include "platform/qazinit.h"
 #include "platform/qazsettings.h"
@@ -18,6 +20,7 @@
 #include <QPushButton>
 #include <QScrollArea>
 #include <QShortcut>
+#include <QTemporaryFile>
 #include <QVBoxLayout>
 #include <QX11Info>
 
@@ -57,6 +60,7 @@ ConfigDialog::ConfigDialog(const QString &fileName, QWidget *parent, Qt::WindowF
     , m_pageArea(new QScrollArea(this))
     , pagesWidget(new SlidingStackedWidget(m_pageArea))
     , themeFile(fileName)
+    , m_watcher(new ThemeFileWatcher(fileName, this))
 {
     fillContents();
     connect(pagesWidget, &SlidingStackedWidget::animationFinished, this, &ConfigDialog::animationDone);
@@ -75,6 +79,7 @@ ConfigDialog::ConfigDialog(const QString &fileName, QWidget *parent, Qt::WindowF
     if (fileOpen() && !name.isEmpty())
         setWindowTitle(title + QLatin1String(" - ") + titleText(name) + QLatin1String("[*]"));
     connectPages();
+    connect(m_watcher, &ThemeFileWatcher::changedByOthers, this, &ConfigDialog::followThemeFile);
 }
 
 ConfigDialog::~ConfigDialog()
@@ -249,9 +254,34 @@ void ConfigDialog::changePage(QListWidgetItem *current, QListWidgetItem *previou
 
 void ConfigDialog::loadPage(int row)
 {
-    QazSettings store(themeFile);
+    m_watcher->runOwnChange([this, row] {
+        QazSettings store(themeFile);
+        store.sync(true);
+        pageEntries[row].type->load(pagesWidget->widget(row), &store);
+    });
+}
+
+void ConfigDialog::followThemeFile()
+{
+    if (isWindowModified())
+        return;
+    if (QApplication::activeModalWidget()) // what it was asked for is about the values in view
+        return m_watcher->lookAgain();
+    m_watcher->accept();
+    // A page may set values while it loads. Those must not replace what the other program has just written.
+    QTemporaryFile copy;
+    const FileContent file = readRegularFile(themeFile);
+    if (file.state == FileState::Unreadable || !copy.open() || copy.write(file.content) != file.content.size()
+        || !copy.flush())
+        return;
+    QazSettings store(copy.fileName());
     store.sync(true);
-    pageEntries[row].type->load(pagesWidget->widget(row), &store);
+    for (const PageEntry &entry : pageEntries) {
+        QWidget *page = pagesWidget->widget(rowOf(entry.type));
+        if (entry.type->isLoaded(page))
+            entry.type->load(page, &store);
+    }
+    setEdited(false); // the pages take what they are filled with for edits
 }
 
 QDialogButtonBox *ConfigDialog::buttonBox()
@@ -267,13 +297,15 @@ bool ConfigDialog::fileOpen()
 
 bool ConfigDialog::fileSave()
 {
-    QazSettings store(themeFile);
-    store.sync(true);
-    for (const PageType *type : saveOrder) {
-        QWidget *page = pagesWidget->widget(rowOf(type));
-        if (type->isLoaded(page))
-            type->save(page, &store);
-    }
+    m_watcher->runOwnChange([this] {
+        QazSettings store(themeFile);
+        store.sync(true);
+        for (const PageType *type : saveOrder) {
+            QWidget *page = pagesWidget->widget(rowOf(type));
+            if (type->isLoaded(page))
+                type->save(page, &store);
+        }
+    });
     return true;
 }
 

@@ -6,6 +6,7 @@ class QDialogButtonBox;
 class QListWidget;
 class QListWidgetItem;
 class SlidingStackedWidget;
+class ThemeFileWatcher;
 
 /// The program's only main window: a list of pages, the pages in a sliding stack, and the buttons. A page
 /// is loaded when it is first shown, and saved only when it is loaded. The size is kept between runs.
@@ -58,6 +59,8 @@ private:
     void connectPages();
     /// Loads the page of \a row from the theme file as it is now.
     void loadPage(int row);
+    /// Shows what another program has written, unless there are edits: those stay, and win.
+    void followThemeFile();
     void setEdited(bool edited);
 
     QListWidget *contentsWidget;
@@ -66,6 +69,7 @@ private:
     bool slideFinished = true;
     QDialogButtonBox *m_buttonBox = nullptr;
     QString themeFile;
+    ThemeFileWatcher *m_watcher;
     QSize m_wantedSize; // of the user, whatever the screen has room for
     QSize m_firstSize;  // the one shown for it
 };

@@ -1,10 +1,13 @@
 #include "tests/app/dialogtest.h"
 
+#include "app/themefilewatcher.h"
 #include "pages/effects/effectpage.h"
 #include "tests/support/fakeprogram.h"
 #include "tests/support/modaldriver.h"
+#include "tests/support/wmlistener.h"
 
 #include <QComboBox>
+#include <QLineEdit>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -137,6 +140,39 @@ private slots:
         QTest::keyClick(delay(), Qt::Key_Return);
         QVERIFY(!m_dialog->isVisible());
         QVERIFY(m_home->read("t"_s).contains("ScreenSaverDelay=300\n"));
+    }
+
+    void itFollowsTheFileUnlessThereAreEdits()
+    {
+        open("TaskbarShowDelay=100\nUseComposite=true\n");
+        WmListener listener;
+        for (int row = m_list->count(); row-- > 0;)
+            m_list->setCurrentRow(row);
+        const auto *taskbarDelay = find<QSpinBox>("taskbarShowDelaySpinBox");
+        // In place, then by a new file, then none at all: by other programs, which may set what a page corrects.
+        const QByteArray written
+            = "TaskbarShowDelay=200\nWallPaper=#123456\nUseComposite=true\nTitleFont=Sans-8:bold\n"
+              "LockerTTYLock=false\nEnableSound=true\nMenuColor=red\n";
+        m_home->write("t"_s, written);
+        QTRY_COMPARE(taskbarDelay->value(), 200);
+        QCOMPARE(find<QLineEdit>("wallpaperLineEdit")->text(), "#123456"_s);
+        verifyEdited(false);
+        QCOMPARE(m_home->read("t"_s), written);
+        m_home->write("new"_s, "TaskbarShowDelay=300\n");
+        QCOMPARE(std::rename(qPrintable(m_home->path("new"_s)), qPrintable(m_home->path("t"_s))), 0);
+        QTRY_COMPARE(taskbarDelay->value(), 300);
+        QVERIFY(QFile::remove(m_home->path("t"_s)));
+        QTRY_COMPARE(taskbarDelay->value(), 500);
+        QCOMPARE(listener.take(), QStringList());
+
+        delay()->setValue(7);
+        QSignalSpy others(find<ThemeFileWatcher>(), &ThemeFileWatcher::changedByOthers);
+        m_home->write("t"_s, "TaskbarShowDelay=400\nOther=1\n");
+        QVERIFY(others.wait());
+        QCOMPARE(taskbarDelay->value(), 500);
+        button(QDialogButtonBox::Apply)->click();
+        QVERIFY(m_home->read("t"_s).contains("ScreenSaverDelay=420\n"));
+        QVERIFY(m_home->read("t"_s).startsWith("TaskbarShowDelay=500\nOther=1\n"));
     }
 
     void theWheelChangesNothingUnfocused()
