@@ -4,42 +4,12 @@
 #include "pages/screensaver/screensaversettings.h"
 #include "platform/qazsettings.h"
 #include "settings/updatevalues.h"
-#include "ui_screensaverform.h"
-
-#include <QCheckBox>
-#include <QSpinBox>
 
 namespace {
 
-struct SpinSetting {
-    const char *key;
-    const char *defaultText;
-    bool inMinutes; // shown in minutes, stored in seconds
-    QSpinBox *Ui::ScreensaverForm::*spinBox;
-};
-
-struct CheckSetting {
-    const char *key;
-    const char *defaultText;
-    QCheckBox *Ui::ScreensaverForm::*checkBox;
-};
-
-// Both lists are in load and save order; the numbers come first.
-// clang-format off
-constexpr SpinSetting spinSettings[] = {
-    {"ScreenSaverDelay",         "600", true,  &Ui::ScreensaverForm::minutesToStartSpinBox},
-    {"LockerDpmsOffTimeout",     "60",  true,  &Ui::ScreensaverForm::dpmsOffSpinBox},
-    {"LockerWrongPasswdTimeout", "2",   false, &Ui::ScreensaverForm::wrongPasswordTimeoutSpinBox},
-    {"LockerBellLevel",          "50",  false, &Ui::ScreensaverForm::wrongPasswordBellSpinBox}};
-constexpr CheckSetting checkSettings[] = {
-    {"LockerTTYLock",     "true",  &Ui::ScreensaverForm::lockTTYCheckBox},
-    {"LockerXaccessLock", "false", &Ui::ScreensaverForm::lockXaccessCheckBox}};
-// clang-format on
-
-template<typename Setting>
-QVariant storedValue(const QazSettings *store, const Setting &setting)
+QVariant storedValue(const QazSettings *settings, const ThemeKey *key)
 {
-    return store->value(QLatin1String(setting.key), QString::fromLatin1(setting.defaultText));
+    return settings->value(QLatin1String(key->name), QLatin1String(key->defaultText));
 }
 
 } // namespace
@@ -53,47 +23,42 @@ ScreensaverPage::ScreensaverPage(QWidget *parent)
 
 ScreensaverPage::~ScreensaverPage() = default;
 
-bool ScreensaverPage::loadValues(QazSettings *store, bool /*restore*/)
+bool ScreensaverPage::loadValues(QazSettings *settings, bool /*restore*/)
 {
     const WaitCursor waitCursor;
-    for (const SpinSetting &setting : spinSettings) {
-        const int value = storedValue(store, setting).toInt();
-        (m_ui.get()->*setting.spinBox)->setValue(setting.inMinutes ? minutesFromSeconds(value) : value);
-    }
+    for (const NumberSetting &setting : numberSettings)
+        (m_ui.get()->*setting.spinBox)->setValue(storedValue(settings, setting.key).toInt() / setting.unit);
     m_ui->startAutomaticallyCheckBox->setChecked(m_ui->minutesToStartSpinBox->value() != 0);
-    for (const CheckSetting &setting : checkSettings)
-        (m_ui.get()->*setting.checkBox)->setChecked(storedValue(store, setting).toBool());
-    connectChanges();
+    for (const TruthSetting &setting : truthSettings)
+        (m_ui.get()->*setting.checkBox)->setChecked(storedValue(settings, setting.key).toBool());
+    connectEdits();
     loaded = true;
     return true;
 }
 
-void ScreensaverPage::connectChanges()
+void ScreensaverPage::connectEdits()
 {
     // Loading may run again, so the connections are unique.
-    for (const SpinSetting &setting : spinSettings) {
-        const QSpinBox *spinBox = m_ui.get()->*setting.spinBox;
+    for (const QSpinBox *spinBox : findChildren<QSpinBox *>()) {
         connect(spinBox, qOverload<int>(&QSpinBox::valueChanged), this, &ScreensaverPage::changedSignal,
                 Qt::UniqueConnection);
         connect(spinBox, &QSpinBox::textChanged, this, &ScreensaverPage::changedSignal, Qt::UniqueConnection);
     }
-    for (const QCheckBox *checkBox :
-         {m_ui->startAutomaticallyCheckBox, m_ui->lockTTYCheckBox, m_ui->lockXaccessCheckBox})
+    for (const QCheckBox *checkBox : findChildren<QCheckBox *>())
         connect(checkBox, &QCheckBox::stateChanged, this, &ScreensaverPage::changedSignal,
                 Qt::UniqueConnection);
 }
 
-void ScreensaverPage::saveValues(QazSettings *store)
+void ScreensaverPage::saveValues(QazSettings *settings)
 {
-    for (const SpinSetting &setting : spinSettings) {
+    for (const NumberSetting &setting : numberSettings) {
         const QSpinBox *spinBox = m_ui.get()->*setting.spinBox;
         const bool isOff = spinBox == m_ui->minutesToStartSpinBox
                            && !m_ui->startAutomaticallyCheckBox->isChecked();
-        const int value = setting.inMinutes ? secondsFromMinutes(spinBox->value()) : spinBox->value();
-        updateIntValue(store, QLatin1String(setting.key), QString::fromLatin1(setting.defaultText),
-                       isOff ? 0 : value);
+        updateIntValue(settings, QLatin1String(setting.key->name), QLatin1String(setting.key->defaultText),
+                       isOff ? 0 : spinBox->value() * setting.unit);
     }
-    for (const CheckSetting &setting : checkSettings)
-        updateBoolValue(store, QLatin1String(setting.key), QString::fromLatin1(setting.defaultText),
+    for (const TruthSetting &setting : truthSettings)
+        updateBoolValue(settings, QLatin1String(setting.key->name), QLatin1String(setting.key->defaultText),
                         (m_ui.get()->*setting.checkBox)->isChecked());
 }

@@ -26,13 +26,13 @@ signals:
     void changedSignal();
 
 public slots:
-    /// Fills the form from \a store, which stays the caller's. \a restore changes nothing. Always true.
-    bool loadValues(QazSettings *store, bool restore = false);
-    /// Stores and announces what differs from \a store.
-    void saveValues(QazSettings *store);
+    /// Fills the form from \a settings, which stays the caller's. \a restore changes nothing. Always true.
+    bool loadValues(QazSettings *settings, bool restore = false);
+    /// Stores and announces what differs from \a settings.
+    void saveValues(QazSettings *settings);
 
 private:
-    void connectChanges();
+    void connectEdits();
 
     std::unique_ptr<Ui::ScreensaverForm> m_ui;
 };

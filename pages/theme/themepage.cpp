@@ -93,7 +93,7 @@ bool ThemePage::loadValues(QazSettings *settings)
     loadDecorThemes(settings);
     loadColors(settings);
     loadSizes(settings);
-    connectChanges();
+    connectEdits();
     loaded = true;
     return true;
 }
@@ -167,7 +167,7 @@ void ThemePage::loadSizes(const QazSettings *settings)
     connect(m_ui->sizeButton, &QPushButton::clicked, this, &ThemePage::selectSize, Qt::UniqueConnection);
 }
 
-void ThemePage::connectChanges()
+void ThemePage::connectEdits()
 {
     // Choosing an element or a size only looks at it; the dialogs behind the buttons tell of their edits themselves.
     for (PreviewComboBox *Ui::ThemeForm::*member : themeCombos)

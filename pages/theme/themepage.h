@@ -51,7 +51,7 @@ private:
     void loadDecorThemes(const QazSettings *settings);
     void loadColors(const QazSettings *settings);
     void loadSizes(const QazSettings *settings);
-    void connectChanges();
+    void connectEdits();
 
     void saveCursorTheme();
     void saveSizes(QazSettings *settings);

@@ -105,10 +105,14 @@ private slots:
             {"PagingShiftCursor", 200, 500},    {"MenuTransparency", 0, 100},    {"MenuTransparency2", 0, 100}};
         // clang-format on
         PageOverFile file({});
+        QCOMPARE(file.page.findChildren<QSpinBox *>().size(), int(std::size(cases)));
         for (const Case &one : cases) {
             const QByteArray name = one.key.left(1).toLower() + one.key.mid(1) + "SpinBox";
             auto *box = file.find<QSpinBox>(name.constData());
             QVERIFY2(box->value() == one.missing, one.key.constData());
+            QVERIFY2(box->minimum() == 0 && box->maximum() == one.maximum, one.key.constData());
+            const QString range = QStringLiteral(" from 0 to %1. 0 ").arg(one.maximum);
+            QVERIFY2(box->whatsThis().contains(range), one.key.constData());
             const QVector<QPair<QByteArray, int>> texts{
                 {"7", 7}, {"99999", one.maximum}, {"-3", 0}, {"seven", 0}, {"", 0}};
             for (const auto &[text, value] : texts) {
@@ -191,25 +195,50 @@ private slots:
         QCOMPARE(belt->value(), 20);
     }
 
-    void everyValueIsAnnouncedInItsPlace()
+    void everyValueIsReadEditedAndSavedInItsPlace()
     {
-        PageOverFile file({});
-        for (QCheckBox *box : file.page.findChildren<QCheckBox *>())
-            box->setChecked(!box->isChecked());
-        for (QSpinBox *box : file.page.findChildren<QSpinBox *>()) {
-            box->setValue(3);
-            box->setEnabled(false); // it is saved all the same
+        // In the order in which they are saved; all start with values that are nobody's default.
+        const QStringList numbers
+            = QStringLiteral("StartMenuMapSpeed ArrangeWindowSpeed GradWindowMapSpeed MenuDelayTime "
+                             "MenuDelayTime2 GradMenuMapSpeed GradTaskbarMotionSpeed TaskbarShowDelay "
+                             "TaskbarHideDelay PagingBeltSize PagingResistance PagingSpeed "
+                             "PagingShiftCursor MenuTransparency MenuTransparency2")
+                  .split(QLatin1Char(' '));
+        QByteArray content = "# mine\nSmartPlacement=false\nOpaqueMove=false\nOpaqueResize=false\n"
+                             "FullOpaque=false\nGradWindowMapStyle=BottomToTop\nThumbSize=0\n";
+        for (const QString &key : numbers)
+            content += key.toLatin1() + "=1\n";
+        PageOverFile file(content);
+        choose(file.find<QComboBox>("gradWindowMapStyleComboBox"), 6); // its speed can be edited then
+        int value = 2;
+        QStringList commands;
+        for (const QString &key : numbers) {
+            auto *box = file.find<QSpinBox>(
+                (key.left(1).toLower() + key.mid(1) + QLatin1String("SpinBox")).toLatin1().constData());
+            QCOMPARE(box->value(), key == QLatin1String("GradWindowMapSpeed") ? 15 : 1);
+            box->selectAll();
+            if (box->isVisibleTo(&file.page) || !key.startsWith(QLatin1String("MenuTransparency")))
+                QTest::keyClicks(box, QString::number(value));
+            else
+                box->setValue(value); // no user can, but the value is saved
+            commands.append(key + QLatin1Char(' ') + QString::number(value));
+            content.replace(key.toLatin1() + "=1\n", key.toLatin1() + '=' + QByteArray::number(value) + '\n');
+            value = value == 9 ? 2 : value + 1;
         }
-        file.find<QComboBox>("gradWindowMapStyleComboBox")->setCurrentIndex(6);
+        for (const char *name :
+             {"smartPlacementCheckBox", "opaqueMoveCheckBox", "opaqueResizeCheckBox", "thumbCheckBox"}) {
+            QVERIFY2(!file.find<QCheckBox>(name)->isChecked(), name);
+            file.find<QCheckBox>(name)->click();
+        }
         file.find<QGroupBox>("compositeGroupBox")->setChecked(true);
-        const QString expected = QStringLiteral(
-            "SmartPlacement false|OpaqueMove false|OpaqueResize false|FullOpaque false|StartMenuMapSpeed 3|"
-            "ArrangeWindowSpeed 3|GradWindowMapSpeed 3|GradWindowMapStyle FromButton|MenuDelayTime 3|"
-            "MenuDelayTime2 3|GradMenuMapSpeed 3|GradTaskbarMotionSpeed 3|TaskbarShowDelay "
-            "3|TaskbarHideDelay 3|"
-            "PagingBeltSize 3|PagingResistance 3|PagingSpeed 3|PagingShiftCursor 3|MenuTransparency 3|"
-            "MenuTransparency2 3|UseComposite true|ThumbSize 250");
-        QCOMPARE(file.save().join(QLatin1Char('|')), expected);
+        commands.insert(3, QStringLiteral("GradWindowMapStyle FromButton"));
+        commands = QStringLiteral("SmartPlacement true|OpaqueMove true|OpaqueResize true|FullOpaque true")
+                       .split(QLatin1Char('|'))
+                   + commands
+                   + QStringList{QStringLiteral("UseComposite true"), QStringLiteral("ThumbSize 250")};
+        QCOMPARE(file.save().join(QLatin1Char('|')), commands.join(QLatin1Char('|')));
+        content.replace("=false", "=true").replace("BottomToTop", "FromButton").replace("Size=0", "Size=250");
+        QCOMPARE(file.content(), "CompositeManager=nobody\n" + content + "UseComposite=true\n");
         QCOMPARE(file.save(), QStringList());
     }
 

@@ -65,20 +65,47 @@ private slots:
         }
     }
 
+    void numbersStayInTheirLimits()
+    {
+        constexpr struct {
+            const char *name;
+            int maximum;
+        } rows[] = {{"minutesToStartSpinBox", 999},
+                    {"dpmsOffSpinBox", 999},
+                    {"wrongPasswordTimeoutSpinBox", 99},
+                    {"wrongPasswordBellSpinBox", 100}};
+        QCOMPARE(m_page->findChildren<QSpinBox *>().size(), int(std::size(rows)));
+        for (const auto &row : rows) {
+            QCOMPARE(spin(row.name)->minimum(), 0);
+            QCOMPARE(spin(row.name)->maximum(), row.maximum);
+            // What the number is stands in its What's This text: the limits and the meaning of 0.
+            const QString text = spin(row.name)->whatsThis();
+            QVERIFY2(text.contains(" 0 to %1. 0 "_s.arg(row.maximum)), row.name);
+        }
+    }
+
     void everyEditIsSavedInOrder()
     {
+        m_home->write(themeFile, "# mine\nLockerBellLevel=7\nOther=1\n");
         WmListener listener;
         load();
-        spin("minutesToStartSpinBox")->setValue(15);
-        spin("dpmsOffSpinBox")->setValue(20);
-        spin("wrongPasswordTimeoutSpinBox")->setValue(3);
-        spin("wrongPasswordBellSpinBox")->setValue(4);
-        check("lockTTYCheckBox")->setChecked(false);
-        check("lockXaccessCheckBox")->setChecked(true);
+        for (const auto &[name, value] : {std::pair("minutesToStartSpinBox", "15"),
+                                          {"dpmsOffSpinBox", "20"},
+                                          {"wrongPasswordTimeoutSpinBox", "3"},
+                                          {"wrongPasswordBellSpinBox", "4"}}) {
+            spin(name)->selectAll();
+            QTest::keyClicks(spin(name), QLatin1String(value));
+        }
+        check("lockTTYCheckBox")->click();
+        check("lockXaccessCheckBox")->click();
         save();
         QCOMPARE(listener.take().replaceInStrings("QAZWM_UPDATE_VAL "_s, QString()).join(u' '),
                  "ScreenSaverDelay 900 LockerDpmsOffTimeout 1200 LockerWrongPasswdTimeout 3 "
                  "LockerBellLevel 4 LockerTTYLock false LockerXaccessLock true"_s);
+        QCOMPARE(
+            m_home->read(themeFile),
+            QByteArray("# mine\nLockerBellLevel=4\nOther=1\nScreenSaverDelay=900\nLockerDpmsOffTimeout=1200\n"
+                       "LockerWrongPasswdTimeout=3\nLockerTTYLock=false\nLockerXaccessLock=true\n"));
     }
 
     void aClearedCheckBoxSwitchesTheScreensaverOff()
