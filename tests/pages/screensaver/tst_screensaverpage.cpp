@@ -104,8 +104,8 @@ private slots:
                  "LockerBellLevel 4 LockerTTYLock false LockerXaccessLock true"_s);
         QCOMPARE(
             m_home->read(themeFile),
-            QByteArray("# mine\nLockerBellLevel=4\nOther=1\nScreenSaverDelay=900\nLockerDpmsOffTimeout=1200\n"
-                       "LockerWrongPasswdTimeout=3\nLockerTTYLock=false\nLockerXaccessLock=true\n"));
+            QByteArray("# mine\nLockerBellLevel=4\nOther=1\nLockerDpmsOffTimeout=1200\nLockerTTYLock=false\n"
+                       "LockerWrongPasswdTimeout=3\nLockerXaccessLock=true\nScreenSaverDelay=900\n"));
     }
 
     void aClearedCheckBoxSwitchesTheScreensaverOff()
