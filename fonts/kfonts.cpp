@@ -19,7 +19,6 @@
 #include <QPushButton>
 #include <QSpinBox>
 #include <QStyleOptionComboBox>
-#include <QTimer>
 #include <QVBoxLayout>
 
 namespace {
@@ -236,15 +235,17 @@ bool KFonts::saveSettings(QazSettings *settings)
     } else if (isChanged) {
         aaModeAtLoad = aaMode;
         dpiAtLoad = dpi;
-        showMessage(this, QMessageBox::Information, tr("Font Settings Changed"),
-                    tr("<p>Some changes such as anti-aliasing or DPI will only affect newly started "
-                       "applications.</p>"));
+        QMessageBox::information(
+            this, tr("Font Settings Changed"),
+            tr("<p>Some changes such as anti-aliasing or DPI will only affect newly started "
+               "applications.</p>"));
     }
     applyXResources(exportXftSettings);
     emit changed(false);
-    // The dialog takes what was saved for unedited; behind its back, this page is not.
+    // The dialog takes a page that was saved for unedited; after that, this one tells that it is not.
     if (!error.isEmpty())
-        QTimer::singleShot(0, this, [this] { emit changed(true); });
+        QMetaObject::invokeMethod(
+            this, [this] { emit changed(true); }, Qt::QueuedConnection);
     return isChanged;
 }
 

@@ -264,6 +264,7 @@ private slots:
         ModalDriver driver;
         // The resources are merged last, after the message; merging without a DPI removes once more.
         driver.then([&](QDialog *box) {
+            QVERIFY(qobject_cast<QMessageBox *>(box)->textFormat() != Qt::PlainText); // it has markup
             box->accept();
             QCOMPARE(programs.calls(xrdb).size(), 1);
         });
