@@ -329,6 +329,8 @@ void ConfigDialog::helpSlot()
 void ConfigDialog::okSlot()
 {
     applySlot();
+    // A page that could not be saved tells that it is edited again, and closing asks.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall);
     close();
 }
 
