@@ -10,10 +10,13 @@
 #include <QScopeGuard>
 #include <QTemporaryFile>
 
+#include <algorithm>
+#include <cctype>
 #include <cerrno>
 #include <csignal>
 #include <cstdio>
 #include <ctime>
+#include <filesystem>
 #include <memory>
 
 #include <dirent.h>
@@ -77,6 +80,17 @@ mode_t processUmask()
     const mode_t mask = ::umask(0);
     ::umask(mask);
     return mask;
+}
+
+/// ".qaz-XXXXXX", or ".qaz-word-XXXXXX" for what is more than a file.
+bool isTemporaryName(const QByteArray &name)
+{
+    constexpr int randomLength = 6;
+    const int prefix = int(sizeof ".qaz-") - 1;
+    const QByteArray random = name.right(randomLength);
+    return name.startsWith(".qaz-") && name.size() >= prefix + randomLength
+           && name.at(name.size() - randomLength - 1) == '-'
+           && std::all_of(random.begin(), random.end(), [](char c) { return std::isalnum(uchar(c)); });
 }
 
 bool isReplaceable(const QByteArray &path, QString *error)
@@ -148,12 +162,14 @@ void removeStaleTemporaries(const QString &directory)
         ::opendir(QFile::encodeName(directory).constData()));
     const std::time_t newest = std::time(nullptr) - staleSeconds;
     while (const dirent *entry = entries ? ::readdir(entries.get()) : nullptr) {
-        const QByteArray name(entry->d_name);
         struct stat status = {};
-        if (name.startsWith(".qaz-") && name.size() == int(sizeof temporaryName) - 1
-            && ::fstatat(::dirfd(entries.get()), name.constData(), &status, AT_SYMLINK_NOFOLLOW) == 0
-            && S_ISREG(status.st_mode) && status.st_uid == ::geteuid() && status.st_mtime < newest)
-            ::unlinkat(::dirfd(entries.get()), name.constData(), 0);
+        std::error_code ignored;
+        if (isTemporaryName(entry->d_name)
+            && ::fstatat(::dirfd(entries.get()), entry->d_name, &status, AT_SYMLINK_NOFOLLOW) == 0
+            && (S_ISREG(status.st_mode) || S_ISDIR(status.st_mode)) && status.st_uid == ::geteuid()
+            && status.st_mtime < newest)
+            std::filesystem::remove_all(
+                std::filesystem::path(QFile::encodeName(directory).toStdString()) / entry->d_name, ignored);
     }
 }
 

@@ -141,18 +141,21 @@ private slots:
     void leftOversGoAtTheNextWrite()
     {
         const TemporaryHome home;
-        for (const char *name : {".qaz-old123", ".qaz-new123", ".qaz-longer12", "other.qaz-x"})
+        for (const char *name : {".qaz-old123", ".qaz-new123", ".qaz-longer12", ".qaz-pack-Abc123/a/b",
+                                 ".qaz-under_12", "x.qaz-old123"})
             home.write(QLatin1String(name), "x");
-        const QDateTime old = QDateTime::currentDateTime().addSecs(-3700);
-        for (const char *name : {".qaz-old123", ".qaz-longer12", "other.qaz-x"}) {
-            QFile file(home.path(QLatin1String(name)));
-            QVERIFY(file.open(QIODevice::ReadWrite)
-                    && file.setFileTime(old, QFileDevice::FileModificationTime));
+        QVERIFY(QFile::link("x.qaz-old123"_s, home.path(".qaz-link12"_s)));
+        const timespec old[] = {{1000, 0}, {::time(nullptr) - 3700, 0}};
+        for (const QString &name : namesIn(home.path())) {
+            if (name != ".qaz-new123"_s)
+                QCOMPARE(::utimensat(AT_FDCWD, QFile::encodeName(home.path(name)).constData(), old,
+                                     AT_SYMLINK_NOFOLLOW),
+                         0);
         }
         QString error;
         QVERIFY(replaceFile(home.path("file"_s), "x", &error));
-        QCOMPARE(namesIn(home.path()),
-                 (QStringList{".qaz-longer12"_s, ".qaz-new123"_s, "file"_s, "other.qaz-x"_s}));
+        QCOMPARE(namesIn(home.path()), (QStringList{".qaz-link12"_s, ".qaz-longer12"_s, ".qaz-new123"_s,
+                                                    ".qaz-under_12"_s, "file"_s, "x.qaz-old123"_s}));
     }
 
     void theLockIsAFileOfTheUsersOwn()
