@@ -156,6 +156,7 @@ void ConfigDialog::createButtons()
     ok->setDefault(true);
     ok->setEnabled(false);
     QPushButton *apply = m_buttonBox->button(QDialogButtonBox::Apply);
+    apply->setText(tr("Apply")); // which Qt's catalogues don't call as desktops do
     apply->setEnabled(false);
     m_buttonBox->button(QDialogButtonBox::Help)->setShortcut(QKeySequence(QKeySequence::HelpContents));
     QPushButton *restore = m_buttonBox->addButton(tr("Restore..."), QDialogButtonBox::ResetRole);

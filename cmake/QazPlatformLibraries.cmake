@@ -21,6 +21,6 @@ qaz_add_desktop_library(qazcore qaz-platform
     "getqazdir|qazinit|qazsettings|qazdesktopentry|findfileinpath|findinps|setxrdbparameterinfile")
 qaz_add_desktop_library(qazui qaz-platform
     "finddpi|qazicontheme|findwallpaperbyname|wallpapersizeforscreen" qazcore)
-qaz_add_desktop_library(qazuiextra qaz-platform "qazhelp|qazsoundtheme" qazcore slidingstackedwidget)
+qaz_add_desktop_library(qazuiextra qaz-platform "helpwindow|qazhelp|qazsoundtheme" qazcore slidingstackedwidget)
 add_custom_target(desktop-libraries
     DEPENDS qazcore qazui qazuiextra qazintegration qazfiledialog slidingstackedwidget)

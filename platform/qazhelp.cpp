@@ -1,15 +1,12 @@
 #include "platform/qazhelp.h"
 
+#include "platform/helpwindow.h"
 #include "platform/slidingstackedwidget.h"
 
 #include <QApplication>
-#include <QCoreApplication>
 #include <QFile>
-#include <QIcon>
 #include <QLocale>
 #include <QPointer>
-#include <QShortcut>
-#include <QTextBrowser>
 
 namespace {
 
@@ -39,23 +36,15 @@ QUrl guide()
     return QUrl(QStringLiteral("qrc:/guide/guide.html"));
 }
 
-QTextBrowser *helpWindow()
+/// The one help window. A modal dialog lets nobody but its own windows take keys and clicks.
+HelpWindow *helpWindow()
 {
-    static QPointer<QTextBrowser> window;
-    if (!window) {
-        window = new QTextBrowser;
-        window->setAttribute(Qt::WA_DeleteOnClose);
-        window->setAttribute(Qt::WA_QuitOnClose, false);
-        window->setObjectName(QStringLiteral("helpWindow"));
-        window->setWindowTitle(QCoreApplication::translate("Help", "Qaz Theme Editor Help"));
-        window->setWindowIcon(QIcon::fromTheme(QStringLiteral("help-contents"),
-                                               QIcon(QStringLiteral(":/fallback/help-contents.svg"))));
-        window->setOpenExternalLinks(false);
-        window->resize(760, 640);
-        window->document()->setDocumentMargin(16);
-        for (const QKeySequence::StandardKey key : {QKeySequence::Cancel, QKeySequence::Close})
-            QObject::connect(new QShortcut(key, window), &QShortcut::activated, window, &QWidget::close);
-    }
+    static QPointer<HelpWindow> window;
+    if (!window)
+        window = new HelpWindow;
+    QWidget *modal = QApplication::activeModalWidget();
+    if (window->parentWidget() != modal)
+        window->setParent(modal, Qt::Window);
     return window;
 }
 
@@ -74,7 +63,7 @@ QString qazHelpLookForWidget()
 
 void qazHelpShow(const QString &topic)
 {
-    QTextBrowser *window = helpWindow();
+    HelpWindow *window = helpWindow();
     window->show();
     window->raise();
     window->activateWindow();

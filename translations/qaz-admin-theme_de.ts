@@ -105,6 +105,10 @@ Remove it all the same?</source>
         <translation>„%1“ kann nicht gesichert werden: %2
 Trotzdem entfernen?</translation>
     </message>
+    <message>
+        <source>Apply</source>
+        <translation>Übernehmen</translation>
+    </message>
 </context>
 <context>
     <name>EffectForm</name>
@@ -552,6 +556,30 @@ Länge: %5 s</translation>
     <message>
         <source>Qaz Theme Editor Help</source>
         <translation>Hilfe zum Qaz-Designeditor</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Vor</translation>
+    </message>
+    <message>
+        <source>Search:</source>
+        <translation>Suchen:</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>Vorheriger Treffer</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Nächster Treffer</translation>
+    </message>
+    <message>
+        <source>Not found</source>
+        <translation>Nicht gefunden</translation>
     </message>
 </context>
 <context>

@@ -105,6 +105,10 @@ Remove it all the same?</source>
         <translation>Can&apos;t back up &apos;%1&apos;: %2
 Remove it all the same?</translation>
     </message>
+    <message>
+        <source>Apply</source>
+        <translation>Apply</translation>
+    </message>
 </context>
 <context>
     <name>EffectForm</name>
@@ -552,6 +556,30 @@ Length: %5 s</translation>
     <message>
         <source>Qaz Theme Editor Help</source>
         <translation>Qaz Theme Editor Help</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Back</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Forward</translation>
+    </message>
+    <message>
+        <source>Search:</source>
+        <translation>Search:</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>Previous</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Next</translation>
+    </message>
+    <message>
+        <source>Not found</source>
+        <translation>Not found</translation>
     </message>
 </context>
 <context>

@@ -105,6 +105,10 @@ Remove it all the same?</source>
         <translation>No se puede hacer una copia de seguridad de «%1»: %2
 ¿Eliminarlo de todos modos?</translation>
     </message>
+    <message>
+        <source>Apply</source>
+        <translation>Aplicar</translation>
+    </message>
 </context>
 <context>
     <name>EffectForm</name>
@@ -552,6 +556,30 @@ Duración: %5 s</translation>
     <message>
         <source>Qaz Theme Editor Help</source>
         <translation>Ayuda del editor de temas de Qaz</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Atrás</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Adelante</translation>
+    </message>
+    <message>
+        <source>Search:</source>
+        <translation>Buscar:</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>Resultado anterior</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Resultado siguiente</translation>
+    </message>
+    <message>
+        <source>Not found</source>
+        <translation>No se ha encontrado</translation>
     </message>
 </context>
 <context>

@@ -105,6 +105,10 @@ Remove it all the same?</source>
         <translation>Impossible de sauvegarder « %1 » : %2
 Le supprimer quand même ?</translation>
     </message>
+    <message>
+        <source>Apply</source>
+        <translation>Appliquer</translation>
+    </message>
 </context>
 <context>
     <name>EffectForm</name>
@@ -552,6 +556,30 @@ Durée : %5 s</translation>
     <message>
         <source>Qaz Theme Editor Help</source>
         <translation>Aide de l’éditeur de thèmes Qaz</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Précédent</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Suivant</translation>
+    </message>
+    <message>
+        <source>Search:</source>
+        <translation>Rechercher :</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>Résultat précédent</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Résultat suivant</translation>
+    </message>
+    <message>
+        <source>Not found</source>
+        <translation>Introuvable</translation>
     </message>
 </context>
 <context>

@@ -1,18 +1,22 @@
 #include "app/configdialog.h"
+#include "fonts/fontaasettings.h"
 #include "platform/qazhelp.h"
 #include "platform/qazinit.h"
 #include "platform/slidingstackedwidget.h"
 #include "resources/registerresources.h"
+#include "tests/support/modaldriver.h"
 #include "tests/support/temporaryhome.h"
 
 #include <QAbstractButton>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QRegularExpression>
 #include <QScrollBar>
 #include <QTextBrowser>
+#include <QToolButton>
 #include <QtTest>
 
 namespace {
@@ -61,6 +65,16 @@ QString chapter(const QString &text, const QString &name)
     return begin < 0 ? QString() : text.mid(begin, text.indexOf(QStringLiteral("<h2>"), begin + 1) - begin);
 }
 
+QTextBrowser *helpWindow()
+{
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget *window : windows) {
+        if (window->objectName() == QLatin1String("helpWindow") && window->isVisible())
+            return qobject_cast<QTextBrowser *>(window);
+    }
+    return nullptr;
+}
+
 } // namespace
 
 /// The user guide in each language, and the window that shows it.
@@ -75,6 +89,8 @@ private slots:
     void chaptersLinksAndPicturesAreThere();
     void helpShowsTheChapterOfEachPage_data() { chaptersLinksAndPicturesAreThere_data(); }
     void helpShowsTheChapterOfEachPage();
+    void theTextIsSearchedAndZoomed();
+    void theAntiAliasingDialogHasItsChapter();
     void chaptersNameWhatStandsOnTheirPages_data() { chaptersLinksAndPicturesAreThere_data(); }
     void chaptersNameWhatStandsOnTheirPages();
 };
@@ -136,11 +152,7 @@ void TestGuide::helpShowsTheChapterOfEachPage()
         dialog.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&dialog));
         dialog.helpSlot();
-        const QWidgetList windows = QApplication::topLevelWidgets();
-        for (QWidget *window : windows) {
-            if (window->objectName() == QLatin1String("helpWindow"))
-                help = qobject_cast<QTextBrowser *>(window);
-        }
+        help = helpWindow();
         QVERIFY(help && help->isVisible());
         QCOMPARE(help->source().adjusted(QUrl::RemoveFragment), QUrl(QLatin1String("qrc") + file));
         const QString page = QString::fromLatin1(
@@ -187,6 +199,76 @@ void TestGuide::chaptersNameWhatStandsOnTheirPages()
                      && pictures.first().endsWith(ending),
                  qPrintable(pictures.join(QLatin1Char(' '))));
     }
+}
+
+void TestGuide::theTextIsSearchedAndZoomed()
+{
+    QLocale::setDefault(QLocale(QStringLiteral("en_GB")));
+    qazHelpShow(QStringLiteral("index"));
+    QTextBrowser *help = helpWindow();
+    QVERIFY(help && QTest::qWaitForWindowActive(help));
+    auto *text = help->findChild<QLineEdit *>(QStringLiteral("searchLineEdit"));
+    auto *result = help->findChild<QLabel *>(QStringLiteral("resultLabel"));
+    QTest::keyClick(help, Qt::Key_F, Qt::ControlModifier);
+    QVERIFY(text->hasFocus());
+    QTest::keyClicks(text, QStringLiteral("window manager"));
+    QList<int> places;
+    for (int i = 0; i < 3; ++i) {
+        QTest::keyClick(text, Qt::Key_Return);
+        QCOMPARE(help->textCursor().selectedText().toLower(), QStringLiteral("window manager"));
+        places.append(help->textCursor().position());
+    }
+    QVERIFY(places.at(0) < places.at(1));
+    help->moveCursor(QTextCursor::End);
+    QTest::keyClick(text, Qt::Key_F3); // and around
+    QCOMPARE(help->textCursor().position(), places.at(0));
+    QTest::keyClick(text, Qt::Key_F3);
+    QTest::keyClick(text, Qt::Key_F3, Qt::ShiftModifier);
+    QCOMPARE(help->textCursor().position(), places.at(0));
+    QCOMPARE(result->text(), QString());
+    text->setText(QStringLiteral("no such words"));
+    QTest::keyClick(text, Qt::Key_Return);
+    QCOMPARE(result->text(), QStringLiteral("Not found"));
+    QCOMPARE(help->textCursor().position(), places.at(0));
+
+    const int usual = help->fontInfo().pointSize();
+    QCOMPARE(usual, QFontInfo(QApplication::font()).pointSize());
+    QTest::keyClick(help, Qt::Key_Plus, Qt::ControlModifier);
+    QTest::keyClick(help, Qt::Key_Plus, Qt::ControlModifier);
+    QCOMPARE(help->fontInfo().pointSize(), usual + 2);
+    QTest::keyClick(help, Qt::Key_Minus, Qt::ControlModifier);
+    QCOMPARE(help->fontInfo().pointSize(), usual + 1);
+    QTest::keyClick(help, Qt::Key_0, Qt::ControlModifier);
+    QCOMPARE(help->fontInfo().pointSize(), usual);
+
+    auto *back = help->findChild<QToolButton *>(QStringLiteral("backButton"));
+    qazHelpShow(QStringLiteral("sound"));
+    QVERIFY(back->isEnabled());
+    back->click();
+    QCOMPARE(help->source().fragment(), QStringLiteral("index"));
+    help->findChild<QToolButton *>(QStringLiteral("forwardButton"))->click();
+    QCOMPARE(help->source().fragment(), QStringLiteral("sound"));
+    help->resize(400, 400);
+    QTRY_COMPARE(help->horizontalScrollBar()->maximum(), 0);
+    help->close();
+}
+
+void TestGuide::theAntiAliasingDialogHasItsChapter()
+{
+    const TemporaryHome home;
+    FontAASettings dialog(nullptr);
+    ModalDriver driver;
+    driver.then([](QDialog *shown) {
+        QVERIFY(QTest::qWaitForWindowActive(shown));
+        QTest::keyClick(shown, Qt::Key_F1);
+        QTextBrowser *help = helpWindow();
+        QVERIFY(help && QTest::qWaitForWindowActive(help)); // though the dialog is modal
+        QCOMPARE(help->source().fragment(), QStringLiteral("antialiasing"));
+        QTest::keyClick(help, Qt::Key_Escape);
+        shown->reject();
+    });
+    dialog.exec();
+    QVERIFY(driver.isDone());
 }
 
 QTEST_MAIN(TestGuide)
