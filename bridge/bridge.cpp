@@ -16,6 +16,7 @@
 namespace {
 
 constexpr int burstMs = 50;
+constexpr int longestFarewellMs = 3000;
 constexpr int longestBurstMs = 1000; // whoever goes on announcing does not keep the others waiting
 
 enum Action : unsigned {
@@ -124,9 +125,9 @@ void Bridge::applyAnew()
 
 void Bridge::endSession()
 {
-    m_session.x.disconnect(this); // what is going on now is the end of the session
     m_sounds.play("SystemExitSound");
-    connect(&m_session.programs, &Programs::ended, this, &Bridge::quitWhenSilent);
+    connect(&m_session.programs, &Programs::ended, this, &Bridge::quitWhenSilent, Qt::UniqueConnection);
+    QTimer::singleShot(longestFarewellMs, QCoreApplication::instance(), &QCoreApplication::quit);
     quitWhenSilent();
 }
 

@@ -39,7 +39,7 @@ void Compositor::apply()
 void Compositor::start()
 {
     m_waits = m_session.x.isOwned(selection);
-    if (m_waits || m_session.options.once) // it would have to stay
+    if (m_waits || (m_session.options.once && !m_session.options.dryRun)) // it would have to stay
         return;
     // Anybody on the display can send a command, so what is run is never taken from one.
     const QString manager = m_session.values.fileText("CompositeManager", "/usr/bin/qaz-kompmgr");

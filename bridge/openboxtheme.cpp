@@ -18,10 +18,12 @@ struct Part {
 constexpr Part plainParts[] = {
     {"TitleStringColor", "window.inactive.label.text.color window.inactive.button.*.image.color"},
     {"TitleStringActiveColor", "window.active.label.text.color window.active.button.*.image.color"},
-    {"FrameColor", "window.inactive.border.color window.inactive.title.separator.color "
-                   "window.inactive.handle.bg.color window.inactive.grip.bg.color"},
-    {"FrameActiveColor", "window.active.border.color window.active.title.separator.color "
-                         "window.active.handle.bg.color window.active.grip.bg.color menu.border.color"},
+    {"FrameColor",
+     "window.inactive.border.color window.inactive.client.color window.inactive.title.separator.color "
+     "window.inactive.handle.bg.color window.inactive.grip.bg.color"},
+    {"FrameActiveColor",
+     "window.active.border.color window.active.client.color window.active.title.separator.color "
+     "window.active.handle.bg.color window.active.grip.bg.color menu.border.color"},
     {"MenuActiveColor", "menu.items.active.bg.color"},
     {"MenuStringColor", "menu.items.text.color"},
     {"MenuStringActiveColor", "menu.items.active.text.color"},

@@ -2,5 +2,6 @@
 
 #include <QString>
 
-/// The path of the file \a name among the bridge's own: below `$XDG_CACHE_HOME/qaz/bridge`, made with mode 0700.
-QString ownFile(const QString &name);
+/// The path of the file \a name among the bridge's own: below `$XDG_CACHE_HOME/qaz/bridge`, which is made with mode 0700
+/// unless \a isDryRun.
+QString ownFile(const QString &name, bool isDryRun);

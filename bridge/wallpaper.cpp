@@ -20,14 +20,13 @@ namespace {
 
 constexpr int longestPeriod = 3600; // minutes, as in the editor
 
-/// Where the rendering of the SVG file \a path for \a size is kept.
-QString renderedFile(const QString &path, const QSize &size)
+/// The name of the rendering of the SVG file \a path for \a size.
+QString renderedName(const QString &path, const QSize &size)
 {
     const QByteArray digest = QCryptographicHash::hash(QFile::encodeName(path), QCryptographicHash::Sha1);
-    return ownFile(QStringLiteral("%1x%2-%3.png")
-                       .arg(size.width())
-                       .arg(size.height())
-                       .arg(QString::fromLatin1(digest.toHex())));
+    return QStringLiteral("%1x%2-%3.png")
+        .arg(QString::number(size.width()), QString::number(size.height()),
+             QString::fromLatin1(digest.toHex()));
 }
 
 bool isNewer(const QString &path, const QString &other)
@@ -116,7 +115,7 @@ QVector<QStringList> Wallpaper::commandsFor(const QString &wallpaper, Fit fit) c
     if (!isSvg(path))
         return {showCommand(path, fit, background)};
     const QSize size = m_session.x.screenSize();
-    const QString rendered = renderedFile(path, size);
+    const QString rendered = ownFile(renderedName(path, size), m_session.options.dryRun);
     const QStringList show = showCommand(rendered, fit, background);
     if (isNewer(rendered, path))
         return {show};
@@ -129,7 +128,8 @@ QVector<QStringList> Wallpaper::commandsFor(const QString &wallpaper, Fit fit) c
 QVector<QStringList> Wallpaper::colorCommands(const QColor &color) const
 {
     const QColor shown = color.isValid() ? color : QColor(Qt::black);
-    const QString path = ownFile(QLatin1String("color-") + shown.name().mid(1) + QLatin1String(".ppm"));
+    const QString path = ownFile(QLatin1String("color-") + shown.name().mid(1) + QLatin1String(".ppm"),
+                                 m_session.options.dryRun);
     QString error;
     if (!m_session.options.dryRun && !QFileInfo::exists(path)
         && !replaceFile(path, oneColorPicture(shown), &error))

@@ -46,6 +46,8 @@ XConnection::XConnection()
                 connection->lose();
         },
         nullptr);
+    // Whoever sees the selection taken may send at once.
+    XSelectInput(m_display, rootWindow(), SubstructureNotifyMask | PropertyChangeMask);
     int error = 0;
     if (XFixesQueryExtension(m_display, &m_selectionEvent, &error))
         m_selectionEvent += XFixesSelectionNotify;
@@ -83,7 +85,6 @@ XConnection::Window XConnection::rootWindow() const
 void XConnection::listen(const std::function<void(const XEvent &)> &handler)
 {
     m_handler = handler;
-    XSelectInput(m_display, rootWindow(), SubstructureNotifyMask | PropertyChangeMask);
     auto *notifier = new QSocketNotifier(ConnectionNumber(m_display), QSocketNotifier::Read, this);
     connect(notifier, &QSocketNotifier::activated, this, &XConnection::readEvents);
     // An answer that was waited for may have brought events with it, of which the socket tells nothing more.

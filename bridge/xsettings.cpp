@@ -105,10 +105,8 @@ XSettingsTexts XSettings::texts() const
 
 void XSettings::apply()
 {
-    const QString path = ownFile(
-        QStringLiteral("xsettingsd-%1.conf").arg(QString::fromLocal8Bit(qgetenv("DISPLAY"))));
-    const QStringList command = {QStringLiteral("xsettingsd"), QStringLiteral("-c"), path,
-                                 QStringLiteral("-s"), QString::number(m_session.x.screenNumber())};
+    const QString name = QStringLiteral("xsettingsd-%1.conf").arg(QString::fromLocal8Bit(qgetenv("DISPLAY")));
+    const QString path = ownFile(name, m_session.options.dryRun);
     if (!m_manager && m_session.x.isOwned(selection)) {
         if (!m_isLeft)
             tell(QStringLiteral("Another settings manager runs: fonts, icons and cursors are left to it"));
@@ -116,23 +114,36 @@ void XSettings::apply()
         return;
     }
     m_isLeft = false;
-    if (m_session.options.dryRun) {
-        m_session.programs.start(command, [] {});
-        return;
-    }
     QString error;
-    if (!replaceFile(path, xsettingsFile(texts()), &error, 0600)) {
+    if (!m_session.options.dryRun && !replaceFile(path, xsettingsFile(texts()), &error, 0600)) {
         tell(QStringLiteral("Can't write %1: %2").arg(path, error));
         return;
     }
+    m_hasNews = m_manager;
     if (m_manager)
+        tellManager();
+    else if (!m_session.options.once || m_session.options.dryRun) // it would have to stay
+        m_manager = m_session.programs.start({QStringLiteral("xsettingsd"), QStringLiteral("-c"), path,
+                                              QStringLiteral("-s"),
+                                              QString::number(m_session.x.screenNumber())},
+                                             [this] {
+                                                 m_manager = nullptr;
+                                                 if (m_hasNews)
+                                                     apply();
+                                             });
+}
+
+void XSettings::tellManager()
+{
+    // Before it owns the selection it would be ended by the signal.
+    if (m_session.x.isOwned(selection))
         ::kill(pid_t(m_manager->processId()), SIGHUP);
-    else if (!m_session.options.once) // it would have to stay
-        m_manager = m_session.programs.start(command, [this] { m_manager = nullptr; });
 }
 
 void XSettings::selectionChanged()
 {
-    if (m_isLeft && !m_session.x.isOwned(selection))
+    if (m_manager && m_hasNews)
+        tellManager();
+    else if (m_isLeft && !m_session.x.isOwned(selection))
         apply();
 }

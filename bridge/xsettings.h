@@ -30,8 +30,10 @@ public:
 
 private:
     XSettingsTexts texts() const;
+    void tellManager();
 
     Session m_session;
     QProcess *m_manager = nullptr;
-    bool m_isLeft = false; // to another settings manager
+    bool m_hasNews = false; // the file was written again since the manager started
+    bool m_isLeft = false;  // to another settings manager
 };

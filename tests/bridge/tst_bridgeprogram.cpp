@@ -1,0 +1,191 @@
+#include "settings/wmcommands.h"
+#include "tests/bridge/bridgeprocess.h"
+#include "tests/support/fakeprogram.h"
+#include "tests/support/literals.h"
+#include "tests/support/temporaryhome.h"
+
+#include <QImage>
+#include <QX11Info>
+#include <QtTest>
+
+#include <csignal>
+
+#include <X11/Xlib.h>
+
+namespace {
+
+const QString themeFile = ".config/qaz/current.themerc"_s;
+
+} // namespace
+
+/// The program among recording stand-ins for the session's tools.
+class TestBridgeProgram : public QObject
+{
+    Q_OBJECT
+private slots:
+    void init()
+    {
+        m_programs.reset(); // what is put back comes before what is put in its place
+        m_home.reset();
+        m_home = std::make_unique<TemporaryHome>();
+        m_programs = std::make_unique<FakePrograms>(FakePrograms::Path::Instead);
+        for (const char *tool : {"feh", "xset", "openbox"})
+            m_programs->add(QLatin1String(tool));
+        m_programs->add("xsettingsd"_s, "exec /bin/sleep 3600");
+        QTRY_VERIFY(!BridgeProcess::isServing());
+    }
+
+    void optionsAreReadStrictly_data()
+    {
+        QTest::addColumn<int>("code");
+        QTest::addColumn<QString>("line");
+        QTest::newRow("--bogus") << 2 << "qaz-wm-bridge: Unknown option 'bogus'."_s;
+        QTest::newRow("a b") << 2 << "qaz-wm-bridge: There is one theme file at most, not 'b'"_s;
+        QTest::newRow("/missing") << 2 << "qaz-wm-bridge: There is no theme file '/missing'"_s;
+        QTest::newRow("--version") << 0 << QString();
+        QTest::newRow("--help") << 0 << QString();
+    }
+    void optionsAreReadStrictly()
+    {
+        BridgeProcess bridge(QString::fromLatin1(QTest::currentDataTag()).split(u' '));
+        QTEST(bridge.exitCode(), "code");
+        QTEST(bridge.errors().join(u'\n'), "line");
+        QCOMPARE(bridge.process.readAllStandardOutput().isEmpty(), bridge.exitCode() != 0);
+    }
+
+    void aDryRunPrintsAndWritesNothing()
+    {
+        const QString file = m_home->write("my theme"_s, "WallPaper=#123456\nScreenSaverDelay=0\n"
+                                                         "LockerDpmsOffTimeout=99999999\nUseComposite=true\n"
+                                                         "CompositeManager=/my manager\n");
+        const QString before = m_home->fingerprint();
+        BridgeProcess bridge({"--once"_s, "--dry-run"_s, file});
+        QCOMPARE(bridge.exitCode(), 0);
+        const QString own = m_home->path(".cache/qaz/bridge"_s);
+        QCOMPARE(
+            QString::fromUtf8(bridge.process.readAllStandardOutput()),
+            "feh --no-fehbg --image-bg '#123456' --bg-tile %1/color-123456.ppm\n"
+            "xsettingsd -c %1/xsettingsd-%2.conf -s 0\nxset s 0\nxset dpms 0 0 65534\n'/my manager'\n"_s.arg(
+                own, QString::fromLocal8Bit(qgetenv("DISPLAY"))));
+        QCOMPARE(m_home->fingerprint(), before);
+        QCOMPARE(m_programs->calls("feh"_s).size(), 0);
+    }
+
+    void aBurstIsCarriedOutOnceWithItsLastValues()
+    {
+        m_home->write(themeFile, "WallPaper=#000001\n");
+        BridgeProcess bridge({"--verbose"_s});
+        QTRY_COMPARE(m_programs->calls("xset"_s).size(), 2);
+        for (int i = 10; i < 40; ++i) {
+            announce("WallPaper", "#0000%1"_s.arg(i));
+            announce("ScreenSaverDelay", QString::number(i));
+            announce("TaskbarHeight\x1b", "50"_s);
+        }
+        QTRY_COMPARE(m_programs->calls("xset"_s).size(), 4);
+        QCOMPARE(m_programs->calls("xset"_s)[2], QStringList({"s"_s, "39"_s}));
+        QTRY_COMPARE(m_programs->calls("feh"_s).size(), 2);
+        QCOMPARE(m_programs->calls("feh"_s)[1][2], "#000039"_s);
+        QCOMPARE(bridge.errors().filter("TaskbarHeight"_s).value(0),
+                 "qaz-wm-bridge: Not for this program: QAZWM_UPDATE_VAL TaskbarHeight? 50"_s);
+
+        // The file's own values count again after both of these.
+        sendToWindowManager(restartCommand);
+        QTRY_COMPARE(m_programs->calls("feh"_s).size(), 3);
+        QCOMPARE(m_programs->calls("feh"_s)[2][2], "#000001"_s);
+        m_home->write(themeFile, "WallPaper=#000002\n");
+        ::kill(pid_t(bridge.process.processId()), SIGHUP);
+        QTRY_COMPARE(m_programs->calls("feh"_s).size(), 4);
+        QCOMPARE(m_programs->calls("feh"_s)[3][2], "#000002"_s);
+    }
+
+    void whatIsNoImageIsRefused()
+    {
+        m_home->write(themeFile, "DesktopColor=#204060\n");
+        BridgeProcess bridge;
+        QTRY_VERIFY(BridgeProcess::isServing());
+        for (const QString &wallpaper : {"/dev/zero"_s, "--help"_s, m_home->write("a.png"_s, "text")}) {
+            const int before = m_programs->calls("feh"_s).size();
+            announce("WallPaper", wallpaper);
+            QTRY_VERIFY(
+                bridge.errors().join(u'\n').contains("The wallpaper '%1' is no image file"_s.arg(wallpaper)));
+            QTRY_VERIFY(m_programs->calls("feh"_s).size() > before);
+            QVERIFY(m_programs->calls("feh"_s).last().last().endsWith("color-204060.ppm"_s));
+        }
+    }
+
+    void theManagerComesFromTheFileAndRestarts()
+    {
+        m_programs->add("manager"_s, "exec /bin/sleep 3600");
+        m_programs->add("evil"_s);
+        m_home->write(themeFile, "UseComposite=false\nCompositeManager=manager\n");
+        BridgeProcess bridge;
+        QTRY_COMPARE(m_programs->calls("xset"_s).size(), 2);
+        announce("CompositeManager", "evil"_s);
+        announce("UseComposite", "true"_s);
+        QTRY_COMPARE(m_programs->calls("manager"_s).size(), 1);
+        announce("UseComposite", "false"_s);
+        announce("UseComposite", "true"_s);
+        QTRY_COMPARE(m_programs->calls("manager"_s).size(), 2);
+        QCOMPARE(m_programs->calls("evil"_s).size(), 0);
+    }
+
+    void missingToolsCostOneLineEach()
+    {
+        const FakePrograms none(FakePrograms::Path::Instead);
+        BridgeProcess bridge;
+        QTRY_COMPARE(bridge.errors().size(), 3);
+        for (int i = 0; i < 3; ++i)
+            announce("WallPaper", "#00000%1"_s.arg(i));
+        announce("EnableSound", "true"_s);
+        bridge.process.terminate();
+        QCOMPARE(bridge.exitCode(), 0);
+        QCOMPARE(bridge.errors().join(u'\n'),
+                 "qaz-wm-bridge: feh is not installed (Debian package feh)\n"
+                 "qaz-wm-bridge: xsettingsd is not installed (Debian package xsettingsd)\n"
+                 "qaz-wm-bridge: xset is not installed (Debian package x11-xserver-utils)"_s);
+    }
+
+    void oneBridgeServesAScreen()
+    {
+        BridgeProcess first;
+        QTRY_COMPARE(m_programs->calls("xsettingsd"_s).size(), 1);
+        BridgeProcess second;
+        QCOMPARE(second.exitCode(), 1);
+        BridgeProcess third({"--replace"_s});
+        QCOMPARE(first.exitCode(), 0);
+        QVERIFY(BridgeProcess::isServing());
+        Display *display = QX11Info::display();
+        XSetSelectionOwner(display, XInternAtom(display, "_QAZWM_S0", False), QX11Info::appRootWindow(),
+                           CurrentTime);
+        XSync(display, False);
+        QCOMPARE(third.exitCode(), 0);
+        BridgeProcess fourth;
+        QCOMPARE(fourth.exitCode(), 0);
+        XSetSelectionOwner(display, XInternAtom(display, "_QAZWM_S0", False), 0, CurrentTime);
+        XSync(display, False);
+    }
+
+    void aLostServerEndsItWithItsChildren()
+    {
+        QProcess server;
+        server.start("/usr/bin/Xvfb"_s, {"-displayfd"_s, "1"_s, "-nolisten"_s, "tcp"_s});
+        QTRY_VERIFY(server.canReadLine());
+        m_programs->add("xsettingsd"_s,
+                        "echo $$ >'" + QFile::encodeName(m_home->path("pid"_s)) + "'; exec /bin/sleep 3600");
+        const ScopedEnvironment display("DISPLAY", ':' + server.readLine().trimmed());
+        BridgeProcess bridge;
+        QTRY_VERIFY(m_home->read("pid"_s).endsWith('\n'));
+        server.kill();
+        server.waitForFinished();
+        QCOMPARE(bridge.exitCode(), 1);
+        QCOMPARE(bridge.errors(), QStringList{"qaz-wm-bridge: The X server is gone"_s});
+        QCOMPARE(::kill(m_home->read("pid"_s).toInt(), 0), -1);
+    }
+
+private:
+    std::unique_ptr<TemporaryHome> m_home;
+    std::unique_ptr<FakePrograms> m_programs;
+};
+
+QTEST_MAIN(TestBridgeProgram)
+#include "tst_bridgeprogram.moc"

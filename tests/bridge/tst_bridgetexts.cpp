@@ -1,0 +1,115 @@
+#include "bridge/openboxrc.h"
+#include "bridge/openboxtheme.h"
+#include "bridge/programs.h"
+#include "bridge/wallpaperpicture.h"
+#include "bridge/xsettings.h"
+#include "settings/wmcommands.h"
+#include "tests/support/literals.h"
+#include "tests/support/temporaryhome.h"
+
+#include <QImage>
+#include <QtTest>
+
+#include <sys/stat.h>
+
+/// The files and command lines that the bridge makes of values that anybody may have sent.
+class TestBridgeTexts : public QObject
+{
+    Q_OBJECT
+private slots:
+    void settingsFileHoldsOneLineAValue()
+    {
+        QCOMPARE(xsettingsFile({"Noto Sans-11:bold:italic"_s, "tirsk"_s, "arrow"_s, "120 true rgb full"_s}),
+                 "Gtk/FontName \"Noto Sans Bold Italic 11\"\nNet/IconThemeName \"tirsk\"\n"
+                 "Gtk/CursorThemeName \"arrow\"\nXft/DPI 122880\nXft/Antialias 1\nXft/RGBA \"rgb\"\n"
+                 "Xft/Hinting 1\nXft/HintStyle \"hintfull\"\n");
+        QCOMPARE(
+            xsettingsFile(
+                {"a\"\nEvil 1\\:normal:x"_s, "b\nEvil 1"_s, "c\\"_s, "x false RGB\nEvil hintnone"_s}),
+            "Gtk/FontName \"a\\\" Evil 1\\\\ 12\"\nNet/IconThemeName \"b Evil 1\"\n"
+            "Gtk/CursorThemeName \"c\\\\\"\nXft/Antialias 0\nXft/Hinting 0\nXft/HintStyle \"hintnone\"\n");
+        QCOMPARE(xsettingsFile({"Verdana"_s, {}, {}, "0 unknown rgb full"_s}), QByteArray());
+    }
+
+    void openboxFileKeepsEveryOtherByte()
+    {
+        const QByteArray head = "<?xml version='1.0'?>\r\n<openbox_config xmlns=\"x\">\n<!-- <theme> -->"
+                                "<a><name>no</name></a><theme>\t<!-- <name>no</name> -->";
+        const QByteArray middle = "<keepBorder/>\r\n";
+        const QByteArray tail = "</openbox_config>\n";
+        const QByteArray before = head
+                                  + "<name>Old</name><font place=\"MenuItem\"><size>7</size><name/></font>"
+                                  + middle + "</theme>" + tail;
+        const auto font = [](const char *place, const char *name, const QByteArray &rest) {
+            return QByteArray("<font place=\"") + place + "\"><name>" + name + "</name>" + rest + "</font>";
+        };
+        const QByteArray title = "<size>9</size><weight>bold</weight><slant>normal</slant>";
+        const QByteArray menu = "<size>12</size><weight>normal</weight><slant>italic</slant>";
+        const QByteArray after
+            = head + "<name>qaz</name><font place=\"MenuItem\"><size>12</size><name>A&amp;B</name>"
+              + "<weight>normal</weight><slant>italic</slant></font>" + middle
+              + font("ActiveWindow", "Sans", title) + font("InactiveWindow", "Sans", title)
+              + font("MenuHeader", "A&amp;B", menu) + "</theme>" + tail;
+        QString error;
+        const auto changed = withOpenboxTheme(before, "qaz"_s, "Sans-9:bold"_s, "A&B-12:normal:italic"_s,
+                                              &error);
+        QCOMPARE(changed.value_or(error.toUtf8()), after);
+        QCOMPARE(withOpenboxTheme(after, "qaz"_s, {}, "Verdana"_s, &error).value_or(""), after);
+        for (const char *other :
+             {"", "<theme><name>a</name></theme>", "<openbox_config><theme/></openbox_config>",
+              "<openbox_config><theme></theme>"})
+            QVERIFY2(!withOpenboxTheme(other, "qaz"_s, {}, {}, &error) && !error.isEmpty(), other);
+    }
+
+    void openboxThemeHoldsColorsOnly()
+    {
+        const QMap<QString, QString> stored = {{"TitlebarColor"_s, "qvblue"_s},
+                                               {"TitlebarColor2"_s, "#000080"_s},
+                                               {"MenuColor"_s, "red\nevil: 1"_s},
+                                               {"MenuActiveColor"_s, "lime"_s},
+                                               {"TitleStringColor"_s, "Qt"_s}};
+        const QByteArray theme = openboxTheme([&stored](const char *key, const char *defaultText) {
+            return stored.value(QLatin1String(key), QLatin1String(defaultText));
+        });
+        for (const char *line :
+             {"window.inactive.title.bg: Flat Solid", "window.inactive.title.bg.color: #000080",
+              "window.active.title.bg: Flat Gradient Horizontal", "window.active.title.bg.color: #000080",
+              "window.active.title.bg.colorTo: #a6caf0", "menu.items.bg.color: #a4a3be",
+              "menu.items.bg.colorTo: #fbfcfd", "menu.items.active.bg.color: #00ff00",
+              "window.inactive.label.text.color: #ffffff", "window.active.border.color: #c0c0c0"})
+            QVERIFY2(theme.contains('\n' + QByteArray(line) + '\n'), theme.constData());
+        QVERIFY2(!theme.contains("evil"), theme.constData());
+    }
+
+    void picturesAreImagesInRegularFiles()
+    {
+        const TemporaryHome home;
+        home.write("a.png"_s, "no image");
+        const QString first = home.path("b.png"_s);
+        const QString second = home.path("d"_s); // the content counts
+        const QString drawing = home.write("z.svg"_s, "<svg/>");
+        QVERIFY(QImage(2, 2, QImage::Format_RGB32).save(first, "PNG"));
+        QVERIFY(QImage(2, 2, QImage::Format_RGB32).save(second, "JPG"));
+        QCOMPARE(::mkfifo(QFile::encodeName(home.path("c.png"_s)).constData(), 0600), 0);
+        QCOMPARE(nextPicture(first), second);
+        QCOMPARE(nextPicture(second), drawing);
+        QCOMPARE(nextPicture(drawing), first);
+        QCOMPARE(nextPicture(home.path("a.png"_s)), first);
+        for (const char *name : {"", "a.png", "c.png", "missing"})
+            QVERIFY2(!isImageFile(home.path(QLatin1String(name))), name);
+    }
+
+    void commandLinesAreQuoted()
+    {
+        QCOMPARE(shellLine({"feh"_s, "#0a0"_s, ""_s, "it's $x"_s, "/a/b-c_d.e:f"_s}),
+                 "feh '#0a0' '' 'it'\\''s $x' /a/b-c_d.e:f"_s);
+        QString key;
+        QString value;
+        QVERIFY(readUpdateCommand(updateCommand("Key"_s, " a\nb "_s), &key, &value));
+        QCOMPARE(key + u'|' + value, "Key| a\nb "_s);
+        QVERIFY(!readUpdateCommand("QAZWM_UPDATE_VAL Key\n", &key, &value));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestBridgeTexts)
+#include "tst_bridgetexts.moc"

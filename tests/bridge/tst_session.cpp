@@ -1,0 +1,262 @@
+#include "app/configdialog.h"
+#include "platform/qazinit.h"
+#include "resources/registerresources.h"
+#include "tests/bridge/bridgeprocess.h"
+#include "tests/support/fakeprogram.h"
+#include "tests/support/literals.h"
+#include "tests/support/modaldriver.h"
+#include "tests/support/temporaryhome.h"
+
+#include <QColorDialog>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QFontDialog>
+#include <QImage>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QX11Info>
+#include <QtTest>
+
+#include <X11/Xlib.h>
+
+namespace {
+
+const QPoint corner(3, 1020); // of the screen, where no window is
+
+QByteArray rootProperty(const char *name)
+{
+    Display *display = QX11Info::display();
+    const Window owner = XGetSelectionOwner(display, XInternAtom(display, "_XSETTINGS_S0", False));
+    Atom type = 0;
+    int format = 0;
+    unsigned long count = 0, rest = 0;
+    unsigned char *data = nullptr;
+    if (owner == 0)
+        return {};
+    XGetWindowProperty(display, owner, XInternAtom(display, name, False), 0, 10000, False, AnyPropertyType,
+                       &type, &format, &count, &rest, &data);
+    const QByteArray bytes(reinterpret_cast<const char *>(data), int(count));
+    XFree(data);
+    return bytes;
+}
+
+/// What a client reads of the session's settings, as far as it is text.
+QString settings()
+{
+    QString text;
+    for (const char byte : rootProperty("_XSETTINGS_SETTINGS"))
+        text += byte >= ' ' ? QChar::fromLatin1(byte) : QChar(u'|');
+    return text;
+}
+
+} // namespace
+
+/// The editor, Openbox, the bridge and the real tools together: what is applied is seen.
+class TestSession : public QObject
+{
+    Q_OBJECT
+private slots:
+    void initTestCase()
+    {
+        m_home.write(".config/qaz/current.themerc"_s,
+                     "WallPaper=#204060\nScreenSaverDelay=300\n"
+                     "TitlebarActiveColor=#112233\nTitlebarActiveColor2=#112233\n"
+                     "EnableSound=true\n"
+                         + sounds());
+        for (const char *name : {"1", "2"})
+            m_home.write("Desktops/Desktop%1/.directory"_s.arg(QLatin1String(name)), "[Desktop Entry]\n");
+        m_programs.add("aplay"_s);
+        m_openbox.start("openbox"_s, QStringList());
+        QTRY_VERIFY(output("xprop"_s, {"-root"_s}).contains("_OB_THEME("_s));
+        registerResources();
+        qazInit("1", "title");
+    }
+    void cleanupTestCase()
+    {
+        m_openbox.terminate();
+        m_openbox.waitForFinished();
+    }
+
+    void whatTheEditorAppliesIsSeen()
+    {
+        BridgeProcess bridge({"--openbox"_s});
+        QTRY_COMPARE(pixel(corner.x(), corner.y()).name(), "#204060"_s);
+        ConfigDialog dialog(m_home.path(".config/qaz/current.themerc"_s));
+        dialog.show();
+        auto *list = dialog.findChild<QListWidget *>("contentsWidget"_s);
+        for (int row = 0; row < list->count(); ++row)
+            list->setCurrentRow(row);
+        const auto titleBar = [&dialog] {
+            return pixel(dialog.geometry().center().x(), dialog.geometry().y() - 8).name();
+        };
+        QTRY_COMPARE(titleBar(), "#112233"_s);
+
+        dialog.findChild<QLineEdit *>("wallpaperLineEdit"_s)->setText(picture("a.png"_s, Qt::green));
+        dialog.findChild<QWidget *>("minutesToStartSpinBox"_s)->setProperty("value", 7);
+        dialog.findChild<QComboBox *>("elementComboBox"_s)->setCurrentText("Titlebar active"_s);
+        ModalDriver driver;
+        for (const char *button : {"color1Button", "color2Button"}) {
+            driver.then([](QDialog *chooser) {
+                qobject_cast<QColorDialog *>(chooser)->setCurrentColor(QColor(0xaa, 0x22, 0x44));
+                chooser->accept();
+            });
+            dialog.findChild<QPushButton *>(QLatin1String(button))->click();
+        }
+        driver.then([](QDialog *chooser) {
+            qobject_cast<QFontDialog *>(chooser)->setCurrentFont(QFont("DejaVu Sans"_s, 13, QFont::Bold));
+            chooser->accept();
+        });
+        for (QPushButton *button : dialog.findChildren<QPushButton *>()) {
+            if (button->text() == "Ad&just All Fonts..."_s)
+                button->click();
+        }
+        dialog.findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Apply)->click();
+        QVERIFY(driver.isDone());
+
+        QTRY_COMPARE(pixel(corner.x(), corner.y()), QColor(Qt::green));
+        QTRY_VERIFY2(settings().contains("DejaVu Sans Bold 13"_s), qPrintable(settings()));
+        QTRY_VERIFY(output("xset"_s, {"q"_s}).contains("timeout:  420"_s));
+        QTRY_COMPARE(titleBar(), "#aa2244"_s);
+        QVERIFY(m_home.read(".config/openbox/rc.xml"_s).contains("<size>13</size>"));
+        bridge.process.terminate();
+        QCOMPARE(bridge.exitCode(), 0);
+        QTRY_VERIFY(settings().isEmpty()); // its settings manager is gone, too
+    }
+
+    void eachDesktopHasItsWallpaper()
+    {
+        m_home.write("Desktops/Desktop2/.directory"_s, "[Desktop Entry]\nX-QAZ-WallPaper=\"#a6caf0\"\n");
+        BridgeProcess bridge;
+        QTRY_VERIFY(BridgeProcess::isServing());
+        announce("WallPaper", "#010203"_s);
+        QTRY_COMPARE(pixel(corner.x(), corner.y()).name(), "#010203"_s);
+        output("xdotool"_s, {"set_desktop"_s, "1"_s});
+        QTRY_COMPARE(pixel(corner.x(), corner.y()).name(), "#a6caf0"_s);
+        m_home.write("Desktops/Desktop2/.directory"_s,
+                     "[Desktop Entry]\nX-QAZ-WallPaper=" + QFile::encodeName(picture("b.png"_s, Qt::red))
+                         + '\n');
+        announce("WallPaperLocal", "x"_s);
+        QTRY_COMPARE(pixel(corner.x(), corner.y()), QColor(Qt::red));
+        output("xdotool"_s, {"set_desktop"_s, "0"_s});
+        QTRY_COMPARE(pixel(corner.x(), corner.y()).name(), "#010203"_s);
+    }
+
+    void picturesAreFittedByTheirPosition()
+    {
+        BridgeProcess bridge;
+        QTRY_VERIFY(BridgeProcess::isServing());
+        announce("DesktopColor", "qvblue"_s);
+        announce("WallPaperPos", "Center"_s);
+        announce("WallPaper", picture("c.png"_s, Qt::red));
+        QTRY_COMPARE(pixel(640, 512), QColor(Qt::red));
+        QCOMPARE(pixel(corner.x(), corner.y()), QColor(Qt::blue));
+        announce("WallPaper",
+                 m_home.write("d.svg"_s, "<svg xmlns='http://www.w3.org/2000/svg' width='4' height='2'>"
+                                         "<rect width='2' height='2' fill='lime'/>"
+                                         "<rect x='2' width='2' height='2' fill='red'/></svg>"));
+        QTRY_COMPARE(pixel(corner.x(), corner.y()), QColor(Qt::green));
+        QCOMPARE(pixel(1270, corner.y()), QColor(Qt::red));
+    }
+
+    void windowEventsAreHeard()
+    {
+        const int before = m_programs.calls("aplay"_s).size();
+        BridgeProcess bridge;
+        QTRY_COMPARE(heard(before), "SystemStart"_s);
+        QWidget window;
+        window.setGeometry(100, 100, 200, 200);
+        window.show();
+        QTRY_VERIFY(heard().endsWith(" Open"_s));
+        window.showMaximized();
+        QTRY_VERIFY(heard().endsWith(" Maximize"_s));
+        window.showNormal();
+        QTRY_VERIFY(heard().endsWith(" RestoreDown"_s));
+        window.showMinimized();
+        QTRY_VERIFY(heard().endsWith(" Minimize"_s));
+        window.showNormal();
+        QTRY_VERIFY(heard().endsWith(" RestoreUp"_s));
+        window.close();
+        QTRY_VERIFY(heard().endsWith(" Close"_s));
+        output("xdotool"_s, {"set_desktop"_s, "1"_s});
+        QTRY_VERIFY(heard().endsWith(" Paging"_s));
+        output("xdotool"_s, {"set_desktop"_s, "0"_s});
+        QTRY_VERIFY(heard().endsWith(" Paging Paging"_s));
+        bridge.process.terminate();
+        QCOMPARE(bridge.exitCode(), 0);
+        QCOMPARE(heard(before),
+                 "SystemStart Open Maximize RestoreDown Minimize RestoreUp Close Paging Paging SystemExit"_s);
+    }
+
+    void threeSoundsAtOnceAreEnough()
+    {
+        const int before = m_programs.calls("aplay"_s).size();
+        m_programs.add("aplay"_s, "exec sleep 3600");
+        BridgeProcess bridge;
+        QTRY_COMPARE(heard(before), "SystemStart"_s);
+        std::vector<std::unique_ptr<QWidget>> windows;
+        for (int i = 0; i < 4; ++i) {
+            windows.push_back(std::make_unique<QWidget>());
+            windows.back()->setGeometry(100, 100, 200, 200);
+            windows.back()->show();
+            QVERIFY(QTest::qWaitForWindowExposed(windows.back().get()));
+        }
+        announce("WallPaper", "#0a0b0c"_s);
+        QTRY_COMPARE(pixel(corner.x(), corner.y()).name(), "#0a0b0c"_s);
+        QCOMPARE(heard(before), "SystemStart Open Open"_s);
+    }
+
+    void anotherSettingsManagerIsLeftAlone()
+    {
+        QProcess other;
+        other.start("xsettingsd"_s, {"-c"_s, m_home.write("other.conf"_s, "Gtk/FontName \"Theirs 9\"\n")});
+        QTRY_VERIFY(settings().contains("Theirs 9"_s));
+        BridgeProcess bridge;
+        QTRY_VERIFY(BridgeProcess::isServing());
+        QTRY_COMPARE(bridge.errors(),
+                     QStringList{"qaz-wm-bridge: Another settings manager runs: fonts, icons and "
+                                 "cursors are left to it"_s});
+        announce("DefaultFont", "DejaVu Sans-8:normal"_s);
+        announce("WallPaper", "#0d0e0f"_s);
+        QTRY_COMPARE(pixel(corner.x(), corner.y()).name(), "#0d0e0f"_s);
+        QVERIFY(settings().contains("Theirs 9"_s));
+        other.terminate();
+        other.waitForFinished();
+        QTRY_VERIFY(settings().contains("DejaVu Sans 8"_s));
+    }
+
+private:
+    /// Every event has a sound that is called after it.
+    QByteArray sounds() const
+    {
+        QByteArray lines;
+        for (const char *event : {"Open", "Close", "RestoreUp", "RestoreDown", "Minimize", "Maximize",
+                                  "SystemStart", "SystemExit", "Paging"})
+            lines += QByteArray(event) + "Sound="
+                     + QFile::encodeName(m_home.write("sounds/"_s + QLatin1String(event), "sound")) + '\n';
+        return lines;
+    }
+    QString heard(int before = 0) const
+    {
+        QStringList names;
+        for (const QStringList &call : m_programs.calls("aplay"_s).mid(before))
+            names.append(QFileInfo(call.value(1)).fileName());
+        return names.join(u' ');
+    }
+    QString picture(const QString &name, Qt::GlobalColor color) const
+    {
+        QImage image(20, 20, QImage::Format_RGB32);
+        image.fill(color);
+        image.save(m_home.path(name));
+        return m_home.path(name);
+    }
+
+    TemporaryHome m_home;
+    ScopedEnvironment m_configurations{"XDG_CONFIG_DIRS", "/etc/xdg"}; // where Openbox has its own
+    ScopedEnvironment m_data{"XDG_DATA_DIRS", "/usr/share"};
+    FakePrograms m_programs;
+    QProcess m_openbox;
+};
+
+QTEST_MAIN(TestSession)
+#include "tst_session.moc"
