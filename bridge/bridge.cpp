@@ -106,7 +106,6 @@ Bridge::Bridge(const Session &session)
 void Bridge::follow()
 {
     XConnection &x = m_session.x;
-    x.watchSelection("_QAZWM_S");
     connect(&x, &XConnection::selectionChanged, this, &Bridge::selectionChanged);
     connect(&x, &XConnection::selectionLost, this, [] {
         tell(QStringLiteral("Another bridge has taken over"));

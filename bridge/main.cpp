@@ -50,7 +50,10 @@ bool mayServe(XConnection *x, const Options &options, int *status)
     *status = 1;
     if (!x->isOpen()) {
         tell(QStringLiteral("Can't open the display"));
-    } else if (x->isOwned("_QAZWM_S")) {
+        return false;
+    }
+    x->watchSelection("_QAZWM_S"); // before looking, so that no owner comes in between
+    if (x->isOwned("_QAZWM_S")) {
         tell(QStringLiteral("A Qaz window manager runs here and follows the theme file itself"));
         *status = 0;
     } else if (!options.once && !options.dryRun && !x->claimSelection("_QAZWM_BRIDGE_S", options.replace)) {
