@@ -87,10 +87,10 @@ void XConnection::listen(const std::function<void(const XEvent &)> &handler)
     m_handler = handler;
     auto *notifier = new QSocketNotifier(ConnectionNumber(m_display), QSocketNotifier::Read, this);
     connect(notifier, &QSocketNotifier::activated, this, &XConnection::readEvents);
-    // An answer that was waited for may have brought events with it, of which the socket tells nothing more.
+    // An answer that was waited for may have brought events with it, of which the socket tells nothing more. Not before
+    // there is an event loop: what comes first may be the reason to leave it.
     connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
             &XConnection::readEvents);
-    readEvents();
 }
 
 void XConnection::readEvents()

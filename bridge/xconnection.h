@@ -27,7 +27,7 @@ public:
     QSize screenSize() const;
     Window rootWindow() const;
 
-    /// Hands every event to \a handler, those first that have come since the connection was opened.
+    /// From the event loop, hands every event to \a handler, those first that have come since the connection was opened.
     void listen(const std::function<void(const _XEvent &)> &handler);
 
     /// Whether anybody owns the selection that is called \a name with the screen's number at its end.
