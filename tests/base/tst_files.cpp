@@ -108,7 +108,8 @@ private slots:
         QCOMPARE(readRegularFile(path, 5).content, QByteArray("12345"));
         QCOMPARE(readRegularFile(path, 4).state, FileState::Unreadable);
         QCOMPARE(readRegularFile(path, 4).error, "File too large"_s);
-        QCOMPARE(readRegularFile("/proc/self/stat"_s).content.right(1), QByteArray("\n")); // states no size
+        const QByteArray growing = readRegularFile("/proc/self/smaps"_s).content; // states no size
+        QVERIFY(growing.size() > 10000 && growing.endsWith('\n'));
         QCOMPARE(readRegularFile(path + "/below"_s).state, FileState::Missing);
         EditFileOptions options;
         options.limit = 4;
@@ -210,7 +211,7 @@ private slots:
     {
         const TemporaryHome home;
         const QString path = home.write("file"_s, "");
-        constexpr int rounds = 100;
+        constexpr int rounds = 40;
         for (const char *line : {"a\n", "b\n", "c\n"}) {
             if (::fork() == 0) {
                 QString error;

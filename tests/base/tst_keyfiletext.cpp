@@ -89,11 +89,11 @@ private slots:
     void aHugeFileIsReadInOnePass()
     {
         QByteArray content = "[G]\n";
-        for (int i = 0; i < 500000; ++i)
+        for (int i = 0; i < 100000; ++i)
             content += "Key=0123456789012345678901234\n[G" + QByteArray::number(i) + "]\n[G]\n";
         const KeyFileText text(content);
-        QCOMPARE(int(text.entries().size()), 500000);
-        QCOMPARE(text.withoutKey("G", "Key").count("[G]\n"), 500001);
+        QCOMPARE(int(text.entries().size()), 100000);
+        QCOMPARE(text.withoutKey("G", "Key").count("[G]\n"), 100001);
         QCOMPARE(text.withValues("G", {{"Key", "1"}}).size(), content.size() - 24);
     }
 };
