@@ -125,8 +125,8 @@ void TestGuide::chaptersLinksAndPicturesAreThere()
              QStringList({QStringLiteral("index"), QStringLiteral("wallpaper"), QStringLiteral("theme"),
                           QStringLiteral("font"), QStringLiteral("antialiasing"),
                           QStringLiteral("screensaver"), QStringLiteral("effect"), QStringLiteral("sound"),
-                          QStringLiteral("restore"), QStringLiteral("session"), QStringLiteral("files"),
-                          QStringLiteral("keys")}));
+                          QStringLiteral("restore"), QStringLiteral("session"), QStringLiteral("command"),
+                          QStringLiteral("files"), QStringLiteral("keys")}));
     const QStringList links = captured(text, QStringLiteral("href=\"([^\"]*)\""));
     QCOMPARE(QSet<QString>(links.cbegin(), links.cend()).size(), chapters.size());
     for (const QString &link : links)
