@@ -255,7 +255,7 @@ private slots:
         QCOMPARE(file.save(), QStringList{QStringLiteral("ThumbSize 0")});
     }
 
-    void everyEditIsTellingAndLoadingIsNot()
+    void loadingIsNoEdit()
     {
         PageOverFile file("GradWindowMapStyle=FromButton\n");
         const QSignalSpy changed(&file.page, &EffectPage::changedSignal);
@@ -265,15 +265,6 @@ private slots:
         file.load();
         QCOMPARE(changed.count(), 0);
         int edits = 0;
-        for (QCheckBox *box : file.page.findChildren<QCheckBox *>()) {
-            box->setEnabled(true);
-            box->click();
-            QCOMPARE(changed.count(), ++edits);
-        }
-        for (QSpinBox *box : file.page.findChildren<QSpinBox *>()) {
-            box->setValue(box->value() == 1 ? 2 : 1);
-            QCOMPARE(changed.count(), ++edits);
-        }
         QTest::keyClick(file.find<QGroupBox>("compositeGroupBox"), Qt::Key_Space);
         QCOMPARE(changed.count(), ++edits);
         // Autopaging off also empties the belt, a style also sets the speed: two edits each.
