@@ -38,6 +38,7 @@ public:
         m_painted = 0;
         m_timer.start();
         action();
+        QCoreApplication::processEvents();
         return m_painted;
     }
 
