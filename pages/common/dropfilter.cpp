@@ -61,7 +61,8 @@ bool DropFilter::eventFilter(QObject *object, QEvent *event)
     auto *drop = static_cast<QDropEvent *>(event);
     auto *target = static_cast<QWidget *>(parent());
     const QPoint position = target->mapFromGlobal(static_cast<QWidget *>(object)->mapToGlobal(drop->pos()));
-    const auto take = m_taking(drop->mimeData(), position);
+    // Only who lets data in is told where it moves.
+    const auto take = m_taking(drop->mimeData(), type == QEvent::DragEnter ? QPoint(-1, -1) : position);
     drop->setDropAction(Qt::CopyAction); // a file manager would take "move" at its word
     drop->setAccepted(bool(take));
     if (take && type == QEvent::Drop)

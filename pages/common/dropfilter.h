@@ -22,8 +22,8 @@ class DropFilter : public QObject
 {
     Q_OBJECT
 public:
-    /// What to do with data that is dropped at a position of the target, or pasted (the position is negative then): a
-    /// null function when it doesn't fit.
+    /// What to do with data that is dropped at a position of the target: a null function when it doesn't fit. The position
+    /// is negative for data that is pasted, or may be dropped somewhere.
     using Taking = std::function<std::function<void()>(const QMimeData *data, const QPoint &position)>;
 
     /// Belongs to \a target, and filters the children of it that take drops themselves, too.

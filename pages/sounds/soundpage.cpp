@@ -257,11 +257,14 @@ void SoundPage::assignFile(QTreeWidgetItem *item, const QString &path)
 std::function<void()> SoundPage::taking(const QMimeData *data, const QPoint &position)
 {
     const QTreeWidget *list = m_ui->soundListView;
-    QTreeWidgetItem *item = position.x() < 0 ? selectedItem()
-                                             : list->itemAt(list->viewport()->mapFrom(list, position));
+    const bool hasPlace = position.x() >= 0;
+    QTreeWidgetItem *item = hasPlace ? list->itemAt(list->viewport()->mapFrom(list, position))
+                                     : selectedItem();
     const QString file = droppedFile(data, {QStringLiteral("wav"), QStringLiteral("au")});
-    if (!item || file.isEmpty())
+    if (file.isEmpty() || (hasPlace && !item))
         return {};
+    if (!item)
+        return [] {};
     return [this, item, file] {
         m_ui->soundListView->setCurrentItem(item);
         assignFile(item, file);
