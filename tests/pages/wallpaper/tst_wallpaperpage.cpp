@@ -1,5 +1,4 @@
 #include "pages/wallpaper/wallpaperpage.h"
-#include "pages/wallpaper/wallpaperselection.h"
 #include "platform/qazsettings.h"
 #include "resources/registerresources.h"
 #include "tests/support/literals.h"
@@ -309,7 +308,7 @@ private slots:
         const bool fits = !text.isEmpty();
         for (const char *target : {"", "wallpaperLineEdit", "qt_spinbox_lineedit", "paste"}) {
             Page page("WallPaper=/x\n");
-            page.home.write("a b.XPM"_s, picture("red"));
+            page.home.write("a b.XPM"_s, {});
             const QString expected = fits ? QString(text).replace("HOME"_s, page.home.path()) : "/x"_s;
             auto *mime = new QMimeData;
             mime->setData(type, QString(data).replace("HOME"_s, page.home.path()).toLatin1());
@@ -331,21 +330,6 @@ private slots:
             QTRY_COMPARE(page.lineEdit->text(), expected);
             QCOMPARE(page.changed.count() > 0, fits);
         }
-    }
-
-    void sidebarHasThePlacesOfPictures()
-    {
-        const TemporaryHome home;
-        const ScopedEnvironment data("QAZ_DATA_DIR", QFile::encodeName(home.path("data"_s)));
-        const QUrl own("file:///own"_s), last("file:///usr/share/wallpapers"_s),
-            atHome = QUrl::fromLocalFile(home.path());
-        QCOMPARE(sidebarPlaces({own}), QList<QUrl>({own, atHome, last}));
-        QList<QUrl> expected = {atHome, own};
-        for (const QString &place : {"Pictures"_s, ".local/share/wallpapers"_s, "data/wallpapers"_s}) {
-            QVERIFY(home.makeDirectory(place));
-            expected += QUrl::fromLocalFile(home.path(place));
-        }
-        QCOMPARE(sidebarPlaces({atHome, own}), expected << last);
     }
 };
 
