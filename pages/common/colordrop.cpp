@@ -1,9 +1,7 @@
 #include "pages/common/colordrop.h"
 
-#include <QClipboard>
-#include <QDropEvent>
-#include <QGuiApplication>
-#include <QKeyEvent>
+#include "pages/common/dropfilter.h"
+
 #include <QMimeData>
 #include <QRegularExpression>
 #include <QWidget>
@@ -22,33 +20,8 @@ QColor colorOf(const QMimeData *data)
 ColorDrop::ColorDrop(QWidget *target)
     : QObject(target)
 {
-    target->setAcceptDrops(true);
-    target->installEventFilter(this);
-}
-
-bool ColorDrop::eventFilter(QObject * /*watched*/, QEvent *event)
-{
-    switch (event->type()) {
-    case QEvent::DragEnter:
-    case QEvent::DragMove:
-    case QEvent::Drop: {
-        auto *drop = static_cast<QDropEvent *>(event);
-        const QColor color = colorOf(drop->mimeData());
-        drop->setDropAction(Qt::CopyAction); // a text that was dragged here stays where it was
-        drop->setAccepted(color.isValid());
-        if (color.isValid() && event->type() == QEvent::Drop)
-            emit dropped(color);
-        return true;
-    }
-    case QEvent::KeyPress: {
-        const QColor color = static_cast<QKeyEvent *>(event)->matches(QKeySequence::Paste)
-                                 ? colorOf(QGuiApplication::clipboard()->mimeData())
-                                 : QColor();
-        if (color.isValid())
-            emit dropped(color);
-        return color.isValid();
-    }
-    default:
-        return false;
-    }
+    new DropFilter(target, [this](const QMimeData *data, const QPoint & /*position*/) {
+        const QColor color = colorOf(data);
+        return color.isValid() ? std::function<void()>([this, color] { emit dropped(color); }) : nullptr;
+    });
 }

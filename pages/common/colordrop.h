@@ -17,8 +17,6 @@ public:
     /// Watches \a target, which owns this object.
     explicit ColorDrop(QWidget *target);
 
-    bool eventFilter(QObject *watched, QEvent *event) override;
-
 signals:
     void dropped(const QColor &color);
 };
