@@ -9,7 +9,10 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <csignal>
 #include <cstdio>
+
+#include <sys/prctl.h>
 
 namespace {
 
@@ -24,6 +27,16 @@ struct Tool {
 constexpr Tool tools[] = {{"aplay", "alsa-utils"},       {"feh", "feh"},
                           {"openbox", "openbox"},        {"qaz-svg2png", "qaz-admin-theme"},
                           {"xset", "x11-xserver-utils"}, {"xsettingsd", "xsettingsd"}};
+
+/// Ends with the bridge, however that ends: a settings manager that stayed would keep the next one from its place.
+class Child : public QProcess
+{
+public:
+    using QProcess::QProcess;
+
+protected:
+    void setupChildProcess() override { ::prctl(PR_SET_PDEATHSIG, SIGTERM); }
+};
 
 /// The end of a line about \a tool; a compositing manager may be of any package.
 QString packageHint(const QString &tool)
@@ -145,7 +158,7 @@ QProcess *Programs::launch(const QStringList &command, const std::function<void(
     }
     if (m_verbose)
         tell(shellLine(command));
-    auto *process = new QProcess(this);
+    auto *process = new Child(this);
     process->setStandardInputFile(QProcess::nullDevice());
     process->setStandardOutputFile(QProcess::nullDevice());
     process->setStandardErrorFile(QProcess::nullDevice());

@@ -105,7 +105,9 @@ XSettingsTexts XSettings::texts() const
 
 void XSettings::apply()
 {
-    const QString name = QStringLiteral("xsettingsd-%1.conf").arg(QString::fromLocal8Bit(qgetenv("DISPLAY")));
+    const QString display = QString::fromLocal8Bit(qgetenv("DISPLAY"))
+                                .replace(QLatin1Char('/'), QLatin1Char('_'));
+    const QString name = QStringLiteral("xsettingsd-%1.conf").arg(display);
     const QString path = ownFile(name, m_session.options.dryRun);
     if (!m_manager && m_session.x.isOwned(selection)) {
         if (!m_isLeft)

@@ -165,6 +165,16 @@ private slots:
         XSync(display, False);
     }
 
+    void aKilledBridgeLeavesNoChild()
+    {
+        m_programs->add("xsettingsd"_s,
+                        "echo $$ >'" + QFile::encodeName(m_home->path("pid"_s)) + "'\nexec /bin/sleep 3600");
+        BridgeProcess bridge;
+        QTRY_VERIFY(m_home->read("pid"_s).endsWith('\n'));
+        bridge.process.kill();
+        QTRY_VERIFY(::kill(m_home->read("pid"_s).toInt(), 0) == -1);
+    }
+
     void aLostServerEndsItWithItsChildren()
     {
         QProcess server;
