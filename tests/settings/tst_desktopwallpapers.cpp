@@ -20,10 +20,11 @@ class TestDesktopWallpapers : public QObject
 private slots:
     void removingKeepsEveryOtherByte()
     {
-        const QByteArray head = "\xEF\xBB\xBF; mine\r\n\r\n\r\n[Z]\r\nb = 1\r\na=2  \r\n[Desktop Entry]\r\n"
+        const QByteArray signature = "\xEF\xBB\xBF"; // which goes with the key
+        const QByteArray head = "; mine\r\n\r\n\r\n[Z]\r\nb = 1\r\na=2  \r\n[Desktop Entry]\r\n"
                                 "Name=\xFF\r\n# why\r\nX-QAZ-WallPaper[de]=x\r\n";
         const QByteArray tail = "x-qaz-wallpaper=lower\r\n\r\n[Y]\r\nX-QAZ-WallPaper=other group";
-        const QByteArray before = head + "X-QAZ-WallPaper = \"#a6caf0\"\r\n" + tail;
+        const QByteArray before = signature + head + "X-QAZ-WallPaper = \"#a6caf0\"\r\n" + tail;
         const TemporaryHome home;
         home.write(first, before);
         removeDesktopWallpapers();
