@@ -95,7 +95,10 @@ void HelpWindow::createBar()
     connect(forward, &QToolButton::clicked, this, &QTextBrowser::forward);
     connect(previous, &QToolButton::clicked, this, [this] { search(QTextDocument::FindBackward); });
     connect(next, &QToolButton::clicked, this, [this] { search(); });
-    connect(m_text, &QLineEdit::returnPressed, this, [this] { search(); });
+    // A key that the field leaves over goes to the text, which follows the link that was found.
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter})
+        connect(new QShortcut(key, m_text, nullptr, nullptr, Qt::WidgetShortcut), &QShortcut::activated, this,
+                [this] { search(); });
     connect(m_text, &QLineEdit::textChanged, m_result, &QLabel::clear);
 }
 

@@ -1587,7 +1587,7 @@ Los espacios, las comillas, las barras invertidas y los caracteres de control no
     </message>
     <message>
         <source>Slide-show:</source>
-        <translation>Pase:</translation>
+        <translation>Presentación:</translation>
     </message>
     <message>
         <source>Slide show interval (0 - no slide show)</source>

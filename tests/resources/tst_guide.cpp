@@ -249,7 +249,7 @@ void TestGuide::theTextIsSearchedAndZoomed()
     QCOMPARE(help->source().fragment(), QStringLiteral("index"));
     help->findChild<QToolButton *>(QStringLiteral("forwardButton"))->click();
     QCOMPARE(help->source().fragment(), QStringLiteral("sound"));
-    help->resize(400, 400);
+    help->resize(540, 400);
     QTRY_COMPARE(help->horizontalScrollBar()->maximum(), 0);
     help->close();
 }
