@@ -1,6 +1,7 @@
 #include "app/configdialog.h"
 #include "app/myapplication.h"
 #include "app/shutdown.h"
+#include "fonts/fontsfile.h"
 #include "platform/qazinit.h"
 #include "resources/registerresources.h"
 #include "settings/themefile.h"
@@ -48,6 +49,7 @@ private:
 
 MyApplication *createApplication(int &argc, char **argv)
 {
+    guardFontconfig();
     const WithoutGl withoutGl;
     // Each display has an instance of its own.
     const QString id = QString::fromLocal8Bit(qgetenv("DISPLAY")) + QLatin1String("qaz-admin-theme");

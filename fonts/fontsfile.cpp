@@ -76,6 +76,17 @@ QStringList fontconfigFiles()
     return files;
 }
 
+void guardFontconfig()
+{
+    for (const QString &path : {userFontsFile(), homeDirectory() + QLatin1String("/.fonts.conf")}) {
+        const QFileInfo info(path);
+        if (info.exists() && !info.isFile() && !info.isDir()) {
+            printDiagnostic(QStringLiteral("Can't use %1: Not a regular file").arg(path));
+            FcConfigEnableHome(FcFalse);
+        }
+    }
+}
+
 QString userFontsFile()
 {
     return xdgDirectory("XDG_CONFIG_HOME", "/.config") + QLatin1String("/fontconfig/fonts.conf");

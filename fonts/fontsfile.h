@@ -14,6 +14,10 @@
 /// The files that make up fontconfig's current configuration, directories included.
 QStringList fontconfigFiles();
 
+/// Keeps fontconfig, which would wait for a writer, from opening a FIFO in the place of one of the user's files. To be
+/// called before anything uses fontconfig.
+void guardFontconfig();
+
 /// The user's own file in the configuration directory, whether it exists or not.
 QString userFontsFile();
 

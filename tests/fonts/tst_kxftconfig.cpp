@@ -142,20 +142,6 @@ private slots:
         }
     }
 
-    void everyHashSeedWritesTheSame()
-    {
-        QSet<QByteArray> written;
-        for (int seed = 0; seed < 20; ++seed) {
-            qSetGlobalQHashSeed(seed ? -1 : 0);
-            const HomeWithFile home(sample("unknown-content"));
-            Config config;
-            config.setExcludePixelRange(otherRange);
-            QVERIFY(config.apply());
-            written.insert(home.content());
-        }
-        QCOMPARE(written.size(), 1);
-    }
-
     void pixelRangeIsRewrittenOnceAtEachRead()
     {
         QCOMPARE(QX11Info::appDpiY(), 96);
