@@ -76,7 +76,7 @@ unsigned actionsOf(const QString &key)
         return rule->action;
     const bool isSound = std::any_of(
         std::begin(soundEvents), std::end(soundEvents),
-        [&key](const SoundEvent &event) { return key == QLatin1String(event.key); });
+        [&key](const SoundEvent &event) { return key == QLatin1String(event.key->name); });
     return isSound ? unsigned(AssignSounds) : 0;
 }
 

@@ -9,6 +9,7 @@
 #include "platform/setxrdbparameterinfile.h"
 #include "settings/fontroles.h"
 #include "settings/renderingstore.h"
+#include "settings/rolefonttext.h"
 
 #include <QComboBox>
 #include <QCoreApplication>
@@ -120,13 +121,13 @@ void KFonts::addRoles(QGridLayout *grid)
     grid->setColumnStretch(1, 1);
     grid->setColumnStretch(2, 0);
     for (const FontRole &role : fontRoles) {
-        const QString key = QLatin1String(role.key);
-        const QFont defaultFont(QLatin1String(roleFamily), rolePointSize, role.isBold ? QFont::Bold : -1);
-        auto *item = new FontUseItem(this, tr(role.label), key, defaultFont);
+        const QString key = QLatin1String(role.key->name);
+        const QFont defaultFont = textToFont(QLatin1String(role.key->defaultText));
+        auto *item = new FontUseItem(this, tr(role.key->title), key, defaultFont);
         item->setObjectName(key);
         m_fontUseItems.append(item);
         connect(item, &FontUseItem::fontSelected, this, &KFonts::fontSelected);
-        QLabel *label = rowLabel(tr(role.label), key + QLatin1String("Label"), item, this);
+        QLabel *label = rowLabel(tr(role.key->title), key + QLatin1String("Label"), item, this);
         label->setWhatsThis(tr(role.help));
         const int row = m_fontUseItems.size() - 1;
         grid->addWidget(label, row, 0);

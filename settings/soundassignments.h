@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QCoreApplication>
+#include "settings/themekeys.h"
+
 #include <QString>
 
 #include <iterator>
@@ -9,28 +10,27 @@ class QazSoundTheme;
 
 /// A window-manager event that can have a sound.
 struct SoundEvent {
-    const char *title;       ///< shown, translated in the context "SoundForm"
-    const char *key;         ///< in the theme file
+    const ThemeKey *key;
     const char *themeSound;  ///< the sound's name in sound themes
     const char *builtInFile; ///< in the sounds directory; empty: no sound without a theme
 };
 
 // clang-format off
 constexpr SoundEvent soundEvents[] = { // in the order of the list, which is the save order
-    {QT_TRANSLATE_NOOP("SoundForm", "Menu Popup"),          "MenuPopupSound",        "menu-popup",              ""},
-    {QT_TRANSLATE_NOOP("SoundForm", "Menu Command"),        "MenuCommandSound",      "item-selected",           ""},
-    {QT_TRANSLATE_NOOP("SoundForm", "Open Window"),         "OpenSound",             "window-new",              ""},
-    {QT_TRANSLATE_NOOP("SoundForm", "Close Window"),        "CloseSound",            "window-close",            ""},
-    {QT_TRANSLATE_NOOP("SoundForm", "Restore Window up"),   "RestoreUpSound",        "window-unminimized",      ""},
-    {QT_TRANSLATE_NOOP("SoundForm", "Restore Window down"), "RestoreDownSound",      "window-unmaximized",      ""},
-    {QT_TRANSLATE_NOOP("SoundForm", "Minimize Window"),     "MinimizeSound",         "window-minimized",        ""},
-    {QT_TRANSLATE_NOOP("SoundForm", "Maximize Window"),     "MaximizeSound",         "window-maximized",        ""},
-    {QT_TRANSLATE_NOOP("SoundForm", "System Start"),        "SystemStartSound",      "desktop-login",           "x-qaz-wm-chimes.wav"},
-    {QT_TRANSLATE_NOOP("SoundForm", "System Exit"),         "SystemExitSound",       "desktop-logout",          "x-qaz-wm-chimes.wav"},
-    {QT_TRANSLATE_NOOP("SoundForm", "System Lock"),         "SystemLockSound",       "desktop-screen-lock",     "x-qaz-wm-chimes.wav"},
-    {QT_TRANSLATE_NOOP("SoundForm", "Error Dialog"),        "ErrorDialogSound",      "dialog-error",            "x-qaz-wm-error.wav"},
-    {QT_TRANSLATE_NOOP("SoundForm", "Forced Tray Message"), "ForceTrayMessageSound", "window-attention-active", "x-qaz-wm-notify.wav"},
-    {QT_TRANSLATE_NOOP("SoundForm", "Paging"),              "PagingSound",           "desktop-switch-left",     "x-qaz-wm-slide.wav"}};
+    {&themeKey("MenuPopupSound"),        "menu-popup",              ""},
+    {&themeKey("MenuCommandSound"),      "item-selected",           ""},
+    {&themeKey("OpenSound"),             "window-new",              ""},
+    {&themeKey("CloseSound"),            "window-close",            ""},
+    {&themeKey("RestoreUpSound"),        "window-unminimized",      ""},
+    {&themeKey("RestoreDownSound"),      "window-unmaximized",      ""},
+    {&themeKey("MinimizeSound"),         "window-minimized",        ""},
+    {&themeKey("MaximizeSound"),         "window-maximized",        ""},
+    {&themeKey("SystemStartSound"),      "desktop-login",           "x-qaz-wm-chimes.wav"},
+    {&themeKey("SystemExitSound"),       "desktop-logout",          "x-qaz-wm-chimes.wav"},
+    {&themeKey("SystemLockSound"),       "desktop-screen-lock",     "x-qaz-wm-chimes.wav"},
+    {&themeKey("ErrorDialogSound"),      "dialog-error",            "x-qaz-wm-error.wav"},
+    {&themeKey("ForceTrayMessageSound"), "window-attention-active", "x-qaz-wm-notify.wav"},
+    {&themeKey("PagingSound"),           "desktop-switch-left",     "x-qaz-wm-slide.wav"}};
 // clang-format on
 static_assert(std::size(soundEvents) == 14);
 

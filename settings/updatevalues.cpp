@@ -2,6 +2,7 @@
 
 #include "platform/qazsettings.h"
 #include "settings/textvalues.h"
+#include "settings/themekeys.h"
 #include "settings/wmcommands.h"
 
 namespace {
@@ -19,6 +20,11 @@ bool storeAndAnnounce(QazSettings *store, const QString &key, const QString &tex
 }
 
 } // namespace
+
+QString storedText(const QazSettings *store, const ThemeKey &key)
+{
+    return storedText(store, QLatin1String(key.name), QLatin1String(key.defaultText));
+}
 
 bool updateBoolValue(QazSettings *store, const QString &key, const QString &defaultText, bool value)
 {

@@ -3,6 +3,10 @@
 #include <QString>
 
 class QazSettings;
+struct ThemeKey;
+
+/// The text of \a key in \a store, or its default.
+QString storedText(const QazSettings *store, const ThemeKey &key);
 
 // Each operation compares the stored value of a key, read with the default text, with the new one. Only when
 // they differ it stores the new text and announces it to the window manager. It returns whether they differed.

@@ -1,6 +1,7 @@
 #include "settings/wallpapertexts.h"
 
 #include "platform/findwallpaperbyname.h"
+#include "settings/themekeys.h"
 
 #include <QFile>
 
@@ -8,22 +9,17 @@ namespace {
 
 constexpr int pathBufferSize = 4096;
 constexpr char convertCommand[] = "qaz-svg2png -w %d -h %d -i \"%s\" -o \"%s\"";
-constexpr const char *fitWords[] = {"Center", "Tile", "Stretch"};
 
 } // namespace
 
 QString wordFromFit(Fit fit)
 {
-    return QLatin1String(fitWords[int(fit)]);
+    return closedSet(themeKey("WallPaperPos")).value(int(fit));
 }
 
 Fit fitFromWord(const QString &word)
 {
-    for (Fit fit : {Fit::Tile, Fit::Stretch}) {
-        if (word == QLatin1String(fitWords[int(fit)]))
-            return fit;
-    }
-    return Fit::Center;
+    return Fit(qMax(0, closedSet(themeKey("WallPaperPos")).indexOf(word)));
 }
 
 bool isColorText(const QString &text)

@@ -12,6 +12,7 @@
 #include "settings/directories.h"
 #include "settings/inifile.h"
 #include "settings/textvalues.h"
+#include "settings/themekeys.h"
 #include "settings/updatevalues.h"
 #include "settings/wmcommands.h"
 
@@ -22,7 +23,7 @@
 
 namespace {
 
-const QLatin1String useCompositeKey("UseComposite");
+const QLatin1String useCompositeKey(themeKey("UseComposite").name); // two defaults, on purpose
 const QLatin1String simpleMode("CompSimple");
 const QLatin1String shadowMode("CompClientShadows");
 
@@ -123,8 +124,7 @@ void copySystemFile(const QString &from, const QString &to)
 
 QString managerName(const QazSettings *settings)
 {
-    return settings->value(QStringLiteral("CompositeManager"), QStringLiteral("/usr/bin/qaz-kompmgr"))
-        .toString();
+    return storedText(settings, themeKey("CompositeManager"));
 }
 
 /// Whether the manager at \a path runs, with `UseComposite` brought in line.

@@ -69,11 +69,7 @@ bool EffectPage::loadValues(QazSettings *settings)
         for (const EffectSetting &setting : effectSettings)
             loadSetting(settings, setting);
         loadPaging();
-        const QString thumbnailSize = settings
-                                          ->value(QLatin1String(thumbnailSetting.key),
-                                                  QLatin1String(thumbnailSetting.defaultText))
-                                          .toString();
-        m_ui->thumbCheckBox->setChecked(thumbnailSize.toInt() != 0);
+        m_ui->thumbCheckBox->setChecked(storedText(settings, thumbnailKey).toInt() != 0);
         showCompositeState(loadComposite(settings, compositeState(), &comptonConfigPath));
     }
     connectEdits();
@@ -89,9 +85,8 @@ bool EffectPage::saveValues(QazSettings *settings)
         saveSetting(settings, setting);
     saveComposite(settings, compositeState(), comptonConfigPath);
     if (m_ui->thumbCheckBox->isEnabled())
-        updateIntValue(settings, QLatin1String(thumbnailSetting.key),
-                       QLatin1String(thumbnailSetting.defaultText),
-                       m_ui->thumbCheckBox->isChecked() ? thumbnailSetting.size : 0);
+        updateIntValue(settings, QLatin1String(thumbnailKey.name), QLatin1String(thumbnailKey.defaultText),
+                       m_ui->thumbCheckBox->isChecked() ? thumbnailSize : 0);
     return true;
 }
 
@@ -116,17 +111,16 @@ void EffectPage::pagingBeltSlot(bool on)
 
 void EffectPage::loadSetting(const QazSettings *settings, const EffectSetting &setting)
 {
-    if (!setting.loadDefault)
+    if (!setting.isLoaded)
         return;
-    const QString text = settings->value(QLatin1String(setting.key), QLatin1String(setting.loadDefault))
-                             .toString();
+    const QString text = storedText(settings, *setting.key);
     std::visit([this, &text](auto widget) { showText(m_ui.get()->*widget, text); }, setting.widget);
 }
 
 void EffectPage::saveSetting(QazSettings *settings, const EffectSetting &setting) const
 {
-    const QLatin1String key(setting.key);
-    const QLatin1String defaultText(setting.saveDefault);
+    const QLatin1String key(setting.key->name);
+    const QLatin1String defaultText(setting.saveDefault ? setting.saveDefault : setting.key->defaultText);
     std::visit([&](auto widget) { updateFrom(settings, key, defaultText, m_ui.get()->*widget); },
                setting.widget);
 }

@@ -31,7 +31,7 @@ QString defaultSound(const QString &key, bool fromTheme)
 {
     const auto event = std::find_if(
         std::begin(soundEvents), std::end(soundEvents),
-        [&key](const SoundEvent &known) { return key == QLatin1String(known.key); });
+        [&key](const SoundEvent &known) { return key == QLatin1String(known.key->name); });
     if (event == std::end(soundEvents))
         return {};
     return QString::fromLatin1(fromTheme ? event->themeSound : event->builtInFile);

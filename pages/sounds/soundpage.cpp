@@ -23,7 +23,8 @@
 
 namespace {
 
-const QLatin1String falseText("false");
+constexpr const ThemeKey &enableKey = themeKey("EnableSound");
+constexpr const ThemeKey &soundThemeKey = themeKey("SoundTheme");
 
 QString soundsDirectory()
 {
@@ -67,8 +68,8 @@ void SoundPage::setUpList()
 {
     QTreeWidget *list = m_ui->soundListView;
     for (const SoundEvent &event : soundEvents) {
-        const QString title = QCoreApplication::translate("SoundForm", event.title);
-        new QTreeWidgetItem(list, {title, QString(), QLatin1String(event.key)});
+        const QString title = QCoreApplication::translate(event.key->context, event.key->title);
+        new QTreeWidgetItem(list, {title, QString(), QLatin1String(event.key->name)});
     }
     list->hideColumn(KeyColumn);
     list->resizeColumnToContents(EventColumn);
@@ -92,8 +93,7 @@ bool SoundPage::loadValues(QazSettings *settings)
         const QSignalBlocker listBlocker(m_ui->soundListView);
         const QSignalBlocker groupBlocker(m_ui->wmSoundsGroupBox);
         fillThemes(settings);
-        m_ui->wmSoundsGroupBox->setChecked(
-            countsAsTrue(settings->value(QStringLiteral("EnableSound"), falseText).toString()));
+        m_ui->wmSoundsGroupBox->setChecked(countsAsTrue(storedText(settings, enableKey)));
         for (QTreeWidgetItem *item : rows())
             item->setText(FileColumn, settings->value(item->text(KeyColumn), QString()).toString());
     }
@@ -110,7 +110,7 @@ void SoundPage::fillThemes(const QazSettings *settings)
     List<char> names;
     if (!QazSoundTheme::getThemesNames(&names))
         return;
-    const QString stored = settings->value(QStringLiteral("SoundTheme"), QString()).toString();
+    const QString stored = storedText(settings, soundThemeKey);
     QStringList entries;
     for (int i = 0; i < names.count(); ++i)
         entries.append(QString::fromLocal8Bit(names.at(i)));
@@ -140,12 +140,12 @@ void SoundPage::connectChanges()
 bool SoundPage::saveValues(QazSettings *settings)
 {
     const bool isOn = m_ui->wmSoundsGroupBox->isChecked();
-    updateBoolValue(settings, QStringLiteral("EnableSound"), falseText, isOn);
-    updateBoolValue(settings, QStringLiteral("EnableAlsa"), falseText, isOn);
+    for (const ThemeKey *key : {&enableKey, &themeKey("EnableAlsa")})
+        updateBoolValue(settings, QLatin1String(key->name), QLatin1String(key->defaultText), isOn);
     for (const QTreeWidgetItem *item : rows())
         updateStringValue(settings, item->text(KeyColumn), QString(), item->text(FileColumn));
     const QString theme = m_ui->soundThemeCombo->currentText();
-    updateStringValue(settings, QStringLiteral("SoundTheme"), QString(),
+    updateStringValue(settings, QLatin1String(soundThemeKey.name), QString(),
                       theme == tr("No theme") ? QString() : theme);
     return true;
 }

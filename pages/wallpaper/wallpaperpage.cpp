@@ -12,6 +12,7 @@
 #include "platform/qazsettings.h"
 #include "settings/colortexts.h"
 #include "settings/desktopwallpapers.h"
+#include "settings/themekeys.h"
 #include "settings/updatevalues.h"
 #include "ui_wallpaperform.h"
 
@@ -25,19 +26,10 @@
 
 namespace {
 
-struct Setting {
-    QLatin1String key;
-    QLatin1String defaultText;
-};
-const Setting wallpaperSetting = {QLatin1String("WallPaper"), QLatin1String("qaz-default")};
-const Setting positionSetting = {QLatin1String("WallPaperPos"), QLatin1String("Stretch")};
-const Setting periodSetting = {QLatin1String("WallPaperPeriod"), QLatin1String("0")};
-const Setting desktopColorSetting = {QLatin1String("DesktopColor"), QLatin1String("blue")};
-
-QString storedText(const QazSettings *settings, const Setting &setting)
-{
-    return settings->value(setting.key, QString(setting.defaultText)).toString();
-}
+constexpr const ThemeKey &wallpaperKey = themeKey("WallPaper");
+constexpr const ThemeKey &positionKey = themeKey("WallPaperPos");
+constexpr const ThemeKey &periodKey = themeKey("WallPaperPeriod");
+const QLatin1String defaultColor("blue"); // another one than the element's, on purpose
 
 /// A desktop's own wallpaper may stand in quotation marks.
 QString unquoted(QString wallpaper)
@@ -82,7 +74,8 @@ bool WallpaperPage::loadValues(QazSettings *settings)
     // A global colour is not the page's yet: the preview adopts it.
     m_color = !desktopWallpaper.isEmpty() && isColorText(shown)
                   ? QColor(shown)
-                  : desktopColor(storedText(settings, desktopColorSetting));
+                  : desktopColor(
+                      settings->value(QLatin1String(themeKey("DesktopColor").name), defaultColor).toString());
     connectWidgets();
     slotWallpaperType();
     loaded = true;
@@ -101,9 +94,9 @@ void WallpaperPage::loadDesktopValues(const QString &wallpaper)
 
 void WallpaperPage::loadGlobalValues(const QazSettings *settings)
 {
-    m_ui->wallpaperLineEdit->setText(storedText(settings, wallpaperSetting));
-    m_ui->wallpaperPositionCombo->setCurrentIndex(int(fitFromWord(storedText(settings, positionSetting))));
-    m_ui->SlideShowSpinBox->setValue(storedText(settings, periodSetting).toInt());
+    m_ui->wallpaperLineEdit->setText(storedText(settings, wallpaperKey));
+    m_ui->wallpaperPositionCombo->setCurrentIndex(int(fitFromWord(storedText(settings, positionKey))));
+    m_ui->SlideShowSpinBox->setValue(storedText(settings, periodKey).toInt());
 }
 
 void WallpaperPage::connectWidgets()
@@ -142,9 +135,12 @@ bool WallpaperPage::saveValues(QazSettings *settings)
     // No desktop keeps a wallpaper of its own over the new one of all.
     removeDesktopWallpapers();
     const auto fit = Fit(m_ui->wallpaperPositionCombo->currentIndex());
-    updateStringValue(settings, wallpaperSetting.key, wallpaperSetting.defaultText, wallpaper);
-    updateStringValue(settings, positionSetting.key, positionSetting.defaultText, wordFromFit(fit));
-    updateIntValue(settings, periodSetting.key, periodSetting.defaultText, m_ui->SlideShowSpinBox->value());
+    updateStringValue(settings, QLatin1String(wallpaperKey.name), QLatin1String(wallpaperKey.defaultText),
+                      wallpaper);
+    updateStringValue(settings, QLatin1String(positionKey.name), QLatin1String(positionKey.defaultText),
+                      wordFromFit(fit));
+    updateIntValue(settings, QLatin1String(periodKey.name), QLatin1String(periodKey.defaultText),
+                   m_ui->SlideShowSpinBox->value());
     return true;
 }
 

@@ -6,6 +6,7 @@
 #include "pages/sounds/soundpage.h"
 #include "pages/theme/themepage.h"
 #include "pages/wallpaper/wallpaperpage.h"
+#include "settings/themekeys.h"
 #include "tests/support/fakeprogram.h"
 #include "tests/support/modaldriver.h"
 #include "tests/support/wmlistener.h"
@@ -167,6 +168,33 @@ private slots:
         m_list->setCurrentRow(4);
         QVERIFY(find<EffectPage>()->loaded && !find<ThemePage>()->loaded && !find<SoundPage>()->loaded);
         QCOMPARE(m_stack->currentWidget(), find<EffectPage>());
+    }
+
+    void spinBoxesTakeWhatTheirKeysTake()
+    {
+        open();
+        const std::tuple<const char *, const char *, int> others[] = {
+            {"WallPaperPeriod", "SlideShowSpinBox", 1},
+            {"ScreenSaverDelay", "minutesToStartSpinBox", 60},
+            {"LockerDpmsOffTimeout", "dpmsOffSpinBox", 60},
+            {"LockerWrongPasswdTimeout", "wrongPasswordTimeoutSpinBox", 1},
+            {"LockerBellLevel", "wrongPasswordBellSpinBox", 1}};
+        int found = 0;
+        for (const ThemeKey &key : themeKeys) {
+            QString name = QLatin1String(key.name) + "SpinBox"_s;
+            name[0] = name.at(0).toLower();
+            int unit = 1;
+            for (const auto &[otherKey, otherName, otherUnit] : others) {
+                if (qstrcmp(key.name, otherKey) == 0)
+                    std::tie(name, unit) = std::make_tuple(QLatin1String(otherName), otherUnit);
+            }
+            const auto *box = m_dialog->findChild<QSpinBox *>(name);
+            if (!box)
+                continue;
+            ++found;
+            QVERIFY2(box->minimum() * unit == key.minimum && box->maximum() * unit == key.maximum, key.name);
+        }
+        QCOMPARE(found, 20);
     }
 
     void unsavedEditsAreGuarded()

@@ -33,8 +33,8 @@ private slots:
         QByteArray content = "EnableSound=true\nSoundTheme=not installed\n";
         QString expected = "EnableSound false\n"_s;
         for (const SoundEvent &event : soundEvents) {
-            content += QByteArray(event.key) + "=x\n";
-            expected += QLatin1String(event.key) + QLatin1String(" \n");
+            content += QByteArray(event.key->name) + "=x\n";
+            expected += QLatin1String(event.key->name) + QLatin1String(" \n");
         }
         PageOverFile over(content);
         QCOMPARE(over.themes->currentText(), "No theme"_s);
