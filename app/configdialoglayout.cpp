@@ -1,0 +1,143 @@
+// What the window looks like around its pages.
+
+#include "app/configdialog.h"
+
+#include "app/pagetable.h"
+#include "app/windowsize.h"
+#include "platform/slidingstackedwidget.h"
+
+#include <QDialogButtonBox>
+#include <QIcon>
+#include <QListWidget>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QShortcut>
+#include <QVBoxLayout>
+
+namespace {
+
+/// Width of the widest label of the page list, with a margin.
+int listItemWidth = 0;
+
+constexpr int narrowestLabel = 64;
+constexpr int iconExtent = 64;
+constexpr int defaultWidth = 800;
+
+int gridRowHeight(const QFontMetrics &metrics)
+{
+    return metrics.height() + iconExtent + 10;
+}
+
+/// The icon of the theme in use, else the compiled-in one: a theme may lack it, and be no theme of ours.
+QIcon iconNamed(const QString &name)
+{
+    return QIcon::fromTheme(name, QIcon(QStringLiteral(":/fallback/%1.svg").arg(name)));
+}
+
+} // namespace
+
+void ConfigDialog::fillContents()
+{
+    contentsWidget->setObjectName(QStringLiteral("contentsWidget"));
+    contentsWidget->setAccessibleName(tr("Pages"));
+    QFont font = contentsWidget->font();
+    font.setWeight(QFont::Bold);
+    contentsWidget->setFont(font);
+    listItemWidth = narrowestLabel;
+    const QFontMetrics metrics(font);
+    for (const PageEntry &entry : pageEntries) {
+        auto *item = new QListWidgetItem(iconNamed(QLatin1String(entry.iconName)), tr(entry.text),
+                                         contentsWidget);
+        item->setFlags(Qt::ItemIsSelectable | Qt::ItemIsEnabled);
+        item->setTextAlignment(Qt::AlignHCenter);
+        listItemWidth = qMax(listItemWidth, metrics.horizontalAdvance(item->text()));
+    }
+    listItemWidth += listItemWidth / 4;
+
+    contentsWidget->setGridSize(QSize(listItemWidth, gridRowHeight(metrics)));
+    contentsWidget->setViewMode(QListView::IconMode);
+    contentsWidget->setIconSize(QSize(iconExtent, iconExtent));
+    contentsWidget->setMovement(QListView::Static);
+    contentsWidget->setMinimumWidth(listItemWidth + 20);
+    contentsWidget->setMaximumWidth(listItemWidth + 20);
+    // A vertical scroll bar of a high resolution takes more than these 20 pixels; the labels have a margin.
+    contentsWidget->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+}
+
+void ConfigDialog::createButtons()
+{
+    // Created after the pages: the order of creation is that of the Tab key.
+    m_buttonBox = new QDialogButtonBox(this);
+    m_buttonBox->setObjectName(QStringLiteral("buttonBox"));
+    m_buttonBox->setStandardButtons(QDialogButtonBox::Ok | QDialogButtonBox::Close | QDialogButtonBox::Help
+                                    | QDialogButtonBox::Apply);
+    QPushButton *ok = m_buttonBox->button(QDialogButtonBox::Ok);
+    ok->setDefault(true);
+    ok->setEnabled(false);
+    QPushButton *apply = m_buttonBox->button(QDialogButtonBox::Apply);
+    apply->setText(tr("Apply")); // which Qt's catalogues don't call as desktops do
+    apply->setEnabled(false);
+    m_buttonBox->button(QDialogButtonBox::Help)->setShortcut(QKeySequence(QKeySequence::HelpContents));
+    QPushButton *restore = m_buttonBox->addButton(tr("Restore..."), QDialogButtonBox::ResetRole);
+    restore->setObjectName(QStringLiteral("restoreButton"));
+    restore->setToolTip(tr("Restore all settings.\n")
+                        + tr("All changes will be lost and restart session will be required."));
+
+    connect(m_buttonBox, &QDialogButtonBox::accepted, this, &ConfigDialog::okSlot);
+    connect(m_buttonBox, &QDialogButtonBox::rejected, this, &ConfigDialog::rejectSlot);
+    connect(m_buttonBox, &QDialogButtonBox::helpRequested, this, &ConfigDialog::helpSlot);
+    connect(apply, &QPushButton::clicked, this, &ConfigDialog::applySlot);
+    connect(restore, &QPushButton::clicked, this, &ConfigDialog::restoreSlot);
+}
+
+void ConfigDialog::createLayout()
+{
+    auto *rows = new QVBoxLayout(this);
+    auto *contents = new QHBoxLayout;
+    contents->addWidget(contentsWidget, 0);
+    contents->addWidget(m_pageArea, 1);
+    rows->addLayout(contents);
+    rows->addSpacing(12);
+    rows->addWidget(m_buttonBox);
+}
+
+void ConfigDialog::createShortcuts()
+{
+    const auto add = [this](const QKeySequence &key, auto row) {
+        connect(new QShortcut(key, this), &QShortcut::activated, contentsWidget,
+                [this, row] { contentsWidget->setCurrentRow(row()); });
+    };
+    const int rows = contentsWidget->count();
+    for (int i = 0; i < rows; ++i)
+        add(QKeySequence(Qt::ALT | Qt::Key(Qt::Key_1 + i)), [i] { return i; });
+    add(QKeySequence(Qt::CTRL | Qt::Key_PageUp), [=] { return qMax(0, contentsWidget->currentRow() - 1); });
+    add(QKeySequence(Qt::CTRL | Qt::Key_PageDown),
+        [=] { return qMin(rows - 1, contentsWidget->currentRow() + 1); });
+}
+
+void ConfigDialog::restoreSize()
+{
+    // Seven rows of the list: its six entries and one to spare. All pages are seen whole.
+    const QSize usual(defaultWidth, gridRowHeight(QFontMetrics(contentsWidget->font())) * 7);
+    m_pageArea->setMinimumSize(pagesWidget->minimumSizeHint());
+    m_wantedSize = storedWindowSize(usual.expandedTo(layout()->minimumSize()));
+    m_pageArea->setMinimumSize(0, 0);
+    scrollOnlyForPageInView();
+    resize(sizeOnScreen(m_wantedSize, this));
+    m_firstSize = size();
+}
+
+void ConfigDialog::scrollOnlyForPageInView()
+{
+    for (int i = 0; i < pagesWidget->count(); ++i) {
+        const auto policy = i == pagesWidget->currentIndex() ? QSizePolicy::Preferred : QSizePolicy::Ignored;
+        pagesWidget->widget(i)->setSizePolicy(policy, policy);
+    }
+}
+
+void ConfigDialog::storeSize() const
+{
+    // A small screen's limits are not the user's wish.
+    storeWindowSize({width() == m_firstSize.width() ? m_wantedSize.width() : width(),
+                     height() == m_firstSize.height() ? m_wantedSize.height() : height()});
+}
