@@ -25,7 +25,7 @@
 
 namespace {
 
-constexpr int rounds = 15;
+constexpr int rounds = 31;
 constexpr double memoryLimit = 0.5;
 
 using Clock = std::chrono::steady_clock;
