@@ -109,6 +109,8 @@ void TestQazTheme::commandsReadAndChangeTheFile_data()
         "DesktopColor: navy -> #3a6ea5\nMenuDelayTime: 6 -> -6\nPagingSpeed: 30 -> 1\n", "");
     row("a file with a value that does not fit", "MenuDelayTime=5\n", "apply bad.themerc", 2, "",
         "MenuDelayTime=5\n");
+    row("another theme file than the user's", "A=1\n", "set -f other.themerc MenuDelayTime=7", 0,
+        "MenuDelayTime: 6 -> 7\n", "A=1\n", {"QAZWM_UPDATE_VAL MenuDelayTime 7"_s});
     row("no command", "", "", 2, "", "");
     row("an unknown command", "", "put A=1", 2, "", "");
     row("an unknown option", "", "get -x WallPaper", 2, "", "");
