@@ -45,7 +45,9 @@ int BridgeProcess::exitCode()
 QStringList BridgeProcess::errors()
 {
     m_errors += process.readAllStandardError();
-    return QString::fromLocal8Bit(m_errors).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    return QString::fromLocal8Bit(m_errors)
+        .split(QLatin1Char('\n'))
+        .filter(QStringLiteral("qaz-wm-bridge: "));
 }
 
 void announce(const char *key, const QString &value)

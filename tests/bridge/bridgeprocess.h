@@ -15,7 +15,7 @@ public:
     static bool isServing();
     /// Waits until it has ended; its exit code, or -1 when it goes on or was ended by a signal.
     int exitCode();
-    /// The lines that it has printed to standard error so far.
+    /// Its own lines on standard error so far; a sanitizer may print others.
     QStringList errors();
 
     QProcess process;

@@ -28,6 +28,7 @@ private slots:
         m_programs.reset(); // what is put back comes before what is put in its place
         m_home.reset();
         m_home = std::make_unique<TemporaryHome>();
+        m_home->write(themeFile, "WallPaper=#000000\n");
         m_programs = std::make_unique<FakePrograms>(FakePrograms::Path::Instead);
         for (const char *tool : {"feh", "xset", "openbox"})
             m_programs->add(QLatin1String(tool));
