@@ -1,12 +1,12 @@
 #include "pages/effects/compositesettings.h"
 #include "platform/qazsettings.h"
 #include "tests/support/environment.h"
+#include "tests/support/literals.h"
 #include "tests/support/spawnedprocess.h"
 #include "tests/support/standarderror.h"
 #include "tests/support/temporaryhome.h"
 #include "tests/support/wmlistener.h"
 
-#include <QDir>
 #include <QFile>
 #include <QtTest>
 
@@ -15,39 +15,34 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-Q_DECLARE_METATYPE(CompositeState)
-
 namespace {
 
-const QString themeFile = QStringLiteral(".config/qaz/current.themerc");
-const QString kompmgrFile = QStringLiteral(".config/qaz/kompmgrrc");
-const QString comptonFile = QStringLiteral(".config/compton.conf");
-const QString backupDirectory = QStringLiteral(".local/state/qaz/backup");
+const QString kompmgrFile = ".config/qaz/kompmgrrc"_s;
+const QString comptonFile = ".config/compton.conf"_s;
 
 /// A session whose manager is installed in PATH under a name that no other test uses.
 class Session
 {
 public:
     Session(const QString &manager, bool runs, const QByteArray &lines)
-        : m_path("PATH", QFile::encodeName(home.path(QStringLiteral("bin"))))
+        : m_path("PATH", QFile::encodeName(home.path("bin"_s)))
         , m_manager(manager.toUtf8())
     {
-        home.makeDirectory(QStringLiteral(".config/qaz"));
-        const QString program = installWaitingProgram(home.path(QStringLiteral("bin/") + manager));
+        home.makeDirectory(".config/qaz"_s);
+        const QString program = installWaitingProgram(home.path("bin/"_s + manager));
         if (runs)
-            m_process = std::make_unique<SpawnedProcess>(program,
-                                                         QStringList{program, QStringLiteral("3600")});
+            m_process = std::make_unique<SpawnedProcess>(program, QStringList{program, "3600"_s});
         writeTheme(lines);
     }
 
     void writeTheme(const QByteArray &lines) const
     {
-        home.write(themeFile, "CompositeManager=" + m_manager + '\n' + lines);
+        home.write("t"_s, "CompositeManager=" + m_manager + '\n' + lines);
     }
     /// The lines of the theme file below the manager's own.
     QByteArray themeLines() const
     {
-        const QByteArray text = home.read(themeFile);
+        const QByteArray text = home.read("t"_s);
         return text.mid(text.indexOf('\n') + 1);
     }
     CompositeState load(const CompositeState &shown = {})
@@ -55,10 +50,6 @@ public:
         return loadComposite(openStore().get(), shown, &comptonConfigPath);
     }
     void save(const CompositeState &state) { saveComposite(openStore().get(), state, comptonConfigPath); }
-    QStringList backups() const
-    {
-        return QDir(home.path(backupDirectory)).entryList({QStringLiteral("*Z-*")});
-    }
 
     const TemporaryHome home;
     QString comptonConfigPath;
@@ -67,7 +58,7 @@ private:
     /// The store writes the file when it goes.
     std::unique_ptr<QazSettings> openStore() const
     {
-        auto store = std::make_unique<QazSettings>(home.path(themeFile));
+        auto store = std::make_unique<QazSettings>(home.path("t"_s));
         store->sync(true);
         return store;
     }
@@ -78,10 +69,10 @@ private:
 };
 
 // Another run of this test on the same machine must not pass for this one's managers.
-const QString ownManager = QStringLiteral("qaz-kompmgr-%1").arg(::getpid());
-const QString compton = QStringLiteral("compton-%1").arg(::getpid());
-const QString off = QStringLiteral("QAZWM_UPDATE_VAL UseComposite false");
-const QString on = QStringLiteral("QAZWM_UPDATE_VAL UseComposite true");
+const QString ownManager = "qaz-kompmgr-%1"_s.arg(::getpid());
+const QString compton = "compton-%1"_s.arg(::getpid());
+const QString off = "QAZWM_UPDATE_VAL UseComposite false"_s;
+const QString on = "QAZWM_UPDATE_VAL UseComposite true"_s;
 
 } // namespace
 
@@ -91,22 +82,18 @@ class TestCompositeSettings : public QObject
 private slots:
     void boxShowsWhetherTheManagerRuns()
     {
-        struct Case {
-            bool runs;
-            QByteArray stored;
-            QByteArray after;
-        };
-        const Case cases[] = {{true, "UseComposite=True\n", "UseComposite=True\n"},
-                              {true, "", ""},
-                              {true, "UseComposite=TRUE\n", "UseComposite=true\n"},
-                              {false, "UseComposite=true\n", "UseComposite=false\n"},
-                              {false, "", "UseComposite=false\n"},
-                              {false, "UseComposite=no\n", "UseComposite=no\n"}};
+        const std::tuple<bool, QByteArray, QByteArray> rows[] = {
+            {true, "UseComposite=True\n", "UseComposite=True\n"},
+            {true, "", ""},
+            {true, "UseComposite=TRUE\n", "UseComposite=true\n"},
+            {false, "UseComposite=true\n", "UseComposite=false\n"},
+            {false, "", "UseComposite=false\n"},
+            {false, "UseComposite=no\n", "UseComposite=no\n"}};
         WmListener windowManager;
-        for (const Case &one : cases) {
-            Session session(ownManager, one.runs, one.stored);
-            QCOMPARE(session.load().managerOn, one.runs);
-            QCOMPARE(session.themeLines(), one.after);
+        for (const auto &[runs, stored, after] : rows) {
+            Session session(ownManager, runs, stored);
+            QCOMPARE(session.load().managerOn, runs);
+            QCOMPARE(session.themeLines(), after);
         }
         QCOMPARE(windowManager.take(), QStringList());
     }
@@ -115,7 +102,7 @@ private slots:
     {
         Session session(ownManager, true, {});
         WmListener windowManager;
-        session.home.write(themeFile, "CompositeManager=no-%s-compton\nUseComposite=true\n");
+        session.home.write("t"_s, "CompositeManager=no-%s-compton\nUseComposite=true\n");
         const QByteArray kompmgr = "[kompmgr]\nIgnoreTransparency=false\n";
         session.home.write(kompmgrFile, kompmgr);
         StandardError messages;
@@ -124,23 +111,21 @@ private slots:
                  QByteArray("qaz-admin-wm: can't find CompositeManager='no-%s-compton' in PATH\n"));
         QVERIFY(!state.managerOn && !state.transparency && state.shadow);
         QCOMPARE(session.themeLines(), QByteArray("UseComposite=false\n"));
-        QVERIFY(session.comptonConfigPath.isEmpty());
         session.save(state);
-        QVERIFY(!session.home.exists(comptonFile));
+        QVERIFY(session.comptonConfigPath.isEmpty() && !session.home.exists(comptonFile));
 
         // A save to a theme that still says on tells the window manager; kompmgrrc is overwritten, but kept.
-        session.home.write(themeFile, "CompositeManager=gone\nUseComposite=true\n");
+        session.home.write("t"_s, "CompositeManager=gone\nUseComposite=true\n");
         session.save({});
         QCOMPARE(session.themeLines(), QByteArray("UseComposite=false\n"));
         QCOMPARE(windowManager.take(), QStringList{off});
         QCOMPARE(session.home.read(kompmgrFile), QByteArray("[kompmgr]\nIgnoreTransparency=true\n"));
-        QCOMPARE(session.backups().size(), 1);
-        QCOMPARE(session.home.read(backupDirectory + QLatin1Char('/') + session.backups().first()), kompmgr);
+        QCOMPARE(session.home.backups(), QByteArrayList{kompmgr});
     }
 
     void kompmgrFileIsReadAsNegations()
     {
-        const QVector<QPair<QByteArray, bool>> files{
+        const std::pair<QByteArray, bool> files[] = {
             {"[other]\nCompmode=CompClientShadows\n", false},
             {"[kompmgr]\nIgnoreTransparency=TRUE\nCompmode=compsimple\n", true},
             {"[kompmgr]\nIgnoreTransparency=untrue\nCompmode=CompSimple2\n", false}};
@@ -156,139 +141,98 @@ private slots:
         }
     }
 
-    void runningManagerIsRestartedOnlyForAChangedFile_data()
-    {
-        QTest::addColumn<QByteArray>("use");
-        QTest::addColumn<CompositeState>("state");
-        QTest::addColumn<QStringList>("commands");
-        const auto row = [](const char *title, const char *use, const CompositeState &state,
-                            const QStringList &commands) {
-            QTest::newRow(title) << QByteArray(use) << state << commands;
-        };
-        row("only the file", "UseComposite=true\n", {true, false, true}, {off, on});
-        row("nothing", "UseComposite=true\n", {true, false, false}, {});
-        row("switched on with the file", "UseComposite=false\n", {true, true, true}, {on});
-        row("switched off with the file", "UseComposite=true\n", {false, true, true}, {off});
-        row("another text for true", "UseComposite=True\n", {true, true, true}, {});
-        row("no text at all", "", {true, true, true}, {on});
-    }
     void runningManagerIsRestartedOnlyForAChangedFile()
     {
-        QFETCH(QByteArray, use);
-        QFETCH(CompositeState, state);
-        for (const QString &manager : {ownManager, compton}) {
-            Session session(manager, true, use);
-            session.home.write(kompmgrFile, "; mine\n[kompmgr]\nOther=\"a, b\"\n\n[more]\nkey=1\n");
-            session.home.write(comptonFile, "# mine\nshadow = false;\nenable-transparency = false;\n");
-            session.load();
-            session.writeTheme(use);
-            WmListener windowManager;
-            session.save(state);
-            QTEST(windowManager.take(), "commands");
-            const QByteArray changedUse = state.managerOn ? "UseComposite=true\n" : "UseComposite=false\n";
-            QCOMPARE(session.themeLines(), state.managerOn == use.contains("rue") ? use : changedUse);
-            QCOMPARE(session.backups().size(), state.transparency || state.shadow ? 1 : 0);
-            const CompositeState reloaded = session.load();
-            QCOMPARE(reloaded.transparency, state.transparency);
-            QCOMPARE(reloaded.shadow, state.shadow);
-            QVERIFY(session.home.read(kompmgrFile).contains("Other=\"a, b\""));
-            QVERIFY(session.home.read(comptonFile).startsWith("# mine\n"));
+        const std::tuple<QByteArray, CompositeState, QStringList, const char *> rows[] = {
+            {"true", {true, false, true}, {off, on}, "true"}, {"true", {true, false, false}, {}, "true"},
+            {"false", {true, true, true}, {on}, "true"},      {"true", {false, true, true}, {off}, "false"},
+            {"True", {true, true, true}, {}, "True"},         {"", {true, true, true}, {on}, "true"}};
+        for (const auto &[use, state, commands, usedThen] : rows) {
+            for (const QString &manager : {ownManager, compton}) {
+                const QByteArray line = use.isEmpty() ? QByteArray() : "UseComposite=" + use + '\n';
+                Session session(manager, true, line);
+                session.home.write(kompmgrFile, "; mine\n[kompmgr]\nOther=\"a, b\"\n\n[more]\nkey=1\n");
+                session.home.write(comptonFile, "# mine\nshadow = false;\nenable-transparency = false;\n");
+                session.load();
+                session.writeTheme(line);
+                WmListener windowManager;
+                session.save(state);
+                QCOMPARE(windowManager.take(), commands);
+                QCOMPARE(session.themeLines(), QByteArray("UseComposite=") + usedThen + '\n');
+                QCOMPARE(session.home.backups().size(), state.transparency || state.shadow ? 1 : 0);
+                const CompositeState reloaded = session.load();
+                QCOMPARE(reloaded.transparency, state.transparency);
+                QCOMPARE(reloaded.shadow, state.shadow);
+                QVERIFY(session.home.read(kompmgrFile).contains("Other=\"a, b\""));
+                QVERIFY(session.home.read(comptonFile).startsWith("# mine\n"));
+            }
         }
     }
 
     void comptonFileIsResolvedOnceAndMissingValuesAreWritten()
     {
         Session session(compton, true, {});
-        const QString old = session.home.write(QStringLiteral(".compton.conf"), {});
+        const ScopedEnvironment configHome("XDG_CONFIG_HOME", "relative"); // counts as unset
+        const QString old = session.home.write(".compton.conf"_s, {});
         const CompositeState state = session.load({false, true, true});
         QVERIFY(state.managerOn && !state.transparency && !state.shadow);
         session.home.write(comptonFile, "shadow = true;\n");
         QVERIFY(!session.load().shadow);
         QCOMPARE(session.comptonConfigPath, old);
         session.save(state);
-        QCOMPARE(session.home.read(QStringLiteral(".compton.conf")),
+        QCOMPARE(session.home.read(".compton.conf"_s),
                  QByteArray("enable-transparency = false;\nshadow = false;\n"));
     }
 
-    void configHomeThatIsNoneCountsAsUnset()
+    void whatIsNoReadableFileIsToldAndLeft()
     {
-        for (const char *value : {"", "relative"}) {
-            Session session(compton, true, {});
-            const ScopedEnvironment configHome("XDG_CONFIG_HOME", value);
-            session.load();
-            QCOMPARE(session.comptonConfigPath, session.home.path(comptonFile));
-            QCOMPARE(session.home.read(comptonFile), QByteArray(""));
-        }
-    }
-
-    void unreadableComptonFileIsToldAndLeft()
-    {
-        Session session(compton, false, {});
-        const QByteArray path = QFile::encodeName(session.home.write(comptonFile, "shadow = "));
-        const QByteArray message = "qaz-admin-theme: Can't read " + path + '\n';
-        StandardError messages;
-        const CompositeState state = session.load({false, true, true});
-        QCOMPARE(messages.take(), message);
-        QVERIFY(state.transparency && state.shadow);
-        session.save({});
-        QCOMPARE(messages.take(), message);
-        QCOMPARE(session.home.read(comptonFile), QByteArray("shadow = "));
-    }
-
-    void oddFilesAreNeitherReadNorReplaced()
-    {
-        for (const QString &manager : {ownManager, compton}) {
-            const QString file = manager == compton ? comptonFile : kompmgrFile;
-            for (const bool isFifo : {true, false}) {
-                Session session(manager, true, "UseComposite=true\n");
-                const QByteArray path = QFile::encodeName(session.home.path(file));
-                QCOMPARE(isFifo ? ::mkfifo(path.constData(), 0600) : ::mkdir(path.constData(), 0700), 0);
-                StandardError messages;
-                QVERIFY(session.load().managerOn);
-                session.save({true, true, true});
-                struct stat status = {};
-                QCOMPARE(::stat(path.constData(), &status), 0);
-                QVERIFY(isFifo ? S_ISFIFO(status.st_mode) : S_ISDIR(status.st_mode));
-                const QByteArray lines = messages.take();
-                QVERIFY2(lines.contains("qaz-admin-theme: Can't ") && lines.contains(path),
-                         lines.constData());
-            }
+        for (const char *kind : {"FIFO", "directory", "file"}) {
+            Session session(compton, false, {});
+            const QByteArray path = QFile::encodeName(session.home.path(comptonFile));
+            if (*kind == 'F')
+                QCOMPARE(::mkfifo(path.constData(), 0600), 0);
+            else if (*kind == 'd')
+                QVERIFY(session.home.makeDirectory(comptonFile));
+            else
+                session.home.write(comptonFile, "shadow = ");
+            StandardError messages;
+            const CompositeState state = session.load({false, true, true});
+            QVERIFY(state.transparency && state.shadow);
+            session.writeTheme("UseComposite=false\n");
+            session.save({});
+            const QByteArray message = "qaz-admin-theme: Can't read " + path + '\n';
+            QCOMPARE(messages.take(), message + message);
+            struct stat status = {};
+            QCOMPARE(::stat(path.constData(), &status), 0);
+            QVERIFY2(*kind == 'F' ? S_ISFIFO(status.st_mode) : *kind == 'd' || status.st_size == 9, kind);
         }
     }
 
     void comptonPlacesAreTriedInOrder()
     {
-        struct Case {
-            const char *configHome;
-            const char *files; // each holds its own name
-            const char *resolved;
-            const char *content; // nullptr: there is no file
-        };
-        const Case cases[] = {
-            {"xdg", "xdg/compton.conf .config/compton.conf .compton.conf etc", "xdg/compton.conf",
+        const QString inConfig = comptonFile;
+        // The configuration directory, the files, each of which holds its own name, the path and its content.
+        const std::tuple<QString, QStringList, QString, const char *> rows[] = {
+            {"xdg"_s,
+             {"xdg/compton.conf"_s, inConfig, ".compton.conf"_s, "etc"_s},
+             "xdg/compton.conf"_s,
              "xdg/compton.conf"},
-            {"", ".config/compton.conf .compton.conf etc", ".config/compton.conf", ".config/compton.conf"},
-            {"xdg", ".config/compton.conf .compton.conf etc", ".compton.conf", ".compton.conf"},
-            {"xdg", ".config/x etc", ".config/compton.conf", "etc"},
-            {"xdg", ".config/compton.conf", ".config/compton.conf", ".config/compton.conf"}, // not emptied
-            {"xdg", ".config/x", ".config/compton.conf", ""},
-            {"", "etc", ".config/compton.conf", nullptr},
-            {"", "", ".config/compton.conf", nullptr}};
-        for (const Case &one : cases) {
+            {".config"_s, {inConfig, ".compton.conf"_s, "etc"_s}, inConfig, ".config/compton.conf"},
+            {"xdg"_s, {inConfig, ".compton.conf"_s, "etc"_s}, ".compton.conf"_s, ".compton.conf"},
+            {"xdg"_s, {".config/x"_s, "etc"_s}, inConfig, "etc"},
+            {"xdg"_s, {inConfig}, inConfig, ".config/compton.conf"}, // not emptied
+            {"xdg"_s, {".config/x"_s}, inConfig, ""},
+            {".config"_s, {"etc"_s}, inConfig, nullptr},
+            {".config"_s, {}, inConfig, nullptr}};
+        for (const auto &[configHome, files, resolved, content] : rows) {
             const TemporaryHome home;
-            for (const QByteArray &file : QByteArray(one.files).split(' ')) {
-                if (!file.isEmpty())
-                    home.write(QString::fromLatin1(file), file);
-            }
+            for (const QString &file : files)
+                home.write(file, file.toLatin1());
             StandardError messages;
-            const QString configHome = home.path(QLatin1String(*one.configHome ? one.configHome : ".config"));
-            const QString path = resolveComptonConfig(
-                {configHome, home.path(), home.path(QStringLiteral("etc"))});
-            QCOMPARE(path, home.path(QLatin1String(one.resolved)));
-            QCOMPARE(home.read(QLatin1String(one.resolved)), QByteArray(one.content));
-            QCOMPARE(messages.take(), !one.content && !*one.files
-                                          ? "qaz-admin-theme: Can't create " + QFile::encodeName(path) + '\n'
-                                          : QByteArray());
+            QCOMPARE(resolveComptonConfig({home.path(configHome), home.path(), home.path("etc"_s)}),
+                     home.path(resolved));
+            QCOMPARE(home.read(resolved), QByteArray(content));
+            QCOMPARE(messages.take().isEmpty(), !files.isEmpty());
         }
     }
 };

@@ -1,5 +1,6 @@
 #include "pages/effects/effectpage.h"
 #include "platform/qazsettings.h"
+#include "tests/support/literals.h"
 #include "tests/support/temporaryhome.h"
 #include "tests/support/wmlistener.h"
 
@@ -9,43 +10,63 @@
 #include <QSpinBox>
 #include <QtTest>
 
-#include <algorithm>
-
 namespace {
 
-const QString themeFile = QStringLiteral("some.themerc");
+/// The keys of the spin boxes, in the order in which they are saved.
+const QStringList numbers
+    = "StartMenuMapSpeed ArrangeWindowSpeed GradWindowMapSpeed MenuDelayTime MenuDelayTime2 GradMenuMapSpeed "
+      "GradTaskbarMotionSpeed TaskbarShowDelay TaskbarHideDelay PagingBeltSize PagingResistance PagingSpeed "
+      "PagingShiftCursor MenuTransparency MenuTransparency2"_s.split(u' ');
+constexpr const char *checkBoxes[] = {"smartPlacementCheckBox", "opaqueMoveCheckBox", "opaqueResizeCheckBox",
+                                      "thumbCheckBox"};
 
 /// The page over a theme file of its own, as the dialog uses it; no compositing manager is installed.
 class PageOverFile
 {
 public:
-    explicit PageOverFile(const QByteArray &content)
-    {
-        write(content);
-        load();
-    }
+    explicit PageOverFile(const QByteArray &content) { load(content); }
 
-    void write(const QByteArray &content) { m_home.write(themeFile, "CompositeManager=nobody\n" + content); }
-    void load()
+    void load(const QByteArray &content)
     {
-        QazSettings store(m_home.path(themeFile));
+        m_home.write("t"_s, "CompositeManager=nobody\n" + content);
+        QazSettings store(m_home.path("t"_s));
         store.sync(true);
         page.loadValues(&store);
     }
-    /// Saves; returns the commands without their common start.
-    QStringList save()
+    /// Saves; returns the commands, separated by "|", without their common start.
+    QString save()
     {
         WmListener windowManager;
-        QazSettings store(m_home.path(themeFile));
+        QazSettings store(m_home.path("t"_s));
         store.sync(true);
         page.saveValues(&store);
-        return windowManager.take().replaceInStrings(QStringLiteral("QAZWM_UPDATE_VAL "), QString());
+        return windowManager.take().replaceInStrings("QAZWM_UPDATE_VAL "_s, QString()).join(u'|');
     }
-    QByteArray content() const { return m_home.read(themeFile); }
+    QByteArray content() const { return m_home.read("t"_s); }
     template<typename Widget>
     Widget *find(const char *name) const
     {
         return page.findChild<Widget *>(QLatin1String(name));
+    }
+    QSpinBox *spin(const QString &key) const
+    {
+        return page.findChild<QSpinBox *>(key.left(1).toLower() + key.mid(1) + "SpinBox"_s);
+    }
+    /// The values of all spin boxes, in order.
+    QString values() const
+    {
+        QStringList values;
+        for (const QString &key : numbers)
+            values.append(QString::number(spin(key)->value()));
+        return values.join(u' ');
+    }
+    /// "1" for each check box that is checked, "0" for each other.
+    QString checks() const
+    {
+        QString checks;
+        for (const char *name : checkBoxes)
+            checks += QString::number(find<QCheckBox>(name)->isChecked());
+        return checks;
     }
 
 private:
@@ -59,7 +80,6 @@ public:
 void choose(QComboBox *box, int index)
 {
     box->setFocus();
-    QTest::keyClick(box, Qt::Key_End);
     QTest::keyClick(box, Qt::Key_Home);
     for (int i = 0; i < index; ++i)
         QTest::keyClick(box, Qt::Key_Down);
@@ -75,194 +95,143 @@ private slots:
     void fileWithoutKeysShowsAndSavesTheDefaults()
     {
         PageOverFile file({});
-        for (const char *name : {"smartPlacementCheckBox", "opaqueMoveCheckBox", "opaqueResizeCheckBox"})
-            QVERIFY2(file.find<QCheckBox>(name)->isChecked(), name);
-        QVERIFY(!file.find<QCheckBox>("thumbCheckBox")->isChecked());
-        QVERIFY(!file.find<QGroupBox>("pagingGroupBox")->isChecked());
-        QVERIFY(!file.find<QSpinBox>("gradWindowMapSpeedSpinBox")->isEnabled());
+        QCOMPARE(file.values(), "0 0 0 300 300 0 10 500 0 0 1500 30 200 0 0"_s);
+        QCOMPARE(file.checks(), "1110"_s);
         QVERIFY(!file.find<QWidget>("pseudoTransparencyButtonGroup")->isVisibleTo(&file.page));
-        const QStringList commands{QStringLiteral("ArrangeWindowSpeed 0"),
-                                   QStringLiteral("GradWindowMapSpeed 0")};
-        QCOMPARE(file.save(), commands);
+        QCOMPARE(file.save(), "ArrangeWindowSpeed 0|GradWindowMapSpeed 0"_s);
         QCOMPARE(file.content(), QByteArray("CompositeManager=nobody\nUseComposite=false\n"
                                             "ArrangeWindowSpeed=0\nGradWindowMapSpeed=0\n"));
-        QCOMPARE(file.save(), QStringList());
+        QCOMPARE(file.save(), QString());
     }
 
-    void integersAreShownInTheirRange()
+    void valuesAreShownAsTheWindowManagerReadsThem()
     {
-        struct Case {
-            QByteArray key;
-            int missing;
-            int maximum;
-        };
-        // clang-format off
-        const Case cases[] = {
-            {"StartMenuMapSpeed", 0, 25},       {"ArrangeWindowSpeed", 0, 25},   {"GradWindowMapSpeed", 0, 30},
-            {"MenuDelayTime", 300, 3000},       {"MenuDelayTime2", 300, 3000},   {"GradMenuMapSpeed", 0, 10},
-            {"GradTaskbarMotionSpeed", 10, 30}, {"TaskbarShowDelay", 500, 3000}, {"TaskbarHideDelay", 0, 3000},
-            {"PagingBeltSize", 0, 20},          {"PagingResistance", 1500, 5000}, {"PagingSpeed", 30, 100},
-            {"PagingShiftCursor", 200, 500},    {"MenuTransparency", 0, 100},    {"MenuTransparency2", 0, 100}};
-        // clang-format on
+        const auto zeros = "0 0 0 0 0 0 0 0 0 0 0 0 0 0 0"_s;
+        const std::tuple<QByteArray, QString, QString> rows[] = {
+            {"true", zeros, "1110"_s},
+            {"True", zeros, "1110"_s},
+            {"TRUE", zeros, "0000"_s},
+            {"1", "1 1 1 1 1 1 1 1 1 1 1 1 1 1 1"_s, "0001"_s},
+            {"99999", "25 25 30 3000 3000 10 30 3000 3000 20 5000 100 500 100 100"_s, "0001"_s},
+            {"-3", zeros, "0001"_s},
+            {"", zeros, "0000"_s}};
         PageOverFile file({});
-        QCOMPARE(file.page.findChildren<QSpinBox *>().size(), int(std::size(cases)));
-        for (const Case &one : cases) {
-            const QByteArray name = one.key.left(1).toLower() + one.key.mid(1) + "SpinBox";
-            auto *box = file.find<QSpinBox>(name.constData());
-            QVERIFY2(box->value() == one.missing, one.key.constData());
-            QVERIFY2(box->minimum() == 0 && box->maximum() == one.maximum, one.key.constData());
-            const QString range = QStringLiteral(" from 0 to %1. 0 ").arg(one.maximum);
-            QVERIFY2(box->whatsThis().contains(range), one.key.constData());
-            const QVector<QPair<QByteArray, int>> texts{
-                {"7", 7}, {"99999", one.maximum}, {"-3", 0}, {"seven", 0}, {"", 0}};
-            for (const auto &[text, value] : texts) {
-                const QByteArray line = one.key + '=' + text + '\n';
-                file.write(line);
-                file.load();
-                QVERIFY2(box->value() == value, line.constData());
-            }
+        for (const auto &[text, values, checks] : rows) {
+            const QByteArray value = '=' + text + '\n';
+            QByteArray content = "SmartPlacement" + value + "OpaqueMove" + value + "OpaqueResize" + value
+                                 + "FullOpaque" + value + "ThumbSize" + value;
+            for (const QString &key : numbers)
+                content += key.toLatin1() + value;
+            file.load(content);
+            QCOMPARE(file.values(), values);
+            QCOMPARE(file.checks(), checks);
+            QVERIFY(!file.save().contains("Opaque"_s)); // what means the same is left as it stands
         }
-    }
-
-    void booleansCountAsTheWindowManagerReadsThem()
-    {
-        for (const QByteArray text : {"True", "TRUE", "1"}) {
-            PageOverFile file("SmartPlacement=" + text + "\nOpaqueMove=" + text + "\nOpaqueResize=" + text
-                              + "\nFullOpaque=" + text + "\nArrangeWindowSpeed=0\nGradWindowMapSpeed=0\n");
-            for (const char *box : {"smartPlacementCheckBox", "opaqueMoveCheckBox", "opaqueResizeCheckBox"})
-                QCOMPARE(file.find<QCheckBox>(box)->isChecked(), text == "True");
-            QCOMPARE(file.save(), QStringList());
+        for (const QString &key : numbers) {
+            const QString range = " from 0 to %1. 0 "_s.arg(file.spin(key)->maximum());
+            QVERIFY2(file.spin(key)->whatsThis().contains(range), qPrintable(key));
         }
     }
 
     void stylesAreStoredByKeyword()
     {
-        const QStringList keywords = QStringLiteral(
-                                         "Normal TopToBottom LeftToRight CenterToTopBottom CenterToLeftRight "
-                                         "CenterToAll FromButton RightToLeft BottomToTop")
-                                         .split(QLatin1Char(' '));
+        const QStringList keywords = "Normal TopToBottom LeftToRight CenterToTopBottom CenterToLeftRight "
+                                     "CenterToAll FromButton RightToLeft BottomToTop"_s.split(u' ');
         PageOverFile file({});
         auto *style = file.find<QComboBox>("gradWindowMapStyleComboBox");
-        auto *speed = file.find<QSpinBox>("gradWindowMapSpeedSpinBox");
+        const QSpinBox *speed = file.spin("GradWindowMapSpeed"_s);
         for (int i = 1; i < 9; ++i) {
             choose(style, i);
-            QCOMPARE(speed->value(), 15);
-            QVERIFY(speed->isEnabled());
-            QVERIFY(file.save().contains(QLatin1String("GradWindowMapStyle ") + keywords.at(i)));
+            QVERIFY(speed->value() == 15 && speed->isEnabled());
+            QVERIFY(file.save().contains("GradWindowMapStyle "_s + keywords.at(i)));
             choose(style, 0);
-            QCOMPARE(speed->value(), 0);
-            QVERIFY(!speed->isEnabled());
-            file.write("GradWindowMapSpeed=4\nGradWindowMapStyle=" + keywords.at(i).toLatin1() + '\n');
-            file.load();
-            QCOMPARE(style->currentIndex(), i);
-            QCOMPARE(speed->value(), 4);
-            QVERIFY(!speed->isEnabled()); // a load never enables it
+            QVERIFY(speed->value() == 0 && !speed->isEnabled());
+            file.load("GradWindowMapSpeed=4\nGradWindowMapStyle=" + keywords.at(i).toLatin1() + '\n');
+            // A load never enables the speed.
+            QVERIFY(style->currentIndex() == i && speed->value() == 4 && !speed->isEnabled());
         }
         for (const char *unknown : {"None", "topToBottom", ""}) {
-            file.write(QByteArray("GradWindowMapStyle=") + unknown + '\n');
-            file.load();
+            file.load(QByteArray("GradWindowMapStyle=") + unknown + '\n');
             QCOMPARE(style->currentIndex(), 0);
-            QVERIFY(file.save().contains(QStringLiteral("GradWindowMapStyle Normal")));
+            QVERIFY(file.save().contains("GradWindowMapStyle Normal"_s));
         }
     }
 
     void autopagingIsOffExactlyWithoutABelt()
     {
-        PageOverFile file("PagingBeltSize=0\n");
+        PageOverFile file({});
         auto *group = file.find<QGroupBox>("pagingGroupBox");
-        auto *belt = file.find<QSpinBox>("pagingBeltSizeSpinBox");
-        const char *const boxes[] = {"pagingBeltSizeSpinBox", "pagingResistanceSpinBox",
-                                     "pagingShiftCursorSpinBox", "pagingSpeedSpinBox"};
-        const auto areEnabled = [&](bool enabled) {
-            return std::all_of(std::begin(boxes), std::end(boxes), [&](const char *name) {
-                return file.find<QSpinBox>(name)->isEnabledTo(&file.page) == enabled;
-            });
+        const auto state = [&] {
+            QString state = QString::number(file.spin("PagingBeltSize"_s)->value());
+            for (const QString &key : numbers.mid(9, 4))
+                state += file.spin(key)->isEnabledTo(&file.page) ? u'+' : u'-';
+            return state;
         };
-        QVERIFY(areEnabled(false));
+        QCOMPARE(state(), "0----"_s);
         QTest::keyClick(group, Qt::Key_Space);
-        QCOMPARE(belt->value(), 2);
-        QVERIFY(areEnabled(true));
-        QVERIFY(file.save().contains(QStringLiteral("PagingBeltSize 2")));
-        belt->setValue(9);
+        QCOMPARE(state(), "2++++"_s);
+        QVERIFY(file.save().contains("PagingBeltSize 2"_s));
+        file.spin("PagingBeltSize"_s)->setValue(9);
         QTest::keyClick(group, Qt::Key_Space);
-        QCOMPARE(belt->value(), 0);
-        QVERIFY(areEnabled(false));
-        QVERIFY(file.save().contains(QStringLiteral("PagingBeltSize 0")));
-
-        file.write("PagingBeltSize=20\n");
-        file.load();
-        QVERIFY(group->isChecked() && areEnabled(true));
-        QCOMPARE(belt->value(), 20);
+        QCOMPARE(state(), "0----"_s);
+        QVERIFY(file.save().contains("PagingBeltSize 0"_s));
+        file.load("PagingBeltSize=20\n");
+        QCOMPARE(state(), "20++++"_s);
     }
 
     void everyValueIsReadEditedAndSavedInItsPlace()
     {
-        // In the order in which they are saved; all start with values that are nobody's default.
-        const QStringList numbers
-            = QStringLiteral("StartMenuMapSpeed ArrangeWindowSpeed GradWindowMapSpeed MenuDelayTime "
-                             "MenuDelayTime2 GradMenuMapSpeed GradTaskbarMotionSpeed TaskbarShowDelay "
-                             "TaskbarHideDelay PagingBeltSize PagingResistance PagingSpeed "
-                             "PagingShiftCursor MenuTransparency MenuTransparency2")
-                  .split(QLatin1Char(' '));
+        // All start with values that are nobody's default.
         QByteArray content = "# mine\nSmartPlacement=false\nOpaqueMove=false\nOpaqueResize=false\n"
                              "FullOpaque=false\nGradWindowMapStyle=BottomToTop\nThumbSize=0\n";
         for (const QString &key : numbers)
             content += key.toLatin1() + "=1\n";
         PageOverFile file(content);
         choose(file.find<QComboBox>("gradWindowMapStyleComboBox"), 6); // its speed can be edited then
-        int value = 2;
-        QStringList commands;
+        QCOMPARE(file.values(), "1 1 15 1 1 1 1 1 1 1 1 1 1 1 1"_s);
+        int value = 1;
         for (const QString &key : numbers) {
-            auto *box = file.find<QSpinBox>(
-                (key.left(1).toLower() + key.mid(1) + QLatin1String("SpinBox")).toLatin1().constData());
-            QCOMPARE(box->value(), key == QLatin1String("GradWindowMapSpeed") ? 15 : 1);
-            box->selectAll();
-            if (box->isVisibleTo(&file.page) || !key.startsWith(QLatin1String("MenuTransparency")))
-                QTest::keyClicks(box, QString::number(value));
-            else
-                box->setValue(value); // no user can, but the value is saved
-            commands.append(key + QLatin1Char(' ') + QString::number(value));
-            content.replace(key.toLatin1() + "=1\n", key.toLatin1() + '=' + QByteArray::number(value) + '\n');
             value = value == 9 ? 2 : value + 1;
+            QSpinBox *box = file.spin(key);
+            box->selectAll();
+            if (key.startsWith("MenuTransparency"_s))
+                box->setValue(value); // no user can, but the value is saved
+            else
+                QTest::keyClicks(box, QString::number(value));
+            content.replace(key.toLatin1() + "=1\n", key.toLatin1() + '=' + QByteArray::number(value) + '\n');
         }
-        for (const char *name :
-             {"smartPlacementCheckBox", "opaqueMoveCheckBox", "opaqueResizeCheckBox", "thumbCheckBox"}) {
-            QVERIFY2(!file.find<QCheckBox>(name)->isChecked(), name);
+        for (const char *name : checkBoxes)
             file.find<QCheckBox>(name)->click();
-        }
         file.find<QGroupBox>("compositeGroupBox")->setChecked(true);
-        commands.insert(3, QStringLiteral("GradWindowMapStyle FromButton"));
-        commands = QStringLiteral("SmartPlacement true|OpaqueMove true|OpaqueResize true|FullOpaque true")
-                       .split(QLatin1Char('|'))
-                   + commands
-                   + QStringList{QStringLiteral("UseComposite true"), QStringLiteral("ThumbSize 250")};
-        QCOMPARE(file.save().join(QLatin1Char('|')), commands.join(QLatin1Char('|')));
+        QCOMPARE(file.save(),
+                 "SmartPlacement true|OpaqueMove true|OpaqueResize true|FullOpaque true|StartMenuMapSpeed 2|"
+                 "ArrangeWindowSpeed 3|GradWindowMapSpeed 4|GradWindowMapStyle FromButton|MenuDelayTime 5|"
+                 "MenuDelayTime2 6|GradMenuMapSpeed 7|GradTaskbarMotionSpeed 8|TaskbarShowDelay 9|"
+                 "TaskbarHideDelay 2|PagingBeltSize 3|PagingResistance 4|PagingSpeed 5|PagingShiftCursor 6|"
+                 "MenuTransparency 7|MenuTransparency2 8|UseComposite true|ThumbSize 250"_s);
         content.replace("=false", "=true").replace("BottomToTop", "FromButton").replace("Size=0", "Size=250");
         QCOMPARE(file.content(), "CompositeManager=nobody\n" + content + "UseComposite=true\n");
-        QCOMPARE(file.save(), QStringList());
+        QCOMPARE(file.save(), QString());
     }
 
     void thumbnailsAreSavedOnlyWhileTheirBoxIsEnabled()
     {
         PageOverFile file("ThumbSize=64\nArrangeWindowSpeed=0\nGradWindowMapSpeed=0\n");
         auto *box = file.find<QCheckBox>("thumbCheckBox");
-        QVERIFY(box->isChecked());
         box->setEnabled(false);
-        QCOMPARE(file.save(), QStringList());
+        QCOMPARE(file.save(), QString());
         box->setEnabled(true);
-        QCOMPARE(file.save(), QStringList{QStringLiteral("ThumbSize 250")});
+        QCOMPARE(file.save(), "ThumbSize 250"_s);
         box->click();
-        QCOMPARE(file.save(), QStringList{QStringLiteral("ThumbSize 0")});
+        QCOMPARE(file.save(), "ThumbSize 0"_s);
     }
 
     void loadingIsNoEdit()
     {
         PageOverFile file("GradWindowMapStyle=FromButton\n");
         const QSignalSpy changed(&file.page, &EffectPage::changedSignal);
-        file.write(
-            "PagingBeltSize=5\nMenuDelayTime=9\nSmartPlacement=false\nThumbSize=1\nUseComposite=true\n");
-        file.load();
-        file.load();
+        for (int i = 0; i < 2; ++i)
+            file.load("PagingBeltSize=5\nMenuDelayTime=9\nSmartPlacement=false\nThumbSize=1\n");
         QCOMPARE(changed.count(), 0);
         int edits = 0;
         QTest::keyClick(file.find<QGroupBox>("compositeGroupBox"), Qt::Key_Space);
