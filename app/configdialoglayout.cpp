@@ -109,9 +109,9 @@ void ConfigDialog::createShortcuts()
     };
     const int rows = contentsWidget->count();
     for (int i = 0; i < rows; ++i)
-        add(QKeySequence(Qt::ALT | Qt::Key(Qt::Key_1 + i)), [i] { return i; });
-    add(QKeySequence(Qt::CTRL | Qt::Key_PageUp), [=] { return qMax(0, contentsWidget->currentRow() - 1); });
-    add(QKeySequence(Qt::CTRL | Qt::Key_PageDown),
+        add(QKeySequence(Qt::ALT + (Qt::Key_1 + i)), [i] { return i; });
+    add(QKeySequence(Qt::CTRL + Qt::Key_PageUp), [=] { return qMax(0, contentsWidget->currentRow() - 1); });
+    add(QKeySequence(Qt::CTRL + Qt::Key_PageDown),
         [=] { return qMin(rows - 1, contentsWidget->currentRow() + 1); });
 }
 
