@@ -53,7 +53,8 @@ private slots:
             {"a = 1.5; /* shadow", "a = 1.5;\nenable-transparency = true;\nshadow = false;\n"}};
         for (const auto &[before, after] : rows) {
             const TemporaryHome home;
-            const QString path = home.write(fileName, before);
+            const QString path = home.path("link"_s);
+            QVERIFY(QFile::link(home.write(fileName, before), path));
             QVERIFY(update(path, true, false));
             QCOMPARE(home.read(fileName), after);
             QCOMPARE(stored(path), QByteArray("true false"));

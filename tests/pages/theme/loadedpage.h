@@ -3,6 +3,7 @@
 #include "pages/theme/themepage.h"
 #include "platform/qazsettings.h"
 #include "tests/support/environment.h"
+#include "tests/support/literals.h"
 #include "tests/support/samplethemes.h"
 #include "tests/support/temporaryhome.h"
 #include "tests/support/wmlistener.h"
@@ -12,26 +13,25 @@
 #include <QSignalSpy>
 #include <QTest>
 
-inline const QString themeFile = QStringLiteral("test.themerc");
+inline const QString themeFile = "test.themerc"_s;
 
 /// A page on a theme file, in a home with themes of each kind.
 class LoadedPage
 {
 public:
     explicit LoadedPage(const QByteArray &themeFileContent = {})
-        : m_data("QAZ_DATA_DIR", home.path(QStringLiteral("data")).toLocal8Bit())
+        : m_data("QAZ_DATA_DIR", home.path("data"_s).toLocal8Bit())
         , m_cursors("XCURSOR_PATH", "~/.icons")
     {
         home.write(themeFile, themeFileContent);
-        makeCursorTheme(home, QStringLiteral(".icons/b"), Qt::red);
-        makeCursorTheme(home, QStringLiteral(".icons/B"), Qt::blue);
-        makeIconTheme(home, QStringLiteral(".icons/square"), Qt::red);
-        makeIconTheme(home, QStringLiteral(".icons/Round"), Qt::blue);
-        home.write(QStringLiteral(".icons/hicolor/index.theme"),
-                   "[Icon Theme]\nDirectories=p\n[p]\nSize=32\n");
-        makeDecorTheme(home, QStringLiteral("data/themes/glass"), Qt::red);
-        makeDecorTheme(home, QStringLiteral("data/themes/No theme"), Qt::green);
-        makeDecorTheme(home, QStringLiteral("data/themes/Wood"), Qt::blue);
+        makeCursorTheme(home, ".icons/b"_s, Qt::red);
+        makeCursorTheme(home, ".icons/B"_s, Qt::blue);
+        makeIconTheme(home, ".icons/square"_s, Qt::red);
+        makeIconTheme(home, ".icons/Round"_s, Qt::blue);
+        home.write(".icons/hicolor/index.theme"_s, "[Icon Theme]\nDirectories=p\n[p]\nSize=32\n");
+        makeDecorTheme(home, "data/themes/glass"_s, Qt::red);
+        makeDecorTheme(home, "data/themes/No theme"_s, Qt::green);
+        makeDecorTheme(home, "data/themes/Wood"_s, Qt::blue);
         load();
     }
 

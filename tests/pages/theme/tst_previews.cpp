@@ -1,5 +1,6 @@
 #include "pages/theme/previews.h"
 
+#include <QPainter>
 #include <QTest>
 
 namespace {
@@ -18,8 +19,7 @@ QImage filled(int width, int height, const QColor &color)
 QImage button(int width, int height, const QColor &released)
 {
     QImage image = filled(width, height, Qt::black);
-    for (int i = 0; i < width * (height / 2); ++i)
-        image.setPixelColor(i % width, i / width, released);
+    QPainter(&image).fillRect(0, 0, width, height / 2, released);
     return image;
 }
 
@@ -55,71 +55,66 @@ class TestPreviews : public QObject
 {
     Q_OBJECT
 private slots:
-    void threeImagesStandSideBySide();
-    void titleBarGeometry();
-    void oddSizes();
-    void swatches();
-};
-
-void TestPreviews::threeImagesStandSideBySide()
-{
-    const QImage preview = threeImagesPreview(canvasSize, filled(4, 7, Qt::red), filled(10, 40, Qt::green),
-                                              {});
-    // 110 / 3 = 36 pixels for each; the first begins at 32 / 2 - 7 / 2 = 13
-    QCOMPARE(runs(preview, 12), QByteArray("36- 10g 64-"));
-    QCOMPARE(runs(preview, 13), QByteArray("4r 32- 10g 64-"));
-    QCOMPARE(runs(preview, 19), runs(preview, 13));
-    QCOMPARE(runs(preview, 20), runs(preview, 12));
-    const QImage covered = threeImagesPreview({9, 4}, filled(9, 4, Qt::blue), filled(3, 4, glass), {});
-    QCOMPARE(runs(covered, 2), QByteArray("3b 3/ 3b"));
-}
-
-void TestPreviews::titleBarGeometry()
-{
-    DecorImages images;
-    images.title = filled(5, 20, Qt::gray);
-    images.title.setPixelColor(1, 0, Qt::white);
-    images.topFrame = filled(3, 4, Qt::yellow);
-    images.topLeftCorner = filled(6, 10, Qt::cyan);
-    images.topRightCorner = filled(7, 10, Qt::magenta);
-    images.leftFrame = filled(2, 9, Qt::white);
-    images.rightFrame = filled(3, 9, Qt::white);
-    images.minimizeButton = button(8, 13, Qt::red);
-    images.maximizeButton = button(9, 14, Qt::green);
-    images.closeButton = button(10, 12, Qt::blue);
-    const QImage preview = decorPreview(canvasSize, images);
-    QCOMPARE(runs(preview, 0), QByteArray("6c 97y 7m"));
-    QCOMPARE(runs(preview, 3), runs(preview, 0));
-    // The title is 110 - 3 - 1 pixels wide and covers what it meets.
-    QCOMPARE(runs(preview, 4), QByteArray("2c 74t 8r 9g 2t 10b 3t 2m"));
-    QCOMPARE(runs(preview, 9), runs(preview, 4));
-    QCOMPARE(runs(preview, 10), QByteArray("2- 82t 9g 15t 2-"));
-    // It is laid out from the canvas's origin: the tile's first row is row 20, its second column 6 and 11.
-    QVERIFY2(runs(preview, 20).startsWith("2- 4t 1w 4t 1w 4t"), runs(preview, 20).constData());
-    QCOMPARE(runs(preview, 23), QByteArray("2- 106t 2-"));
-    QCOMPARE(runs(preview, 24), QByteArray("110-"));
-}
-
-void TestPreviews::oddSizes()
-{
-    for (const QSize &size : {QSize(1, 1), QSize(10000, 3000)}) {
-        const QImage red = filled(size.width(), size.height(), Qt::red);
-        const QImage preview = decorPreview(canvasSize, {red, red, red, red, red, red, red, red, red});
-        // Half of one row is no row: buttons of one pixel are not drawn.
-        QCOMPARE(runs(preview, 2), QByteArray(size.height() == 1 ? "110-" : "110r"));
-        QCOMPARE(runs(threeImagesPreview(canvasSize, red, red, red), 16).left(2),
-                 QByteArray(size.height() == 1 ? "1r" : "11"));
+    void threeImagesStandSideBySide()
+    {
+        const QImage preview = threeImagesPreview(canvasSize, filled(4, 7, Qt::red),
+                                                  filled(10, 40, Qt::green), {});
+        // 110 / 3 = 36 pixels for each; the first begins at 32 / 2 - 7 / 2 = 13
+        QCOMPARE(runs(preview, 12), QByteArray("36- 10g 64-"));
+        QCOMPARE(runs(preview, 13), QByteArray("4r 32- 10g 64-"));
+        QCOMPARE(runs(preview, 19), runs(preview, 13));
+        QCOMPARE(runs(preview, 20), runs(preview, 12));
+        const QImage covered = threeImagesPreview({9, 4}, filled(9, 4, Qt::blue), filled(3, 4, glass), {});
+        QCOMPARE(runs(covered, 2), QByteArray("3b 3/ 3b"));
     }
-}
 
-void TestPreviews::swatches()
-{
-    const QImage gradient = colorSwatch(canvasSize, Qt::black, Qt::white);
-    QVERIFY(gradient.pixelColor(0, 16).red() < 5 && gradient.pixelColor(109, 16).red() > 250);
-    QVERIFY(qAbs(gradient.pixelColor(55, 31).red() - 128) < 4);
-    QCOMPARE(runs(colorSwatch(canvasSize, Qt::red, QColor()), 31), QByteArray("110r"));
-    QCOMPARE(runs(colorSwatch(canvasSize, QColor(), Qt::red), 16), QByteArray("110w"));
-}
+    void titleBarGeometry()
+    {
+        DecorImages images;
+        images.title = filled(5, 20, Qt::gray);
+        images.title.setPixelColor(1, 0, Qt::white);
+        images.topFrame = filled(3, 4, Qt::yellow);
+        images.topLeftCorner = filled(6, 10, Qt::cyan);
+        images.topRightCorner = filled(7, 10, Qt::magenta);
+        images.leftFrame = filled(2, 9, Qt::white);
+        images.rightFrame = filled(3, 9, Qt::white);
+        images.minimizeButton = button(8, 13, Qt::red);
+        images.maximizeButton = button(9, 14, Qt::green);
+        images.closeButton = button(10, 12, Qt::blue);
+        const QImage preview = decorPreview(canvasSize, images);
+        QCOMPARE(runs(preview, 0), QByteArray("6c 97y 7m"));
+        QCOMPARE(runs(preview, 3), runs(preview, 0));
+        // The title is 110 - 3 - 1 pixels wide and covers what it meets.
+        QCOMPARE(runs(preview, 4), QByteArray("2c 74t 8r 9g 2t 10b 3t 2m"));
+        QCOMPARE(runs(preview, 9), runs(preview, 4));
+        QCOMPARE(runs(preview, 10), QByteArray("2- 82t 9g 15t 2-"));
+        // It is laid out from the canvas's origin: the tile's first row is row 20, its second column 6 and 11.
+        QVERIFY2(runs(preview, 20).startsWith("2- 4t 1w 4t 1w 4t"), runs(preview, 20).constData());
+        QCOMPARE(runs(preview, 23), QByteArray("2- 106t 2-"));
+        QCOMPARE(runs(preview, 24), QByteArray("110-"));
+    }
+
+    void oddSizes()
+    {
+        for (const QSize &size : {QSize(1, 1), QSize(10000, 3000)}) {
+            const QImage red = filled(size.width(), size.height(), Qt::red);
+            const QImage preview = decorPreview(canvasSize, {red, red, red, red, red, red, red, red, red});
+            // Half of one row is no row: buttons of one pixel are not drawn.
+            QCOMPARE(runs(preview, 2), QByteArray(size.height() == 1 ? "110-" : "110r"));
+            QCOMPARE(runs(threeImagesPreview(canvasSize, red, red, red), 16).left(2),
+                     QByteArray(size.height() == 1 ? "1r" : "11"));
+        }
+    }
+
+    void swatches()
+    {
+        const QImage gradient = colorSwatch(canvasSize, Qt::black, Qt::white);
+        QVERIFY(gradient.pixelColor(0, 16).red() < 5 && gradient.pixelColor(109, 16).red() > 250);
+        QVERIFY(qAbs(gradient.pixelColor(55, 31).red() - 128) < 4);
+        QCOMPARE(runs(colorSwatch(canvasSize, Qt::red, QColor()), 31), QByteArray("110r"));
+        QCOMPARE(runs(colorSwatch(canvasSize, QColor(), Qt::red), 16), QByteArray("110w"));
+    }
+};
 
 QTEST_MAIN(TestPreviews)
 #include "tst_previews.moc"
