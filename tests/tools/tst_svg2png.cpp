@@ -1,5 +1,6 @@
 #include "tests/support/literals.h"
 #include "tests/support/temporaryhome.h"
+#include "tests/tools/toolrun.h"
 
 #include <QtGui>
 #include <QtTest>
@@ -13,15 +14,13 @@ namespace {
 const QByteArray svg
     = "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 4 2'><path fill='#f00' d='M0 0h2v2h-2z'/></svg>";
 
-/// Runs the tool; its exit status (-1: none) and what it printed.
-std::pair<int, QByteArray> run(const QStringList &arguments, const QString &directory)
+ToolRun run(const QString &arguments, const QString &file = {}, const QString &image = {})
 {
     const ScopedEnvironment display("DISPLAY", {});
-    QProcess process;
-    process.setWorkingDirectory(directory);
-    process.start(QStringLiteral(QAZ_BINARY_DIR "/bin/qaz-svg2png"), arguments);
-    const bool ended = process.waitForFinished() && process.exitStatus() == QProcess::NormalExit;
-    return {ended ? process.exitCode() : -1, process.readAllStandardError()};
+    QStringList list = arguments.split(u' ');
+    if (!file.isEmpty())
+        list += {"-i"_s, file, "-o"_s, image};
+    return {"qaz-svg2png"_s, list};
 }
 
 } // namespace
@@ -38,9 +37,8 @@ private slots:
                                     {"-h $(touch x) \"'\n.svg"_s, "--help;.png"_s, "png"_s}};
         for (const QStringList &row : rows) {
             home.write(row[0], svg);
-            const auto [status, printed] = run(
-                {"-w"_s, "40"_s, "-h"_s, "30"_s, "-i"_s, row[0], "-o"_s, row[1]}, home.path());
-            QVERIFY2(status == 0, printed.constData());
+            const ToolRun result = run("-w 40 -h 30"_s, row[0], row[1]);
+            QVERIFY2(result.status == 0, result.errors.constData());
             QCOMPARE(QString::fromLatin1(QImageReader::imageFormat(home.path(row[1]))), row[2]);
             const QImage image(home.path(row[1]));
             QCOMPARE(image.size(), QSize(40, 30));
@@ -56,7 +54,7 @@ private slots:
             home.write("a.svg"_s, "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 100 100'>"
                                   "<text y='80' font-size='90'>"
                                       + text + "</text></svg>");
-            run("-w 100 -h 100 -i a.svg -o a.png"_s.split(u' '), home.path());
+            run("-w 100 -h 100 -i a.svg -o a.png"_s);
             const QImage image = QImage(home.path("a.png"_s)).convertToFormat(QImage::Format_Grayscale8);
             return std::count_if(image.constBits(), image.constBits() + image.sizeInBytes(),
                                  [](uchar gray) { return gray < 128; });
@@ -83,8 +81,8 @@ private slots:
             {"-w 1 -h 1 -x 1 -i a.svg -o old.png", 2},   {"-w 0 -h 1 -i a.svg -o old.png", 2},
             {"-w 32767 -h 32767 -i a.svg -o old.png", 2}};
         for (const auto &[arguments, expected] : rows) {
-            const auto [status, printed] = run(QString::fromLatin1(arguments).split(u' '), home.path());
-            QVERIFY2(status == expected && printed.contains("qaz-svg2png"), arguments);
+            const ToolRun result = run(QString::fromLatin1(arguments));
+            QVERIFY2(result.status == expected && result.errors.contains("qaz-svg2png"), arguments);
             QCOMPARE(home.fingerprint(), before);
         }
     }

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QDir>
+#include <QProcess>
+
+/// A tool that of the build that has run in the home and ended.
+struct ToolRun {
+    ToolRun(const QString &tool, const QStringList &arguments)
+    {
+        QProcess process;
+        process.setWorkingDirectory(QDir::homePath());
+        process.start(QStringLiteral(QAZ_BINARY_DIR "/bin/") + tool, arguments);
+        if (process.waitForFinished() && process.exitStatus() == QProcess::NormalExit)
+            status = process.exitCode();
+        out = process.readAllStandardOutput();
+        errors = process.readAllStandardError();
+    }
+
+    int status = -1; // which no program has that ended by itself
+    QByteArray out;
+    QByteArray errors;
+};
