@@ -45,18 +45,15 @@ private slots:
         const TemporaryHome home;
         home.write("a/manager"_s, "not executable");
         home.makeDirectory("b/manager"_s);
-        const QString program = installWaitingProgram(home.path("c d/manager"_s));
         installWaitingProgram(home.path("e/manager"_s));
-        const QString path = home.path("a:"_s) + home.path("b:"_s) + home.path("c d:"_s) + home.path("e"_s);
-        const ScopedEnvironment search("PATH", QFile::encodeName(path));
-        QCOMPARE(inPath("manager"_s), program);
-        QCOMPARE(inPath("anager"_s), QString());
-        QCOMPARE(inPath(QString()), QString());
+        const QString program = installWaitingProgram(home.path("c d/manager"_s));
+        const ScopedEnvironment search("PATH", QFile::encodeName("%1/a:%1/b:%1/c d:%1/e"_s.arg(home.path())));
         // A name with a slash stands for itself, wherever PATH leads.
-        QCOMPARE(inPath(program), program);
-        QCOMPARE(inPath(home.path("a/manager"_s)), QString());
-        QCOMPARE(inPath(home.path("b/manager"_s)), QString());
-        QCOMPARE(inPath(u'/' + QString(2 * PATH_MAX, u'x')), QString());
+        for (const QString &name : {"manager"_s, program})
+            QCOMPARE(inPath(name), program);
+        for (const QString &name : {QString(), "anager"_s, home.path("a/manager"_s), home.path("b/manager"_s),
+                                    u'/' + QString(2 * PATH_MAX, u'x')})
+            QCOMPARE(inPath(name), QString());
     }
 
     void runningProcessIsFoundByName()
@@ -64,7 +61,6 @@ private slots:
         // Longer than the fifteen characters that the kernel keeps, and made to mislead a reader of its tables.
         const QString file = unique("qaz) Z (test-manager"_s);
         const QString alias = unique("qaz-test-alias"_s);
-        const QString wait = "3600"_s;
         // argv[0], a name, and whether it is found.
         const std::tuple<QString, QString, bool> cases[] = {{"something else"_s, file, true},
                                                             {"/opt/x/"_s + alias, alias, true},
@@ -72,12 +68,12 @@ private slots:
                                                             {file, file.left(15), false},
                                                             {u'/' + alias + "/x"_s, alias, false},
                                                             {{}, {}, false},
-                                                            {file, wait, false}};
+                                                            {file, "3600"_s, false}};
         const TemporaryHome home;
         const QString program = installWaitingProgram(home.path(file));
         for (const auto &[argument0, name, found] : cases) {
             QVERIFY(!isRunning(name));
-            const SpawnedProcess process(program, {argument0, wait});
+            const SpawnedProcess process(program, {argument0, "3600"_s});
             QVERIFY2(isRunning(name) == found, qPrintable(argument0 + u' ' + name));
         }
     }

@@ -67,44 +67,42 @@ private slots:
         QCOMPARE(names(), "both zebra ähre "_s);
     }
 
-    void findsSounds_data()
-    {
-        QTest::addColumn<QString>("places"); // a star marks the file to find
-        QTest::newRow("wav first") << "user/a/s/x-y.oga user/a/s/x-y.au *user/a/s/x-y.wav";
-        QTest::newRow("au before oga") << "user/a/s/x-y.oga *user/a/s/x-y.au";
-        QTest::newRow("oga before ogg") << "user/a/s/x-y.ogg *user/a/s/x-y.oga";
-        QTest::newRow("ogg before others") << "user/a/s/x-y user/a/s/x-y.flac *user/a/s/x-y.ogg";
-        QTest::newRow("wav of another directory") << "user/a/s/x-y.oga *user/a/more/x-y.wav";
-        QTest::newRow("stereo before no profile") << "*user/a/s/x-y.oga user/a/plain/x-y.wav";
-        QTest::newRow("no profile") << "*user/a/plain/x-y.ogg";
-        QTest::newRow("another profile") << "user/a/surround/x-y.wav";
-        QTest::newRow("not in the theme's directories") << "user/a/else/x-y.wav user/a/x-y.wav";
-        QTest::newRow("localised") << "user/a/s/x-y.wav *user/a/s/de/x-y.oga";
-        QTest::newRow("the user's before the system's") << "*user/a/s/x-y.oga system/a/s/x-y.wav";
-        QTest::newRow("the desktop's part of a theme") << "*own/a/s/x-y.wav";
-        QTest::newRow("disabled") << "user/a/s/x-y.oga user/a/s/x-y.disabled user/grand/s/x-y.wav";
-        QTest::newRow("general sound") << "*user/a/s/x.wav user/grand/s/x-y.wav";
-        QTest::newRow("a parent's parent first") << "*user/grand/s/x-y.wav user/second/s/x-y.wav";
-        QTest::newRow("common theme") << "*system/freedesktop/s/x-y.oga";
-        QTest::newRow("of no theme") << "*system/x-y.wav";
-    }
     void findsSounds()
     {
-        QFETCH(QString, places);
-        const SoundFiles files;
-        files.write("user/a/index.theme", index("missing,first,second"));
-        files.write("user/first/index.theme", index("a;grand"));
-        for (const char *theme : {"user/second", "user/grand", "system/freedesktop"})
-            files.write(theme + QByteArray("/index.theme"), index("first"));
-        QString expected;
-        for (const QByteArray &place : places.toUtf8().split(' ')) {
-            const QString path = files.write(QByteArray(place).replace('*', ""));
-            if (place.startsWith('*'))
-                expected = path;
+        const char *const rows[] = {// a star marks the file to find
+                                    "user/a/s/x-y.oga user/a/s/x-y.au *user/a/s/x-y.wav", // wav first
+                                    "user/a/s/x-y.oga *user/a/s/x-y.au",                  // au before oga
+                                    "user/a/s/x-y.ogg *user/a/s/x-y.oga",                 // oga before ogg
+                                    "user/a/s/x-y user/a/s/x-y.flac *user/a/s/x-y.ogg",   // ogg before others
+                                    "user/a/s/x-y.oga *user/a/more/x-y.wav",  // wav of another directory
+                                    "*user/a/s/x-y.oga user/a/plain/x-y.wav", // stereo before no profile
+                                    "*user/a/plain/x-y.ogg",                  // no profile
+                                    "user/a/surround/x-y.wav",                // another profile
+                                    "user/a/else/x-y.wav user/a/x-y.wav",    // not in the theme's directories
+                                    "user/a/s/x-y.wav *user/a/s/de/x-y.oga", // localised
+                                    "*user/a/s/x-y.oga system/a/s/x-y.wav",  // the user's before the system's
+                                    "*own/a/s/x-y.wav",                      // the desktop's part of a theme
+                                    "user/a/s/x-y.oga user/a/s/x-y.disabled user/grand/s/x-y.wav", // disabled
+                                    "*user/a/s/x.wav user/grand/s/x-y.wav",        // general sound
+                                    "*user/grand/s/x-y.wav user/second/s/x-y.wav", // a parent's parent first
+                                    "*system/freedesktop/s/x-y.oga",               // common theme
+                                    "*system/x-y.wav"};                            // of no theme
+        for (const char *places : rows) {
+            const SoundFiles files;
+            files.write("user/a/index.theme", index("missing,first,second"));
+            files.write("user/first/index.theme", index("a;grand"));
+            for (const char *theme : {"user/second", "user/grand", "system/freedesktop"})
+                files.write(theme + QByteArray("/index.theme"), index("first"));
+            QString expected;
+            for (const QByteArray &place : QByteArray(places).split(' ')) {
+                const QString path = files.write(QByteArray(place).replace('*', ""));
+                if (place.startsWith('*'))
+                    expected = path;
+            }
+            QazSoundTheme theme("a");
+            QVERIFY(theme.load());
+            QCOMPARE(sound(theme, "x-y"), expected);
         }
-        QazSoundTheme theme("a");
-        QVERIFY(theme.load());
-        QCOMPARE(sound(theme, "x-y"), expected);
     }
 
     void findsWhatIsAskedFor()
@@ -124,9 +122,7 @@ private slots:
         QCOMPARE(sound(theme, "x"), plain);
         QCOMPARE(sound(theme, "x", "5.1"), surround);
         QCOMPARE(sound(theme, "x", "7.1", "fr_BE.UTF-8@euro"), french);
-        QCOMPARE(sound(theme, ""), QString());
-        QCOMPARE(sound(theme, "../s/x"), QString());
-
+        QCOMPARE(sound(theme, "") + sound(theme, "../s/x"), QString());
         const QString converted = files.write("user/dir/s/x.wav");
         QCOMPARE(sound(theme, "x"), plain);
         QVERIFY(theme.load());

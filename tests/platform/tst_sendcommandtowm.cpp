@@ -11,6 +11,8 @@
 
 namespace {
 
+constexpr char full[] = "aaaaaaaaaaaaaaaaaaaa"; // one message
+
 /// Whether some client waits for messages to the root window.
 bool hasListener()
 {
@@ -24,7 +26,6 @@ bool hasListener()
 class TestSendCommandToWm : public QObject
 {
     Q_OBJECT
-
 private slots:
     void everyTextArrivesWhole()
     {
@@ -51,53 +52,41 @@ private slots:
         XSync(QX11Info::display(), False);
         XSync(receiver, False);
 
-        QVector<XClientMessageEvent> messages;
+        using Message = std::tuple<Atom, int, int, QByteArray>;
+        QVector<Message> messages; // type, format, whether the window is shown, bytes
         while (XPending(receiver) > 0) {
             XEvent event;
             XNextEvent(receiver, &event);
-            if (event.type == ClientMessage)
-                messages.append(event.xclient);
-        }
-        QCOMPARE(messages.size(), 2);
-        QCOMPARE(messages[0].message_type, XInternAtom(receiver, "_QAZWM_COMMAND_BEGIN", True));
-        QCOMPARE(messages[1].message_type, XInternAtom(receiver, "_QAZWM_COMMAND", True));
-        for (const XClientMessageEvent &message : qAsConst(messages)) {
-            QCOMPARE(message.format, 8);
+            if (event.type != ClientMessage)
+                continue;
             XWindowAttributes attributes = {};
-            QVERIFY(XGetWindowAttributes(receiver, message.window, &attributes));
-            QCOMPARE(attributes.map_state, IsUnmapped);
+            QVERIFY(XGetWindowAttributes(receiver, event.xclient.window, &attributes));
+            messages.append({event.xclient.message_type, event.xclient.format, attributes.map_state,
+                             QByteArray(event.xclient.data.b, 20)});
         }
-        QCOMPARE(QByteArray(messages[0].data.b, 20), QByteArray("01234567890123456789"));
-        QCOMPARE(QByteArray(messages[1].data.b, 20), QByteArray("01234\n") + QByteArray(14, '\0'));
+        QCOMPARE(messages, (QVector<Message>{{XInternAtom(receiver, "_QAZWM_COMMAND_BEGIN", True), 8,
+                                              IsUnmapped, "01234567890123456789"},
+                                             {XInternAtom(receiver, "_QAZWM_COMMAND", True), 8, IsUnmapped,
+                                              QByteArray("01234\n").leftJustified(20, '\0')}}));
         XCloseDisplay(receiver);
     }
 
     void interleavedSendersAreKeptApart()
     {
-        const QByteArray full(20, 'a');
-        const QByteArray end = QByteArray("end").leftJustified(20, '\0');
         CommandReceiver receiver;
-        QVERIFY(receiver.take(1, true, full.constData()).isNull());
-        QVERIFY(receiver.take(2, true, full.constData()).isNull());
-        QCOMPARE(receiver.take(2, false, end.constData()), full + "end");
-        QCOMPARE(receiver.take(1, false, end.constData()), full + "end");
-        QVERIFY2(receiver.take(1, false, end.constData()).isNull(),
-                 "a following message without a first one");
-        for (int bytes = 0; bytes <= longestCommand; bytes += 20)
-            QVERIFY(receiver.take(3, bytes == 0, full.constData()).isNull());
-        QVERIFY2(receiver.take(3, false, end.constData()).isNull(), "too long a command is dropped");
-    }
-
-    void theOldestOfManyUnfinishedCommandsGoes()
-    {
-        const QByteArray full(20, 'a');
-        const QByteArray end = QByteArray("end").leftJustified(20, '\0');
-        CommandReceiver receiver;
+        const auto begin = [&](std::uint64_t sender) { return receiver.take(sender, true, full); };
+        const auto finish = [&](std::uint64_t sender) {
+            return receiver.take(sender, false, "end\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0");
+        };
         for (std::uint64_t sender = 0; sender < 65; ++sender)
-            QVERIFY(receiver.take(sender, true, full.constData()).isNull());
-        QVERIFY(receiver.take(0, false, end.constData()).isNull());
-        QCOMPARE(receiver.take(1, false, end.constData()), full + "end");
-        QCOMPARE(receiver.take(64, false, end.constData()), full + "end");
+            QVERIFY(begin(sender).isNull());
+        for (const std::uint64_t sender : {64, 1})
+            QCOMPARE(finish(sender), full + QByteArray("end"));
+        QVERIFY2(finish(0).isNull(), "the oldest of too many went");
+        QVERIFY2(finish(1).isNull(), "a following message without a first one");
+        for (int bytes = 0; bytes <= longestCommand; bytes += 20)
+            QVERIFY(receiver.take(3, bytes == 0, full).isNull());
+        QVERIFY2(finish(3).isNull(), "too long a command is dropped");
     }
 
     void theListenerPrintsWhatDrivesNoTerminal()

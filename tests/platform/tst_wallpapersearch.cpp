@@ -62,15 +62,12 @@ private slots:
     {
         const TemporaryHome home;
         const ScopedEnvironment data("QAZ_DATA_DIR", QFile::encodeName(home.path("data"_s)));
-        const QString worstFirst[] = {"data/wallpapers/tst-paper.jpg"_s,
-                                      "data/wallpapers/1920x1080/tst-paper.xpm"_s,
-                                      own + "tst-paper.jpeg"_s,
-                                      own + "tst-paper.png"_s,
-                                      own + "tst-paper"_s,
-                                      own + "16:9/tst-paper.xpm"_s,
-                                      own + "1920x1080/tst-paper.jpeg"_s};
-        for (const QString &place : worstFirst) {
-            const QString path = home.write(place, "image");
+        for (const char *worstFirst :
+             {"data/wallpapers/tst-paper.jpg", "data/wallpapers/1920x1080/tst-paper.xpm",
+              ".local/share/wallpapers/tst-paper.jpeg", ".local/share/wallpapers/tst-paper.png",
+              ".local/share/wallpapers/tst-paper", ".local/share/wallpapers/16:9/tst-paper.xpm",
+              ".local/share/wallpapers/1920x1080/tst-paper.jpeg"}) {
+            const QString path = home.write(QLatin1String(worstFirst), "image");
             QCOMPARE(find("tst-paper"_s), path);
         }
         QCOMPARE(find("tst-paper.png"_s), home.path(own + "tst-paper.png"_s));
