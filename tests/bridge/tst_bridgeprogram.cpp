@@ -36,22 +36,20 @@ private slots:
         QTRY_VERIFY(!BridgeProcess::isServing());
     }
 
-    void optionsAreReadStrictly_data()
-    {
-        QTest::addColumn<int>("code");
-        QTest::addColumn<QString>("line");
-        QTest::newRow("--bogus") << 2 << "qaz-wm-bridge: Unknown option 'bogus'."_s;
-        QTest::newRow("a b") << 2 << "qaz-wm-bridge: There is one theme file at most, not 'b'"_s;
-        QTest::newRow("/missing") << 2 << "qaz-wm-bridge: There is no theme file '/missing'"_s;
-        QTest::newRow("--version") << 0 << QString();
-        QTest::newRow("--help") << 0 << QString();
-    }
     void optionsAreReadStrictly()
     {
-        BridgeProcess bridge(QString::fromLatin1(QTest::currentDataTag()).split(u' '));
-        QTEST(bridge.exitCode(), "code");
-        QTEST(bridge.errors().join(u'\n'), "line");
-        QCOMPARE(bridge.process.readAllStandardOutput().isEmpty(), bridge.exitCode() != 0);
+        const std::tuple<QString, int, QString> rows[] = {
+            {"--bogus"_s, 2, "qaz-wm-bridge: Unknown option 'bogus'."_s},
+            {"a b"_s, 2, "qaz-wm-bridge: There is one theme file at most, not 'b'"_s},
+            {"/missing"_s, 2, "qaz-wm-bridge: There is no theme file '/missing'"_s},
+            {"--version"_s, 0, {}},
+            {"--help"_s, 0, {}}};
+        for (const auto &[arguments, code, line] : rows) {
+            BridgeProcess bridge(arguments.split(u' '));
+            QCOMPARE(bridge.exitCode(), code);
+            QCOMPARE(bridge.errors().join(u'\n'), line);
+            QCOMPARE(bridge.process.readAllStandardOutput().isEmpty(), code != 0);
+        }
     }
 
     void aDryRunPrintsAndWritesNothing()
@@ -135,8 +133,8 @@ private slots:
         const FakePrograms none(FakePrograms::Path::Instead);
         BridgeProcess bridge;
         QTRY_COMPARE(bridge.errors().size(), 3);
-        for (int i = 0; i < 3; ++i)
-            announce("WallPaper", "#00000%1"_s.arg(i));
+        for (const char *color : {"#000001", "#000002"})
+            announce("WallPaper", QLatin1String(color));
         announce("EnableSound", "true"_s);
         bridge.process.terminate();
         QCOMPARE(bridge.exitCode(), 0);
@@ -148,49 +146,43 @@ private slots:
 
     void oneBridgeServesAScreen()
     {
+        const auto setWindowManager = [](Window owner) {
+            Display *display = QX11Info::display();
+            XSetSelectionOwner(display, XInternAtom(display, "_QAZWM_S0", False), owner, CurrentTime);
+            XSync(display, False);
+        };
         BridgeProcess first;
         QTRY_COMPARE(m_programs->calls("xsettingsd"_s).size(), 1);
-        BridgeProcess second;
-        QCOMPARE(second.exitCode(), 1);
+        QCOMPARE(BridgeProcess().exitCode(), 1);
         BridgeProcess third({"--replace"_s});
         QCOMPARE(first.exitCode(), 0);
         QVERIFY(BridgeProcess::isServing());
-        Display *display = QX11Info::display();
-        XSetSelectionOwner(display, XInternAtom(display, "_QAZWM_S0", False), QX11Info::appRootWindow(),
-                           CurrentTime);
-        XSync(display, False);
+        setWindowManager(QX11Info::appRootWindow());
         QCOMPARE(third.exitCode(), 0);
-        BridgeProcess fourth;
-        QCOMPARE(fourth.exitCode(), 0);
-        XSetSelectionOwner(display, XInternAtom(display, "_QAZWM_S0", False), 0, CurrentTime);
-        XSync(display, False);
+        QCOMPARE(BridgeProcess().exitCode(), 0);
+        setWindowManager(0);
     }
 
-    void aKilledBridgeLeavesNoChild()
+    void noChildOutlivesIt()
     {
-        m_programs->add("xsettingsd"_s,
-                        "echo $$ >'" + QFile::encodeName(m_home->path("pid"_s)) + "'\nexec /bin/sleep 3600");
-        BridgeProcess bridge;
-        QTRY_VERIFY(m_home->read("pid"_s).endsWith('\n'));
-        bridge.process.kill();
-        QTRY_VERIFY(::kill(m_home->read("pid"_s).toInt(), 0) == -1);
-    }
-
-    void aLostServerEndsItWithItsChildren()
-    {
-        QProcess server;
-        server.start("/usr/bin/Xvfb"_s, {"-displayfd"_s, "1"_s, "-nolisten"_s, "tcp"_s});
-        QTRY_VERIFY(server.canReadLine());
-        m_programs->add("xsettingsd"_s,
-                        "echo $$ >'" + QFile::encodeName(m_home->path("pid"_s)) + "'; exec /bin/sleep 3600");
-        const ScopedEnvironment display("DISPLAY", ':' + server.readLine().trimmed());
-        BridgeProcess bridge;
-        QTRY_VERIFY(m_home->read("pid"_s).endsWith('\n'));
-        server.kill();
-        server.waitForFinished();
-        QCOMPARE(bridge.exitCode(), 1);
-        QCOMPARE(bridge.errors(), QStringList{"qaz-wm-bridge: The X server is gone"_s});
-        QCOMPARE(::kill(m_home->read("pid"_s).toInt(), 0), -1);
+        for (const bool serverDies : {false, true}) {
+            init();
+            m_programs->add("xsettingsd"_s, "echo $$ >'" + QFile::encodeName(m_home->path("pid"_s))
+                                                + "'; exec /bin/sleep 3600");
+            QProcess server;
+            server.start("/usr/bin/Xvfb"_s, {"-displayfd"_s, "1"_s, "-nolisten"_s, "tcp"_s});
+            QTRY_VERIFY(server.canReadLine());
+            const ScopedEnvironment display("DISPLAY", ':' + server.readLine().trimmed());
+            BridgeProcess bridge;
+            QTRY_VERIFY(m_home->read("pid"_s).endsWith('\n'));
+            serverDies ? server.kill() : bridge.process.kill();
+            QCOMPARE(bridge.exitCode(), serverDies ? 1 : -1);
+            QTRY_VERIFY(::kill(m_home->read("pid"_s).toInt(), 0) == -1);
+            if (serverDies)
+                QCOMPARE(bridge.errors(), QStringList{"qaz-wm-bridge: The X server is gone"_s});
+            server.kill();
+            server.waitForFinished();
+        }
     }
 
 private:

@@ -35,21 +35,19 @@ private slots:
     {
         const QByteArray head = "<?xml version='1.0'?>\r\n<openbox_config xmlns=\"x\">\n<!-- <theme> -->"
                                 "<a><name>no</name></a><theme>\t<!-- <name>no</name> -->";
-        const QByteArray middle = "<keepBorder/>\r\n";
-        const QByteArray tail = "</openbox_config>\n";
         const QByteArray before = head
                                   + "<name>Old</name><font place=\"MenuItem\"><size>7</size><name/></font>"
-                                  + middle + "</theme>" + tail;
-        const auto font = [](const char *place, const char *name, const QByteArray &rest) {
-            return QByteArray("<font place=\"") + place + "\"><name>" + name + "</name>" + rest + "</font>";
-        };
-        const QByteArray title = "<size>9</size><weight>bold</weight><slant>normal</slant>";
-        const QByteArray menu = "<size>12</size><weight>normal</weight><slant>italic</slant>";
+                                    "<keepBorder/>\r\n</theme></openbox_config>\n";
+        const QByteArray title
+            = "<name>Sans</name><size>9</size><weight>bold</weight><slant>normal</slant></font>";
         const QByteArray after
-            = head + "<name>qaz</name><font place=\"MenuItem\"><size>12</size><name>A&amp;B</name>"
-              + "<weight>normal</weight><slant>italic</slant></font>" + middle
-              + font("ActiveWindow", "Sans", title) + font("InactiveWindow", "Sans", title)
-              + font("MenuHeader", "A&amp;B", menu) + "</theme>" + tail;
+            = head
+              + "<name>qaz</name><font place=\"MenuItem\"><size>12</size><name>A&amp;B</name>"
+                "<weight>normal</weight><slant>italic</slant></font><keepBorder/>\r\n"
+                "<font place=\"ActiveWindow\">"
+              + title + "<font place=\"InactiveWindow\">" + title
+              + "<font place=\"MenuHeader\"><name>A&amp;B</name><size>12</size><weight>normal</weight>"
+                "<slant>italic</slant></font></theme></openbox_config>\n";
         QString error;
         const auto changed = withOpenboxTheme(before, "qaz"_s, "Sans-9:bold"_s, "A&B-12:normal:italic"_s,
                                               &error);

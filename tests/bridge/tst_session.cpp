@@ -24,29 +24,23 @@ namespace {
 
 const QPoint corner(3, 1020); // of the screen, where no window is
 
-QByteArray rootProperty(const char *name)
+/// What a client reads of the session's settings, as far as it is text.
+QString settings()
 {
     Display *display = QX11Info::display();
     const Window owner = XGetSelectionOwner(display, XInternAtom(display, "_XSETTINGS_S0", False));
+    if (owner == 0)
+        return {};
     Atom type = 0;
     int format = 0;
     unsigned long count = 0, rest = 0;
     unsigned char *data = nullptr;
-    if (owner == 0)
-        return {};
-    XGetWindowProperty(display, owner, XInternAtom(display, name, False), 0, 10000, False, AnyPropertyType,
-                       &type, &format, &count, &rest, &data);
-    const QByteArray bytes(reinterpret_cast<const char *>(data), int(count));
-    XFree(data);
-    return bytes;
-}
-
-/// What a client reads of the session's settings, as far as it is text.
-QString settings()
-{
+    XGetWindowProperty(display, owner, XInternAtom(display, "_XSETTINGS_SETTINGS", False), 0, 10000, False,
+                       AnyPropertyType, &type, &format, &count, &rest, &data);
     QString text;
-    for (const char byte : rootProperty("_XSETTINGS_SETTINGS"))
-        text += byte >= ' ' ? QChar::fromLatin1(byte) : QChar(u'|');
+    for (unsigned long i = 0; i < count; ++i)
+        text += data[i] >= ' ' ? QChar(ushort(data[i])) : QChar(u'|');
+    XFree(data);
     return text;
 }
 
@@ -166,22 +160,22 @@ private slots:
         QTRY_COMPARE(heard(before), "SystemStart"_s);
         QWidget window;
         window.setGeometry(100, 100, 200, 200);
-        window.show();
-        QTRY_VERIFY(heard().endsWith(" Open"_s));
-        window.showMaximized();
-        QTRY_VERIFY(heard().endsWith(" Maximize"_s));
-        window.showNormal();
-        QTRY_VERIFY(heard().endsWith(" RestoreDown"_s));
-        window.showMinimized();
-        QTRY_VERIFY(heard().endsWith(" Minimize"_s));
-        window.showNormal();
-        QTRY_VERIFY(heard().endsWith(" RestoreUp"_s));
-        window.close();
-        QTRY_VERIFY(heard().endsWith(" Close"_s));
-        output("xdotool"_s, {"set_desktop"_s, "1"_s});
-        QTRY_VERIFY(heard().endsWith(" Paging"_s));
-        output("xdotool"_s, {"set_desktop"_s, "0"_s});
-        QTRY_VERIFY(heard().endsWith(" Paging Paging"_s));
+        const auto goToDesktop = [](const char *desktop) {
+            output("xdotool"_s, {"set_desktop"_s, QLatin1String(desktop)});
+        };
+        const std::pair<std::function<void()>, QString> events[] = {
+            {[&] { window.show(); }, "SystemStart Open"_s},
+            {[&] { window.showMaximized(); }, "Open Maximize"_s},
+            {[&] { window.showNormal(); }, "Maximize RestoreDown"_s},
+            {[&] { window.showMinimized(); }, "RestoreDown Minimize"_s},
+            {[&] { window.showNormal(); }, "Minimize RestoreUp"_s},
+            {[&] { window.close(); }, "RestoreUp Close"_s},
+            {[&] { goToDesktop("1"); }, "Close Paging"_s},
+            {[&] { goToDesktop("0"); }, "Paging Paging"_s}};
+        for (const auto &[act, last] : events) {
+            act();
+            QTRY_VERIFY2(heard().endsWith(last), qPrintable(last));
+        }
         bridge.process.terminate();
         QCOMPARE(bridge.exitCode(), 0);
         QCOMPARE(heard(before),
