@@ -1,8 +1,5 @@
 #include "pages/effects/effectpage.h"
-#include "platform/qazsettings.h"
-#include "tests/support/literals.h"
-#include "tests/support/temporaryhome.h"
-#include "tests/support/wmlistener.h"
+#include "tests/support/pageoverfile.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -20,34 +17,11 @@ const QStringList numbers
 constexpr const char *checkBoxes[] = {"smartPlacementCheckBox", "opaqueMoveCheckBox", "opaqueResizeCheckBox",
                                       "thumbCheckBox"};
 
-/// The page over a theme file of its own, as the dialog uses it; no compositing manager is installed.
-class PageOverFile
+class EffectPageOverFile : public PageOverFile<EffectPage>
 {
 public:
-    explicit PageOverFile(const QByteArray &content) { load(content); }
+    using PageOverFile::PageOverFile;
 
-    void load(const QByteArray &content)
-    {
-        m_home.write("t"_s, "CompositeManager=nobody\n" + content);
-        QazSettings store(m_home.path("t"_s));
-        store.sync(true);
-        page.loadValues(&store);
-    }
-    /// Saves; returns the commands, separated by "|", without their common start.
-    QString save()
-    {
-        WmListener windowManager;
-        QazSettings store(m_home.path("t"_s));
-        store.sync(true);
-        page.saveValues(&store);
-        return windowManager.take().replaceInStrings("QAZWM_UPDATE_VAL "_s, QString()).join(u'|');
-    }
-    QByteArray content() const { return m_home.read("t"_s); }
-    template<typename Widget>
-    Widget *find(const char *name) const
-    {
-        return page.findChild<Widget *>(QLatin1String(name));
-    }
     QSpinBox *spin(const QString &key) const
     {
         return page.findChild<QSpinBox *>(key.left(1).toLower() + key.mid(1) + "SpinBox"_s);
@@ -68,12 +42,6 @@ public:
             checks += QString::number(find<QCheckBox>(name)->isChecked());
         return checks;
     }
-
-private:
-    const TemporaryHome m_home;
-
-public:
-    EffectPage page;
 };
 
 /// Chooses an item as the user does.
@@ -94,13 +62,13 @@ class TestEffectPage : public QObject
 private slots:
     void fileWithoutKeysShowsAndSavesTheDefaults()
     {
-        PageOverFile file({});
+        EffectPageOverFile file("");
         QCOMPARE(file.values(), "0 0 0 300 300 0 10 500 0 0 1500 30 200 0 0"_s);
         QCOMPARE(file.checks(), "1110"_s);
         QVERIFY(!file.find<QWidget>("pseudoTransparencyButtonGroup")->isVisibleTo(&file.page));
         QCOMPARE(file.save(), "ArrangeWindowSpeed 0|GradWindowMapSpeed 0"_s);
-        QCOMPARE(file.content(), QByteArray("CompositeManager=nobody\nUseComposite=false\n"
-                                            "ArrangeWindowSpeed=0\nGradWindowMapSpeed=0\n"));
+        QCOMPARE(file.content(),
+                 QByteArray("UseComposite=false\nArrangeWindowSpeed=0\nGradWindowMapSpeed=0\n"));
         QCOMPARE(file.save(), QString());
     }
 
@@ -115,7 +83,7 @@ private slots:
             {"99999", "25 25 30 3000 3000 10 30 3000 3000 20 5000 100 500 100 100"_s, "0001"_s},
             {"-3", zeros, "0001"_s},
             {"", zeros, "0000"_s}};
-        PageOverFile file({});
+        EffectPageOverFile file("");
         for (const auto &[text, values, checks] : rows) {
             const QByteArray value = '=' + text + '\n';
             QByteArray content = "SmartPlacement" + value + "OpaqueMove" + value + "OpaqueResize" + value
@@ -137,7 +105,7 @@ private slots:
     {
         const QStringList keywords = "Normal TopToBottom LeftToRight CenterToTopBottom CenterToLeftRight "
                                      "CenterToAll FromButton RightToLeft BottomToTop"_s.split(u' ');
-        PageOverFile file({});
+        EffectPageOverFile file("");
         auto *style = file.find<QComboBox>("gradWindowMapStyleComboBox");
         const QSpinBox *speed = file.spin("GradWindowMapSpeed"_s);
         for (int i = 1; i < 9; ++i) {
@@ -159,7 +127,7 @@ private slots:
 
     void autopagingIsOffExactlyWithoutABelt()
     {
-        PageOverFile file({});
+        EffectPageOverFile file("");
         auto *group = file.find<QGroupBox>("pagingGroupBox");
         const auto state = [&] {
             QString state = QString::number(file.spin("PagingBeltSize"_s)->value());
@@ -186,7 +154,7 @@ private slots:
                              "FullOpaque=false\nGradWindowMapStyle=BottomToTop\nThumbSize=0\n";
         for (const QString &key : numbers)
             content += key.toLatin1() + "=1\n";
-        PageOverFile file(content);
+        EffectPageOverFile file(content);
         choose(file.find<QComboBox>("gradWindowMapStyleComboBox"), 6); // its speed can be edited then
         QCOMPARE(file.values(), "1 1 15 1 1 1 1 1 1 1 1 1 1 1 1"_s);
         int value = 1;
@@ -210,13 +178,13 @@ private slots:
                  "TaskbarHideDelay 2|PagingBeltSize 3|PagingResistance 4|PagingSpeed 5|PagingShiftCursor 6|"
                  "MenuTransparency 7|MenuTransparency2 8|UseComposite true|ThumbSize 250"_s);
         content.replace("=false", "=true").replace("BottomToTop", "FromButton").replace("Size=0", "Size=250");
-        QCOMPARE(file.content(), "CompositeManager=nobody\n" + content + "UseComposite=true\n");
+        QCOMPARE(file.content(), content + "UseComposite=true\n");
         QCOMPARE(file.save(), QString());
     }
 
     void thumbnailsAreSavedOnlyWhileTheirBoxIsEnabled()
     {
-        PageOverFile file("ThumbSize=64\nArrangeWindowSpeed=0\nGradWindowMapSpeed=0\n");
+        EffectPageOverFile file("ThumbSize=64\nArrangeWindowSpeed=0\nGradWindowMapSpeed=0\n");
         auto *box = file.find<QCheckBox>("thumbCheckBox");
         box->setEnabled(false);
         QCOMPARE(file.save(), QString());
@@ -228,7 +196,7 @@ private slots:
 
     void loadingIsNoEdit()
     {
-        PageOverFile file("GradWindowMapStyle=FromButton\n");
+        EffectPageOverFile file("GradWindowMapStyle=FromButton\n");
         const QSignalSpy changed(&file.page, &EffectPage::changedSignal);
         for (int i = 0; i < 2; ++i)
             file.load("PagingBeltSize=5\nMenuDelayTime=9\nSmartPlacement=false\nThumbSize=1\n");
@@ -242,6 +210,9 @@ private slots:
         QTest::keyClick(file.find<QComboBox>("gradWindowMapStyleComboBox"), Qt::Key_Down);
         QCOMPARE(changed.count(), edits += 2);
     }
+
+private:
+    const ScopedEnvironment m_path{"PATH", "/nowhere"}; // where no compositing manager is installed
 };
 
 QTEST_MAIN(TestEffectPage)

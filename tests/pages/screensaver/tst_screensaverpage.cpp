@@ -1,20 +1,25 @@
 #include "pages/screensaver/screensaverpage.h"
-#include "platform/qazsettings.h"
-#include "tests/support/literals.h"
-#include "tests/support/temporaryhome.h"
-#include "tests/support/wmlistener.h"
+#include "tests/support/pageoverfile.h"
 
 #include <QCheckBox>
 #include <QSpinBox>
 #include <QtTest>
 
-#include <optional>
-
 namespace {
 
-const QString themeFile = "t"_s;
 constexpr const char *spinBoxes[] = {"minutesToStartSpinBox", "dpmsOffSpinBox", "wrongPasswordTimeoutSpinBox",
                                      "wrongPasswordBellSpinBox"};
+
+QString shown(const PageOverFile<ScreensaverPage> &file)
+{
+    const auto isChecked = [&file](const char *name) { return file.find<QCheckBox>(name)->isChecked(); };
+    QString text = isChecked("startAutomaticallyCheckBox") ? "on"_s : "off"_s;
+    for (const char *name : spinBoxes)
+        text += u' ' + file.find<QSpinBox>(name)->text();
+    if (isChecked("lockTTYCheckBox"))
+        text += " tty"_s;
+    return isChecked("lockXaccessCheckBox") ? text + " x"_s : text;
+}
 
 } // namespace
 
@@ -23,12 +28,6 @@ class TestScreensaverPage : public QObject
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        m_home.emplace();
-        m_page = std::make_unique<ScreensaverPage>();
-    }
-
     void untouchedValuesAreSavedOnlyWhereTheFormCannotHoldThem()
     {
         // What is stored, shown and saved; an empty text: as stored.
@@ -48,81 +47,44 @@ private slots:
             {"LockerTTYLock=0\nLockerXaccessLock=TRUE\n", "on 10min 1min 2sec 50% x"_s,
              "LockerTTYLock=0\nLockerXaccessLock=true\n"}};
         for (const auto &[stored, shownTexts, saved] : rows) {
-            init();
-            m_home->write(themeFile, stored);
-            WmListener listener;
-            load();
-            QCOMPARE(shown(), shownTexts);
-            save();
-            QCOMPARE(m_home->read(themeFile), saved.isEmpty() ? stored : saved);
-            QCOMPARE(listener.take().isEmpty(), saved.isEmpty());
-            save();
-            QCOMPARE(listener.take(), QStringList());
+            PageOverFile<ScreensaverPage> file(stored);
+            QCOMPARE(shown(file), shownTexts);
+            QCOMPARE(file.save().isEmpty(), saved.isEmpty());
+            QCOMPARE(file.content(), saved.isEmpty() ? stored : saved);
+            QCOMPARE(file.save(), QString());
         }
     }
 
     void everyEditIsSavedInOrder()
     {
-        m_home->write(themeFile, "# mine\nLockerBellLevel=7\nOther=1\n");
-        WmListener listener;
-        load();
+        PageOverFile<ScreensaverPage> file("# mine\nLockerBellLevel=7\nOther=1\n");
         int value = 15;
         for (const char *name : spinBoxes) {
+            auto *box = file.find<QSpinBox>(name);
             // The limits and the meaning of 0 stand in the What's This text.
-            QVERIFY2(spin(name)->whatsThis().contains(" 0 to %1. 0 "_s.arg(spin(name)->maximum())), name);
-            spin(name)->selectAll();
-            QTest::keyClicks(spin(name), QString::number(value++));
+            QVERIFY2(box->whatsThis().contains(" 0 to %1. 0 "_s.arg(box->maximum())), name);
+            box->selectAll();
+            QTest::keyClicks(box, QString::number(value++));
         }
-        check("lockTTYCheckBox")->click();
-        check("lockXaccessCheckBox")->click();
-        save();
-        QCOMPARE(listener.take().replaceInStrings("QAZWM_UPDATE_VAL "_s, QString()).join(u' '),
-                 "ScreenSaverDelay 900 LockerDpmsOffTimeout 960 LockerWrongPasswdTimeout 17 "
-                 "LockerBellLevel 18 LockerTTYLock false LockerXaccessLock true"_s);
-        QCOMPARE(
-            m_home->read(themeFile),
-            QByteArray("# mine\nLockerBellLevel=18\nOther=1\nLockerDpmsOffTimeout=960\nLockerTTYLock=false\n"
-                       "LockerWrongPasswdTimeout=17\nLockerXaccessLock=true\nScreenSaverDelay=900\n"));
+        file.find<QCheckBox>("lockTTYCheckBox")->click();
+        file.find<QCheckBox>("lockXaccessCheckBox")->click();
+        QCOMPARE(file.save(), "ScreenSaverDelay 900|LockerDpmsOffTimeout 960|LockerWrongPasswdTimeout 17|"
+                              "LockerBellLevel 18|LockerTTYLock false|LockerXaccessLock true"_s);
+        QCOMPARE(file.content(),
+                 QByteArray("# mine\nLockerBellLevel=18\nOther=1\nLockerDpmsOffTimeout=960\n"
+                            "LockerTTYLock=false\nLockerWrongPasswdTimeout=17\nLockerXaccessLock=true\n"
+                            "ScreenSaverDelay=900\n"));
     }
 
     void aClearedCheckBoxSwitchesTheScreensaverOff()
     {
-        m_home->write(themeFile, "ScreenSaverDelay=600\n");
-        load();
-        check("startAutomaticallyCheckBox")->click();
-        QCOMPARE(spin("minutesToStartSpinBox")->value(), 10);
-        QVERIFY(spin("minutesToStartSpinBox")->isEnabled());
-        save();
-        QCOMPARE(m_home->read(themeFile), QByteArray("ScreenSaverDelay=0\n"));
+        PageOverFile<ScreensaverPage> file("ScreenSaverDelay=600\n");
+        file.find<QCheckBox>("startAutomaticallyCheckBox")->click();
+        const auto *minutes = file.find<QSpinBox>("minutesToStartSpinBox");
+        QVERIFY(minutes->value() == 10 && minutes->isEnabled());
+        file.save();
+        QCOMPARE(file.content(), QByteArray("ScreenSaverDelay=0\n"));
     }
-
-private:
-    void load()
-    {
-        QazSettings store(m_home->path(themeFile));
-        store.sync(true);
-        QVERIFY(m_page->loadValues(&store));
-    }
-    void save()
-    {
-        QazSettings store(m_home->path(themeFile));
-        store.sync(true);
-        m_page->saveValues(&store);
-    }
-    QSpinBox *spin(const char *name) { return m_page->findChild<QSpinBox *>(QLatin1String(name)); }
-    QCheckBox *check(const char *name) { return m_page->findChild<QCheckBox *>(QLatin1String(name)); }
-    QString shown()
-    {
-        QString text = check("startAutomaticallyCheckBox")->isChecked() ? "on"_s : "off"_s;
-        for (const char *name : spinBoxes)
-            text += u' ' + spin(name)->text();
-        if (check("lockTTYCheckBox")->isChecked())
-            text += " tty"_s;
-        return check("lockXaccessCheckBox")->isChecked() ? text + " x"_s : text;
-    }
-
-    std::optional<TemporaryHome> m_home;
-    std::unique_ptr<ScreensaverPage> m_page;
 };
 
 QTEST_MAIN(TestScreensaverPage)

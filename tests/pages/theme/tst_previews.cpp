@@ -25,14 +25,9 @@ QImage button(int width, int height, const QColor &released)
 
 char letter(const QColor &color)
 {
-    const std::pair<QColor, char> letters[] = {
-        {Qt::transparent, '-'}, {Qt::red, 'r'},   {Qt::green, 'g'}, {Qt::blue, 'b'},   {Qt::cyan, 'c'},
-        {Qt::magenta, 'm'},     {Qt::white, 'w'}, {Qt::gray, 't'},  {Qt::yellow, 'y'}, {glass, '/'}};
-    for (const auto &[known, letter] : letters) {
-        if (known == color)
-            return letter;
-    }
-    return '?';
+    const QVector<QColor> colors{Qt::transparent, Qt::red,   Qt::green, Qt::blue,   Qt::cyan,
+                                 Qt::magenta,     Qt::white, Qt::gray,  Qt::yellow, glass};
+    return "?-rgbcmwty/"[colors.indexOf(color) + 1];
 }
 
 /// The colours of the row \a y: "3r 2-" for three red pixels and two transparent ones.

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "platform/qazsettings.h"
+#include "tests/support/literals.h"
+#include "tests/support/temporaryhome.h"
+#include "tests/support/wmlistener.h"
+
+/// A page over a theme file of its own in a temporary home, loaded and saved as the dialog does it.
+template<typename Page>
+class PageOverFile
+{
+public:
+    explicit PageOverFile(const QByteArray &content) { load(content); }
+
+    void load(const QByteArray &content)
+    {
+        home.write("t"_s, content);
+        QazSettings store(home.path("t"_s));
+        store.sync(true);
+        page.loadValues(&store);
+    }
+    /// Saves; returns the commands, separated by "|", without their common start.
+    QString save()
+    {
+        WmListener windowManager;
+        QazSettings store(home.path("t"_s));
+        store.sync(true);
+        page.saveValues(&store);
+        return windowManager.take().replaceInStrings("QAZWM_UPDATE_VAL "_s, QString()).join(u'|');
+    }
+    QByteArray content() const { return home.read("t"_s); }
+    template<typename Widget>
+    Widget *find(const char *name) const
+    {
+        return page.template findChild<Widget *>(QLatin1String(name));
+    }
+
+    const TemporaryHome home;
+    Page page;
+};
