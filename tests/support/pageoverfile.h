@@ -10,6 +10,7 @@ template<typename Page>
 class PageOverFile
 {
 public:
+    PageOverFile() = default; // not loaded yet
     explicit PageOverFile(const QByteArray &content) { load(content); }
 
     void load(const QByteArray &content)
