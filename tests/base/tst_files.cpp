@@ -9,33 +9,14 @@
 #include <QFile>
 #include <QTest>
 
-#include <cstring>
-
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/resource.h>
-#include <sys/socket.h>
 #include <sys/stat.h>
-#include <sys/un.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 namespace {
-
-/// Until the end of the scope new files get none of the bits in \a mask.
-class ScopedUmask
-{
-public:
-    explicit ScopedUmask(mode_t mask)
-        : m_before(::umask(mask))
-    {}
-    ~ScopedUmask() { ::umask(m_before); }
-    ScopedUmask(const ScopedUmask &) = delete;
-    ScopedUmask &operator=(const ScopedUmask &) = delete;
-
-private:
-    mode_t m_before;
-};
 
 int modeOf(const QString &path)
 {
@@ -66,11 +47,7 @@ void makeOddFile(const QString &kind, const QString &path)
     } else if (kind == "loop"_s) {
         QVERIFY(QFile::link(path, path));
     } else {
-        sockaddr_un address = {};
-        address.sun_family = AF_UNIX;
-        std::strncpy(address.sun_path, name.constData(), sizeof address.sun_path - 1);
-        const Descriptor socket(::socket(AF_UNIX, SOCK_STREAM, 0));
-        QCOMPARE(::bind(socket.get(), reinterpret_cast<sockaddr *>(&address), sizeof address), 0);
+        QCOMPARE(::mknod(name.constData(), S_IFSOCK | 0600, 0), 0);
     }
 }
 
@@ -80,6 +57,8 @@ class TestFiles : public QObject
 {
     Q_OBJECT
 private slots:
+    void cleanup() { ::umask(0022); }
+
     void whatIsNoRegularFileIsNeitherReadNorReplaced()
     {
         for (const QString &kind : {"fifo"_s, "directory"_s, "device"_s, "loop"_s, "socket"_s}) {
@@ -106,7 +85,6 @@ private slots:
         const TemporaryHome home;
         const QString path = home.write("file"_s, "12345");
         QCOMPARE(readRegularFile(path, 5).content, QByteArray("12345"));
-        QCOMPARE(readRegularFile(path, 4).state, FileState::Unreadable);
         QCOMPARE(readRegularFile(path, 4).error, "File too large"_s);
         const QByteArray growing = readRegularFile("/proc/self/smaps"_s).content; // states no size
         QVERIFY(growing.size() > 10000 && growing.endsWith('\n'));
@@ -120,39 +98,36 @@ private slots:
 
     void newFilesAndDirectoriesAreForTheirOwner()
     {
-        const ScopedUmask open(0);
         for (const mode_t mask : {0000, 0022, 0777}) {
             const TemporaryHome home;
-            const ScopedUmask umask(mask);
+            ::umask(mask);
             QString error;
             QVERIFY2(replaceFile(home.path("a/b/file"_s), "x", &error), qPrintable(error));
             QVERIFY2(replaceFile(home.path("a/b/private"_s), "x", &error, 0600), qPrintable(error));
-            QCOMPARE(modeOf(home.path("a"_s)), 0700);
-            QCOMPARE(modeOf(home.path("a/b"_s)), 0700);
-            QCOMPARE(modeOf(home.path("a/b/file"_s)), int((0666 & ~mask) | 0600));
-            QCOMPARE(modeOf(home.path("a/b/private"_s)), 0600);
-
-            QFile::setPermissions(home.path("a/b/private"_s),
-                                  QFile::ReadOwner | QFile::WriteOwner | QFile::ReadOther);
-            QVERIFY(replaceFile(home.path("a/b/private"_s), "y", &error, 0600));
-            QCOMPARE(modeOf(home.path("a/b/private"_s)), 0604); // what exists keeps its bits
+            QVERIFY(QFile::setPermissions(home.write("a/b/old"_s, ""),
+                                          QFile::ReadOwner | QFile::WriteOwner | QFile::ReadOther));
+            QVERIFY(replaceFile(home.path("a/b/old"_s), "y", &error, 0600));
+            const std::pair<const char *, int> modes[] = {{"a", 0700},
+                                                          {"a/b", 0700},
+                                                          {"a/b/file", (0666 & ~mask) | 0600},
+                                                          {"a/b/private", 0600},
+                                                          {"a/b/old", 0604}}; // what exists keeps its bits
+            for (const auto &[name, mode] : modes)
+                QCOMPARE(modeOf(home.path(QLatin1String(name))), mode);
         }
     }
 
     void leftOversGoAtTheNextWrite()
     {
         const TemporaryHome home;
-        for (const char *name : {".qaz-old123", ".qaz-new123", ".qaz-longer12", ".qaz-pack-Abc123/a/b",
-                                 ".qaz-under_12", "x.qaz-old123"})
+        for (const char *name :
+             {".qaz-old123", ".qaz-longer12", ".qaz-pack-Abc123/a/b", ".qaz-under_12", "x.qaz-old123"})
             home.write(QLatin1String(name), "x");
         QVERIFY(QFile::link("x.qaz-old123"_s, home.path(".qaz-link12"_s)));
         const timespec old[] = {{1000, 0}, {::time(nullptr) - 3700, 0}};
-        for (const QString &name : namesIn(home.path())) {
-            if (name != ".qaz-new123"_s)
-                QCOMPARE(::utimensat(AT_FDCWD, QFile::encodeName(home.path(name)).constData(), old,
-                                     AT_SYMLINK_NOFOLLOW),
-                         0);
-        }
+        for (const QString &name : namesIn(home.path()))
+            ::utimensat(AT_FDCWD, QFile::encodeName(home.path(name)).constData(), old, AT_SYMLINK_NOFOLLOW);
+        home.write(".qaz-new123"_s, "x");
         QString error;
         QVERIFY(replaceFile(home.path("file"_s), "x", &error));
         QCOMPARE(namesIn(home.path()), (QStringList{".qaz-link12"_s, ".qaz-longer12"_s, ".qaz-new123"_s,
@@ -164,6 +139,10 @@ private slots:
         const TemporaryHome home;
         const QString runtime = home.path("run"_s);
         QVERIFY(home.makeDirectory("run"_s) && home.makeDirectory("d"_s));
+        struct stat status = {};
+        QCOMPARE(::stat(QFile::encodeName(home.path("d"_s)).constData(), &status), 0);
+        const QString name = "qaz-%1-%2.lock"_s.arg(QString::number(status.st_dev, 16),
+                                                    QString::number(status.st_ino, 16));
         const ScopedEnvironment variable("XDG_RUNTIME_DIR", QFile::encodeName(runtime));
         const struct {
             mode_t mode; // of the runtime directory
@@ -171,16 +150,11 @@ private slots:
         } rows[] = {{0700, runtime}, {0750, home.path(".cache/qaz"_s)}};
         for (const auto &row : rows) {
             QCOMPARE(::chmod(QFile::encodeName(runtime).constData(), row.mode), 0);
-            const ScopedUmask umask(0777);
+            ::umask(0777);
             const FileLock lock(home.path("d/file"_s));
             QVERIFY2(lock.isHeld(), qPrintable(lock.error()));
-            const QFileInfoList files = QDir(row.place).entryInfoList(QDir::Files);
-            QCOMPARE(files.size(), 1);
-            QCOMPARE(modeOf(files.first().filePath()), 0600);
-            struct stat status = {};
-            QCOMPARE(::stat(QFile::encodeName(home.path("d"_s)).constData(), &status), 0);
-            QCOMPARE(files.first().fileName(), "qaz-%1-%2.lock"_s.arg(QString::number(status.st_dev, 16),
-                                                                      QString::number(status.st_ino, 16)));
+            QCOMPARE(namesIn(row.place), QStringList{name});
+            QCOMPARE(modeOf(row.place + u'/' + name), 0600);
         }
         QCOMPARE(modeOf(home.path(".cache/qaz"_s)), 0700);
         // Nobody's lock on the directory itself is in the way.
@@ -200,7 +174,6 @@ private slots:
         const TemporaryHome home;
         const QString path = home.write("file"_s, "old");
         const FileLock lock(path);
-        QVERIFY(lock.isHeld());
         QString error;
         QVERIFY(!editFile(path, append("x"), &error));
         QCOMPARE(error, "Another program is changing the directory"_s);
@@ -215,14 +188,11 @@ private slots:
         for (const char *line : {"a\n", "b\n", "c\n"}) {
             if (::fork() == 0) {
                 QString error;
-                int failed = 0;
-                for (int i = 0; i < rounds; ++i)
-                    failed += editFile(path, append(line), &error) ? 0 : 1;
-                ::_exit(failed);
+                for (int i = 0; i < rounds && editFile(path, append(line), &error); ++i) {}
+                ::_exit(error.isEmpty() ? 0 : 1);
             }
         }
-        int status = -1;
-        while (::wait(&status) > 0)
+        for (int status = -1; ::wait(&status) > 0;)
             QCOMPARE(status, 0);
         for (const char *line : {"a\n", "b\n", "c\n"})
             QCOMPARE(home.read("file"_s).count(line), rounds);
@@ -242,8 +212,8 @@ private slots:
         QString error;
         const QString before = home.fingerprint();
         QVERIFY(editFile(path, append({}), &error, options));
-        QVERIFY(!editFile(
-            path, [](const QByteArray &) { return std::nullopt; }, &error, options));
+        const auto refuse = [](const QByteArray &) { return std::nullopt; };
+        QVERIFY(!editFile(path, refuse, &error, options));
         QVERIFY(editFile(home.path("new"_s), append({}), &error, options));
         QCOMPARE(home.fingerprint(), before);
         QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup);
@@ -251,8 +221,8 @@ private slots:
         QCOMPARE(modeOf(path), 0640);
         QCOMPARE(home.read("file"_s), QByteArray("old new"));
         QVERIFY(QFileInfo(home.path("link"_s)).isSymLink());
-        QVERIFY(editFile(
-            path, [](const QByteArray &) { return QByteArray(); }, &error, options));
+        const auto clear = [](const QByteArray &) { return QByteArray(); };
+        QVERIFY(editFile(path, clear, &error, options));
         QVERIFY(!home.exists("file"_s));
         QVERIFY(editFile(path, append("x"), &error, options)); // nothing stood there
         QCOMPARE(calls, (QStringList{home.path("link"_s) + " old"_s, path + " old new"_s}));
@@ -275,8 +245,7 @@ private slots:
         const bool replaced = replaceFile(path, QByteArray(100000, 'x'), &error);
         ::setrlimit(RLIMIT_FSIZE, &usual);
         QVERIFY(!replaced);
-        QCOMPARE(error, "File too large"_s);
-        QCOMPARE(home.read("file"_s), QByteArray("old"));
+        QCOMPARE(home.read("file"_s) + ' ' + error.toLatin1(), QByteArray("old File too large"));
         QCOMPARE(namesIn(home.path()), QStringList{"file"_s});
     }
 

@@ -28,10 +28,9 @@ QByteArray encoded(const char *format, const QSize &size = {64, 48})
 /// An icon file that states 16 x 16 pixels for the PNG of any size that it holds.
 QByteArray lyingIcon(const QByteArray &png)
 {
-    QByteArray icon("\0\0\1\0\1\0\x10\x10\0\0\1\0\x20\0", 14);
-    for (const int number : {png.size(), 22})
-        icon += QByteArray(reinterpret_cast<const char *>(&number), 4);
-    return icon + png;
+    const QByteArray icon("\0\0\1\0\1\0\x10\x10\0\0\1\0\x20\0", 14);
+    const int numbers[] = {png.size(), 22};
+    return icon + QByteArray(reinterpret_cast<const char *>(numbers), 8) + png;
 }
 
 /// A PNG whose header states another size than its pixels have.
@@ -56,43 +55,41 @@ class TestImages : public QObject
 {
     Q_OBJECT
 private slots:
-    void imagesAreLoaded_data()
-    {
-        QTest::addColumn<QByteArray>("content");
-        QTest::addColumn<bool>("isLoaded");
-        for (const char *format : {"png", "jpg", "xpm", "bmp"})
-            QTest::addRow("whole.%s", format) << encoded(format) << true;
-        for (const char *format : {"png", "xpm"})
-            QTest::addRow("cut off.%s", format) << encoded(format).chopped(200) << false;
-        const QByteArray jpeg = encoded("jpg");
-        QTest::newRow("shown as far as it goes.jpg") << jpeg.left(jpeg.size() * 2 / 3) << true;
-        QTest::newRow("last byte missing.jpg") << jpeg.chopped(1) << true;
-        QTest::newRow("wrong ending.png") << jpeg << true;
-        QTest::newRow("empty.png") << QByteArray() << false;
-        QTest::newRow("text.png") << QByteArray("text") << false;
-        QTest::newRow("whole.svg") << svg << true;
-        QTest::newRow("too large.svg") << QByteArray(svg).replace("64", "64000000") << false;
-        QTest::newRow("too large.png") << pngStating(16385, 16384) << false;
-        QTest::newRow("ends in odd numbers.png") << pngStating(0x7fffffff, 0x7fffffff) << false;
-        QTest::newRow("states less.ico") << lyingIcon(encoded("png")) << true;
-        QTest::newRow("states much less.ico") << lyingIcon(pngStating(60000, 60000)) << false;
-    }
-
     void imagesAreLoaded()
     {
-        QFETCH(QByteArray, content);
-        QFETCH(bool, isLoaded);
+        const QByteArray png = encoded("png"), jpeg = encoded("jpg"), xpm = encoded("xpm");
+        const struct {
+            const char *name;
+            QByteArray content;
+            bool isLoaded;
+        } rows[] = {{"whole.png", png, true},
+                    {"whole.jpg", jpeg, true},
+                    {"whole.xpm", xpm, true},
+                    {"whole.bmp", encoded("bmp"), true},
+                    {"cut off.png", png.chopped(200), false},
+                    {"cut off.xpm", xpm.chopped(200), false},
+                    {"shown as far as it goes.jpg", jpeg.left(jpeg.size() * 2 / 3), true},
+                    {"last byte missing.jpg", jpeg.chopped(1), true},
+                    {"wrong ending.png", jpeg, true},
+                    {"empty.png", {}, false},
+                    {"text.png", "text", false},
+                    {"whole.svg", svg, true},
+                    {"too large.svg", QByteArray(svg).replace("64", "64000000"), false},
+                    {"too large.png", pngStating(16385, 16384), false},
+                    {"ends in odd numbers.png", pngStating(0x7fffffff, 0x7fffffff), false},
+                    {"states much less.ico", lyingIcon(pngStating(60000, 60000)), false}};
         const TemporaryHome home;
-        const QString path = home.write(QString::fromLatin1(QTest::currentDataTag()), content);
-        QCOMPARE(loadImage(path).size(), isLoaded ? QSize(64, 48) : QSize(0, 0));
+        for (const auto &row : rows) {
+            const QString path = home.write(QLatin1String(row.name), row.content);
+            QVERIFY2(loadImage(path).size() == (row.isLoaded ? QSize(64, 48) : QSize(0, 0)), row.name);
+        }
     }
 
     void decodedSizeCounts()
     {
         const TemporaryHome home;
-        const QString path = home.write("a.png"_s, encoded("png"));
-        const QString icon = home.write("a.ico"_s, lyingIcon(encoded("png")));
-        for (const QString &image : {path, icon}) {
+        for (const QString &image : {home.write("a.png"_s, encoded("png")),
+                                     home.write("states less.ico"_s, lyingIcon(encoded("png")))}) {
             QCOMPARE(loadImage(image, 64 * 48).size(), QSize(64, 48));
             QVERIFY(loadImage(image, 64 * 48 - 1).isNull());
         }

@@ -19,14 +19,13 @@ private slots:
     void listsEveryDirectoryWithCursors()
     {
         const TemporaryHome home;
-        const ScopedEnvironment path("XCURSOR_PATH",
-                                     QFile::encodeName(home.path(QStringLiteral("extra"))) + ":~/.icons");
-        home.write(QStringLiteral(".icons/Described/cursor.theme"), "[Icon Theme]\nInherits=x\n");
+        const ScopedEnvironment path("XCURSOR_PATH", QFile::encodeName(home.path("extra"_s)) + ":~/.icons");
+        home.write(".icons/Described/cursor.theme"_s, "[Icon Theme]\nInherits=x\n");
         for (const char *theme : {".icons/Described", ".icons/WithoutIndex", "extra/OnPath",
                                   "extra/WithoutIndex", ".local/share/icons/InData"})
             QVERIFY(home.makeDirectory(QLatin1String(theme) + QLatin1String("/cursors")));
-        home.write(QStringLiteral(".icons/IconsOnly/index.theme"), "[Icon Theme]\nDirectories=a\n");
-        home.write(QStringLiteral(".icons/File/cursors"), "not a directory");
+        home.write(".icons/IconsOnly/index.theme"_s, "[Icon Theme]\nDirectories=a\n");
+        home.write(".icons/File/cursors"_s, "not a directory");
         ThemeDirectories directories(cursorSearchPath());
         const QByteArrayList names = cursorThemeNames(directories);
         for (const char *listed : {"InData", "OnPath", "Described", "WithoutIndex"})
@@ -39,12 +38,12 @@ private slots:
     {
         const TemporaryHome home;
         const ScopedEnvironment path("XCURSOR_PATH", "~/.icons");
-        home.write(QStringLiteral(".icons/A/cursors/left_ptr"), "x");
-        home.write(QStringLiteral(".icons/A/index.theme"), "[Icon Theme]\nInherits=A;B, C\n");
-        home.write(QStringLiteral(".icons/B/index.theme"), "[Icon Theme]\nInherits=A\n");
-        home.write(QStringLiteral(".icons/C/cursors/watch"), "x");
-        home.write(QStringLiteral(".icons/default/cursors/xterm"), "x");
-        const QByteArray icons = QFile::encodeName(home.path(QStringLiteral(".icons/")));
+        home.write(".icons/A/cursors/left_ptr"_s, "x");
+        home.write(".icons/A/index.theme"_s, "[Icon Theme]\nInherits=A;B, C\n");
+        home.write(".icons/B/index.theme"_s, "[Icon Theme]\nInherits=A\n");
+        home.write(".icons/C/cursors/watch"_s, "x");
+        home.write(".icons/default/cursors/xterm"_s, "x");
+        const QByteArray icons = QFile::encodeName(home.path(".icons/"_s));
         ThemeDirectories directories(cursorSearchPath());
         QCOMPARE(cursorFile(directories, "B", "left_ptr"), icons + "A/cursors/left_ptr");
         QCOMPARE(cursorFile(directories, "A", "watch"), icons + "C/cursors/watch");

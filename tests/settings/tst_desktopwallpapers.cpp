@@ -8,11 +8,7 @@
 
 #include <sys/stat.h>
 
-namespace {
-
-const QString first = "Desktops/Desktop1/.directory"_s;
-
-} // namespace
+static const QString first = "Desktops/Desktop1/.directory"_s;
 
 class TestDesktopWallpapers : public QObject
 {
@@ -38,19 +34,18 @@ private slots:
         const QByteArray content = "[Desktop Entry]\nX-QAZ-WallPaper=a\n";
         const QString stripped[] = {first, "Desktops/Desktop/.directory"_s,
                                     "Desktops/Desktop 22 b/.directory"_s};
-        const QString kept[] = {"Desktops/desktop1/.directory"_s, "Desktops/MyDesktop/.directory"_s,
-                                "Desktops/.directory"_s, "Desktops/Desktop1/other"_s,
-                                "Desktops/Desktop1/sub/.directory"_s};
+        const QString kept[] = {"Desktops/DesktopFile"_s,          "Desktops/desktop1/.directory"_s,
+                                "Desktops/MyDesktop/.directory"_s, "Desktops/.directory"_s,
+                                "Desktops/Desktop1/other"_s,       "Desktops/Desktop1/sub/.directory"_s};
         for (const QString &file : stripped)
             home.write(file, content);
         for (const QString &file : kept)
             home.write(file, content);
         // None of these may stop the others or make the program wait.
-        home.write("Desktops/DesktopFile"_s, content);
-        QVERIFY(home.makeDirectory("Desktops/DesktopDir/.directory"_s));
-        QVERIFY(home.makeDirectory("Desktops/DesktopFifo"_s));
-        const QByteArray fifo = QFile::encodeName(home.path("Desktops/DesktopFifo/.directory"_s));
-        QCOMPARE(::mkfifo(fifo.constData(), 0600), 0);
+        QVERIFY(home.makeDirectory("Desktops/DesktopDir/.directory"_s)
+                && home.makeDirectory("Desktops/DesktopFifo"_s));
+        QCOMPARE(
+            ::mkfifo(QFile::encodeName(home.path("Desktops/DesktopFifo/.directory"_s)).constData(), 0600), 0);
 
         removeDesktopWallpapers();
         for (const QString &file : stripped)

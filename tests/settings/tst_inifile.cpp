@@ -34,14 +34,11 @@ private slots:
             {{}, "/width"_s, "width=1\n[Qt]\nwidth=2\n", "width=new\n[Qt]\nwidth=2\n"},
             {{},
              "width"_s,
-             "[general]\nheight=1\n[%General]\nwidth=2\n",
-             "[general]\nheight=1\nwidth=new\n[%General]\nwidth=2\n"},
+             "[general]\nx=1\n[%General]\nwidth=2\n",
+             "[general]\nx=1\nwidth=new\n[%General]\nwidth=2\n"},
             {"general"_s, "width"_s, "[General]\nwidth=1\n", "[General]\nwidth=1\n[%general]\nwidth=new\n"},
             {{}, "width"_s, "[Qt]\nx=1\n", "[Qt]\nx=1\n[General]\nwidth=new\n"},
-            {{},
-             "/Qt/font"_s,
-             "[Qt]\nfont=\"Sans,10,-1\"\nembedFonts=true\n",
-             "[Qt]\nfont=new\nembedFonts=true\n"},
+            {{}, "/Qt/font"_s, "[Qt]\nfont=\"Sans,10\"\nb=true\n", "[Qt]\nfont=new\nb=true\n"},
             {"a b"_s, "ä/字+c"_s, "[a%20b]\n", "[a%20b]\n%E4\\%U5B57%2Bc=new\n"},
             {"a b"_s, "ä/字+c"_s, "[a b]\n%e4\\%u5B57=0\n%E4\\%U5B57+c=1",
              "[a b]\n%e4\\%u5B57=0\n%E4\\%U5B57+c=new"},
@@ -58,7 +55,6 @@ private slots:
             QVERIFY2(writeIniValues(path, row.group, {{row.key, "new"_s}}, &error), qPrintable(error));
             QCOMPARE(home.read("f"_s), row.after);
             const QSettings after(home.write("copy"_s, row.after), QSettings::IniFormat);
-            QCOMPARE(after.value(name).toString(), "new"_s);
             others.insert(name.startsWith(u'/') ? name.mid(1) : name, "new"_s);
             QCOMPARE(after.allKeys(), QStringList(others.keys()));
             for (const QString &key : after.allKeys())
@@ -77,9 +73,7 @@ private slots:
                                 "a;b=c"_s,
                                 "\"q\" \\"_s,
                                 "@Point(1 2)"_s,
-                                "\x01"
-                                "1f\a\b\t\n\v\f\r\x1f"
-                                "az\x7f"_s,
+                                "\x01\x31\x66\a\b\t\n\v\f\r\x1f\x61z\x7f"_s,
                                 "äa€1字g😀"_s,
                                 "%1 #x"_s};
         for (const QString &text : texts)
@@ -116,10 +110,9 @@ private slots:
         const QByteArray printed = errors.take();
         ::setrlimit(RLIMIT_FSIZE, &usual);
         QCOMPARE(results, (QStringList{"File too large"_s, "Not a regular file"_s}));
-        QCOMPARE(printed, "qaz-admin-theme: Can't write " + QFile::encodeName(path)
-                              + ": File too large\n"
-                                "qaz-admin-theme: Can't write "
-                              + QFile::encodeName(fifo) + ": Not a regular file\n");
+        const QString expected
+            = "qaz-admin-theme: Can't write %1: %3\nqaz-admin-theme: Can't write %2: %4\n"_s;
+        QCOMPARE(QString::fromUtf8(printed), expected.arg(path, fifo, results.at(0), results.at(1)));
         QCOMPARE(home.fingerprint(), before);
     }
 

@@ -35,55 +35,50 @@ private slots:
         QCOMPARE(fitFromWord("stretch"_s), Fit::Center);
     }
 
-    void storedTextsAreRead_data()
-    {
-        QTest::addColumn<QString>("form");
-        QTest::addColumn<QString>("read");
-        const auto row = [](const char *text, const char *form, const char *read) {
-            QTest::newRow(text) << QString::fromLatin1(form) << QString::fromLatin1(read);
-        };
-        row("Verdana-10:bold:italic", "role", "Verdana 10 75 1");
-        row("Verdana-10:normal", "role", "Verdana 10 50 0");
-        row("Verdana-10", "role", "Verdana 10 50 0");
-        row("Verdana-9:Bold:Italic", "role", "Verdana 9 50 0");
-        row("Noto-Sans-10:bold:", "role", "Noto 12 75 0"); // no size: the toolkit's
-        row("a*b::", "role", "a*b 12 50 0");
-        row("Noto-Sans-10:normal", "", "Default 7 50 0");
-        row("Verdana*", "", "Default 7 50 0");
-        row("Verdana", "", "Default 7 50 0");
-        row("", "", "Default 7 50 0");
-        row("Verdana-*", "xlfd", "Default 7 50 0");
-        row("-misc-fixed-medium-r-normal--13-120-75-75-c-70-iso8859-1", "xlfd", "Default 7 50 0");
-    }
     void storedTextsAreRead()
     {
-        const QString text = QString::fromLatin1(QTest::currentDataTag());
-        QTEST(QLatin1String(isXlfdName(text) ? "xlfd" : "") + QLatin1String(isFontText(text) ? "role" : ""),
-              "form");
-        const QFont font = storedRoleFont(text, QFont(QStringLiteral("Default"), 7));
-        const QString numbers = QStringLiteral(" %1 %2 %3");
-        QTEST(font.family() + numbers.arg(font.pointSize()).arg(font.weight()).arg(font.italic()), "read");
+        // Stored, its form, and family, size, weight and italic of the font; "Default 7" when none is read.
+        const std::tuple<QString, const char *, QString> rows[] = {
+            {"Verdana-10:bold:italic"_s, "role", "Verdana 10 75 1"_s},
+            {"Verdana-10"_s, "role", "Verdana 10 50 0"_s},
+            {"Verdana-9:Bold:Italic"_s, "role", "Verdana 9 50 0"_s},
+            {"Noto-Sans-10:bold:"_s, "role", "Noto 12 75 0"_s}, // no size: the toolkit's
+            {"a*b::"_s, "role", "a*b 12 50 0"_s},
+            {"Noto-Sans-10:normal"_s, "", "Default 7 50 0"_s},
+            {"Verdana*"_s, "", "Default 7 50 0"_s},
+            {""_s, "", "Default 7 50 0"_s},
+            {"Verdana-*"_s, "xlfd", "Default 7 50 0"_s},
+            {"-misc-fixed-medium-r-normal--13-120-75-75-c-70-iso8859-1"_s, "xlfd", "Default 7 50 0"_s}};
+        for (const auto &[text, form, read] : rows) {
+            QCOMPARE(QByteArray(isXlfdName(text) ? "xlfd" : "") + (isFontText(text) ? "role" : ""),
+                     QByteArray(form));
+            const QFont font = storedRoleFont(text, QFont("Default"_s, 7));
+            QCOMPARE("%1 %2 %3 %4"_s.arg(font.family())
+                         .arg(font.pointSize())
+                         .arg(font.weight())
+                         .arg(font.italic()),
+                     read);
+        }
     }
 
     void writtenTextsTellTheResolvedFont()
     {
         const QString sans = "DejaVu Sans"_s, mono = "DejaVu Sans Mono"_s;
-        QCOMPARE(fontToText(QFont(sans, 10)), QStringLiteral("DejaVu Sans-10:normal"));
-        QCOMPARE(fontToText(QFont(mono, 9, QFont::Bold, true)),
-                 QStringLiteral("DejaVu Sans Mono-9:bold:italic"));
+        QCOMPARE(fontToText(QFont(sans, 10)), "DejaVu Sans-10:normal"_s);
+        QCOMPARE(fontToText(QFont(mono, 9, QFont::Bold, true)), "DejaVu Sans Mono-9:bold:italic"_s);
         // Too large to resolve: the request is kept.
-        QCOMPARE(fontToText(QFont(sans, 100000)), QStringLiteral("DejaVu Sans-100000:normal"));
-        const QFont missing(QStringLiteral("No such family"), 11, QFont::Bold);
+        QCOMPARE(fontToText(QFont(sans, 100000)), "DejaVu Sans-100000:normal"_s);
+        const QFont missing("No such family"_s, 11, QFont::Bold);
         QCOMPARE(fontToText(missing), QFontInfo(missing).family() + QLatin1String("-11:bold"));
     }
 
     void familiesAreShownWithTheirFoundry()
     {
-        const auto shown = [](const char *family) { return familyDisplayName(QString::fromLatin1(family)); };
-        QCOMPARE(shown(" DejaVu Sans"), QStringLiteral("DejaVu Sans"));
-        QCOMPARE(shown("Nimbus Sans [ URW ]"), QStringLiteral("Nimbus Sans[URW]"));
-        QCOMPARE(shown("Fixed [misc"), QStringLiteral("Fixed[misc]"));
-        QCOMPARE(shown("Fixed []"), QStringLiteral("Fixed"));
+        QString shown;
+        for (const QString &family :
+             {" DejaVu Sans"_s, "Nimbus Sans [ URW ]"_s, "Fixed [misc"_s, "Fixed []"_s})
+            shown += familyDisplayName(family) + u'|';
+        QCOMPARE(shown, "DejaVu Sans|Nimbus Sans[URW]|Fixed[misc]|Fixed|"_s);
     }
 };
 
