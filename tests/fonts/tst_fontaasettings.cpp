@@ -1,6 +1,6 @@
 #include "fonts/fontaasettings.h"
 #include "fonts/subpixelswatch.h"
-#include "resources/registerresources.h"
+#include "tests/support/literals.h"
 #include "tests/support/modaldriver.h"
 #include "tests/support/temporaryhome.h"
 
@@ -11,12 +11,11 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QSettings>
-#include <QTextBrowser>
 #include <QtTest>
 
 namespace {
 
-const QString place = QStringLiteral(".config/fontconfig/fonts.conf");
+const QString place = ".config/fontconfig/fonts.conf"_s;
 
 QByteArray value(const char *name, const char *tag, const char *text)
 {
@@ -38,8 +37,8 @@ public:
     explicit DialogOverFile(const QByteArray &elements)
     {
         write(elements);
-        QCoreApplication::setOrganizationName(QStringLiteral("qaz"));
-        QCoreApplication::setApplicationName(QStringLiteral("qaz-admin-theme"));
+        QCoreApplication::setOrganizationName("qaz"_s);
+        QCoreApplication::setApplicationName("qaz-admin-theme"_s);
         dialog = std::make_unique<FontAASettings>(nullptr);
     }
 
@@ -72,17 +71,17 @@ public:
         for (const auto &[name, property] : parts) {
             const auto *widget = find<QWidget>(name);
             const QString text = widget->property(property).toString();
-            texts += widget->isEnabled() ? text : QLatin1Char('(') + text + QLatin1Char(')');
+            texts += widget->isEnabled() ? text : u'(' + text + u')';
         }
-        return texts.join(QLatin1Char(' '));
+        return texts.join(u' ');
     }
     /// The sub-pixel order, the anti-aliasing and the hint style of the program's own settings.
     static QString stored()
     {
         QStringList texts;
         for (const char *key : {"XftSubPixel", "XftAntialias", "XftHintStyle"})
-            texts += QSettings().value(QLatin1String(key), QStringLiteral("-")).toString();
-        return texts.join(QLatin1Char(' '));
+            texts += QSettings().value(QLatin1String(key), "-"_s).toString();
+        return texts.join(u' ');
     }
 
     const TemporaryHome home;
@@ -98,12 +97,12 @@ private slots:
     void emptyFileShowsTheDefaults()
     {
         DialogOverFile file({});
-        QCOMPARE(file.shown(), QStringLiteral("false false (0.0 pix) (14.0 pix) (RGB) Medium"));
+        QCOMPARE(file.shown(), "false false (0.0 pix) (14.0 pix) (RGB) Medium"_s);
         QVERIFY(!file.find<QLabel>("excludeToLabel")->isEnabled());
         QVERIFY(!file.ok()->isEnabled());
         QVERIFY(file.dialog->isModal());
         // A style that is not set is stored at once, the file stays.
-        QCOMPARE(DialogOverFile::stored(), QStringLiteral("- - hintmedium"));
+        QCOMPARE(DialogOverFile::stored(), "- - hintmedium"_s);
         QCOMPARE(file.home.read(place), QByteArray("<?xml version=\"1.0\"?>\n<fontconfig>\n</fontconfig>\n"));
 
         QStringList texts;
@@ -111,8 +110,7 @@ private slots:
             for (int i = 0; i < 4; ++i)
                 texts += file.find<QComboBox>(name)->itemText(i);
         }
-        QCOMPARE(texts.join(QLatin1Char('|')),
-                 QStringLiteral("RGB|BGR|Vertical RGB|Vertical BGR|None|Slight|Medium|Full"));
+        QCOMPARE(texts.join(u'|'), "RGB|BGR|Vertical RGB|Vertical BGR|None|Slight|Medium|Full"_s);
         QVERIFY(!file.find<QComboBox>("subPixelTypeCombo")->itemIcon(3).isNull());
     }
 
@@ -121,17 +119,17 @@ private slots:
         DialogOverFile file(pixelRange("8", "15") + value("rgba", "const", "vbgr")
                             + value("hintstyle", "const", "hintslight")
                             + value("antialias", "bool", "false"));
-        QCOMPARE(file.shown(), QStringLiteral("true true 8.0 pix 15.0 pix Vertical BGR Slight"));
+        QCOMPARE(file.shown(), "true true 8.0 pix 15.0 pix Vertical BGR Slight"_s);
         QVERIFY(!file.dialog->load());
-        QCOMPARE(DialogOverFile::stored(), QStringLiteral("- - -"));
+        QCOMPARE(DialogOverFile::stored(), "- - -"_s);
 
         file.write(value("antialias", "bool", "true"));
         QVERIFY(file.dialog->load());
-        QCOMPARE(file.shown(), QStringLiteral("false false (0.0 pix) (14.0 pix) (Vertical BGR) Medium"));
+        QCOMPARE(file.shown(), "false false (0.0 pix) (14.0 pix) (Vertical BGR) Medium"_s);
         QVERIFY(!file.ok()->isEnabled()); // what was read is no edit
 
         file.dialog->defaults();
-        QCOMPARE(file.shown(), QStringLiteral("true false 0.0 pix 14.0 pix (Vertical BGR) Medium"));
+        QCOMPARE(file.shown(), "true false 0.0 pix 14.0 pix (Vertical BGR) Medium"_s);
 
         file.write(pixelRange("0", "14.04")); // shows as the default's 14, which is meant exactly
         file.dialog->load();
@@ -154,14 +152,14 @@ private slots:
         for (const char *part : {"<const>bgr</const>", "<const>hintfull</const>", "<double>9.5</double>",
                                  "name=\"antialias\">\n      <bool>true</bool>"})
             QVERIFY2(content.contains(part), content.constData());
-        QCOMPARE(DialogOverFile::stored(), QStringLiteral("bgr true hintfull"));
+        QCOMPARE(DialogOverFile::stored(), "bgr true hintfull"_s);
         QVERIFY(!file.save(true)); // nothing new
 
         file.find<QCheckBox>("useSubPixelCheckBox")->click();
         file.find<QCheckBox>("excludeRangeCheckBox")->click();
         QVERIFY(file.save(false));
         QVERIFY(!file.home.read(place).contains("rgba") && !file.home.read(place).contains("double"));
-        QCOMPARE(DialogOverFile::stored(), QStringLiteral("none false hintfull"));
+        QCOMPARE(DialogOverFile::stored(), "none false hintfull"_s);
     }
 
     void rangeThatWasNotEditedStays()
@@ -185,7 +183,7 @@ private slots:
             file.dialog->load();
             QVERIFY(!file.save(true)); // the edit was taken back
             toBox->selectAll();
-            QTest::keyClicks(toBox, QStringLiteral("48")); // what is shown already, but now on purpose
+            QTest::keyClicks(toBox, "48"_s); // what is shown already, but now on purpose
             QVERIFY(file.save(true));
             const QByteArray content = file.home.read(place);
             QVERIFY2(content.contains("<double>8.3</double>") && content.contains("<double>48</double>"),
@@ -214,36 +212,14 @@ private slots:
         QVERIFY(driver.isDone());
     }
 
-    void helpCanBeReadBesideTheDialog()
-    {
-        registerResources();
-        DialogOverFile file({});
-        ModalDriver driver;
-        driver.then([](QDialog *dialog) {
-            QTest::keyClick(dialog, Qt::Key_F1);
-            QTextBrowser *help = nullptr;
-            for (QWidget *window : QApplication::topLevelWidgets()) {
-                if (window->objectName() == QLatin1String("helpWindow"))
-                    help = qobject_cast<QTextBrowser *>(window);
-            }
-            QVERIFY(help && help->isVisible());
-            QCOMPARE(help->source().fragment(), QStringLiteral("antialiasing"));
-            QCOMPARE(dialog->windowModality(), Qt::WindowModal); // which leaves the help alone
-            help->close();
-            dialog->reject();
-        });
-        file.dialog->exec();
-        QVERIFY(driver.isDone());
-    }
-
     void unknownNamesHaveAFallback()
     {
-        QCOMPARE(FontRendering::fileName(SubPixelOrder::VerticalRgb), QStringLiteral("vrgb"));
-        QCOMPARE(FontRendering::fileName(SubPixelOrder(7)), QStringLiteral("none"));
-        QCOMPARE(FontRendering::fileName(HintStyle(-1)), QStringLiteral("hintmedium"));
-        QCOMPARE(FontRendering::fileName(HintStyle::NotSet), QStringLiteral("hintmedium"));
-        QCOMPARE(FontRendering::subPixelOrder(QStringLiteral("RGB")), SubPixelOrder::None);
-        QCOMPARE(FontRendering::hintStyle(QString()), HintStyle::NotSet);
+        QCOMPARE(FontRendering::fileName(SubPixelOrder::VerticalRgb), "vrgb"_s);
+        QCOMPARE(FontRendering::fileName(SubPixelOrder(7)), "none"_s);
+        QCOMPARE(FontRendering::fileName(HintStyle(-1)), "hintmedium"_s);
+        QCOMPARE(FontRendering::fileName(HintStyle::NotSet), "hintmedium"_s);
+        QCOMPARE(FontRendering::subPixelOrder("RGB"_s), SubPixelOrder::None);
+        QCOMPARE(FontRendering::hintStyle({}), HintStyle::NotSet);
     }
 
     void swatchesShowTheStripes()
@@ -258,7 +234,7 @@ private slots:
                 stripes += QLatin1Char(most == color.red() ? 'r' : most == color.green() ? 'g' : 'b');
             }
         }
-        QCOMPARE(stripes, QStringLiteral("rgbbgrrgbbgr"));
+        QCOMPARE(stripes, "rgbbgrrgbbgr"_s);
     }
 };
 

@@ -3,6 +3,7 @@
 #include "fonts/fontuseitem.h"
 #include "platform/qazsettings.h"
 #include "tests/support/fakeprogram.h"
+#include "tests/support/literals.h"
 #include "tests/support/modaldriver.h"
 #include "tests/support/temporaryhome.h"
 #include "tests/support/wmlistener.h"
@@ -19,10 +20,10 @@
 
 namespace {
 
-const QString messageBox = QStringLiteral(
-    "Font Settings Changed|<p>Some changes such as anti-aliasing or DPI will only affect newly started "
-    "applications.</p>");
-const QFont mono(QStringLiteral("DejaVu Sans Mono"), 12, QFont::Bold);
+const QString messageBox
+    = "Font Settings Changed|<p>Some changes such as anti-aliasing or DPI will only affect newly started "
+      "applications.</p>"_s;
+const QFont mono("DejaVu Sans Mono"_s, 12, QFont::Bold);
 
 constexpr struct {
     const char *key;
@@ -45,7 +46,7 @@ class Editor
 {
 public:
     explicit Editor(const TemporaryHome &home)
-        : m_themeFile(home.path(QStringLiteral("theme")))
+        : m_themeFile(home.path("theme"_s))
     {
         load();
     }
@@ -53,7 +54,7 @@ public:
     void load() { run(&FontPage::loadValues); }
     void save() { run(&FontPage::saveValues); }
     FontUseItem *role(const char *key) const { return page.findChild<FontUseItem *>(QLatin1String(key)); }
-    QComboBox *antiAliasing() const { return page.findChild<QComboBox *>(QStringLiteral("aaComboBox")); }
+    QComboBox *antiAliasing() const { return page.findChild<QComboBox *>("aaComboBox"_s); }
     QSpinBox *dpi() const { return page.findChild<QSpinBox *>(); }
     QPushButton *button(const char *name) const { return page.findChild<QPushButton *>(QLatin1String(name)); }
     /// As a user's choice: the index and the notice of it.
@@ -82,11 +83,8 @@ class TestFontPage : public QObject
 {
     Q_OBJECT
 private slots:
-    void initTestCase() { QCoreApplication::setOrganizationName(QStringLiteral("qaz")); }
-    void init()
-    {
-        QProcess::execute(QStringLiteral("xrdb"), {QStringLiteral("-quiet"), QStringLiteral("-remove")});
-    }
+    void initTestCase() { QCoreApplication::setOrganizationName("qaz"_s); }
+    void init() { QProcess::execute("xrdb"_s, {"-quiet"_s, "-remove"_s}); }
 
     void rolesStandInTheirOrder()
     {
@@ -95,7 +93,7 @@ private slots:
         int size = 6;
         for (const auto &role : roles)
             theme += QByteArray(role.key) + "=DejaVu Sans-" + QByteArray::number(size++) + ":bold\n";
-        home.write(QStringLiteral("theme"), theme);
+        home.write("theme"_s, theme);
         const Editor editor(home);
         QVERIFY(editor.page.loaded);
         const QList<FontUseItem *> items = editor.page.findChildren<FontUseItem *>();
@@ -103,11 +101,10 @@ private slots:
         for (int i = 0; i < items.size(); ++i) {
             QCOMPARE(items.at(i)->objectName(), QLatin1String(roles[i].key));
             const auto *preview = items.at(i)->findChild<QLabel *>();
-            QCOMPARE(preview->text(), QStringLiteral("DejaVu Sans %1").arg(6 + i));
+            QCOMPARE(preview->text(), "DejaVu Sans %1"_s.arg(6 + i));
             const QString name = QLatin1String(roles[i].label);
-            QCOMPARE(preview->toolTip(), QStringLiteral("Preview of the \"%1\" font").arg(name));
-            const auto *label = editor.page.findChild<QLabel *>(items.at(i)->objectName()
-                                                                + QLatin1String("Label"));
+            QCOMPARE(preview->toolTip(), "Preview of the \"%1\" font"_s.arg(name));
+            const auto *label = editor.page.findChild<QLabel *>(items.at(i)->objectName() + "Label"_s);
             QCOMPARE(label->text(), name);
             QCOMPARE(label->whatsThis(), QLatin1String(roles[i].help));
             items.at(i)->restoreDefault();
@@ -120,17 +117,17 @@ private slots:
     {
         const TemporaryHome home;
         WmListener manager;
-        home.write(QStringLiteral("theme"), "TitleFont=DejaVu Sans-10:normal\nTooltipFont=no font\n");
+        home.write("theme"_s, "TitleFont=DejaVu Sans-10:normal\nTooltipFont=no font\n");
         Editor editor(home);
         editor.save();
-        const QByteArray saved = home.read(QStringLiteral("theme"));
+        const QByteArray saved = home.read("theme"_s);
         QStringList announced;
         for (const QString &command : manager.take())
-            announced.append(command.section(QLatin1Char(' '), 0, 1));
+            announced.append(command.section(u' ', 0, 1));
         QStringList expected;
         for (const auto &role : roles) {
             QVERIFY2(saved.contains(QByteArray(role.key) + "=DejaVu Sans"), saved.constData());
-            expected.append(QLatin1String("QAZWM_UPDATE_VAL ") + QLatin1String(role.key));
+            expected.append("QAZWM_UPDATE_VAL "_s + QLatin1String(role.key));
         }
         expected.removeAt(1); // the title's font is the stored one
         QCOMPARE(announced, expected);
@@ -143,9 +140,9 @@ private slots:
     void generalFontBecomesTheToolkitsDefault()
     {
         const TemporaryHome home;
-        home.write(QStringLiteral("theme"), "DefaultFont=DejaVu Sans-10:normal\n");
+        home.write("theme"_s, "DefaultFont=DejaVu Sans-10:normal\n");
         Editor editor(home);
-        const QString file = QStringLiteral(".config/Trolltech.conf");
+        const QString file = ".config/Trolltech.conf"_s;
         editor.role("TitleFont")->applyChosenFont(mono);
         editor.save();
         QVERIFY2(!home.exists(file), home.read(file).constData());
@@ -155,8 +152,7 @@ private slots:
         QVERIFY(home.read(file).startsWith("; mine\n[Qt]\nstyle=x, y\nfont=\"DejaVu Sans Mono,12,"));
         QVERIFY(home.read(file).endsWith("\"\n[Other]\nfont=z\n"));
         const QSettings toolkit(home.path(file), QSettings::IniFormat);
-        QCOMPARE(toolkit.value(QStringLiteral("Qt/font")).toString(),
-                 editor.role("DefaultFont")->font().toString());
+        QCOMPARE(toolkit.value("Qt/font"_s).toString(), editor.role("DefaultFont")->font().toString());
     }
 
     void editsAreAnnounced()
@@ -187,7 +183,7 @@ private slots:
     {
         const TemporaryHome home;
         const Editor editor(home);
-        QCOMPARE(editor.dpi()->text(), QStringLiteral("Disabled"));
+        QCOMPARE(editor.dpi()->text(), "Disabled"_s);
         // One row after the other: each depends on where the last snap went.
         const QPair<int, int> steps[] = {{50, 70}, {40, 0},    {69, 70}, {70, 70},
                                          {1, 0},   {120, 120}, {1, 70},  {60, 0}};
@@ -196,9 +192,9 @@ private slots:
             QCOMPARE(editor.dpi()->value(), shown);
         }
         editor.dpi()->stepUp();
-        QCOMPARE(editor.dpi()->text(), QStringLiteral("70dpi"));
+        QCOMPARE(editor.dpi()->text(), "70dpi"_s);
         editor.dpi()->stepDown();
-        QCOMPARE(editor.dpi()->text(), QStringLiteral("Disabled"));
+        QCOMPARE(editor.dpi()->text(), "Disabled"_s);
         // The remembered value is shared: a second page goes on where the first one ended.
         editor.dpi()->setValue(30);
         const Editor other(home);
@@ -209,7 +205,7 @@ private slots:
     void typedDpiIsForced()
     {
         const TemporaryHome home;
-        home.write(QStringLiteral(".Xresources"), "A.a: 1\n");
+        home.write(".Xresources"_s, "A.a: 1\n");
         Editor editor(home);
         editor.save();
         WmListener manager;
@@ -218,14 +214,13 @@ private slots:
         QSignalSpy changed(&editor.page, &FontPage::changedSignal);
         auto *line = editor.dpi()->findChild<QLineEdit *>();
         line->selectAll();
-        QTest::keyClicks(line, QStringLiteral("120"));
+        QTest::keyClicks(line, "120"_s);
         QVERIFY2(!changed.isEmpty(), "typing is an edit before the field is left");
         editor.save();
         QCOMPARE(driver.seen(), QStringList(messageBox));
-        QCOMPARE(home.read(QStringLiteral(".Xresources")), QByteArray("A.a: 1\nXft.dpi: 120\n"));
-        QCOMPARE(QSettings().value(QStringLiteral("forceFontDPI")).toInt(), 120);
-        QCOMPARE(manager.take(),
-                 QStringList(QStringLiteral("QAZWM_UPDATE_VAL XftSettings 120 unknown rgb hintmedium")));
+        QCOMPARE(home.read(".Xresources"_s), QByteArray("A.a: 1\nXft.dpi: 120\n"));
+        QCOMPARE(QSettings().value("forceFontDPI"_s).toInt(), 120);
+        QCOMPARE(manager.take(), QStringList("QAZWM_UPDATE_VAL XftSettings 120 unknown rgb hintmedium"_s));
         editor.save();
         QVERIFY(driver.isDone());
         QCOMPARE(manager.take(), QStringList());
@@ -233,7 +228,7 @@ private slots:
 
     void fileMadeForTheDpiGoesWithIt()
     {
-        const QString file = QStringLiteral(".Xresources");
+        const QString file = ".Xresources"_s;
         for (const bool isOurs : {true, false}) {
             const TemporaryHome home;
             if (!isOurs)
@@ -253,12 +248,12 @@ private slots:
     void dpiIsNoLongerForced()
     {
         const TemporaryHome home;
-        const QString resources = home.write(QStringLiteral(".Xresources"), "Xft.dpi: 119.9\nA.a: 1\n");
-        const QString xrdb = QStringLiteral("xrdb");
-        QProcess::execute(xrdb, {QStringLiteral("-merge"), resources});
-        QSettings().setValue(QStringLiteral("forceFontDPI"), 120);
+        const QString resources = home.write(".Xresources"_s, "Xft.dpi: 119.9\nA.a: 1\n");
+        const QString xrdb = "xrdb"_s;
+        QProcess::execute(xrdb, {"-merge"_s, resources});
+        QSettings().setValue("forceFontDPI"_s, 120);
         Editor editor(home);
-        QCOMPARE(editor.dpi()->text(), QStringLiteral("119dpi"));
+        QCOMPARE(editor.dpi()->text(), "119dpi"_s);
         FakePrograms programs;
         programs.add(xrdb, "[ \"$1\" = -merge ] || cat >>\"$HOME/removed\"");
         ModalDriver driver;
@@ -271,33 +266,31 @@ private slots:
         editor.dpi()->setValue(0);
         editor.save();
         QVERIFY(driver.isDone());
-        QCOMPARE(home.read(QStringLiteral(".Xresources")), QByteArray("A.a: 1\n"));
+        QCOMPARE(home.read(".Xresources"_s), QByteArray("A.a: 1\n"));
         QCOMPARE(programs.calls(xrdb).size(), 3);
-        QCOMPARE(home.read(QStringLiteral("removed")), QByteArray("Xft.dpi\nXft.dpi\n"));
+        QCOMPARE(home.read("removed"_s), QByteArray("Xft.dpi\nXft.dpi\n"));
     }
 
     void systemSettingsRemoveTheUsersFiles()
     {
         const TemporaryHome home;
-        const QString files[] = {QStringLiteral(".fonts.conf"),
-                                 QStringLiteral(".config/fontconfig/fonts.conf")};
+        const QString files[] = {".fonts.conf"_s, ".config/fontconfig/fonts.conf"_s};
         for (const QString &file : files)
             home.write(file, "<?xml version=\"1.0\"?>\n<fontconfig><!-- mine --></fontconfig>\n");
         Editor editor(home);
-        QCOMPARE(editor.antiAliasing()->currentText(), QStringLiteral("System Settings"));
+        QCOMPARE(editor.antiAliasing()->currentText(), "System Settings"_s);
         editor.save();
         QVERIFY(!home.exists(files[0]) && !home.exists(files[1]));
-        const QDir backups(home.path(QStringLiteral(".local/state/qaz/backup")));
-        QCOMPARE(backups.entryList({QStringLiteral("*fonts.conf")}, QDir::Files | QDir::Hidden).size(), 2);
-        QCOMPARE(QSettings().value(QStringLiteral("dontChangeAASettings")).toString(),
-                 QStringLiteral("true"));
+        const QDir backups(home.path(".local/state/qaz/backup"_s));
+        QCOMPARE(backups.entryList({"*fonts.conf"_s}, QDir::Files | QDir::Hidden).size(), 2);
+        QCOMPARE(QSettings().value("dontChangeAASettings"_s).toString(), "true"_s);
     }
 
     void failureIsToldAndStaysEdited()
     {
         const TemporaryHome home;
         Editor editor(home);
-        const QString place = QStringLiteral(".config/fontconfig/fonts.conf");
+        const QString place = ".config/fontconfig/fonts.conf"_s;
         QVERIFY(home.makeDirectory(place));
         editor.chooseAntiAliasing(2);
         QSignalSpy changed(&editor.page, &KFonts::changed);
@@ -306,11 +299,9 @@ private slots:
             ModalDriver driver;
             driver.thenAnswer(QMessageBox::Ok);
             editor.save();
-            QCOMPARE(driver.seen(),
-                     QStringList(QStringLiteral("Error|The font settings could not be saved in the "
-                                                "file '%1': Is a directory")
-                                     .arg(home.path(place))));
-            QVERIFY(!QSettings().contains(QStringLiteral("XftAntialias")));
+            QCOMPARE(driver.seen(), QStringList("Error|The font settings could not be saved in the "
+                                                "file '%1': Is a directory"_s.arg(home.path(place))));
+            QVERIFY(!QSettings().contains("XftAntialias"_s));
             QTRY_VERIFY(changed.last().value(0).toBool());
         }
         QVERIFY(QDir().rmdir(home.path(place)));
@@ -334,9 +325,8 @@ private slots:
             editor.save();
             QCOMPARE(driver.seen(), QStringList(messageBox));
             QCOMPARE(manager.take().constLast(),
-                     QStringLiteral("QAZWM_UPDATE_VAL XftSettings 0 %1 none hintmedium")
-                         .arg(QLatin1String(words[mode])));
-            const QByteArray file = home.read(QStringLiteral(".config/fontconfig/fonts.conf"));
+                     "QAZWM_UPDATE_VAL XftSettings 0 %1 none hintmedium"_s.arg(QLatin1String(words[mode])));
+            const QByteArray file = home.read(".config/fontconfig/fonts.conf"_s);
             QCOMPARE(file.isEmpty(), mode == 1);
             QVERIFY2(mode == 1 || file.contains(mode == 0 ? "<bool>true</bool>" : "<bool>false</bool>"),
                      file.constData());
@@ -358,7 +348,7 @@ private slots:
         driver.thenReject();
         editor.button("adjustAllButton")->click();
         for (const FontUseItem *item : editor.page.findChildren<FontUseItem *>())
-            QCOMPARE(item->findChild<QLabel *>()->text(), QStringLiteral("DejaVu Sans Mono 12"));
+            QCOMPARE(item->findChild<QLabel *>()->text(), "DejaVu Sans Mono 12"_s);
         QSignalSpy changed(&editor.page, &KFonts::changed);
         editor.button("adjustAllButton")->click();
         QVERIFY(driver.isDone());

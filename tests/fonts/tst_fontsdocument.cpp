@@ -1,4 +1,5 @@
 #include "tests/fonts/corpus.h"
+#include "tests/support/literals.h"
 
 namespace {
 
@@ -71,9 +72,9 @@ private slots:
         QFETCH(QByteArray, content);
         const QByteArray before = parsed(content).withChanges({});
         const FontsDocument document = parsed(
-            parsed(content).withChanges({{-1, directoryForm(QStringLiteral("/added/ü"), {}), -1}}));
+            parsed(content).withChanges({{-1, directoryForm("/added/ü"_s, {}), -1}}));
         QCOMPARE(document.children().size(), parsed(content).children().size() + 1);
-        QCOMPARE(document.children().last().item->text, QStringLiteral("/added/ü"));
+        QCOMPARE(document.children().last().item->text, "/added/ü"_s);
         const QByteArray after = document.withChanges({{document.children().size() - 1, {}, -1}});
         QCOMPARE(foreignPieces(after), foreignPieces(before));
         if (before.contains("\n</fontconfig>"))
@@ -90,9 +91,9 @@ private slots:
 
     void elementIsReplacedInPlace()
     {
-        const QString bgr = valueForm(Kind::SubPixel, QStringLiteral("bgr"));
-        const QString rgb = valueForm(Kind::SubPixel, QStringLiteral("rgb"));
-        const QString slight = valueForm(Kind::HintStyle, QStringLiteral("hintslight"));
+        const QString bgr = valueForm(Kind::SubPixel, "bgr"_s);
+        const QString rgb = valueForm(Kind::SubPixel, "rgb"_s);
+        const QString slight = valueForm(Kind::HintStyle, "hintslight"_s);
         QCOMPARE(
             replaced("unknown-content", Kind::SubPixel, rgb),
             expected("unknown-content",
@@ -109,7 +110,7 @@ private slots:
 
     void newFileIsWhole()
     {
-        const QString form = valueForm(Kind::AntiAliasing, QStringLiteral("true"));
+        const QString form = valueForm(Kind::AntiAliasing, "true"_s);
         const QByteArray expected = "<?xml version=\"1.0\"?>\n<!DOCTYPE fontconfig SYSTEM \"fonts.dtd\">\n"
                                     "<fontconfig>\n  <match target=\"font\">\n"
                                     "    <edit mode=\"assign\" name=\"antialias\">\n      <bool>true</bool>\n"
@@ -190,44 +191,43 @@ private slots:
 
     void rangesAgree()
     {
-        QCOMPARE(agreed({}, {}), QStringLiteral("0-0 0-0 0"));
-        QCOMPARE(agreed({1, 2}, {8, 15}), QStringLiteral("6-11 8-15 1")); // pixels win
-        QCOMPARE(agreed({6, 11}, {8, 15}), QStringLiteral("6-11 8-15 1"));
-        QCOMPARE(agreed({6, 11}, {}), QStringLiteral("6-11 8-15 1"));
-        QCOMPARE(agreed({6, 11}, {}, 120), QStringLiteral("6-11 10-18 1"));
-        QCOMPARE(agreed({}, {8.4, 15.5}, 72), QStringLiteral("8-16 8.4-15.5 1"));
-        QCOMPARE(agreed({0, 0.3}, {}), QStringLiteral("0-0.3 0-0 0")); // less than a pixel
-        QCOMPARE(agreed({}, {8, 1e300}, 72), QStringLiteral("8-1e+300 8-1e+300 1"));
+        QCOMPARE(agreed({}, {}), "0-0 0-0 0"_s);
+        QCOMPARE(agreed({1, 2}, {8, 15}), "6-11 8-15 1"_s); // pixels win
+        QCOMPARE(agreed({6, 11}, {8, 15}), "6-11 8-15 1"_s);
+        QCOMPARE(agreed({6, 11}, {}), "6-11 8-15 1"_s);
+        QCOMPARE(agreed({6, 11}, {}, 120), "6-11 10-18 1"_s);
+        QCOMPARE(agreed({}, {8.4, 15.5}, 72), "8-16 8.4-15.5 1"_s);
+        QCOMPARE(agreed({0, 0.3}, {}), "0-0.3 0-0 0"_s); // less than a pixel
+        QCOMPARE(agreed({}, {8, 1e300}, 72), "8-1e+300 8-1e+300 1"_s);
     }
 
     void formsOfElements()
     {
         QCOMPARE(excludeForm(Kind::ExcludePixels, {8, 14.12345678}),
-                 QStringLiteral(
-                     "<match target=\"font\">\n"
-                     "\t<test qual=\"any\" name=\"pixelsize\" compare=\"more_eq\">\n"
-                     "\t\t<double>8</double>\n\t</test>\n"
-                     "\t<test qual=\"any\" name=\"pixelsize\" compare=\"less_eq\">\n"
-                     "\t\t<double>14.1235</double>\n\t</test>\n\t<edit mode=\"assign\" name=\"antialias\">\n"
-                     "\t\t<bool>false</bool>\n\t</edit>\n</match>"));
-        const QString home = QStringLiteral("/home/me");
-        QCOMPARE(directoryForm(home + QLatin1String("/a&b/"), home), QStringLiteral("<dir>~/a&amp;b</dir>"));
-        QCOMPARE(directoryForm(home + QLatin1String("lon/"), home), QStringLiteral("<dir>/home/melon</dir>"));
-        QCOMPARE(directoryFormOfPath(QStringLiteral("~//fonts"), home), QStringLiteral("/home/me/fonts/"));
-        QCOMPARE(reading(QStringLiteral("<dir>~//fonts</dir>")), QStringLiteral("0 ~//fonts 0-0"));
+                 "<match target=\"font\">\n"
+                 "\t<test qual=\"any\" name=\"pixelsize\" compare=\"more_eq\">\n"
+                 "\t\t<double>8</double>\n\t</test>\n"
+                 "\t<test qual=\"any\" name=\"pixelsize\" compare=\"less_eq\">\n"
+                 "\t\t<double>14.1235</double>\n\t</test>\n\t<edit mode=\"assign\" name=\"antialias\">\n"
+                 "\t\t<bool>false</bool>\n\t</edit>\n</match>"_s);
+        const QString home = "/home/me"_s;
+        QCOMPARE(directoryForm(home + "/a&b/"_s, home), "<dir>~/a&amp;b</dir>"_s);
+        QCOMPARE(directoryForm(home + "lon/"_s, home), "<dir>/home/melon</dir>"_s);
+        QCOMPARE(directoryFormOfPath("~//fonts"_s, home), "/home/me/fonts/"_s);
+        QCOMPARE(reading("<dir>~//fonts</dir>"_s), "0 ~//fonts 0-0"_s);
     }
 
     void boundsMayStandInAnyOrder()
     {
         const auto match = [](const char *compare, const char *value, const char *otherCompare) {
-            const QString form = QStringLiteral(
-                "<match target='font'><test qual='any' name='size' compare='%1'><double>%2</double></test>"
-                "<test qual='any' name='size' compare='%3'><double>3</double></test>"
-                "<edit mode='assign' name='antialias'><bool>false</bool></edit></match>");
+            const QString form
+                = "<match target='font'><test qual='any' name='size' compare='%1'><double>%2</double></test>"
+                  "<test qual='any' name='size' compare='%3'><double>3</double></test>"
+                  "<edit mode='assign' name='antialias'><bool>false</bool></edit></match>"_s;
             return reading(
                 form.arg(QLatin1String(compare), QLatin1String(value), QLatin1String(otherCompare)));
         };
-        QCOMPARE(match("less", "9", "more"), QStringLiteral("5  3-9"));
+        QCOMPARE(match("less", "9", "more"), "5  3-9"_s);
         QVERIFY(match("less", "9", "less_eq").isEmpty());
         QVERIFY(match("less", "9", "eq").isEmpty());
         QVERIFY(match("less", "nan", "more").isEmpty());

@@ -1,6 +1,7 @@
 #include "fonts/fontsfile.h"
 
 #include "settings/directories.h"
+#include "tests/support/literals.h"
 #include "tests/support/temporaryhome.h"
 
 #include <QtTest>
@@ -11,7 +12,7 @@
 
 namespace {
 
-const QString place = QStringLiteral(".config/fontconfig/fonts.conf");
+const QString place = ".config/fontconfig/fonts.conf"_s;
 
 } // namespace
 
@@ -19,35 +20,27 @@ class TestFontsFile : public QObject
 {
     Q_OBJECT
 private slots:
-    void lockOfAKilledProgramGoes_data()
-    {
-        QTest::addColumn<QByteArray>("owner"); // null: the lock is a directory
-        QTest::addColumn<int>("age");          // seconds
-        QTest::addColumn<bool>("goes");
-        QTest::newRow("its process has ended") << QByteArray("999999999\n") << 5 << true;
-        QTest::newRow("its process hangs") << QByteArray::number(::getpid()) << 500 << false;
-        QTest::newRow("its number was given out again") << QByteArray::number(::getpid()) << 700 << true;
-        QTest::newRow("an old one of nobody") << QByteArray("") << 70 << true;
-        QTest::newRow("an old directory") << QByteArray() << 3600 << true;
-    }
     void lockOfAKilledProgramGoes()
     {
-        QFETCH(QByteArray, owner);
-        QFETCH(int, age);
-        QFETCH(bool, goes);
-        const TemporaryHome home;
-        home.write(place, "<fontconfig/>\n");
-        const QString lock = place + QLatin1String(".LCK");
-        if (owner.isNull())
-            QVERIFY(home.makeDirectory(lock));
-        else
-            home.write(lock, owner);
-        timespec times[2] = {};
-        times[0].tv_sec = times[1].tv_sec = ::time(nullptr) - age;
-        QCOMPARE(::utimensat(AT_FDCWD, QFile::encodeName(home.path(lock)).constData(), times, 0), 0);
-        const FontsFileLock held(home.path(place));
-        QTEST(held.isHeld(), "goes");
-        QCOMPARE(held.error(), goes ? QString() : QStringLiteral("Another program has locked it"));
+        const struct {
+            const char *what;
+            QByteArray owner; // null: the lock is a directory
+            int age;          // seconds
+        } rows[] = {{"its process has ended", "999999999\n", 5},
+                    {"its number was given out again", QByteArray::number(::getpid()), 700},
+                    {"an old one of nobody", "", 70},
+                    {"an old directory", {}, 3600}};
+        for (const auto &row : rows) {
+            const TemporaryHome home;
+            home.write(place, "<fontconfig/>\n");
+            const QString lock = place + ".LCK"_s;
+            QVERIFY(row.owner.isNull() ? home.makeDirectory(lock) : !home.write(lock, row.owner).isEmpty());
+            timespec times[2] = {};
+            times[0].tv_sec = times[1].tv_sec = ::time(nullptr) - row.age;
+            QCOMPARE(::utimensat(AT_FDCWD, QFile::encodeName(home.path(lock)).constData(), times, 0), 0);
+            const FontsFileLock held(home.path(place));
+            QVERIFY2(held.isHeld() && held.error().isEmpty(), row.what);
+        }
     }
 
     void overtakenReplacementLeavesTheFile()
@@ -70,25 +63,23 @@ private slots:
         const QString local = file("system/local.conf");
         const QString other = file(".config/fontconfig/conf.d/10-mine.conf");
         const QString own = file(".fonts.conf");
-        const QString snippets = home.path(QStringLiteral(".config/fontconfig/conf.d"));
+        const QString snippets = home.path(".config/fontconfig/conf.d"_s);
         QCOMPARE(chooseFontsFile({other, own}, false), own);
-        QCOMPARE(chooseFontsFile({other, home.path(QStringLiteral("missing"))}, false), other);
+        QCOMPARE(chooseFontsFile({other, home.path("missing"_s)}, false), other);
         QCOMPARE(chooseFontsFile({main, local}, true), local);
-        QCOMPARE(chooseFontsFile({main, snippets, local}, true),
-                 snippets + QLatin1String("/29-qaz-rendering.conf"));
-        QCOMPARE(chooseFontsFile({home.path()}, true), QStringLiteral("/etc/fonts/local.conf"));
+        QCOMPARE(chooseFontsFile({main, snippets, local}, true), snippets + "/29-qaz-rendering.conf"_s);
+        QCOMPARE(chooseFontsFile({home.path()}, true), "/etc/fonts/local.conf"_s);
 
         // A home of the same beginning is another home.
-        QVERIFY(home.makeDirectory(QStringLiteral("me")));
+        QVERIFY(home.makeDirectory("me"_s));
         const QString neighbour = file("menu/fonts.conf");
         const ScopedEnvironment inner("HOME", qgetenv("HOME") + "/me");
         QCOMPARE(chooseFontsFile({main, own, neighbour}, false), home.path(place));
         const ScopedEnvironment unset("XDG_CONFIG_HOME", {});
-        QCOMPARE(chooseFontsFile({}, false), home.path(QStringLiteral("me/.config/fontconfig/fonts.conf")));
+        QCOMPARE(chooseFontsFile({}, false), home.path("me/.config/fontconfig/fonts.conf"_s));
 
         const ScopedEnvironment homeless("HOME", {}); // the password database knows a home
-        QCOMPARE(userFontsFile(),
-                 directoryPath(DirectoryKind::Home) + QLatin1String("/.config/fontconfig/fonts.conf"));
+        QCOMPARE(userFontsFile(), directoryPath(DirectoryKind::Home) + "/.config/fontconfig/fonts.conf"_s);
     }
 };
 

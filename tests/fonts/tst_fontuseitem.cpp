@@ -2,6 +2,7 @@
 
 #include "fonts/nearestfont.h"
 #include "settings/rolefonttext.h"
+#include "tests/support/literals.h"
 
 #include <QFontDatabase>
 #include <QFontInfo>
@@ -11,14 +12,14 @@
 
 namespace {
 
-const QString sans = QStringLiteral("DejaVu Sans");
-const QString mono = QStringLiteral("DejaVu Sans Mono");
+const QString sans = "DejaVu Sans"_s;
+const QString mono = "DejaVu Sans Mono"_s;
 
 class TitleItem : public FontUseItem
 {
 public:
     explicit TitleItem(const QFont &font, bool onlyFixed = false)
-        : FontUseItem(nullptr, QStringLiteral("Title"), QStringLiteral("TitleFont"), font, onlyFixed)
+        : FontUseItem(nullptr, "Title"_s, "TitleFont"_s, font, onlyFixed)
     {
         restoreDefault();
     }
@@ -47,10 +48,9 @@ private slots:
              {QFont(sans, 10), QFont(sans, 11, QFont::Bold), QFont(mono, 47, QFont::Bold)}) {
             const QFont nearest = nearestInstalledFont(font);
             QCOMPARE(fontToText(nearest), fontToText(font));
-            QVERIFY2(!QFontInfo(nearest).styleName().contains(QLatin1String("Condensed")),
-                     qPrintable(nearest.toString()));
+            QVERIFY2(!QFontInfo(nearest).styleName().contains("Condensed"_s), qPrintable(nearest.toString()));
         }
-        const QFont substitute = nearestInstalledFont(QFont(QStringLiteral("No such family"), 13));
+        const QFont substitute = nearestInstalledFont(QFont("No such family"_s, 13));
         QVERIFY2(QFontDatabase().families().contains(substitute.family()), qPrintable(substitute.family()));
         QCOMPARE(substitute.pointSize(), 13);
     }
@@ -70,15 +70,15 @@ private slots:
             const QStringList styles = database.styles(family);
             if (styles.size() == 1 && database.isSmoothlyScalable(family)
                 && !database.bold(family, styles.first()) && !database.italic(family, styles.first())
-                && !family.contains(QLatin1Char('-')))
+                && !family.contains(u'-'))
                 slim = family;
         }
-        const QString text = slim + QLatin1String("-10") + style;
+        const QString text = slim + "-10"_s + style;
         TitleItem item(storedRoleFont(text, QFont(sans, 7)));
         QCOMPARE(fontToText(item.font()), text);
         const QFontInfo shown(item.findChild<QLabel *>()->font());
-        QCOMPARE(shown.bold(), style.contains(QLatin1String("bold")));
-        QCOMPARE(shown.italic(), style.contains(QLatin1String("italic")));
+        QCOMPARE(shown.bold(), style.contains("bold"_s));
+        QCOMPARE(shown.italic(), style.contains("italic"_s));
     }
 
     void chosenFontArrivesInEveryRole_data()
@@ -86,7 +86,7 @@ private slots:
         QTest::addColumn<QFont>("chosen");
         QTest::addColumn<QString>("text");
         const auto row = [](const char *name, const QFont &chosen, const char *text) {
-            QTest::newRow(name) << chosen << QLatin1String("DejaVu Sans Mono-") + QLatin1String(text);
+            QTest::newRow(name) << chosen << "DejaVu Sans Mono-"_s + QLatin1String(text);
         };
         row("bold and italic", QFont(mono, 13, QFont::Bold, true), "13:bold:italic");
         row("light counts as normal", QFont(mono, 8, QFont::Light), "8:normal");
@@ -95,7 +95,7 @@ private slots:
         font.setStyle(QFont::StyleOblique);
         row("oblique counts as italic", font, "9:normal:italic");
         font = QFont(mono, 9, QFont::Bold);
-        font.setStyleName(QStringLiteral("Bold"));
+        font.setStyleName("Bold"_s);
         row("with a style name", font, "9:bold");
     }
     void chosenFontArrivesInEveryRole()
@@ -109,7 +109,7 @@ private slots:
 
         TitleItem fixed(chosen, true);
         fixed.applyChosenFont(QFont(sans, 20));
-        QCOMPARE(fontToText(fixed.font()), QStringLiteral("DejaVu Sans Mono-20:normal"));
+        QCOMPARE(fontToText(fixed.font()), "DejaVu Sans Mono-20:normal"_s);
     }
 
     void previewNeverWidensThePage()
@@ -117,7 +117,7 @@ private slots:
         TitleItem item(QFont(sans, 10));
         const QSize before = item.minimumSizeHint();
         item.setFont(QFont(mono, 200), false);
-        QCOMPARE(item.findChild<QLabel *>()->text(), QStringLiteral("DejaVu Sans Mono 200"));
+        QCOMPARE(item.findChild<QLabel *>()->text(), "DejaVu Sans Mono 200"_s);
         QCOMPARE(item.minimumSizeHint().width(), before.width());
         QVERIFY(item.minimumSizeHint().height() <= 2 * before.height());
         QVERIFY(item.sizeHint().height() > 200);

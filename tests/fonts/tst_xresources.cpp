@@ -3,6 +3,7 @@
 #include "freedesktop/xresources.h"
 #include "settings/renderingstore.h"
 #include "tests/support/fakeprogram.h"
+#include "tests/support/literals.h"
 #include "tests/support/standarderror.h"
 #include "tests/support/temporaryhome.h"
 
@@ -27,12 +28,12 @@ QByteArray run(const char *program, const QStringList &arguments, const QByteArr
 /// The server's resources, one a line with a single blank after the colon.
 QByteArray serverResources()
 {
-    return run("xrdb", {QStringLiteral("-query")}).replace(":\t", ": ");
+    return run("xrdb", {"-query"_s}).replace(":\t", ": ");
 }
 
 void loadServer(const QByteArray &resources)
 {
-    run("xrdb", {QStringLiteral("-load"), QStringLiteral("-nocpp")}, resources);
+    run("xrdb", {"-load"_s, "-nocpp"_s}, resources);
 }
 
 void forceDpi(int dpi)
@@ -46,7 +47,7 @@ class TestXResources : public QObject
 {
     Q_OBJECT
 private slots:
-    void initTestCase() { QCoreApplication::setOrganizationName(QStringLiteral("qaz")); }
+    void initTestCase() { QCoreApplication::setOrganizationName("qaz"_s); }
 
     void storedChoices_data()
     {
@@ -80,7 +81,7 @@ private slots:
     {
         const TemporaryHome home;
         QFETCH(QByteArray, stored);
-        const QString store = home.write(QStringLiteral("store"), stored);
+        const QString store = home.write("store"_s, stored);
         QTEST(xftResourceLines(store).toLatin1(), "lines");
         QTEST(xftSettingsCommand(store), "command");
     }
@@ -116,7 +117,7 @@ private slots:
             const QByteArray text = row.text;
             QVERIFY2((withXresource(text, "Xft.dpi", {}) != text) == row.holdsDpi, row.what);
             loadServer(text);
-            const QByteArray seen = '\n' + run("xrdb", {QStringLiteral("-query")});
+            const QByteArray seen = '\n' + run("xrdb", {"-query"_s});
             QVERIFY2(seen.contains("\nXft.dpi:\t") == row.holdsDpi, row.what);
         }
         QCOMPARE(withXresource("Xft.dpi: 1\\\n20\nA.b: 1\n", "Xft.dpi", {}), QByteArray("A.b: 1\n"));
@@ -149,10 +150,10 @@ private slots:
         QFETCH(QByteArray, xdefaults);
         QFETCH(int, dpi);
         if (!xresources.isNull())
-            home.write(QStringLiteral(".Xresources"), xresources);
+            home.write(".Xresources"_s, xresources);
         if (!xdefaults.isNull())
-            home.write(QStringLiteral(".Xdefaults"), xdefaults);
-        home.write(QStringLiteral(".included"), "A.in: 1\n");
+            home.write(".Xdefaults"_s, xdefaults);
+        home.write(".included"_s, "A.in: 1\n");
         forceDpi(dpi);
         loadServer("Other.one: x\nXft.dpi: 99\n");
         applyXResources(exportXftSettings);
@@ -169,10 +170,10 @@ private slots:
         }
         QCOMPARE(serverResources(), QByteArray("A.a: 1\n"));
 
-        QCOMPARE(::mkfifo(QFile::encodeName(home.path(QStringLiteral(".Xresources"))).constData(), 0600), 0);
+        QCOMPARE(::mkfifo(QFile::encodeName(home.path(".Xresources"_s)).constData(), 0600), 0);
         forceDpi(130);
-        const QString directory = QStringLiteral("with blank; exit");
-        home.write(directory + QLatin1String("/.Xresources"), "B.b: 2\n");
+        const QString directory = "with blank; exit"_s;
+        home.write(directory + "/.Xresources"_s, "B.b: 2\n");
         const QByteArray odd = QFile::encodeName(home.path(directory));
         const ScopedEnvironment temporary("TMPDIR", odd);
         applyXResources(exportXftSettings);
@@ -190,23 +191,22 @@ private slots:
     {
         const TemporaryHome home;
         FakePrograms programs;
-        const QString xrdb = QStringLiteral("xrdb");
+        const QString xrdb = "xrdb"_s;
         programs.add(xrdb, "[ \"$1\" = -merge ] && { cat \"$2\"; stat -c '! %a' \"$2\"; } >\"$HOME/merged\"");
-        home.write(QStringLiteral(".Xresources"), "A.a: 1\n");
+        home.write(".Xresources"_s, "A.a: 1\n");
         QSettings().setValue(QLatin1String(RenderingKey::antialias), true);
         applyXResources(exportXftSettings);
-        QCOMPARE(home.read(QStringLiteral("merged")), QByteArray("A.a: 1\nXft.antialias: 1\n! 600\n"));
+        QCOMPARE(home.read("merged"_s), QByteArray("A.a: 1\nXft.antialias: 1\n! 600\n"));
         applyXResources(0);
-        QCOMPARE(home.read(QStringLiteral("merged")), QByteArray("A.a: 1\n! 600\n"));
+        QCOMPARE(home.read("merged"_s), QByteArray("A.a: 1\n! 600\n"));
         const QVector<QStringList> calls = programs.calls(xrdb);
         QCOMPARE(calls.size(), 3);
-        QCOMPARE(calls.at(0).join(QLatin1Char(' ')), QStringLiteral("-quiet -remove -nocpp"));
-        QCOMPARE(calls.at(1).value(0), QStringLiteral("-merge"));
-        QVERIFY2(calls.at(1).value(1).startsWith(home.path(QStringLiteral(".qaz-"))),
-                 "beside the user's file");
+        QCOMPARE(calls.at(0).join(u' '), "-quiet -remove -nocpp"_s);
+        QCOMPARE(calls.at(1).value(0), "-merge"_s);
+        QVERIFY2(calls.at(1).value(1).startsWith(home.path(".qaz-"_s)), "beside the user's file");
         QVERIFY2(!QFile::exists(calls.at(1).value(1)), "the merged file is temporary");
         const QByteArray property = "_QT_SETTINGS_TIMESTAMP_" + qgetenv("DISPLAY");
-        const QByteArray stamp = run("xprop", {QStringLiteral("-root"), QString::fromLocal8Bit(property)});
+        const QByteArray stamp = run("xprop", {"-root"_s, QString::fromLocal8Bit(property)});
         QVERIFY2(stamp.startsWith(property + '(' + property + ") = 0x"), stamp.constData());
     }
 };
