@@ -25,21 +25,17 @@ const QString messageBox
       "applications.</p>"_s;
 const QFont mono("DejaVu Sans Mono"_s, 12, QFont::Bold);
 
-constexpr struct {
-    const char *key;
-    const char *label;
-    const char *help;
-} roles[] = {{"DefaultFont", "General", "Default."},
-             {"TitleFont", "Title", "Window titles."},
-             {"StartMenuFont", "Start Menu", "Start menu."},
-             {"CascadeMenuFont", "Cascade Menu", "Cascade menus, context menus."},
-             {"CtrlMenuFont", "Control Menu", "Control menus."},
-             {"DialogFont", "Dialog", "Dialogs."},
-             {"TaskbarFont", "Taskbar", "Taskbar."},
-             {"TaskbarBoldFont", "Taskbar bold", "Taskbar bold."},
-             {"TaskbarClockFont", "Taskbar clock", "Taskbar clock."},
-             {"IconFont", "Icon", "Icons."},
-             {"TooltipFont", "Tooltip", "Tooltips."}};
+constexpr const char *roles[][3] = {{"DefaultFont", "General", "Default."},
+                                    {"TitleFont", "Title", "Window titles."},
+                                    {"StartMenuFont", "Start Menu", "Start menu."},
+                                    {"CascadeMenuFont", "Cascade Menu", "Cascade menus, context menus."},
+                                    {"CtrlMenuFont", "Control Menu", "Control menus."},
+                                    {"DialogFont", "Dialog", "Dialogs."},
+                                    {"TaskbarFont", "Taskbar", "Taskbar."},
+                                    {"TaskbarBoldFont", "Taskbar bold", "Taskbar bold."},
+                                    {"TaskbarClockFont", "Taskbar clock", "Taskbar clock."},
+                                    {"IconFont", "Icon", "Icons."},
+                                    {"TooltipFont", "Tooltip", "Tooltips."}};
 
 /// The page as the dialog uses it: a fresh store on the theme file for each load and save.
 class Editor
@@ -92,21 +88,21 @@ private slots:
         QByteArray theme;
         int size = 6;
         for (const auto &role : roles)
-            theme += QByteArray(role.key) + "=DejaVu Sans-" + QByteArray::number(size++) + ":bold\n";
+            theme += QByteArray(role[0]) + "=DejaVu Sans-" + QByteArray::number(size++) + ":bold\n";
         home.write("theme"_s, theme);
         const Editor editor(home);
         QVERIFY(editor.page.loaded);
         const QList<FontUseItem *> items = editor.page.findChildren<FontUseItem *>();
         QCOMPARE(items.size(), 11);
         for (int i = 0; i < items.size(); ++i) {
-            QCOMPARE(items.at(i)->objectName(), QLatin1String(roles[i].key));
+            QCOMPARE(items.at(i)->objectName(), QLatin1String(roles[i][0]));
             const auto *preview = items.at(i)->findChild<QLabel *>();
             QCOMPARE(preview->text(), "DejaVu Sans %1"_s.arg(6 + i));
-            const QString name = QLatin1String(roles[i].label);
+            const QString name = QLatin1String(roles[i][1]);
             QCOMPARE(preview->toolTip(), "Preview of the \"%1\" font"_s.arg(name));
             const auto *label = editor.page.findChild<QLabel *>(items.at(i)->objectName() + "Label"_s);
             QCOMPARE(label->text(), name);
-            QCOMPARE(label->whatsThis(), QLatin1String(roles[i].help));
+            QCOMPARE(label->whatsThis(), QLatin1String(roles[i][2]));
             items.at(i)->restoreDefault();
             QCOMPARE(items.at(i)->font().bold(), i == 7);
             QCOMPARE(items.at(i)->font().pointSize(), 10);
@@ -126,8 +122,8 @@ private slots:
             announced.append(command.section(u' ', 0, 1));
         QStringList expected;
         for (const auto &role : roles) {
-            QVERIFY2(saved.contains(QByteArray(role.key) + "=DejaVu Sans"), saved.constData());
-            expected.append("QAZWM_UPDATE_VAL "_s + QLatin1String(role.key));
+            QVERIFY2(saved.contains(QByteArray(role[0]) + "=DejaVu Sans"), saved.constData());
+            expected.append("QAZWM_UPDATE_VAL "_s + QLatin1String(role[0]));
         }
         expected.removeAt(1); // the title's font is the stored one
         QCOMPARE(announced, expected);

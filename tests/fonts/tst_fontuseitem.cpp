@@ -55,15 +55,8 @@ private slots:
         QCOMPARE(substitute.pointSize(), 13);
     }
 
-    void missingFacesAreMadeUp_data()
-    {
-        QTest::addColumn<QString>("style");
-        for (const char *style : {":normal", ":bold", ":normal:italic", ":bold:italic"})
-            QTest::newRow(style) << QString::fromLatin1(style);
-    }
     void missingFacesAreMadeUp()
     {
-        QFETCH(QString, style);
         const QFontDatabase database;
         QString slim; // a family of one plain face
         for (const QString &family : database.families()) {
@@ -73,43 +66,38 @@ private slots:
                 && !family.contains(u'-'))
                 slim = family;
         }
-        const QString text = slim + "-10"_s + style;
-        TitleItem item(storedRoleFont(text, QFont(sans, 7)));
-        QCOMPARE(fontToText(item.font()), text);
-        const QFontInfo shown(item.findChild<QLabel *>()->font());
-        QCOMPARE(shown.bold(), style.contains("bold"_s));
-        QCOMPARE(shown.italic(), style.contains("italic"_s));
+        for (const QString &style : {":normal"_s, ":bold"_s, ":normal:italic"_s, ":bold:italic"_s}) {
+            const QString text = slim + "-10"_s + style;
+            TitleItem item(storedRoleFont(text, QFont(sans, 7)));
+            QCOMPARE(fontToText(item.font()), text);
+            const QFontInfo shown(item.findChild<QLabel *>()->font());
+            QCOMPARE(shown.bold(), style.contains("bold"_s));
+            QCOMPARE(shown.italic(), style.contains("italic"_s));
+        }
     }
 
-    void chosenFontArrivesInEveryRole_data()
-    {
-        QTest::addColumn<QFont>("chosen");
-        QTest::addColumn<QString>("text");
-        const auto row = [](const char *name, const QFont &chosen, const char *text) {
-            QTest::newRow(name) << chosen << "DejaVu Sans Mono-"_s + QLatin1String(text);
-        };
-        row("bold and italic", QFont(mono, 13, QFont::Bold, true), "13:bold:italic");
-        row("light counts as normal", QFont(mono, 8, QFont::Light), "8:normal");
-        row("from 58 on it is bold", QFont(mono, 9, 58), "9:bold");
-        QFont font(mono, 9);
-        font.setStyle(QFont::StyleOblique);
-        row("oblique counts as italic", font, "9:normal:italic");
-        font = QFont(mono, 9, QFont::Bold);
-        font.setStyleName("Bold"_s);
-        row("with a style name", font, "9:bold");
-    }
     void chosenFontArrivesInEveryRole()
     {
-        QFETCH(QFont, chosen);
-        TitleItem item(QFont(sans, 10));
-        QSignalSpy selected(&item, &FontUseItem::fontSelected);
-        item.applyChosenFont(chosen);
-        QTEST(fontToText(item.font()), "text");
-        QCOMPARE(selected.size(), 1);
+        QFont oblique(mono, 9);
+        oblique.setStyle(QFont::StyleOblique);
+        QFont named(mono, 9, QFont::Bold);
+        named.setStyleName("Bold"_s);
+        const QPair<QFont, const char *> rows[] = {{QFont(mono, 13, QFont::Bold, true), "13:bold:italic"},
+                                                   {QFont(mono, 8, QFont::Light), "8:normal"},
+                                                   {QFont(mono, 9, 58), "9:bold"},
+                                                   {oblique, "9:normal:italic"},
+                                                   {named, "9:bold"}};
+        for (const auto &[chosen, text] : rows) {
+            TitleItem item(QFont(sans, 10));
+            QSignalSpy selected(&item, &FontUseItem::fontSelected);
+            item.applyChosenFont(chosen);
+            QCOMPARE(fontToText(item.font()), "DejaVu Sans Mono-"_s + QLatin1String(text));
+            QCOMPARE(selected.size(), 1);
 
-        TitleItem fixed(chosen, true);
-        fixed.applyChosenFont(QFont(sans, 20));
-        QCOMPARE(fontToText(fixed.font()), "DejaVu Sans Mono-20:normal"_s);
+            TitleItem fixed(chosen, true);
+            fixed.applyChosenFont(QFont(sans, 20));
+            QCOMPARE(fontToText(fixed.font()), "DejaVu Sans Mono-20:normal"_s);
+        }
     }
 
     void previewNeverWidensThePage()
