@@ -18,6 +18,7 @@ private slots:
             {"K=600\n", "0"_s, 300, "K=300\n"},
             {"K=600\n", "0"_s, 600, "K=600\n"},
             {"", "600"_s, 600, ""},
+            {"", "600"_s, -5, "K=-5\n"},
             {"K=abc\n", "7"_s, 0, "K=abc\n"},
             {"K=true\n", "false"_s, true, "K=true\n"},
             {"K=True\n", "false"_s, true, "K=True\n"},

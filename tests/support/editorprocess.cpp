@@ -1,13 +1,10 @@
 #include "tests/support/editorprocess.h"
 
-#include <QCoreApplication>
+#include "tests/support/literals.h"
+
 #include <QElapsedTimer>
 
-namespace {
-
-constexpr int patienceMs = 60000; // a loaded machine is no fault of the program
-
-} // namespace
+static constexpr int patienceMs = 60000; // a loaded machine is no fault of the program
 
 EditorProcess::EditorProcess(const QStringList &arguments)
 {
@@ -17,25 +14,22 @@ EditorProcess::EditorProcess(const QStringList &arguments)
 
 EditorProcess::~EditorProcess()
 {
-    if (m_process.state() != QProcess::NotRunning) {
-        m_process.kill();
-        m_process.waitForFinished();
-    }
+    m_process.kill();
+    m_process.waitForFinished();
 }
 
 bool EditorProcess::waitForWindow(const QString &title)
 {
     QElapsedTimer timer;
     timer.start();
-    const QString pid = QString::number(m_process.processId());
+    const QString search = "search --onlyvisible --all --pid %1 --name"_s.arg(m_process.processId());
     m_window.clear();
     while (m_window.isEmpty() && m_process.state() == QProcess::Running && !timer.hasExpired(patienceMs)) {
-        const QString search = QStringLiteral("search --onlyvisible --all --pid %1 --name").arg(pid);
-        m_window = xdotool(search.split(QLatin1Char(' ')) << title);
+        m_window = xdotool(search.split(u' ') << title);
         m_process.waitForFinished(20);
     }
     if (!m_window.isEmpty())
-        xdotool({QStringLiteral("windowfocus"), QStringLiteral("--sync"), m_window});
+        xdotool({"windowfocus"_s, "--sync"_s, m_window});
     return !m_window.isEmpty();
 }
 
@@ -48,19 +42,19 @@ int EditorProcess::exitCode()
 QString EditorProcess::xdotool(const QStringList &arguments)
 {
     QProcess tool;
-    tool.start(QStringLiteral("xdotool"), arguments);
+    tool.start("xdotool"_s, arguments);
     tool.waitForFinished(patienceMs);
     return QString::fromUtf8(tool.readAllStandardOutput()).trimmed();
 }
 
 void EditorProcess::press(const char *keys)
 {
-    xdotool((QLatin1String("key --clearmodifiers ") + QLatin1String(keys)).split(QLatin1Char(' ')));
+    xdotool((QLatin1String("key --clearmodifiers ") + QLatin1String(keys)).split(u' '));
 }
 
 QString EditorProcess::title() const
 {
-    return xdotool({QStringLiteral("getwindowname"), m_window});
+    return xdotool({"getwindowname"_s, m_window});
 }
 
 QString EditorProcess::errors()

@@ -3,37 +3,26 @@
 #include <QFile>
 #include <QStringList>
 
-namespace {
-
-QByteArray searchPath(const QString &directory, FakePrograms::Path path)
-{
-    const QByteArray own = QFile::encodeName(directory);
-    return path == FakePrograms::Path::Instead ? own : own + ':' + qgetenv("PATH");
-}
-
-} // namespace
-
 FakePrograms::FakePrograms(Path path)
-    : m_path("PATH", searchPath(m_directory.path(), path))
+    : m_path("PATH", QFile::encodeName(m_directory.path())
+                         + (path == Path::Instead ? QByteArray() : ':' + qgetenv("PATH")))
 {}
 
 void FakePrograms::add(const QString &name, const QByteArray &script)
 {
-    const QByteArray log = QFile::encodeName(m_directory.path() + QLatin1Char('/') + name
-                                             + QLatin1String(".calls"));
-    QFile file(m_directory.path() + QLatin1Char('/') + name);
+    QFile file(m_directory.path() + u'/' + name);
     if (!file.open(QIODevice::WriteOnly))
         qFatal("Can't write %s", qPrintable(file.fileName()));
     // One record a call: each argument ended by a unit separator, the record by a record separator.
-    file.write("#!/bin/sh\n{ [ $# -eq 0 ] || printf '%s\\037' \"$@\"; printf '\\036'; } >>'" + log + "'\n"
-               + script + "\n");
+    file.write("#!/bin/sh\n{ [ $# -eq 0 ] || printf '%s\\037' \"$@\"; printf '\\036'; } >>'"
+               + QFile::encodeName(file.fileName()) + ".calls'\n" + script + "\n");
     file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
 }
 
 QVector<QStringList> FakePrograms::calls(const QString &name) const
 {
     QVector<QStringList> result;
-    QFile file(m_directory.path() + QLatin1Char('/') + name + QLatin1String(".calls"));
+    QFile file(m_directory.path() + u'/' + name + QLatin1String(".calls"));
     if (!file.open(QIODevice::ReadOnly))
         return result;
     QStringList records = QString::fromLocal8Bit(file.readAll()).split(QChar(0x1e));

@@ -46,12 +46,11 @@ void makeCursorTheme(const TemporaryHome &home, const QString &path, const QColo
 
 void makeIconTheme(const TemporaryHome &home, const QString &path, const QColor &color)
 {
-    home.write(
-        path + QLatin1String("/index.theme"),
-        "[Icon Theme]\nDirectories=p,a\n[p]\nSize=32\nContext=Places\n[a]\nSize=32\nContext=Applications\n");
+    home.write(path + QLatin1String("/index.theme"), "[Icon Theme]\nDirectories=p,a\n[p]\nSize=32\n"
+                                                     "Context=Places\n[a]\nSize=32\nContext=Applications\n");
     const QByteArray icon = encoded({32, 32}, color, "PNG");
     for (const char *name : {"p/user-home", "p/user-trash", "p/user-desktop", "a/preferences-system-time"})
-        home.write(path + QLatin1Char('/') + QLatin1String(name) + QLatin1String(".png"), icon);
+        home.write(path + u'/' + QLatin1String(name) + QLatin1String(".png"), icon);
 }
 
 void makeDecorTheme(const TemporaryHome &home, const QString &path, const QColor &color)
@@ -59,6 +58,5 @@ void makeDecorTheme(const TemporaryHome &home, const QString &path, const QColor
     home.write(path + QLatin1String("/default.theme"), "Name=Sample\n");
     for (const char *name : {"titleAT", "frameAT", "frameATL", "frameATR", "frameAL", "frameAR", "minimizeA",
                              "maximizeA", "closeA"})
-        home.write(path + QLatin1Char('/') + QLatin1String(name) + QLatin1String(".xpm"),
-                   encoded({4, 8}, color, "XPM"));
+        home.write(path + u'/' + QLatin1String(name) + QLatin1String(".xpm"), encoded({4, 8}, color, "XPM"));
 }

@@ -14,16 +14,14 @@
 SpawnedProcess::SpawnedProcess(const QString &program, const QStringList &arguments)
 {
     std::vector<QByteArray> texts;
-    texts.reserve(std::size_t(arguments.size()));
     for (const QString &argument : arguments)
         texts.push_back(QFile::encodeName(argument));
     std::vector<char *> argv;
-    argv.reserve(texts.size() + 1);
     for (QByteArray &text : texts)
         argv.push_back(text.data());
     argv.push_back(nullptr);
-    if (posix_spawn(&m_pid, QFile::encodeName(program).constData(), nullptr, nullptr, argv.data(), environ)
-        != 0)
+    const QByteArray path = QFile::encodeName(program);
+    if (posix_spawn(&m_pid, path.constData(), nullptr, nullptr, argv.data(), environ) != 0)
         qFatal("Can't start %s", qPrintable(program));
 }
 

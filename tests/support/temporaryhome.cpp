@@ -1,5 +1,7 @@
 #include "tests/support/temporaryhome.h"
 
+#include "tests/support/literals.h"
+
 #include <QCryptographicHash>
 #include <QDateTime>
 #include <QDir>
@@ -12,19 +14,15 @@
 
 namespace {
 
-struct Variable {
-    const char *name;
-    const char *place; // below the home; nullptr: unset
-};
-
-constexpr Variable variables[] = {{"HOME", ""},
-                                  {"XDG_CONFIG_HOME", "/.config"},
-                                  {"XDG_DATA_HOME", "/.local/share"},
-                                  {"XDG_CACHE_HOME", "/.cache"},
-                                  {"XDG_STATE_HOME", "/.local/state"},
-                                  {"XDG_DATA_DIRS", "/system/share"},
-                                  {"XDG_CONFIG_DIRS", "/system/xdg"},
-                                  {"QAZ_SESSION", nullptr}};
+/// With their places below the home; nullptr: unset.
+constexpr std::pair<const char *, const char *> variables[] = {{"HOME", ""},
+                                                               {"XDG_CONFIG_HOME", "/.config"},
+                                                               {"XDG_DATA_HOME", "/.local/share"},
+                                                               {"XDG_CACHE_HOME", "/.cache"},
+                                                               {"XDG_STATE_HOME", "/.local/state"},
+                                                               {"XDG_DATA_DIRS", "/system/share"},
+                                                               {"XDG_CONFIG_DIRS", "/system/xdg"},
+                                                               {"QAZ_SESSION", nullptr}};
 
 } // namespace
 
@@ -32,14 +30,13 @@ TemporaryHome::TemporaryHome()
 {
     if (!m_directory.isValid())
         qFatal("No temporary home: %s", qPrintable(m_directory.errorString()));
-    for (const Variable &variable : variables) {
-        const QByteArray value = variable.place ? QFile::encodeName(m_directory.path()) + variable.place
-                                                : QByteArray();
-        m_environment.push_back(std::make_unique<ScopedEnvironment>(variable.name, value));
+    for (const auto &[name, place] : variables) {
+        const QByteArray value = place ? QFile::encodeName(m_directory.path()) + place : QByteArray();
+        m_environment.push_back(std::make_unique<ScopedEnvironment>(name, value));
     }
     // Qt computes these once per process; a second home must not see the first one's.
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, path(QStringLiteral(".config")));
-    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, path(QStringLiteral(".config")));
+    for (const QSettings::Format format : {QSettings::NativeFormat, QSettings::IniFormat})
+        QSettings::setPath(format, QSettings::UserScope, path(".config"_s));
 }
 
 TemporaryHome::~TemporaryHome() = default;
@@ -80,13 +77,13 @@ bool TemporaryHome::makeDirectory(const QString &relative) const
 
 QByteArrayList TemporaryHome::backups() const
 {
-    const QString directory = QStringLiteral(".local/state/qaz/backup/");
+    const QString directory = ".local/state/qaz/backup/"_s;
+    QStringList names = QDir(path(directory))
+                            .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+    names.removeAll("manifest"_s);
     QByteArrayList contents;
-    for (const QString &name :
-         QDir(path(directory)).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot)) {
-        if (name != QLatin1String("manifest"))
-            contents.append(read(directory + name));
-    }
+    for (const QString &name : qAsConst(names))
+        contents.append(read(directory + name));
     std::sort(contents.begin(), contents.end());
     return contents;
 }
@@ -94,9 +91,8 @@ QByteArrayList TemporaryHome::backups() const
 QString TemporaryHome::fingerprint() const
 {
     QStringList lines;
-    QDirIterator files(m_directory.path(),
-                       QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
-                       QDirIterator::Subdirectories);
+    const auto all = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
+    QDirIterator files(m_directory.path(), all, QDirIterator::Subdirectories);
     while (files.hasNext()) {
         const QFileInfo info(files.next());
         QString line = info.filePath();
@@ -107,7 +103,7 @@ QString TemporaryHome::fingerprint() const
             QCryptographicHash hash(QCryptographicHash::Sha1);
             if (file.open(QIODevice::ReadOnly))
                 hash.addData(&file);
-            line += QLatin1Char(' ') + QString::fromLatin1(hash.result().toHex()) + QLatin1Char(' ')
+            line += u' ' + QString::fromLatin1(hash.result().toHex()) + u' '
                     + info.lastModified().toString(Qt::ISODateWithMs);
         }
         lines.append(line);
