@@ -27,7 +27,7 @@ public:
         QazSettings store(home.path("t"_s));
         store.sync(true);
         page.saveValues(&store);
-        return windowManager.take().replaceInStrings("QAZWM_UPDATE_VAL "_s, QString()).join(u'|');
+        return windowManager.takeUpdates();
     }
     QByteArray content() const { return home.read("t"_s); }
     template<typename Widget>

@@ -51,3 +51,8 @@ void WmListener::readEvents()
         m_commands.append(QString::fromLocal8Bit(command));
     }
 }
+
+QString WmListener::takeUpdates()
+{
+    return take().replaceInStrings(QStringLiteral("QAZWM_UPDATE_VAL "), QString()).join(QLatin1Char('|'));
+}

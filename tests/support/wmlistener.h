@@ -22,6 +22,8 @@ public:
     /// The commands that arrived since the last call. Asks the server first, so that every command sent
     /// before this call by this process, or by one that has ended, is among them.
     QStringList take();
+    /// The values that were announced since the last call: "Key 1|Other 2".
+    QString takeUpdates();
 
 private:
     void readEvents();
