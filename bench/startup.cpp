@@ -144,6 +144,7 @@ Start measure(const std::vector<std::string> &command, WindowWatch &watch)
     watch.forget();
     const std::string &program = command.front();
     std::vector<char *> arguments;
+    arguments.reserve(command.size() + 1);
     for (const std::string &argument : command)
         arguments.push_back(const_cast<char *>(argument.c_str()));
     arguments.push_back(nullptr);

@@ -47,10 +47,10 @@ HelpWindow::HelpWindow()
     for (const QKeySequence::StandardKey key : {QKeySequence::Cancel, QKeySequence::Close})
         onKey(this, key, [this] { close(); });
     for (const QKeySequence &key :
-         {QKeySequence(Qt::CTRL | Qt::Key_Plus), QKeySequence(Qt::CTRL | Qt::Key_Equal)})
+         {QKeySequence(Qt::CTRL + Qt::Key_Plus), QKeySequence(Qt::CTRL + Qt::Key_Equal)})
         onKey(this, key, [this] { zoom(1); });
-    onKey(this, QKeySequence(Qt::CTRL | Qt::Key_Minus), [this] { zoom(-1); });
-    onKey(this, QKeySequence(Qt::CTRL | Qt::Key_0), [this] { resetZoom(); });
+    onKey(this, QKeySequence(Qt::CTRL + Qt::Key_Minus), [this] { zoom(-1); });
+    onKey(this, QKeySequence(Qt::CTRL + Qt::Key_0), [this] { resetZoom(); });
     onKey(this, QKeySequence::Find, [this] {
         m_text->setFocus();
         m_text->selectAll();
