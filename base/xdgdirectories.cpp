@@ -54,7 +54,7 @@ QStringList xdgDataDirectories()
 
 QString privateDirectory()
 {
-    const QString runtime = QFile::decodeName(qgetenv("XDG_RUNTIME_DIR"));
+    QString runtime = QFile::decodeName(qgetenv("XDG_RUNTIME_DIR"));
     if (runtime.startsWith(QLatin1Char('/')) && isOwnDirectory(runtime, 077))
         return runtime;
     QString own = xdgDirectory("XDG_CACHE_HOME", "/.cache") + QLatin1String("/qaz");
