@@ -30,18 +30,20 @@ char letter(const QColor &color)
     return "?-rgbcmwty/"[colors.indexOf(color) + 1];
 }
 
-/// The colours of the row \a y: "3r 2-" for three red pixels and two transparent ones.
-QByteArray runs(const QImage &image, int y)
+/// The colours of some rows: "3r 2-" for three red pixels and two transparent ones; rows end with "|".
+QByteArray runs(const QImage &image, std::initializer_list<int> rows)
 {
-    QByteArrayList runs;
-    for (int x = 0, start = 0; x < image.width(); ++x) {
-        const char here = letter(image.pixelColor(x, y));
-        if (x + 1 < image.width() && letter(image.pixelColor(x + 1, y)) == here)
-            continue;
-        runs.append(QByteArray::number(x + 1 - start) + here);
-        start = x + 1;
+    QByteArray runs;
+    for (const int y : rows) {
+        for (int x = 0, start = 0; x < image.width(); ++x) {
+            const char here = letter(image.pixelColor(x, y));
+            if (x + 1 < image.width() && letter(image.pixelColor(x + 1, y)) == here)
+                continue;
+            runs += QByteArray::number(x + 1 - start) + here + (x + 1 < image.width() ? ' ' : '|');
+            start = x + 1;
+        }
     }
-    return runs.join(' ');
+    return runs;
 }
 
 } // namespace
@@ -55,12 +57,10 @@ private slots:
         const QImage preview = threeImagesPreview(canvasSize, filled(4, 7, Qt::red),
                                                   filled(10, 40, Qt::green), {});
         // 110 / 3 = 36 pixels for each; the first begins at 32 / 2 - 7 / 2 = 13
-        QCOMPARE(runs(preview, 12), QByteArray("36- 10g 64-"));
-        QCOMPARE(runs(preview, 13), QByteArray("4r 32- 10g 64-"));
-        QCOMPARE(runs(preview, 19), runs(preview, 13));
-        QCOMPARE(runs(preview, 20), runs(preview, 12));
+        QCOMPARE(runs(preview, {12, 13, 19, 20}),
+                 QByteArray("36- 10g 64-|4r 32- 10g 64-|4r 32- 10g 64-|36- 10g 64-|"));
         const QImage covered = threeImagesPreview({9, 4}, filled(9, 4, Qt::blue), filled(3, 4, glass), {});
-        QCOMPARE(runs(covered, 2), QByteArray("3b 3/ 3b"));
+        QCOMPARE(runs(covered, {2}), QByteArray("3b 3/ 3b|"));
     }
 
     void titleBarGeometry()
@@ -77,16 +77,13 @@ private slots:
         images.maximizeButton = button(9, 14, Qt::green);
         images.closeButton = button(10, 12, Qt::blue);
         const QImage preview = decorPreview(canvasSize, images);
-        QCOMPARE(runs(preview, 0), QByteArray("6c 97y 7m"));
-        QCOMPARE(runs(preview, 3), runs(preview, 0));
+        QCOMPARE(runs(preview, {0, 3}), QByteArray("6c 97y 7m|6c 97y 7m|"));
         // The title is 110 - 3 - 1 pixels wide and covers what it meets.
-        QCOMPARE(runs(preview, 4), QByteArray("2c 74t 8r 9g 2t 10b 3t 2m"));
-        QCOMPARE(runs(preview, 9), runs(preview, 4));
-        QCOMPARE(runs(preview, 10), QByteArray("2- 82t 9g 15t 2-"));
+        const QByteArray buttons = "2c 74t 8r 9g 2t 10b 3t 2m|";
+        QCOMPARE(runs(preview, {4, 9, 10}), buttons + buttons + "2- 82t 9g 15t 2-|");
         // It is laid out from the canvas's origin: the tile's first row is row 20, its second column 6 and 11.
-        QVERIFY2(runs(preview, 20).startsWith("2- 4t 1w 4t 1w 4t"), runs(preview, 20).constData());
-        QCOMPARE(runs(preview, 23), QByteArray("2- 106t 2-"));
-        QCOMPARE(runs(preview, 24), QByteArray("110-"));
+        QVERIFY2(runs(preview, {20}).startsWith("2- 4t 1w 4t 1w 4t"), runs(preview, {20}).constData());
+        QCOMPARE(runs(preview, {23, 24}), QByteArray("2- 106t 2-|110-|"));
     }
 
     void oddSizes()
@@ -95,8 +92,8 @@ private slots:
             const QImage red = filled(size.width(), size.height(), Qt::red);
             const QImage preview = decorPreview(canvasSize, {red, red, red, red, red, red, red, red, red});
             // Half of one row is no row: buttons of one pixel are not drawn.
-            QCOMPARE(runs(preview, 2), QByteArray(size.height() == 1 ? "110-" : "110r"));
-            QCOMPARE(runs(threeImagesPreview(canvasSize, red, red, red), 16).left(2),
+            QCOMPARE(runs(preview, {2}), QByteArray(size.height() == 1 ? "110-|" : "110r|"));
+            QCOMPARE(runs(threeImagesPreview(canvasSize, red, red, red), {16}).left(2),
                      QByteArray(size.height() == 1 ? "1r" : "11"));
         }
     }
@@ -106,8 +103,8 @@ private slots:
         const QImage gradient = colorSwatch(canvasSize, Qt::black, Qt::white);
         QVERIFY(gradient.pixelColor(0, 16).red() < 5 && gradient.pixelColor(109, 16).red() > 250);
         QVERIFY(qAbs(gradient.pixelColor(55, 31).red() - 128) < 4);
-        QCOMPARE(runs(colorSwatch(canvasSize, Qt::red, QColor()), 31), QByteArray("110r"));
-        QCOMPARE(runs(colorSwatch(canvasSize, QColor(), Qt::red), 16), QByteArray("110w"));
+        QCOMPARE(runs(colorSwatch(canvasSize, Qt::red, QColor()), {31}), QByteArray("110r|"));
+        QCOMPARE(runs(colorSwatch(canvasSize, QColor(), Qt::red), {16}), QByteArray("110w|"));
     }
 };
 
