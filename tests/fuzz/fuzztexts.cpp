@@ -5,26 +5,15 @@
 #include <QColor>
 #include <QGuiApplication>
 
-namespace {
-
-/// Fonts are resolved by the platform's font database, which needs an application object.
-void needApplication()
-{
-    static int argc = 1;
-    static char name[] = "fuzztexts";
-    static char *argv[] = {name, nullptr};
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    // Never destroyed: at the process's end the leak check would find it half taken apart.
-    static const auto *const application = new QGuiApplication(argc, argv);
-    Q_UNUSED(application)
-}
-
-} // namespace
-
 // Colour and font texts as a theme file may hold them. What the program writes for a font reads as a font text.
 int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
-    needApplication();
+    // Fonts are resolved by the platform's font database, which needs an application object. It is never destroyed:
+    // at the process's end the leak check would find it half taken apart.
+    static int argc = 3;
+    static const char *argv[] = {"fuzztexts", "-platform", "offscreen", nullptr};
+    static const auto *const application = new QGuiApplication(argc, const_cast<char **>(argv));
+    Q_UNUSED(application)
     const FuzzInput input(data, size);
     const QString text = QString::fromUtf8(input.content);
 

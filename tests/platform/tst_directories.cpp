@@ -68,15 +68,14 @@ private slots:
         QCOMPARE(directory(6), home.path("Desktops/Desktop1"_s));
         Display *display = QX11Info::display();
         const Atom current = XInternAtom(display, "_NET_CURRENT_DESKTOP", False);
-        const auto set = [&](Atom type, int format, const void *value) {
+        const long number = 2;
+        const std::tuple<Atom, int, const void *, QString> rows[] = {{XA_CARDINAL, 32, &number, "Desktop3"_s},
+                                                                     {XA_STRING, 8, "7", "Desktop1"_s}};
+        for (const auto &[type, format, value, name] : rows) {
             XChangeProperty(display, DefaultRootWindow(display), current, type, format, PropModeReplace,
                             static_cast<const unsigned char *>(value), 1);
-        };
-        const long number = 2;
-        set(XA_CARDINAL, 32, &number);
-        QCOMPARE(directory(6), home.path("Desktops/Desktop3"_s));
-        set(XA_STRING, 8, "7");
-        QCOMPARE(directory(6), home.path("Desktops/Desktop1"_s));
+            QCOMPARE(directory(6), home.path("Desktops/"_s + name));
+        }
         XDeleteProperty(display, DefaultRootWindow(display), current);
     }
 

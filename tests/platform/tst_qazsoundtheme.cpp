@@ -113,8 +113,7 @@ private slots:
         const QString plain = files.write("user/dir/s/x.oga");
         const QString french = files.write("user/dir/s/fr/x.wav");
         QazSoundTheme theme("dir");
-        QCOMPARE(theme.getName(), "dir"); // not loaded
-        QCOMPARE(sound(theme, "x"), QString());
+        QCOMPARE(theme.getName() + sound(theme, "x").toLatin1(), "dir"); // not loaded
         QVERIFY(theme.load());
         QCOMPARE(QString::fromLocal8Bit(theme.getName()), "Glänzend"_s);
         QCOMPARE(theme.getThemeName(), "dir");
