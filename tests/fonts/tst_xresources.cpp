@@ -113,7 +113,30 @@ private slots:
             const QByteArray seen = '\n' + run("xrdb", {"-query"_s});
             QVERIFY2(seen.contains("\nXft.dpi:\t") == row.holdsDpi, row.what);
         }
-        QCOMPARE(withXresource("Xft.dpi: 1\\\n20\nA.b: 1\n", "Xft.dpi", {}), QByteArray("A.b: 1\n"));
+    }
+
+    void oneResourceChanges()
+    {
+        const struct {
+            QByteArray before;
+            QByteArray line; // null: removed
+            QByteArray after;
+        } rows[] = {
+            {"! mine\nXft.dpi: 96\nx: 1\n", "Xft.dpi: 120", "! mine\nXft.dpi: 120\nx: 1\n"},
+            {"x: 1", "Xft.dpi: 120", "x: 1\nXft.dpi: 120\n"}, // an open last line
+            {"a: 1\nXft.dpi: 96", "Xft.dpi: 7", "a: 1\nXft.dpi: 7"},
+            {"a: 1\nXft.dpi: 96\nb: 2", {}, "a: 1\nb: 2"},
+            {" Xft.dpi :\t96\n", "Xft.dpi: 120", "Xft.dpi: 120\n"},
+            {"Xft.dpix: 1\n!Xft.dpi: 2\n", "Xft.dpi: 3", "Xft.dpix: 1\n!Xft.dpi: 2\nXft.dpi: 3\n"},
+            {"Xft.dpi: 1\na: 1\nXft.dpi: 2\nb: 2\n", "Xft.dpi: 3",
+             "a: 1\nXft.dpi: 3\nb: 2\n"}, // the last one counts
+            {"Xft.dpi: \\\n 96\na: \\\nXft.dpi: text\n", {}, "a: \\\nXft.dpi: text\n"},
+            {"! mine\\\nXft.dpi: 96\n", "Xft.dpi: 7",
+             "! mine\\\nXft.dpi: 96\nXft.dpi: 7\n"}, // still the comment's
+            {"a: 1\\\n", "Xft.dpi: 7", "a: 1\\\n\nXft.dpi: 7\n"},
+            {"a: \xff\r\nXft.dpi: 96\r\nb: 1\r\n", "Xft.dpi: 7", "a: \xff\r\nXft.dpi: 7\r\nb: 1\r\n"}};
+        for (const auto &row : rows)
+            QCOMPARE(withXresource(row.before, "Xft.dpi", row.line), row.after);
     }
 
     void merging()
