@@ -85,7 +85,7 @@ QString summary(const KXftConfig &config)
 int editRepeatedly(int style)
 {
     int applied = 0;
-    for (int i = 0; i < 8; ++i) {
+    for (int i = 0; i < 6; ++i) {
         Config config;
         config.setHintStyle(i % 2 ? HintStyle::Full : HintStyle(style));
         config.setSubPixelType(SubPixelOrder(1 + i % 4));
@@ -117,8 +117,8 @@ private slots:
         QVERIFY(config.apply());
         QVERIFY(!config.changed());
         const QByteArray content = home.read(place);
-        QVERIFY2(content.contains("<const>hintnone</const>"), content.constData());
-        QVERIFY2(content.indexOf("hinting") < content.indexOf("hintstyle"), content.constData());
+        const int style = content.indexOf("<const>hintnone</const>");
+        QVERIFY2(style > 0 && content.indexOf("hinting") < style, content.constData());
         QCOMPARE(summary(Config()), summary(config));
         QVERIFY(!home.exists(".local"_s)); // ours alone: no copy
     }
@@ -254,7 +254,7 @@ private slots:
         };
         check(HomeWithFile("<fontconfig><match></fontconfig>"));
         check(HomeWithFile("<html/>"));
-        check(HomeWithFile("<fontconfig>" + QByteArray(20000000, ' ') + "</fontconfig>"));
+        check(HomeWithFile("<fontconfig>" + QByteArray(17 << 20, ' ') + "</fontconfig>"));
         TemporaryHome home;
         QVERIFY(home.makeDirectory(place));
         check(home);

@@ -42,11 +42,11 @@ QStringList shownTexts(const QWidget *page)
     QStringList texts;
     for (const QWidget *widget : page->findChildren<QWidget *>()) {
         for (const char *property : {"text", "title"}) {
-            if (qobject_cast<const QLineEdit *>(widget) == nullptr)
+            if (!qobject_cast<const QLineEdit *>(widget)) // which holds the user's text
                 texts.append(bare(widget->property(property).toString()));
         }
     }
-    for (const QTabWidget *tabs : page->findChildren<QTabWidget *>()) {
+    for (const QTabBar *tabs : page->findChildren<QTabBar *>()) {
         for (int i = 0; i < tabs->count(); ++i)
             texts.append(bare(tabs->tabText(i)));
     }
@@ -93,16 +93,11 @@ private slots:
     {
         QTest::addColumn<QString>("language");
         QTest::addColumn<QString>("file");
-        QTest::newRow("English") << "en_GB"_s
-                                 << ":/guide/guide.html"_s;
-        QTest::newRow("German") << "de_AT"_s
-                                << ":/guide/guide_de.html"_s;
-        QTest::newRow("French") << "fr_FR"_s
-                                << ":/guide/guide_fr.html"_s;
-        QTest::newRow("Spanish") << "es_MX"_s
-                                 << ":/guide/guide_es.html"_s;
-        QTest::newRow("none") << "ja_JP"_s
-                              << ":/guide/guide.html"_s;
+        const QPair<const char *, const char *> rows[] = {
+            {"en_GB", ""}, {"de_AT", "_de"}, {"fr_FR", "_fr"}, {"es_MX", "_es"}, {"ja_JP", ""}};
+        for (const auto &[language, ending] : rows)
+            QTest::newRow(language) << QString::fromLatin1(language)
+                                    << ":/guide/guide%1.html"_s.arg(QLatin1String(ending));
     }
 
     void chaptersLinksAndPicturesAreThere()
@@ -201,7 +196,7 @@ private slots:
         QTextBrowser *help = helpWindow();
         QVERIFY(help && QTest::qWaitForWindowActive(help));
         auto *text = help->findChild<QLineEdit *>("searchLineEdit"_s);
-        auto *result = help->findChild<QLabel *>("resultLabel"_s);
+        const auto *result = help->findChild<QLabel *>("resultLabel"_s);
         QTest::keyClick(help, Qt::Key_F, Qt::ControlModifier);
         QVERIFY(text->hasFocus());
         QTest::keyClicks(text, "window manager"_s);
@@ -226,13 +221,12 @@ private slots:
 
         const int usual = help->fontInfo().pointSize();
         QCOMPARE(usual, QFontInfo(QApplication::font()).pointSize());
-        QTest::keyClick(help, Qt::Key_Plus, Qt::ControlModifier);
-        QTest::keyClick(help, Qt::Key_Plus, Qt::ControlModifier);
-        QCOMPARE(help->fontInfo().pointSize(), usual + 2);
-        QTest::keyClick(help, Qt::Key_Minus, Qt::ControlModifier);
-        QCOMPARE(help->fontInfo().pointSize(), usual + 1);
-        QTest::keyClick(help, Qt::Key_0, Qt::ControlModifier);
-        QCOMPARE(help->fontInfo().pointSize(), usual);
+        const QPair<Qt::Key, int> keys[] = {
+            {Qt::Key_Plus, 1}, {Qt::Key_Plus, 2}, {Qt::Key_Minus, 1}, {Qt::Key_0, 0}};
+        for (const auto &[key, larger] : keys) {
+            QTest::keyClick(help, key, Qt::ControlModifier);
+            QCOMPARE(help->fontInfo().pointSize(), usual + larger);
+        }
 
         auto *back = help->findChild<QToolButton *>("backButton"_s);
         qazHelpShow("sound"_s);
