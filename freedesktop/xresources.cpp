@@ -2,6 +2,7 @@
 
 #include "base/diagnostics.h"
 #include "base/xdgdirectories.h"
+#include "freedesktop/processwait.h"
 
 #include <QProcess>
 
@@ -84,7 +85,7 @@ bool runXrdb(const QStringList &arguments, const QByteArray &input)
         return false;
     xrdb.write(input);
     xrdb.closeWriteChannel();
-    if (!xrdb.waitForFinished(xrdbTimeoutMs)) {
+    if (!waitForEnd(xrdb, xrdbTimeoutMs)) {
         printDiagnostic(QStringLiteral("xrdb is ended: it takes longer than 30 s"));
         xrdb.kill();
         xrdb.waitForFinished();

@@ -3,6 +3,7 @@
 #include "base/diagnostics.h"
 #include "freedesktop/dataroot.h"
 #include "freedesktop/images.h"
+#include "freedesktop/processwait.h"
 #include "platform/getqazdir.h"
 #include "platform/wallpapersearch.h"
 
@@ -63,7 +64,7 @@ QString convertSvg(const QString &source, int width, int height, const char *com
     converter.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     converter.setStandardInputFile(QProcess::nullDevice());
     converter.start(program, arguments);
-    const bool converted = converter.waitForFinished(convertTimeoutMs)
+    const bool converted = waitForEnd(converter, convertTimeoutMs)
                            && converter.exitStatus() == QProcess::NormalExit && converter.exitCode() == 0;
     return converted && QFileInfo(target).isFile() ? target : QString();
 }

@@ -1,6 +1,7 @@
 // The real program in a process of its own, ended from outside: by a signal and by the loss of the X server.
 
 #include "tests/support/editorprocess.h"
+#include "tests/support/fakeprogram.h"
 #include "tests/support/literals.h"
 #include "tests/support/privateserver.h"
 #include "tests/support/temporaryhome.h"
@@ -71,6 +72,38 @@ private slots:
         QVERIFY(stored.value("height"_s).toInt() > 0);
         const QByteArray after = m_home->read("t"_s);
         QVERIFY2(after == before || after.startsWith("ScreenSaverDelay=300\n"), after.constData());
+    }
+
+    void itEndsWhatItWaitsFor()
+    {
+        // The program, the keys that lead to it, and the title of a message box that is answered first.
+        const std::tuple<QString, const char *, QString> rows[] = {
+            {"xrdb"_s, "f alt+n e Tab Tab ctrl+a 1 2 0 Return", "Font Settings Changed"_s},
+            {"qaz-svg2png"_s, "Tab ctrl+a d r a w n Tab", QString()},
+            {"qaz-su"_s, "End Tab o", "Attention"_s}};
+        for (const auto &[program, keys, title] : rows) {
+            init();
+            FakePrograms programs;
+            programs.add(program, "trap 'echo ended >>\"$HOME/child\"; exit' TERM\n"
+                                  "sleep 3600 &\necho begun >\"$HOME/child\"\nwait");
+            m_home->write(".local/share/wallpapers/drawn.svg"_s, "<svg xmlns='http://www.w3.org/2000/svg'/>");
+            m_home->write(".local/share/sounds/oga/index.theme"_s,
+                          "[Sound Theme]\nName=oga\nDirectories=.\n");
+            m_home->write(".local/share/sounds/oga/menu-popup.oga"_s, "OggS");
+            PrivateServer server;
+            EditorProcess editor({m_home->write("t"_s, "EnableSound=true\n")});
+            QVERIFY2(editor.waitForWindow(), qPrintable(editor.errors()));
+            EditorProcess::press(keys);
+            if (!title.isEmpty()) {
+                QVERIFY2(editor.waitForWindow(title), qPrintable(program));
+                EditorProcess::press("Return");
+            }
+            QTRY_COMPARE_WITH_TIMEOUT(m_home->read("child"_s), QByteArray("begun\n"), 60000);
+            server.end();
+            QCOMPARE(editor.exitCode(), 1);
+            QTRY_COMPARE(m_home->read("child"_s), QByteArray("begun\nended\n"));
+            QVERIFY2(m_home->read(ownSettings).contains("width"), qPrintable(program));
+        }
     }
 
     void aTerminationStoresTheSize()
