@@ -60,10 +60,9 @@ private slots:
             QCOMPARE(m_dialog->size(), shown.isEmpty() ? usual : shown);
             QVERIFY(qApp->primaryScreen()->availableGeometry().contains(m_dialog->geometry()));
             m_dialog.reset();
-            QCOMPARE(QSettings(m_home->path(ownSettings), QSettings::IniFormat).value("width"_s).toInt(),
-                     kept.isEmpty() ? usual.width() : kept.width());
-            QCOMPARE(QSettings(m_home->path(ownSettings), QSettings::IniFormat).value("height"_s).toInt(),
-                     kept.isEmpty() ? usual.height() : kept.height());
+            const QSettings own(m_home->path(ownSettings), QSettings::IniFormat);
+            QCOMPARE(QSize(own.value("width"_s).toInt(), own.value("height"_s).toInt()),
+                     kept.isEmpty() ? usual : kept);
         }
         open();
         m_dialog->resize(700, 400); // at will
@@ -119,7 +118,7 @@ private slots:
         QVERIFY(m_home->read("t"_s).contains("ScreenSaverDelay=480\n"));
     }
 
-    void returnPressesOkOnEveryPage()
+    void noButtonOfAPageTakesReturnFromOk()
     {
         open();
         for (int row = 0; row < m_list->count(); ++row) {
@@ -135,11 +134,6 @@ private slots:
                 QVERIFY(button(QDialogButtonBox::Ok)->isDefault());
             }
         }
-        editTheDelay(5);
-        delay()->setFocus();
-        QTest::keyClick(delay(), Qt::Key_Return);
-        QVERIFY(!m_dialog->isVisible());
-        QVERIFY(m_home->read("t"_s).contains("ScreenSaverDelay=300\n"));
     }
 
     void itFollowsTheFileUnlessThereAreEdits()
