@@ -113,12 +113,11 @@ private slots:
     void changesOfOthersSinceTheReadStay()
     {
         const TemporaryHome home;
-        {
-            QazSettings store(home.write(file, "A=1\nB=1\n"));
-            store.sync(true);
-            store.setValue("A"_s, "2"_s);
-            home.write(file, "# new\nB=3\nA=1\nC=4\n");
-        }
+        auto store = std::make_unique<QazSettings>(home.write(file, "A=1\nB=1\n"));
+        store->sync(true);
+        store->setValue("A"_s, "2"_s);
+        home.write(file, "# new\nB=3\nA=1\nC=4\n");
+        store.reset();
         QCOMPARE(home.read(file), QByteArray("# new\nB=3\nA=2\nC=4\n"));
     }
 };
