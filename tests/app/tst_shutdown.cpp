@@ -84,8 +84,9 @@ private slots:
         for (const auto &[program, keys, title] : rows) {
             init();
             FakePrograms programs;
-            programs.add(program, "trap 'echo ended >>\"$HOME/child\"; exit' TERM\n"
-                                  "sleep 3600 &\necho begun >\"$HOME/child\"\nwait");
+            // Its own child may be ended a moment before it.
+            programs.add(program, "trap : TERM\nsleep 3600 &\necho begun >\"$HOME/child\"\nwait\n"
+                                  "echo ended >>\"$HOME/child\"");
             m_home->write(".local/share/wallpapers/drawn.svg"_s, "<svg xmlns='http://www.w3.org/2000/svg'/>");
             m_home->write(".local/share/sounds/oga/index.theme"_s,
                           "[Sound Theme]\nName=oga\nDirectories=.\n");
