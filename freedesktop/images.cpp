@@ -3,10 +3,12 @@
 #include "base/atomicfile.h"
 
 #include <QBuffer>
+#include <QFileInfo>
 #include <QImageReader>
 #include <QPainter>
 #include <QScopeGuard>
 #include <QSvgRenderer>
+#include <QXmlStreamReader>
 
 #include <sys/resource.h>
 #include <unistd.h>
@@ -26,11 +28,29 @@ rlim_t usedSpace()
     return rlim_t(pages) * rlim_t(::sysconf(_SC_PAGESIZE));
 }
 
+/// Whether a drawing names something as a picture that is no file: Qt would open it while it parses, and wait for a FIFO.
+bool namesSpecialFile(const QByteArray &svg)
+{
+    if (!svg.contains("image"))
+        return false;
+    QXmlStreamReader xml(svg);
+    while (!xml.atEnd()) {
+        if (xml.readNext() != QXmlStreamReader::StartElement || xml.name() != QLatin1String("image"))
+            continue;
+        const QFileInfo picture(xml.attributes().value(QLatin1String("xlink:href")).toString().trimmed());
+        if (picture.exists() && !picture.isFile())
+            return true;
+    }
+    return false;
+}
+
 } // namespace
 
 QImage loadImage(const QString &path, qint64 pixelLimit)
 {
     FileContent file = readRegularFile(path);
+    if (namesSpecialFile(file.content))
+        return {};
     QBuffer buffer(&file.content);
     QImageReader reader(&buffer);
     const QSize stated = reader.size();
@@ -53,13 +73,13 @@ QSize imageSize(const QString &path)
 {
     FileContent file = readRegularFile(path);
     QBuffer buffer(&file.content);
-    return QImageReader(&buffer).size();
+    return namesSpecialFile(file.content) ? QSize() : QImageReader(&buffer).size();
 }
 
 QImage drawSvg(const QByteArray &svg, const QSize &size, const QColor &background, Qt::AspectRatioMode mode)
 {
     QSvgRenderer renderer;
-    if (!renderer.load(svg))
+    if (namesSpecialFile(svg) || !renderer.load(svg))
         return {};
     const QSize drawn = mode == Qt::IgnoreAspectRatio ? size : renderer.defaultSize().scaled(size, mode);
     QImage picture(drawn.expandedTo(QSize(1, 1)),

@@ -100,8 +100,14 @@ private slots:
         const TemporaryHome home;
         const QString fifo = home.path("fifo.png"_s);
         QCOMPARE(::mkfifo(QFile::encodeName(fifo).constData(), 0600), 0);
-        for (const QString &path : {fifo, "/dev/zero"_s, "/proc/kmsg"_s, home.path(), home.path("missing"_s)})
-            QVERIFY2(loadImage(path).isNull(), qPrintable(path));
+        const QByteArray naming
+            = "<svg xmlns='http://www.w3.org/2000/svg' xmlns:xlink='http://www.w3.org/1999/xlink'>"
+              "<image width='9' height='9' xlink:href=' "
+              + QFile::encodeName(fifo) + "'/></svg>";
+        QVERIFY(drawSvg(naming, {40, 40}, Qt::white).isNull());
+        for (const QString &path : {fifo, home.write("names one.svg"_s, naming), "/dev/zero"_s,
+                                    "/proc/kmsg"_s, home.path(), home.path("missing"_s)})
+            QVERIFY2(loadImage(path).isNull() && imageSize(path).isEmpty(), qPrintable(path));
     }
 
     void svgIsDrawn()
