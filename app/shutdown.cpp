@@ -5,6 +5,7 @@
 
 #include <QFile>
 #include <QSocketNotifier>
+#include <QThread>
 
 #include <cerrno>
 #include <csignal>
@@ -12,6 +13,7 @@
 
 #include <X11/Xlib.h>
 #include <fcntl.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 MyApplication *myApp = nullptr;
@@ -21,18 +23,29 @@ namespace {
 
 int terminationPipe[2] = {-1, -1};
 
-/// Ends the programs that the process \a parent started, and theirs.
-void endChildren(qint64 parent)
+/// Sends \a signal to the programs that the process \a parent started, and to theirs.
+void signalChildren(qint64 parent, int signal)
 {
     QFile list(QStringLiteral("/proc/%1/task/%1/children").arg(parent));
     if (!list.open(QIODevice::ReadOnly))
         return;
     for (const QByteArray &child : list.readAll().simplified().split(' ')) {
         if (const pid_t pid = child.toInt(); pid > 0) {
-            endChildren(pid);
-            ::kill(pid, SIGTERM);
+            signalChildren(pid, signal);
+            ::kill(pid, signal);
         }
     }
+}
+
+/// Ends the programs that this one started. One that does not end when it is asked, as a player whose device hangs, is
+/// killed.
+void endChildren()
+{
+    constexpr int patienceMs = 300, pauseMs = 10;
+    signalChildren(::getpid(), SIGTERM);
+    for (int waited = 0; waited < patienceMs && ::waitpid(-1, nullptr, WNOHANG) >= 0; waited += pauseMs)
+        QThread::msleep(pauseMs);
+    signalChildren(::getpid(), SIGKILL);
 }
 
 /// Keeps what outlives the loss. Nothing is destroyed: the loss is noticed anywhere on the stack, also below a modal
@@ -43,7 +56,7 @@ void endWithoutDisplay()
         return;
     if (dlg)
         dlg->storeSize();
-    endChildren(::getpid());
+    endChildren();
     ::_exit(EXIT_FAILURE);
 }
 

@@ -8,7 +8,10 @@
 
 #include <QtTest>
 
+#include <csignal>
 #include <optional>
+
+#include <sys/stat.h>
 
 namespace {
 
@@ -105,6 +108,29 @@ private slots:
             QTRY_COMPARE(m_home->read("child"_s), QByteArray("begun\nended\n"));
             QVERIFY2(m_home->read(ownSettings).contains("width"), qPrintable(program));
         }
+    }
+
+    void aHangingPlayerIsEnded()
+    {
+        const QByteArray device = QFile::encodeName(m_home->path("device"_s)); // nobody ever reads from it
+        QCOMPARE(::mkfifo(device.constData(), 0600), 0);
+        m_home->write(".asoundrc"_s,
+                      "pcm.!default { type file slave.pcm null file \"" + device + "\" format raw }");
+        PrivateServer server;
+        EditorProcess editor({m_home->write("t"_s, "EnableSound=true\nMenuPopupSound=" QAZ_SOURCE_DIR
+                                                   "/data/sounds/x-qaz-wm-error.wav\n")});
+        QVERIFY2(editor.waitForWindow(), qPrintable(editor.errors()));
+        EditorProcess::press("End Tab Tab Tab Tab Tab Home Tab Tab Tab space");
+        const QString children = "/proc/%1/task/%1/children"_s.arg(editor.process().processId());
+        const auto player = [&children] {
+            QFile list(children);
+            return list.open(QIODevice::ReadOnly) ? list.readAll().simplified() : QByteArray();
+        };
+        QTRY_VERIFY2(player().toInt() > 0, qPrintable(editor.errors()));
+        const pid_t pid = player().toInt();
+        server.end();
+        QCOMPARE(editor.exitCode(), 1);
+        QTRY_VERIFY(::kill(pid, 0) != 0);
     }
 
     void aTerminationStoresTheSize()
