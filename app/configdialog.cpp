@@ -191,9 +191,8 @@ int ConfigDialog::requestToSave(bool canCancel)
 {
     if (!m_buttonBox->button(QDialogButtonBox::Ok)->isEnabled())
         return QMessageBox::No;
-    const int answer = QMessageBox::information(this, tr("Save ?"), tr("Save changes?"),
-                                                int(QMessageBox::Yes), int(QMessageBox::No),
-                                                canCancel ? int(QMessageBox::Cancel) : 0);
+    const int answer = QMessageBox::question(this, tr("Save ?"), tr("Save changes?"), int(QMessageBox::Yes),
+                                             int(QMessageBox::No), canCancel ? int(QMessageBox::Cancel) : 0);
     if (answer == QMessageBox::Yes)
         fileSave();
     return answer == QMessageBox::Yes || answer == QMessageBox::Cancel ? answer : int(QMessageBox::No);

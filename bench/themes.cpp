@@ -18,7 +18,7 @@ namespace {
 
 constexpr int defaultCount = 400;
 constexpr int rounds = 7;
-constexpr double timeLimit = 2.5;   // times the floor
+constexpr double timeLimit = 2.5;  // times the floor
 constexpr double memoryLimit = 20; // MB at 400 themes of each kind
 constexpr int cursorSize = 24;
 constexpr int iconSize = 32;

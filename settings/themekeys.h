@@ -31,7 +31,8 @@ struct ThemeKey {
     /// The pages load a missing key with another default than they save it with, on purpose: any value that is set
     /// while the key is missing is new.
     bool isNewWhenMissing = false;
-    const char *part = nullptr; ///< of the desktop that has a colour, where the title is no more than its name
+    const char *part
+        = nullptr; ///< of the desktop that has a colour, where the title is no more than its name
 };
 
 /// A row of a colour; the key of a gradient's end is that of its begin and "2".

@@ -73,7 +73,8 @@ private slots:
             {"XftSubPixel=" + longName + "y", "Xft.rgba: " + longName + "y\n", "0 unknown " + longName}};
         const TemporaryHome home;
         for (const auto &row : rows) {
-            const QString store = home.write("store"_s, "[General]\n" + row.stored);
+            // A file of its own: one of the same size and time would be taken for the last one.
+            const QString store = home.write("store%1"_s.arg(&row - rows), "[General]\n" + row.stored);
             QCOMPARE(xftResourceLines(store).toLatin1(), row.lines);
             QCOMPARE(xftSettingsCommand(store), "QAZWM_UPDATE_VAL XftSettings " + row.command);
         }
