@@ -72,8 +72,7 @@ const ThemeKey *findThemeKey(const QString &name)
 
 QString meaning(const ThemeKey &key)
 {
-    const QString title = key.part ? translated(key.part)
-                                   : QCoreApplication::translate(key.context, key.title);
+    QString title = key.part ? translated(key.part) : QCoreApplication::translate(key.context, key.title);
     const QLatin1String name(key.name);
     if (key.kind == KeyKind::Color && name.endsWith(QLatin1Char('2')))
         return translated(QT_TRANSLATE_NOOP("ThemeKeys", "Color at the end of the gradient: %1")).arg(title);
