@@ -14,9 +14,11 @@
 SpawnedProcess::SpawnedProcess(const QString &program, const QStringList &arguments)
 {
     std::vector<QByteArray> texts;
+    texts.reserve(std::size_t(arguments.size()));
     for (const QString &argument : arguments)
         texts.push_back(QFile::encodeName(argument));
     std::vector<char *> argv;
+    argv.reserve(texts.size() + 1);
     for (QByteArray &text : texts)
         argv.push_back(text.data());
     argv.push_back(nullptr);

@@ -8,6 +8,7 @@
 #include "tools/qaz-theme/output.h"
 
 #include <QFileInfo>
+#include <QLocale>
 #include <QRegularExpression>
 #include <QTranslator>
 
