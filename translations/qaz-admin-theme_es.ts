@@ -1591,7 +1591,7 @@ Los espacios, las comillas, las barras invertidas y los caracteres de control no
     </message>
     <message>
         <source>Slide show interval (0 - no slide show)</source>
-        <translation>Intervalo del pase de imágenes (0 - sin pase)</translation>
+        <translation>Intervalo de la presentación (0 - sin presentación)</translation>
     </message>
     <message>
         <source>min.</source>
@@ -1619,7 +1619,7 @@ Los espacios, las comillas, las barras invertidas y los caracteres de control no
     </message>
     <message>
         <source>Stores the wallpaper for the virtual desktop in view only. Position and slide show belong to all desktops.</source>
-        <translation>Guarda el fondo solo para el escritorio virtual a la vista. La posición y el pase son comunes a todos los escritorios.</translation>
+        <translation>Guarda el fondo solo para el escritorio virtual a la vista. La posición y la presentación son comunes a todos los escritorios.</translation>
     </message>
 </context>
 <context>

@@ -1000,7 +1000,7 @@ Durée : %5 s</translation>
     </message>
     <message>
         <source>Choosing a theme takes its sound for every event. Files that you chose yourself stay.</source>
-        <translation>Choisir un thème prend son son pour chaque événement. Les fichiers choisis vous-même restent.</translation>
+        <translation>Le choix d’un thème en reprend les sons pour tous les événements. Les fichiers que vous avez choisis restent.</translation>
     </message>
     <message>
         <source>Without it the window manager plays no sound. The assignments are kept.</source>
@@ -1012,7 +1012,7 @@ Durée : %5 s</translation>
     </message>
     <message>
         <source>Each event of the window manager with its sound: a file of yours, a built-in file or a sound of the theme. Return chooses a file, Delete removes it. A sound file can be dropped on a row.</source>
-        <translation>Chaque événement du gestionnaire de fenêtres avec son son : un fichier à vous, un fichier intégré ou un son du thème. Entrée choisit un fichier, Suppr le retire. Un fichier son peut être déposé sur une ligne.</translation>
+        <translation>Les événements du gestionnaire de fenêtres et leurs sons : un fichier à vous, un fichier intégré ou un son du thème. Entrée choisit un fichier, Suppr le retire. Un fichier son peut être déposé sur une ligne.</translation>
     </message>
 </context>
 <context>
