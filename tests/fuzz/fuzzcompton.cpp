@@ -1,15 +1,14 @@
 #include "pages/effects/comptonconfig.h"
 #include "tests/fuzz/fuzzing.h"
+#include "tests/support/temporaryhome.h"
 
-#include <QDir>
 #include <QFile>
-#include <QTemporaryDir>
 
 // A switch that was set in a file that can be read is read back as it was set.
 int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
-    static const QTemporaryDir home;
-    static const QString path = home.filePath(QStringLiteral("compton.conf"));
+    static const TemporaryHome home; // locks are kept in the home, too
+    static const QString path = home.path(QStringLiteral("compton.conf"));
     const FuzzInput input(data, size);
     QFile file(path);
     require(file.open(QIODevice::WriteOnly) && file.write(input.content) == input.content.size());
