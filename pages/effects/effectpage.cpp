@@ -3,7 +3,6 @@
 #include "pages/common/waitcursor.h"
 #include "pages/effects/compositesettings.h"
 #include "pages/effects/effectsettings.h"
-#include "pages/effects/mapstyles.h"
 #include "platform/qazsettings.h"
 #include "settings/textvalues.h"
 #include "settings/updatevalues.h"
@@ -11,6 +10,12 @@
 #include <QSignalBlocker>
 
 namespace {
+
+/// By index of the combo box. The first is shown as "None", but the window manager calls it "Normal".
+QStringList mapStyles()
+{
+    return closedSet(themeKey("GradWindowMapStyle"));
+}
 
 constexpr int animatedMapSpeed = 15;
 constexpr int smallestPagingBelt = 2;
@@ -29,7 +34,7 @@ void showText(QSpinBox *box, const QString &text)
 
 void showText(QComboBox *box, const QString &text)
 {
-    box->setCurrentIndex(mapStyleIndex(text));
+    box->setCurrentIndex(qMax(0, mapStyles().indexOf(text)));
 }
 
 void updateFrom(QazSettings *settings, const QString &key, const QString &defaultText, const QCheckBox *box)
@@ -44,7 +49,7 @@ void updateFrom(QazSettings *settings, const QString &key, const QString &defaul
 
 void updateFrom(QazSettings *settings, const QString &key, const QString &defaultText, const QComboBox *box)
 {
-    updateStringValue(settings, key, defaultText, mapStyleKeyword(box->currentIndex()));
+    updateStringValue(settings, key, defaultText, mapStyles().at(qMax(0, box->currentIndex())));
 }
 
 } // namespace
@@ -54,6 +59,17 @@ EffectPage::EffectPage(QWidget *parent)
     , m_ui(std::make_unique<Ui::EffectForm>())
 {
     m_ui->setupUi(this);
+    for (const EffectSetting &setting : effectSettings) {
+        const auto describe = [this, &key = *setting.key](auto member) {
+            auto *widget = m_ui.get()->*member;
+            widget->setToolTip(meaning(key));
+            if constexpr (std::is_same_v<decltype(widget), QSpinBox *>)
+                widget->setRange(key.minimum, key.maximum);
+        };
+        std::visit(describe, setting.widget);
+    }
+    for (QLabel *label : findChildren<QLabel *>())
+        label->setToolTip(label->buddy()->toolTip());
     // Menu transparency is loaded and saved, but no window manager of today draws it.
     m_ui->pseudoTransparencyButtonGroup->hide();
 }
@@ -66,11 +82,16 @@ bool EffectPage::loadValues(QazSettings *settings)
     {
         // A repeated load finds the connections made: what it sets is no edit.
         const QSignalBlocker blocker(this);
-        for (const EffectSetting &setting : effectSettings)
-            loadSetting(settings, setting);
-        loadPaging();
+        for (const EffectSetting &setting : effectSettings) {
+            if (setting.isLoaded)
+                loadSetting(settings, setting);
+        }
+        m_ui->pagingGroupBox->setChecked(m_ui->pagingBeltSizeSpinBox->value() != 0);
         m_ui->thumbCheckBox->setChecked(storedText(settings, thumbnailKey).toInt() != 0);
-        showCompositeState(loadComposite(settings, compositeState(), &comptonConfigPath));
+        const CompositeState state = loadComposite(settings, compositeState(), &comptonConfigPath);
+        m_ui->compositeGroupBox->setChecked(state.managerOn);
+        m_ui->transparencyCheckBox->setChecked(state.transparency);
+        m_ui->shadowCheckBox->setChecked(state.shadow);
     }
     connectEdits();
     if (m_ui->gradWindowMapStyleComboBox->currentIndex() == 0)
@@ -98,21 +119,16 @@ void EffectPage::mapAnimationSlot(int index)
 
 void EffectPage::pagingBeltSlot(bool on)
 {
+    // The group box itself enables and disables what is in it.
     QSpinBox *belt = m_ui->pagingBeltSizeSpinBox;
-    belt->setEnabled(on);
-    if (on && belt->value() == 0)
-        belt->setValue(smallestPagingBelt);
-    else if (!on)
+    if (!on)
         belt->setValue(0);
-    for (QSpinBox *box :
-         {m_ui->pagingResistanceSpinBox, m_ui->pagingSpeedSpinBox, m_ui->pagingShiftCursorSpinBox})
-        box->setEnabled(on);
+    else if (belt->value() == 0)
+        belt->setValue(smallestPagingBelt);
 }
 
 void EffectPage::loadSetting(const QazSettings *settings, const EffectSetting &setting)
 {
-    if (!setting.isLoaded)
-        return;
     const QString text = storedText(settings, *setting.key);
     std::visit([this, &text](auto widget) { showText(m_ui.get()->*widget, text); }, setting.widget);
 }
@@ -125,26 +141,10 @@ void EffectPage::saveSetting(QazSettings *settings, const EffectSetting &setting
                setting.widget);
 }
 
-void EffectPage::loadPaging()
-{
-    const bool on = m_ui->pagingBeltSizeSpinBox->value() != 0;
-    m_ui->pagingGroupBox->setChecked(on);
-    for (QSpinBox *box : {m_ui->pagingBeltSizeSpinBox, m_ui->pagingResistanceSpinBox,
-                          m_ui->pagingSpeedSpinBox, m_ui->pagingShiftCursorSpinBox})
-        box->setEnabled(on);
-}
-
 CompositeState EffectPage::compositeState() const
 {
     return {m_ui->compositeGroupBox->isChecked(), m_ui->transparencyCheckBox->isChecked(),
             m_ui->shadowCheckBox->isChecked()};
-}
-
-void EffectPage::showCompositeState(const CompositeState &state)
-{
-    m_ui->compositeGroupBox->setChecked(state.managerOn);
-    m_ui->transparencyCheckBox->setChecked(state.transparency);
-    m_ui->shadowCheckBox->setChecked(state.shadow);
 }
 
 void EffectPage::connectEdits()

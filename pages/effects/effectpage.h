@@ -40,9 +40,7 @@ public slots:
 private:
     void loadSetting(const QazSettings *settings, const EffectSetting &setting);
     void saveSetting(QazSettings *settings, const EffectSetting &setting) const;
-    void loadPaging();
     CompositeState compositeState() const;
-    void showCompositeState(const CompositeState &state);
     void connectEdits();
 
     std::unique_ptr<Ui::EffectForm> m_ui;

@@ -132,7 +132,7 @@ private slots:
         const auto state = [&] {
             QString state = QString::number(file.spin("PagingBeltSize"_s)->value());
             for (const QString &key : numbers.mid(9, 4))
-                state += file.spin(key)->isEnabledTo(&file.page) ? u'+' : u'-';
+                state += file.spin(key)->isEnabled() ? u'+' : u'-';
             return state;
         };
         QCOMPARE(state(), "0----"_s);
