@@ -54,6 +54,8 @@ void SoundPage::setUpButtons()
                                       void (SoundPage::*action)()) {
         button->setIcon(QIcon::fromTheme(QLatin1String(icon), style()->standardIcon(fallback)));
         button->setIconSize(QSize(extent, extent));
+        button->setAutoRaise(true);
+        button->setFocusPolicy(Qt::StrongFocus);
         connect(button, &QToolButton::released, this, action);
     };
     setUp(m_ui->selectSoundButton, "document-open", QStyle::SP_DialogOpenButton, &SoundPage::openItem);

@@ -58,6 +58,8 @@ protected:
 PreviewComboBox::PreviewComboBox(QWidget *parent)
     : QComboBox(parent)
 {
+    setSizeAdjustPolicy(AdjustToContents);
+    setIconSize(QSize(110, 32));
     connect(this, qOverload<int>(&QComboBox::currentIndexChanged), this, [this] { updateGeometry(); });
 }
 
