@@ -1,78 +1,47 @@
 #include "platform/findinps.h"
 
-#include "base/chandle.h"
-
-#include <cerrno>
-#include <climits>
-#include <memory>
+#include <filesystem>
+#include <fstream>
 #include <string>
-#include <string_view>
-
-#include <dirent.h>
-#include <fcntl.h>
-#include <unistd.h>
 
 namespace {
 
-using namespace std::string_view_literals;
+namespace fs = std::filesystem;
 
-constexpr auto deletedMark = " (deleted)"sv; // behind a program whose file was replaced, as by an upgrade
+constexpr char deletedMark[] = " (deleted)"; // behind a program whose file was replaced, as by an upgrade
 
-std::string_view lastComponent(std::string_view path)
+/// A file of the kernel's up to its first NUL; empty when it can't be read.
+std::string textOf(const fs::path &file)
 {
-    return path.substr(path.rfind('/') + 1);
+    std::string text;
+    std::getline(std::ifstream(file), text, '\0');
+    return text;
 }
 
-/// The first bytes of a file in \a proc.
-std::string readStart(int proc, const std::string &path)
+bool isNamed(const fs::path &process, const std::string &name)
 {
-    char buffer[PATH_MAX];
-    const int descriptor = ::openat(proc, path.c_str(), O_RDONLY | O_CLOEXEC);
-    const ssize_t length = descriptor < 0 ? -1 : ::read(descriptor, buffer, sizeof buffer);
-    if (descriptor >= 0)
-        ::close(descriptor);
-    return length < 0 ? std::string() : std::string(buffer, std::size_t(length));
+    std::error_code error;
+    const std::string program = fs::read_symlink(process / "exe", error).filename();
+    return program == name || program == name + deletedMark
+           || fs::path(textOf(process / "cmdline")).filename() == name; // argv[0] ends with a NUL
 }
 
-bool isNamed(int proc, const std::string &id, std::string_view name)
+bool isAlive(const fs::path &process)
 {
-    char target[PATH_MAX];
-    const ssize_t length = ::readlinkat(proc, (id + "/exe").c_str(), target, sizeof target);
-    if (length < 0 && errno == ENOENT)
-        return false; // a kernel thread or a zombie, or it has vanished
-    if (length >= 0) {
-        const std::string_view program = lastComponent({target, std::size_t(length)});
-        if (program == name || program == std::string(name).append(deletedMark))
-            return true;
-    }
-    const std::string arguments = readStart(proc, id + "/cmdline");
-    return lastComponent(arguments.c_str()) == name; // argv[0] ends with a NUL
-}
-
-bool isAlive(int proc, const std::string &id)
-{
-    const std::string status = readStart(proc, id + "/stat");
+    const std::string status = textOf(process / "stat");
     // "PID (NAME) STATE ...": the name itself may hold blanks and brackets.
     const std::size_t nameEnd = status.rfind(')');
-    return nameEnd != std::string::npos && nameEnd + 2 < status.size()
-           && "ZXx"sv.find(status[nameEnd + 2]) == std::string_view::npos;
-}
-
-bool isProcessId(const char *name)
-{
-    return name[0] >= '1' && name[0] <= '9';
+    return nameEnd + 2 < status.size() && std::string("ZXx").find(status[nameEnd + 2]) == std::string::npos;
 }
 
 } // namespace
 
 bool findInPS(const char *name)
 {
-    if (!*name)
-        return false;
-    const std::unique_ptr<DIR, Release<::closedir>> directory(::opendir("/proc"));
-    while (const dirent *entry = directory ? ::readdir(directory.get()) : nullptr) {
-        const int proc = ::dirfd(directory.get());
-        if (isProcessId(entry->d_name) && isNamed(proc, entry->d_name, name) && isAlive(proc, entry->d_name))
+    std::error_code error;
+    for (fs::directory_iterator process("/proc", error), end; process != end; process.increment(error)) {
+        const char first = process->path().filename().native().front();
+        if (*name && first >= '1' && first <= '9' && isNamed(*process, name) && isAlive(*process))
             return true;
     }
     return false;
