@@ -12,14 +12,12 @@
 #include <QSet>
 #include <QVector>
 
-#include <cstring>
 #include <optional>
 
 namespace {
 
 constexpr int soundBufferSize = 4096;
 constexpr char themeGroup[] = "Sound Theme";
-const QLatin1String defaultProfile("stereo");
 
 /// What one theme's index says, and where the theme's directories are.
 struct ThemeIndex {
@@ -33,11 +31,6 @@ struct ThemeIndex {
 QString indexPath(const QString &baseDirectory, const QString &themeName)
 {
     return baseDirectory + QLatin1Char('/') + themeName + QLatin1String("/index.theme");
-}
-
-bool isThemeName(const QString &name)
-{
-    return !name.isEmpty() && !name.startsWith(QLatin1Char('.')) && !name.contains(QLatin1Char('/'));
 }
 
 QString textOf(const KeyFileText &index, const QByteArray &group, const QByteArray &key)
@@ -56,26 +49,19 @@ QStringList listOf(const KeyFileText &index, const QByteArray &key)
 QString localisedName(const KeyFileText &index)
 {
     for (const QString &locale : localeVariants({})) {
-        const QByteArray key = locale.isEmpty() ? QByteArrayLiteral("Name") : "Name[" + locale.toUtf8() + ']';
-        if (QString name = textOf(index, themeGroup, key); !name.isEmpty())
+        const QString key = locale.isEmpty() ? QStringLiteral("Name")
+                                             : QStringLiteral("Name[%1]").arg(locale);
+        if (QString name = textOf(index, themeGroup, key.toUtf8()); !name.isEmpty())
             return name;
     }
     return {};
-}
-
-void readIndex(const KeyFileText &text, ThemeIndex *index)
-{
-    index->shownName = localisedName(text);
-    index->parents = listOf(text, "Inherits");
-    for (const QString &directory : listOf(text, "Directories"))
-        index->directoriesOfProfile[textOf(text, directory.toUtf8(), "OutputProfile")].append(directory);
 }
 
 /// The index of the theme \a name as the first of \a baseDirectories that has one gives it.
 std::optional<ThemeIndex> loadIndex(const QString &name, const QStringList &baseDirectories)
 {
     ThemeIndex index;
-    if (!isThemeName(name))
+    if (name.isEmpty() || name.startsWith(QLatin1Char('.')) || name.contains(QLatin1Char('/')))
         return std::nullopt;
     for (const QString &base : baseDirectories) {
         const QString placement = base + QLatin1Char('/') + name;
@@ -88,44 +74,60 @@ std::optional<ThemeIndex> loadIndex(const QString &name, const QStringList &base
         if (file.state == FileState::Missing)
             continue;
         index.directory = placement;
-        readIndex(desktopEntryText(file.content), &index);
+        const KeyFileText text = desktopEntryText(file.content);
+        index.shownName = localisedName(text);
+        index.parents = listOf(text, "Inherits");
+        for (const QString &directory : listOf(text, "Directories"))
+            index.directoriesOfProfile[textOf(text, directory.toUtf8(), "OutputProfile")].append(directory);
     }
     if (index.directoriesOfProfile.isEmpty() && index.parents.isEmpty())
         return std::nullopt;
     return index;
 }
 
+/// The sound in the first of \a profiles, then \a locales, that \a theme has it for.
+std::optional<SoundCandidate> findInTheme(const ThemeIndex &theme, const QString &name,
+                                          const QStringList &profiles, const QStringList &locales,
+                                          SoundDirectories *files)
+{
+    std::optional<SoundCandidate> best;
+    const auto findBetter = [&](const QString &path) {
+        const std::optional<SoundCandidate> candidate = files->find(QDir::cleanPath(path), name);
+        if (candidate && (!best || candidate->rank < best->rank))
+            best = candidate;
+    };
+    for (const QString &profile : profiles) {
+        const QStringList directories = theme.directoriesOfProfile.value(profile);
+        for (const QString &locale : locales) {
+            for (const QString &placement : theme.placements) {
+                for (const QString &directory : directories)
+                    findBetter(placement + QLatin1Char('/') + directory + QLatin1Char('/') + locale);
+                if (best)
+                    return best;
+            }
+        }
+    }
+    return std::nullopt;
+}
+
 } // namespace
 
-class QazSoundTheme::Private
-{
-public:
-    QString findSound(const QString &name, const QString &profile, const QString &locale);
-
-    QByteArray themeName;
-    QByteArray shownName;
-    QByteArray path;
+struct QazSoundTheme::Lookup {
     QStringList baseDirectories;
     QVector<ThemeIndex> chain; // the theme itself, then those it inherits from; empty unless loaded
+    SoundDirectories files;
 
-    void loadChain();
-
-private:
-    std::optional<SoundCandidate> findInTheme(const ThemeIndex &theme, const QString &name,
-                                              const QStringList &profiles, const QStringList &locales);
-    std::optional<SoundCandidate> findBest(const QString &placement, const QStringList &directories,
-                                           const QString &locale, const QString &name);
-
-    SoundDirectories m_directories;
+    void loadChain(const QString &themeName);
+    QString findSound(const QString &name, const QString &profile, const QString &locale);
 };
 
-void QazSoundTheme::Private::loadChain()
+void QazSoundTheme::Lookup::loadChain(const QString &themeName)
 {
     chain.clear();
-    m_directories = {};
+    files = {};
     QSet<QString> seen;
     // The standard's order: each parent is followed by its own parents; the common theme stands behind all.
-    QStringList waiting{QString::fromLocal8Bit(themeName), QStringLiteral("freedesktop")};
+    QStringList waiting{themeName, QStringLiteral("freedesktop")};
     while (!waiting.isEmpty()) {
         const QString name = waiting.takeFirst();
         if (seen.contains(name))
@@ -141,69 +143,32 @@ void QazSoundTheme::Private::loadChain()
     }
 }
 
-std::optional<SoundCandidate> QazSoundTheme::Private::findBest(const QString &placement,
-                                                               const QStringList &directories,
-                                                               const QString &locale, const QString &name)
+QString QazSoundTheme::Lookup::findSound(const QString &name, const QString &profile, const QString &locale)
 {
-    std::optional<SoundCandidate> best;
-    for (const QString &directory : directories) {
-        QString path = QDir::cleanPath(placement + QLatin1Char('/') + directory);
-        if (!locale.isEmpty())
-            path += QLatin1Char('/') + locale;
-        const std::optional<SoundCandidate> candidate = m_directories.find(path, name);
-        if (candidate && (!best || candidate->rank < best->rank))
-            best = candidate;
-    }
-    return best;
-}
-
-std::optional<SoundCandidate> QazSoundTheme::Private::findInTheme(const ThemeIndex &theme,
-                                                                  const QString &name,
-                                                                  const QStringList &profiles,
-                                                                  const QStringList &locales)
-{
-    for (const QString &profile : profiles) {
-        const QStringList directories = theme.directoriesOfProfile.value(profile);
-        for (const QString &locale : locales) {
-            for (const QString &placement : theme.placements) {
-                if (auto found = findBest(placement, directories, locale, name))
-                    return found;
-            }
-        }
-    }
-    return std::nullopt;
-}
-
-QString QazSoundTheme::Private::findSound(const QString &name, const QString &profile, const QString &locale)
-{
-    QStringList profiles{profile, defaultProfile, QString()};
+    QStringList profiles{profile, QStringLiteral("stereo"), QString()};
     if (profile.isEmpty())
         profiles.removeFirst();
     const QStringList locales = localeVariants(locale);
     std::optional<SoundCandidate> found;
     for (const ThemeIndex &theme : qAsConst(chain)) {
         // Dashes separate levels of detail; a theme's own general sound fits better than another theme's special one.
-        QString level = name;
-        do {
-            found = findInTheme(theme, level, profiles, locales);
-            level.truncate(level.lastIndexOf(QLatin1Char('-')));
-        } while (!found && !level.isEmpty());
-        if (found)
-            break;
+        for (QString level = name; !found && !level.isEmpty();
+             level.truncate(level.lastIndexOf(QLatin1Char('-'))))
+            found = findInTheme(theme, level, profiles, locales, &files);
     }
     for (int i = 0; !found && i < baseDirectories.size(); ++i)
-        found = m_directories.find(baseDirectories.at(i), name); // sounds of no theme
+        found = files.find(baseDirectories.at(i), name); // sounds of no theme
     return found && found->rank != SoundCandidate::Disabled ? found->path : QString();
 }
 
 QazSoundTheme::QazSoundTheme(const char *themeName, const char *firstDirectory)
-    : d(std::make_unique<Private>())
+    : m_themeName(themeName)
+    , m_shownName(themeName)
+    , m_lookup(std::make_unique<Lookup>())
 {
-    d->themeName = themeName;
-    d->shownName = themeName;
-    d->baseDirectories = soundBaseDirectories();
+    m_lookup->baseDirectories = soundBaseDirectories();
     if (firstDirectory)
-        d->baseDirectories.prepend(QFile::decodeName(firstDirectory));
+        m_lookup->baseDirectories.prepend(QFile::decodeName(firstDirectory));
 }
 
 QazSoundTheme::~QazSoundTheme() = default;
@@ -234,39 +199,24 @@ bool QazSoundTheme::getThemesNames(List<char> *names)
 
 bool QazSoundTheme::load()
 {
-    d->loadChain();
-    if (d->chain.isEmpty())
+    m_lookup->loadChain(QString::fromLocal8Bit(m_themeName));
+    if (m_lookup->chain.isEmpty())
         return false;
-    const ThemeIndex &own = d->chain.constFirst();
-    d->path = QFile::encodeName(own.directory);
+    const ThemeIndex &own = m_lookup->chain.constFirst();
+    m_path = QFile::encodeName(own.directory);
     if (!own.shownName.isEmpty())
-        d->shownName = own.shownName.toLocal8Bit();
+        m_shownName = own.shownName.toLocal8Bit();
     return true;
 }
 
 bool QazSoundTheme::getSound(const char *name, const char *profile, const char *locale, char *buffer)
 {
-    if (d->chain.isEmpty())
+    if (m_lookup->chain.isEmpty())
         return false;
-    const QByteArray path = QFile::encodeName(d->findSound(
+    const QByteArray path = QFile::encodeName(m_lookup->findSound(
         QString::fromLocal8Bit(name), QString::fromLocal8Bit(profile), QString::fromLocal8Bit(locale)));
     if (path.isEmpty() || path.size() >= soundBufferSize)
         return false;
-    std::memcpy(buffer, path.constData(), size_t(path.size()) + 1);
+    qstrcpy(buffer, path.constData());
     return true;
-}
-
-const char *QazSoundTheme::getPath() const
-{
-    return d->path.constData();
-}
-
-const char *QazSoundTheme::getName() const
-{
-    return d->shownName.constData();
-}
-
-const char *QazSoundTheme::getThemeName() const
-{
-    return d->themeName.constData();
 }

@@ -2,6 +2,8 @@
 
 #include "platform/list.h"
 
+#include <QByteArray>
+
 #include <memory>
 
 /// A sound theme of the freedesktop sound theme standard, found in `sounds/` of the XDG data directories and in
@@ -30,13 +32,17 @@ public:
     bool getSound(const char *name, const char *profile, const char *locale, char *buffer);
 
     /// The directory that holds the theme's index, without a trailing slash; empty before load().
-    const char *getPath() const;
+    const char *getPath() const { return m_path.constData(); }
     /// The name to show, as the theme's index gives it in the user's language; without one, getThemeName().
-    const char *getName() const;
+    const char *getName() const { return m_shownName.constData(); }
     /// The name that the theme was constructed with.
-    const char *getThemeName() const;
+    const char *getThemeName() const { return m_themeName.constData(); }
 
 private:
-    class Private;
-    std::unique_ptr<Private> d;
+    struct Lookup;
+
+    QByteArray m_themeName;
+    QByteArray m_shownName;
+    QByteArray m_path;
+    std::unique_ptr<Lookup> m_lookup;
 };
