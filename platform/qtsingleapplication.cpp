@@ -7,7 +7,6 @@
 #include <QDataStream>
 #include <QElapsedTimer>
 #include <QFile>
-#include <QFileInfo>
 #include <QLocalServer>
 #include <QLocalSocket>
 #include <QThread>
@@ -56,14 +55,8 @@ bool clearAway(int directory, const QByteArray &name)
 
 } // namespace
 
-QtSingleApplication::QtSingleApplication(int &argc, char **argv, bool /*guiEnabled*/)
-    : QtSingleApplication(QFileInfo(QFile::symLinkTarget(QStringLiteral("/proc/self/exe"))).fileName(), argc,
-                          argv)
-{}
-
 QtSingleApplication::QtSingleApplication(const QString &id, int &argc, char **argv)
     : QApplication(argc, argv)
-    , m_id(id)
     , m_name(socketName(id))
     , m_directory(openDirectory())
 {}
@@ -128,6 +121,7 @@ void QtSingleApplication::listen()
 void QtSingleApplication::acceptConnection()
 {
     while (QLocalSocket *socket = m_server->nextPendingConnection()) {
+        socket->setReadBufferSize(longestMessage); // a longer one never ends
         connect(socket, &QLocalSocket::readyRead, this, [this, socket] { readMessage(socket); });
         connect(socket, &QLocalSocket::disconnected, socket, &QLocalSocket::deleteLater);
         readMessage(socket);
@@ -137,16 +131,9 @@ void QtSingleApplication::acceptConnection()
 void QtSingleApplication::readMessage(QLocalSocket *socket)
 {
     QDataStream stream(socket);
-    stream.setVersion(QDataStream::Qt_5_15);
     stream.startTransaction();
-    quint32 size = 0;
-    stream >> size;
-    if (size > longestMessage) {
-        socket->abort();
-        return;
-    }
-    QByteArray message(int(size), '\0');
-    stream.readRawData(message.data(), message.size());
+    QByteArray message;
+    stream >> message;
     // What has not arrived yet comes with a later readyRead().
     if (!stream.commitTransaction())
         return;
@@ -170,35 +157,11 @@ bool QtSingleApplication::sendMessage(const QString &message, int timeout)
             return false;
         QThread::msleep(20);
     }
-    const QByteArray text = message.toUtf8();
     QDataStream stream(&socket);
-    stream.setVersion(QDataStream::Qt_5_15);
-    stream << quint32(text.size());
-    stream.writeRawData(text.constData(), text.size());
-    while (socket.bytesToWrite() > 0) {
-        if (!socket.waitForBytesWritten(left()))
-            return false;
-    }
+    stream << message.toUtf8();
     while (socket.bytesAvailable() < qint64(sizeof(acknowledgement) - 1)) {
         if (timer.hasExpired(timeout) || !socket.waitForReadyRead(left()))
             return false;
     }
-    return socket.read(qint64(sizeof(acknowledgement) - 1)) == acknowledgement;
-}
-
-void QtSingleApplication::setActivationWindow(QWidget *window, bool activateOnMessage)
-{
-    m_activationWindow = window;
-    disconnect(this, &QtSingleApplication::messageReceived, this, &QtSingleApplication::activateWindow);
-    if (activateOnMessage)
-        connect(this, &QtSingleApplication::messageReceived, this, &QtSingleApplication::activateWindow);
-}
-
-void QtSingleApplication::activateWindow()
-{
-    if (!m_activationWindow)
-        return;
-    m_activationWindow->setWindowState(m_activationWindow->windowState() & ~Qt::WindowMinimized);
-    m_activationWindow->raise();
-    m_activationWindow->activateWindow();
+    return socket.readAll() == acknowledgement;
 }
