@@ -50,7 +50,7 @@ HelpWindow::HelpWindow()
          {QKeySequence(Qt::CTRL + Qt::Key_Plus), QKeySequence(Qt::CTRL + Qt::Key_Equal)})
         onKey(this, key, [this] { zoom(1); });
     onKey(this, QKeySequence(Qt::CTRL + Qt::Key_Minus), [this] { zoom(-1); });
-    onKey(this, QKeySequence(Qt::CTRL + Qt::Key_0), [this] { resetZoom(); });
+    onKey(this, QKeySequence(Qt::CTRL + Qt::Key_0), [this] { zoom(-m_steps); });
     onKey(this, QKeySequence::Find, [this] {
         m_text->setFocus();
         m_text->selectAll();
@@ -121,11 +121,6 @@ void HelpWindow::zoom(int steps)
     const int before = m_steps;
     m_steps = qBound(smallestZoom, m_steps + steps, largestZoom);
     zoomIn(m_steps - before);
-}
-
-void HelpWindow::resetZoom()
-{
-    zoom(-m_steps);
 }
 
 void HelpWindow::resizeEvent(QResizeEvent *event)

@@ -12,16 +12,14 @@ class HelpWindow : public QTextBrowser
 public:
     HelpWindow();
 
-    /// Looks for the text of the search field from the cursor on, and again from the other end.
-    void search(QTextDocument::FindFlags flags = {});
-    void zoom(int steps);
-    void resetZoom();
-
 protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
     void createBar();
+    /// Looks for the text of the search field from the cursor on, and again from the other end.
+    void search(QTextDocument::FindFlags flags = {});
+    void zoom(int steps);
     void fitPictures();
 
     QWidget *m_bar;

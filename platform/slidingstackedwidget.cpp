@@ -8,20 +8,8 @@ namespace {
 
 constexpr int slideMs = 300;
 
-/// Where the page that comes in starts, seen from its final place.
-QPoint startOffset(int direction, const QSize &size)
-{
-    switch (direction) {
-    case SlidingStackedWidget::RightToLeft:
-        return {size.width(), 0};
-    case SlidingStackedWidget::TopToBottom:
-        return {0, -size.height()};
-    case SlidingStackedWidget::BottomToTop:
-        return {0, size.height()};
-    default:
-        return {-size.width(), 0};
-    }
-}
+// Where the page that comes in starts, seen from its final place, in the order of the directions.
+constexpr QPoint starts[] = {{-1, 0}, {1, 0}, {0, -1}, {0, 1}};
 
 void addMove(QParallelAnimationGroup *group, QWidget *page, const QPoint &from, const QPoint &to)
 {
@@ -35,26 +23,20 @@ void addMove(QParallelAnimationGroup *group, QWidget *page, const QPoint &from, 
 
 } // namespace
 
-SlidingStackedWidget::SlidingStackedWidget(QWidget *parent)
-    : QStackedWidget(parent)
-{}
-
-SlidingStackedWidget::~SlidingStackedWidget() = default;
-
 void SlidingStackedWidget::slideInIdx(int index, int direction)
 {
     finishSlide();
     QWidget *incoming = widget(index);
     QWidget *outgoing = currentWidget();
     if (!incoming || incoming == outgoing || !isVisible()) {
-        if (incoming)
-            setCurrentIndex(index);
+        setCurrentIndex(index); // which ignores a wrong one
         emit animationFinished();
         return;
     }
 
     const QPoint place = contentsRect().topLeft();
-    const QPoint offset = startOffset(direction, contentsRect().size());
+    const QPoint start = starts[direction >= LeftToRight && direction <= BottomToTop ? direction : 0];
+    const QPoint offset(start.x() * contentsRect().width(), start.y() * contentsRect().height());
     incoming->setGeometry(contentsRect().translated(offset));
     incoming->show();
     incoming->raise();

@@ -9,8 +9,7 @@ class SlidingStackedWidget : public QStackedWidget
 public:
     enum Direction { LeftToRight = 0, RightToLeft = 1, TopToBottom = 2, BottomToTop = 3 };
 
-    explicit SlidingStackedWidget(QWidget *parent = nullptr);
-    ~SlidingStackedWidget() override;
+    using QStackedWidget::QStackedWidget;
 
 public slots:
     /// Slides the page at \a index in, moving in \a direction (see Direction; other codes slide as 0).
