@@ -1,9 +1,7 @@
 #include "app/configdialog.h"
 
-#include "app/controlguard.h"
 #include "app/pagetable.h"
 #include "app/themefilewatcher.h"
-#include "app/windowsize.h"
 #include "base/atomicfile.h"
 #include "platform/qazhelp.h"
 #include "platform/qazinit.h"
@@ -90,8 +88,7 @@ void ConfigDialog::createPages()
     m_pageArea->setWidgetResizable(true);
     m_pageArea->setWidget(pagesWidget);
 
-    auto *controlGuard = new ControlGuard(this);
-    controlGuard->guard(pagesWidget);
+    guardControls();
     // A focused button of a page would take Return away from OK.
     const QList<QPushButton *> pageButtons = pagesWidget->findChildren<QPushButton *>();
     for (QPushButton *button : pageButtons) {

@@ -47,10 +47,14 @@ public slots:
 
 protected:
     void closeEvent(QCloseEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void fillContents();
     void createPages();
+    /// Keeps spin boxes and combo boxes from changing when the user meant something else: to scroll past them with
+    /// the wheel, or to close the window by Return.
+    void guardControls();
     void createButtons();
     void createLayout();
     void createShortcuts();

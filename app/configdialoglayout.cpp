@@ -3,13 +3,18 @@
 #include "app/configdialog.h"
 
 #include "app/pagetable.h"
-#include "app/windowsize.h"
 #include "platform/slidingstackedwidget.h"
+#include "settings/inifile.h"
 
+#include <QAbstractSpinBox>
+#include <QComboBox>
+#include <QCoreApplication>
 #include <QDialogButtonBox>
 #include <QIcon>
+#include <QKeyEvent>
 #include <QListWidget>
 #include <QPushButton>
+#include <QScreen>
 #include <QScrollArea>
 #include <QShortcut>
 #include <QVBoxLayout>
@@ -22,6 +27,9 @@ int listItemWidth = 0;
 constexpr int narrowestLabel = 64;
 constexpr int iconExtent = 64;
 constexpr int defaultWidth = 800;
+constexpr int largestExtent = 32767; // an X window can't be larger
+// What Qt, too, takes for the frame of a window that is not shown yet.
+constexpr QSize frame(10, 40);
 
 int gridRowHeight(const QFontMetrics &metrics)
 {
@@ -32,6 +40,17 @@ int gridRowHeight(const QFontMetrics &metrics)
 QIcon iconNamed(const QString &name)
 {
     return QIcon::fromTheme(name, QIcon(QStringLiteral(":/fallback/%1.svg").arg(name)));
+}
+
+QString ownSettings()
+{
+    return iniFile(QCoreApplication::organizationName(), QCoreApplication::applicationName());
+}
+
+int storedExtent(const char *key, int defaultExtent)
+{
+    const int extent = iniValue(ownSettings(), QLatin1String(key), defaultExtent).toInt();
+    return extent > 0 && extent <= largestExtent ? extent : defaultExtent;
 }
 
 } // namespace
@@ -120,10 +139,11 @@ void ConfigDialog::restoreSize()
     // Seven rows of the list: its six entries and one to spare. All pages are seen whole.
     const QSize usual(defaultWidth, gridRowHeight(QFontMetrics(contentsWidget->font())) * 7);
     m_pageArea->setMinimumSize(pagesWidget->minimumSizeHint());
-    m_wantedSize = storedWindowSize(usual.expandedTo(layout()->minimumSize()));
+    const QSize atFirst = usual.expandedTo(layout()->minimumSize());
+    m_wantedSize = {storedExtent("width", atFirst.width()), storedExtent("height", atFirst.height())};
     m_pageArea->setMinimumSize(0, 0);
     scrollOnlyForPageInView();
-    resize(sizeOnScreen(m_wantedSize, this));
+    resize(m_wantedSize.boundedTo(screen()->availableSize() - frame));
     m_firstSize = size();
 }
 
@@ -138,6 +158,37 @@ void ConfigDialog::scrollOnlyForPageInView()
 void ConfigDialog::storeSize() const
 {
     // A small screen's limits are not the user's wish.
-    storeWindowSize({width() == m_firstSize.width() ? m_wantedSize.width() : width(),
-                     height() == m_firstSize.height() ? m_wantedSize.height() : height()});
+    const int wide = width() == m_firstSize.width() ? m_wantedSize.width() : width();
+    const int high = height() == m_firstSize.height() ? m_wantedSize.height() : height();
+    QString error; // told on standard error
+    [[maybe_unused]] const bool stored = writeIniValues(
+        ownSettings(), QString(), {{QStringLiteral("width"), wide}, {QStringLiteral("height"), high}},
+        &error);
+}
+
+void ConfigDialog::guardControls()
+{
+    const QList<QWidget *> children = pagesWidget->findChildren<QWidget *>();
+    for (QWidget *child : children) {
+        if (!qobject_cast<QAbstractSpinBox *>(child) && !qobject_cast<QComboBox *>(child))
+            continue;
+        child->installEventFilter(this);
+        if (child->focusPolicy() == Qt::WheelFocus)
+            child->setFocusPolicy(Qt::StrongFocus);
+    }
+}
+
+bool ConfigDialog::eventFilter(QObject *watched, QEvent *event)
+{
+    auto *spinBox = qobject_cast<QAbstractSpinBox *>(watched);
+    const int key = event->type() == QEvent::KeyPress ? static_cast<QKeyEvent *>(event)->key() : 0;
+    if (spinBox && (key == Qt::Key_Return || key == Qt::Key_Enter)) {
+        // The box would announce its value as changed, even if it is as before.
+        spinBox->interpretText();
+    } else if (event->type() != QEvent::Wheel || static_cast<QWidget *>(watched)->hasFocus()) {
+        return QDialog::eventFilter(watched, event);
+    }
+    // Not accepted, so that whatever is around the widget still scrolls, or presses its default button.
+    event->ignore();
+    return true;
 }
