@@ -20,7 +20,7 @@ qaz_add_desktop_library(qazintegration qaz-platform "sendcommandtowm")
 qaz_add_desktop_library(qazcore qaz-platform
     "getqazdir|qazinit|qazsettings|qazdesktopentry|findfileinpath|findinps|setxrdbparameterinfile")
 qaz_add_desktop_library(qazui qaz-platform
-    "finddpi|qazicontheme|findwallpaperbyname|wallpapersizeforscreen" qazcore)
+    "currentcursortheme|finddpi|qazicontheme|findwallpaperbyname|wallpapersizeforscreen" qazcore)
 qaz_add_desktop_library(qazuiextra qaz-platform "helpwindow|qazhelp|qazsoundtheme" qazcore slidingstackedwidget)
 add_custom_target(desktop-libraries
     DEPENDS qazcore qazui qazuiextra qazintegration qazfiledialog slidingstackedwidget)

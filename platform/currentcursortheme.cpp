@@ -1,4 +1,6 @@
-#include "platform/currentcursortheme.h"
+// Which cursor theme the user has: the part of QazIconTheme that reads and writes it.
+
+#include "platform/qazicontheme.h"
 
 #include "base/atomicfile.h"
 #include "base/diagnostics.h"
@@ -7,23 +9,39 @@
 #include "freedesktop/cursorfiles.h"
 #include "freedesktop/iconthemeindex.h"
 #include "freedesktop/serverresources.h"
+#include "freedesktop/themedirectories.h"
 #include "freedesktop/xresources.h"
-#include "platform/livecursors.h"
 #include "platform/setxrdbparameterinfile.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QTemporaryDir>
 #include <QX11Info>
 
-#include <cstdio>
-
 #include <X11/Xcursor/Xcursor.h>
+#include <X11/extensions/Xfixes.h>
 
 namespace {
 
-const QByteArray defaultTheme = QByteArrayLiteral("default");
 const char resource[] = "Xcursor.theme:";
+
+// Under these names programs load their cursors: those of the X cursor font, of CSS and of the toolkits.
+// clang-format off
+constexpr const char *cursorNames[] = {
+    "X_cursor", "all-scroll", "arrow", "based_arrow_down", "based_arrow_up", "bottom_left_corner",
+    "bottom_right_corner", "bottom_side", "bottom_tee", "cell", "center_ptr", "circle", "closedhand", "col-resize",
+    "context-menu", "copy", "cross", "cross_reverse", "crosshair", "default", "diamond_cross", "dnd-ask", "dnd-copy",
+    "dnd-link", "dnd-move", "dnd-none", "dot", "dotbox", "double_arrow", "draft_large", "draft_small", "draped_box",
+    "e-resize", "ew-resize", "exchange", "fleur", "forbidden", "grab", "grabbing", "half-busy", "hand", "hand1",
+    "hand2", "help", "icon", "iron_cross", "left_ptr", "left_ptr_watch", "left_side", "left_tee", "link", "ll_angle",
+    "lr_angle", "move", "n-resize", "ne-resize", "nesw-resize", "no-drop", "not-allowed", "ns-resize", "nw-resize",
+    "nwse-resize", "openhand", "pencil", "pirate", "plus", "pointer", "pointing_hand", "progress", "question_arrow",
+    "right_ptr", "right_side", "right_tee", "row-resize", "s-resize", "sb_down_arrow", "sb_h_double_arrow",
+    "sb_left_arrow", "sb_right_arrow", "sb_up_arrow", "sb_v_double_arrow", "se-resize", "size_all", "size_bdiag",
+    "size_fdiag", "size_hor", "size_ver", "sizing", "split_h", "split_v", "sw-resize", "target", "tcross", "text",
+    "top_left_arrow", "top_left_corner", "top_right_corner", "top_side", "top_tee", "ul_angle", "up_arrow",
+    "ur_angle", "vertical-text", "w-resize", "wait", "watch", "whats_this", "xterm", "zoom-in", "zoom-out"};
+// clang-format on
 
 QString userIconsDirectory()
 {
@@ -39,21 +57,15 @@ bool reportFailure(const QString &path, const QString &reason)
 /// Puts a directory with an index file in the place of the link at \a path; what the link leads to stays.
 bool replaceLink(const QString &path, const QByteArray &index)
 {
-    QTemporaryDir directory(path + QLatin1String("-XXXXXX"));
-    if (!directory.isValid())
-        return reportFailure(path, directory.errorString());
-    QString reason;
-    if (!replaceFile(directory.filePath(QStringLiteral("index.theme")), index, &reason))
-        return reportFailure(path, reason);
-    QFile::setPermissions(directory.path(), QFile::permissions(QFileInfo(path).path()));
     const QString target = QFile::symLinkTarget(path);
-    if (!QFile::remove(path))
-        return reportFailure(path, QStringLiteral("the link can't be removed"));
-    if (std::rename(QFile::encodeName(directory.path()).constData(), QFile::encodeName(path).constData())
-        == 0)
-        return true;
-    QFile::link(target, path);
-    return reportFailure(path, QStringLiteral("the link can't be replaced"));
+    QString reason = QStringLiteral("the link can't be removed");
+    if (QFile::remove(path)) {
+        if (replaceFile(path + QLatin1String("/index.theme"), index, &reason))
+            return true;
+        QDir().rmdir(path);
+        QFile::link(target, path);
+    }
+    return reportFailure(path, reason);
 }
 
 /// Lets the user's "default" theme inherit from \a name.
@@ -62,16 +74,14 @@ bool writeDefaultTheme(const QByteArray &name)
     const QString directory = userIconsDirectory() + QLatin1String("/default");
     const QString path = directory + QLatin1String("/index.theme");
     // "default" may not inherit from itself; without the line the system's default shows.
-    const QByteArray inherited = name == defaultTheme ? QByteArray() : name;
+    const QByteArray inherited = name == "default" ? QByteArray() : name;
     if (QFileInfo(directory).isSymLink())
         return inherited.isEmpty() || replaceLink(directory, withInherits({}, inherited));
     const FileContent old = readRegularFile(path);
     if (old.state == FileState::Unreadable)
         return reportFailure(path, old.error);
-    if (inherited.isEmpty() && old.state == FileState::Missing)
-        return true;
     const QByteArray content = withInherits(old.content, inherited);
-    if (old.state == FileState::Regular && content == old.content)
+    if (content == old.content)
         return true;
     // A link leads into some theme, which is not ours to change.
     if (QFileInfo(path).isSymLink())
@@ -88,13 +98,12 @@ bool makeReachable(const QByteArray &name, QString *made)
         return QFileInfo::exists(QFile::decodeName(base + '/' + name + "/cursors"));
     };
     const QByteArrayList clientPath = cursorClientPath();
-    for (const QByteArray &base : clientPath) {
-        if (holdsCursors(base))
-            return true;
-    }
+    // The others stand behind those of the clients.
     for (const QByteArray &base : cursorSearchPath()) {
         if (!holdsCursors(base))
             continue;
+        if (clientPath.contains(base))
+            return true;
         const QString link = userIconsDirectory() + QLatin1Char('/') + QFile::decodeName(name);
         makeDirectories(userIconsDirectory());
         // A link to a theme that has moved, as one made here before, is in the way.
@@ -136,19 +145,55 @@ void putBack(const QString &path, const FileContent &before, const QByteArray &w
         reportFailure(path, error);
 }
 
-} // namespace
-
-QByteArray currentCursorTheme(Display *display)
+bool canChangeByName(Display *display)
 {
-    // Xcursor reads the resource once per connection; XcursorSetTheme() keeps it up to date.
-    QByteArray name(display ? XcursorGetTheme(display) : nullptr);
-    if (!name.isEmpty())
-        return name;
-    const FileContent index = readRegularFile(userIconsDirectory() + QLatin1String("/default/index.theme"));
-    return parseIconThemeIndex(index.content).cursorInherits.value(0);
+    int unused = 0;
+    int major = 0;
+    int minor = 0;
+    return XFixesQueryExtension(display, &unused, &unused) && XFixesQueryVersion(display, &major, &minor)
+           && major >= 2;
 }
 
-bool setCurrentCursorTheme(const QByteArray &name)
+/// Shows the cursors of \a theme in this program and, where the server can change cursors by their name, in
+/// all others on \a display, and over the root window.
+void showCursorTheme(Display *display, const QByteArray &theme)
+{
+    XcursorSetTheme(display, theme.constData());
+    if (const Cursor pointer = XcursorLibraryLoadCursor(display, "left_ptr")) {
+        XDefineCursor(display, DefaultRootWindow(display), pointer);
+        XFreeCursor(display, pointer);
+    }
+    if (canChangeByName(display)) {
+        ThemeDirectories directories(cursorSearchPath());
+        for (const char *name : cursorNames) {
+            // Xcursor answers unknown names with the X font's cursor; a theme that lacks one changes nothing.
+            if (cursorFile(directories, theme, name).isEmpty())
+                continue;
+            if (const Cursor cursor = XcursorLibraryLoadCursor(display, name)) {
+                XFixesChangeCursorByName(display, cursor, name);
+                XFreeCursor(display, cursor);
+            }
+        }
+    }
+    XFlush(display);
+}
+
+} // namespace
+
+const char *QazIconTheme::getCurrentCursorThemeName(Display *display)
+{
+    static QByteArray name;
+    // Xcursor reads the resource once per connection; XcursorSetTheme() keeps it up to date.
+    name = display ? XcursorGetTheme(display) : nullptr;
+    if (name.isEmpty()) {
+        const FileContent index = readRegularFile(userIconsDirectory()
+                                                  + QLatin1String("/default/index.theme"));
+        name = parseIconThemeIndex(index.content).cursorInherits.value(0);
+    }
+    return name.isEmpty() ? nullptr : name.constData();
+}
+
+bool QazIconTheme::setCurrentCursorThemeName(const char *name)
 {
     const QString path = userXresources();
     const QByteArray value = resourceValue(name);
@@ -162,7 +207,8 @@ bool setCurrentCursorTheme(const QByteArray &name)
                                false)) {
         const QByteArray written = readRegularFile(path).content;
         if (mergeIntoServer(resource + QByteArrayLiteral(" ") + value + '\n') && writeDefaultTheme(name)) {
-            showCursorTheme(QX11Info::isPlatformX11() ? QX11Info::display() : nullptr, name);
+            if (QX11Info::isPlatformX11())
+                showCursorTheme(QX11Info::display(), name);
             return true;
         }
         writeServerResources(serverBefore);

@@ -5,7 +5,7 @@
 #include "freedesktop/images.h"
 #include "freedesktop/processwait.h"
 #include "platform/getqazdir.h"
-#include "platform/wallpapersearch.h"
+#include "platform/wallpapersizeforscreen.h"
 
 #include <QCoreApplication>
 #include <QCryptographicHash>
@@ -23,6 +23,7 @@ constexpr int resultSize = 4096;
 constexpr int convertTimeoutMs = 30000;
 constexpr int cacheDirectory = 1;
 constexpr int userWallpapers = 21;
+constexpr const char *endings[] = {"", ".png", ".jpg", ".jpeg", ".xpm", ".svg", ".svgz"};
 
 /// Where the rendering of \a source is kept: the digest keeps equal names of different directories apart.
 QString renderedPath(const QString &source, int width, int height)
@@ -40,6 +41,22 @@ QString findProgram(const QString &name)
     const QString inPath = QStandardPaths::findExecutable(name);
     return inPath.isEmpty() ? QStandardPaths::findExecutable(name, {QCoreApplication::applicationDirPath()})
                             : inPath;
+}
+
+/// Splits a command at its blanks, keeping quoted parts together, before file names are filled in.
+QStringList convertArguments(const QString &command, int width, int height, const QString &source,
+                             const QString &target)
+{
+    QStringList numbers = {QString::number(width), QString::number(height)};
+    QStringList files = {source, target};
+    QStringList arguments = QProcess::splitCommand(command);
+    for (QString &argument : arguments) {
+        if (argument == QLatin1String("%d") && !numbers.isEmpty())
+            argument = numbers.takeFirst();
+        else if (argument == QLatin1String("%s") && !files.isEmpty())
+            argument = files.takeFirst();
+    }
+    return arguments;
 }
 
 QString convertSvg(const QString &source, int width, int height, const char *command)
@@ -69,16 +86,36 @@ QString convertSvg(const QString &source, int width, int height, const char *com
     return converted && QFileInfo(target).isFile() ? target : QString();
 }
 
+/// Every path at which the wallpaper may lie, best first: the directories of the screen's size, its standard size and
+/// its aspect ratio before the others'.
+QStringList candidates(const QString &name, int width, int height)
+{
+    int standardWidth = 0, standardHeight = 0, ratioWidth = 0, ratioHeight = 0;
+    WallpaperSizeForScreen(width, height, &standardWidth, &standardHeight, &ratioWidth, &ratioHeight);
+    const QString directories[] = {QStringLiteral("/%1x%2/").arg(width).arg(height),
+                                   QStringLiteral("/%1x%2/").arg(standardWidth).arg(standardHeight),
+                                   QStringLiteral("/%1:%2/").arg(ratioWidth).arg(ratioHeight),
+                                   QStringLiteral("/")};
+    QStringList paths;
+    for (const QString &root :
+         {QString::fromLocal8Bit(GetQazDir(userWallpapers)), QStringLiteral("/usr/share/wallpapers"),
+          dataRoot() + QLatin1String("/wallpapers")}) {
+        for (const QString &directory : directories) {
+            for (const char *ending : endings)
+                paths += root + directory + name + QLatin1String(ending);
+        }
+    }
+    return paths;
+}
+
 QString findWallpaper(const QString &name, int width, int height, const char *convertCommand)
 {
-    const QStringList roots = {QString::fromLocal8Bit(GetQazDir(userWallpapers)),
-                               QStringLiteral("/usr/share/wallpapers"),
-                               dataRoot() + QLatin1String("/wallpapers")};
-    const QStringList candidates = wallpaperCandidates(name, roots, width, height);
-    for (const QString &candidate : candidates) {
-        if (!QFileInfo(candidate).isFile())
+    if (name.isEmpty() || name.contains(QLatin1Char('/')))
+        return {};
+    for (const QString &path : candidates(name, width, height)) {
+        if (!QFileInfo(path).isFile())
             continue;
-        QString image = isSvg(candidate) ? convertSvg(candidate, width, height, convertCommand) : candidate;
+        QString image = isSvg(path) ? convertSvg(path, width, height, convertCommand) : path;
         if (!image.isEmpty())
             return image;
     }

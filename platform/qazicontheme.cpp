@@ -3,7 +3,6 @@
 #include "freedesktop/cursorfiles.h"
 #include "freedesktop/iconfiles.h"
 #include "freedesktop/themedirectories.h"
-#include "platform/currentcursortheme.h"
 
 #include <QFile>
 #include <QSet>
@@ -72,18 +71,6 @@ bool QazIconTheme::getCursorThemeNames(List<char> *list)
     for (const QByteArray &name : cursorThemeNames(directories))
         list->append(name.constData());
     return !list->isEmpty();
-}
-
-const char *QazIconTheme::getCurrentCursorThemeName(Display *display)
-{
-    static QByteArray name;
-    name = currentCursorTheme(display);
-    return name.isEmpty() ? nullptr : name.constData();
-}
-
-bool QazIconTheme::setCurrentCursorThemeName(const char *name)
-{
-    return setCurrentCursorTheme(name);
 }
 
 int QazIconTheme::GetIconSizeForDPI(double dpi, int kind)

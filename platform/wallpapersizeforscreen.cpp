@@ -2,6 +2,7 @@
 
 #include <QtGlobal>
 
+#include <algorithm>
 #include <cmath>
 #include <iterator>
 
@@ -25,25 +26,17 @@ constexpr StandardSize standardSizes[] = {
 };
 // clang-format on
 
-const StandardSize &nearestStandardSize(int width, int height)
-{
-    const double ratio = double(qMax(1, width)) / qMax(1, height);
-    const StandardSize *nearest = std::begin(standardSizes);
-    const auto distance = [ratio](const StandardSize &size) {
-        return std::abs(double(size.ratioWidth) / size.ratioHeight - ratio);
-    };
-    for (const StandardSize &size : standardSizes) {
-        if (distance(size) < distance(*nearest))
-            nearest = &size;
-    }
-    return *nearest;
-}
-
 } // namespace
 
 void WallpaperSizeForScreen(int width, int height, int *w1, int *h1, int *w2, int *h2)
 {
-    const StandardSize &size = nearestStandardSize(width, height);
+    const auto distance = [ratio = double(qMax(1, width)) / qMax(1, height)](const StandardSize &size) {
+        return std::abs(double(size.ratioWidth) / size.ratioHeight - ratio);
+    };
+    const auto nearer = [distance](const auto &size, const auto &other) {
+        return distance(size) < distance(other);
+    };
+    const StandardSize &size = *std::min_element(std::begin(standardSizes), std::end(standardSizes), nearer);
     *w1 = size.width;
     *h1 = size.height;
     *w2 = size.ratioWidth;

@@ -1,5 +1,4 @@
 #include "platform/findwallpaperbyname.h"
-#include "platform/wallpapersearch.h"
 #include "platform/wallpapersizeforscreen.h"
 #include "tests/support/fakeprogram.h"
 #include "tests/support/literals.h"
@@ -47,15 +46,6 @@ private slots:
             WallpaperSizeForScreen(row[0], row[1], &w1, &h1, &w2, &h2);
             QCOMPARE(QRect(w1, h1, w2, h2), QRect(row[2], row[3], row[4], row[5]));
         }
-    }
-
-    void argumentsAreFilledInWithoutAShell()
-    {
-        const QString source = "/a \"b\" $(c) %s %d\n"_s;
-        QCOMPARE(convertArguments(QLatin1String(command), 19, 20, source, "-t %d"_s).join(u'|'),
-                 "qaz-svg2png|-w|19|-h|20|-i|"_s + source + "|-o|-t %d"_s);
-        QCOMPARE(convertArguments("x 100%% %dx%d %d %q %"_s, 1, 2, {}, {}).join(u'|'),
-                 "x|100%|1x2|%d|%q|%"_s);
     }
 
     void betterPlacesComeFirst()
