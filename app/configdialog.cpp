@@ -53,8 +53,7 @@ ConfigDialog::ConfigDialog(const QString &fileName, QWidget *parent, Qt::WindowF
 
     const QString title = tr("Qaz Theme Editor");
     setWindowTitle(title);
-    setWindowIcon(QIcon::fromTheme(QStringLiteral("preferences-desktop-theme"),
-                                   QIcon(QStringLiteral(":/fallback/preferences-desktop-theme.svg"))));
+    setWindowIcon(contentsWidget->item(rowOf(&typeOf<ThemePage>))->icon());
     setWindowIconText(title);
     const QString name = QFileInfo(themeFile).fileName();
     if (fileOpen() && !name.isEmpty())

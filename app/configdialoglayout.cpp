@@ -36,10 +36,12 @@ int gridRowHeight(const QFontMetrics &metrics)
     return metrics.height() + iconExtent + 10;
 }
 
-/// The icon of the theme in use, else the compiled-in one: a theme may lack it, and be no theme of ours.
+/// The icon of the theme in use, else the compiled-in one: a theme may lack it, and be no theme of ours. Making that one
+/// loads the engine that draws it.
 QIcon iconNamed(const QString &name)
 {
-    return QIcon::fromTheme(name, QIcon(QStringLiteral(":/fallback/%1.svg").arg(name)));
+    const QIcon icon = QIcon::fromTheme(name);
+    return icon.isNull() ? QIcon(QStringLiteral(":/fallback/%1.svg").arg(name)) : icon;
 }
 
 QString ownSettings()
