@@ -1,26 +1,24 @@
 #include "base/atomicfile.h"
 
-#include "base/chandle.h"
 #include "base/descriptor.h"
 #include "base/diagnostics.h"
 #include "base/xdgdirectories.h"
 
+#include <QDateTime>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QScopeGuard>
 #include <QTemporaryFile>
 
-#include <algorithm>
-#include <cctype>
 #include <cerrno>
 #include <csignal>
 #include <cstdio>
-#include <ctime>
 #include <filesystem>
-#include <memory>
 
-#include <dirent.h>
 #include <fcntl.h>
+#include <linux/limits.h>
 #include <sys/stat.h>
 #include <sys/xattr.h>
 #include <unistd.h>
@@ -29,89 +27,38 @@ namespace {
 
 constexpr int linkLimit = 40; // what the kernel follows, too
 constexpr char temporaryName[] = ".qaz-XXXXXX";
-constexpr std::time_t staleSeconds = 3600;
+constexpr int staleSeconds = 3600;
 
-/// Reads to the end of a file of about \a size bytes; it may grow or shrink meanwhile, and files of the kernel
-/// state no size at all. Fails with errno set.
-bool readAll(int descriptor, qint64 size, qint64 limit, QByteArray *content)
+/// Why nobody reads or replaces what stands there; null for a regular file.
+QString kindError(mode_t mode)
 {
-    constexpr int spare = 4096;
-    content->resize(int(qMin(size, limit)) + 1); // one more, to meet the end without growing
-    int length = 0;
-    for (;;) {
-        const ssize_t got = ::read(descriptor, content->data() + length, size_t(content->size() - length));
-        if (got < 0 && errno == EINTR)
-            continue;
-        if (got < 0)
-            return false;
-        length += int(got);
-        if (got == 0)
-            break;
-        if (length > limit) {
-            errno = EFBIG;
-            return false;
-        }
-        if (length == content->size())
-            content->resize(length + length / 2 + spare);
-    }
-    content->resize(length);
-    return true;
+    if (S_ISREG(mode))
+        return {};
+    return S_ISDIR(mode) ? systemErrorText(EISDIR) : QStringLiteral("Not a regular file");
+}
+
+/// Why nothing may take the place of \a name; null when it may.
+QString obstacleAt(const QByteArray &name)
+{
+    struct stat status = {};
+    if (::stat(name.constData(), &status) != 0)
+        return errno == ENOENT ? QString() : systemErrorText(errno);
+    // A rename would replace a write-protected file as well; its protection is the user's word.
+    if (S_ISREG(status.st_mode) && ::access(name.constData(), W_OK) != 0)
+        return systemErrorText(errno);
+    return kindError(status.st_mode);
 }
 
 void copyExtendedAttributes(int from, int to)
 {
-    const ssize_t size = ::flistxattr(from, nullptr, 0);
-    if (size <= 0)
-        return;
-    QByteArray names(int(size), '\0');
-    names.truncate(int(qMax<ssize_t>(0, ::flistxattr(from, names.data(), size_t(names.size())))));
+    QByteArray names(XATTR_LIST_MAX, '\0');
+    names.truncate(int(qMax<ssize_t>(0, ::flistxattr(from, names.data(), XATTR_LIST_MAX))));
+    QByteArray value(XATTR_SIZE_MAX, '\0');
     for (const QByteArray &name : names.split('\0')) {
-        const ssize_t length = name.isEmpty() ? -1 : ::fgetxattr(from, name.constData(), nullptr, 0);
-        if (length < 0)
-            continue;
-        QByteArray value(int(length), '\0');
-        if (::fgetxattr(from, name.constData(), value.data(), size_t(length)) == length)
+        const ssize_t length = ::fgetxattr(from, name.constData(), value.data(), XATTR_SIZE_MAX);
+        if (length >= 0)
             ::fsetxattr(to, name.constData(), value.constData(), size_t(length), 0);
     }
-}
-
-mode_t processUmask()
-{
-    const mode_t mask = ::umask(0);
-    ::umask(mask);
-    return mask;
-}
-
-/// ".qaz-XXXXXX", or ".qaz-word-XXXXXX" for what is more than a file.
-bool isTemporaryName(const QByteArray &name)
-{
-    constexpr int randomLength = 6;
-    const int prefix = int(sizeof ".qaz-") - 1;
-    const QByteArray random = name.right(randomLength);
-    return name.startsWith(".qaz-") && name.size() >= prefix + randomLength
-           && name.at(name.size() - randomLength - 1) == '-'
-           && std::all_of(random.begin(), random.end(), [](char c) { return std::isalnum(uchar(c)); });
-}
-
-bool isReplaceable(const QByteArray &path, QString *error)
-{
-    struct stat status = {};
-    if (::stat(path.constData(), &status) != 0) {
-        if (errno == ENOENT)
-            return true;
-        *error = systemErrorText(errno);
-        return false;
-    }
-    if (!S_ISREG(status.st_mode)) {
-        *error = S_ISDIR(status.st_mode) ? systemErrorText(EISDIR) : QStringLiteral("Not a regular file");
-        return false;
-    }
-    // A rename would replace a write-protected file as well; its protection is the user's word.
-    if (::access(path.constData(), W_OK) != 0) {
-        *error = systemErrorText(errno);
-        return false;
-    }
-    return true;
 }
 
 } // namespace
@@ -120,87 +67,91 @@ bool takeOverAttributes(int newFile, const QByteArray &oldPath, unsigned newFile
 {
     const Descriptor old(::open(oldPath.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
     struct stat status = {};
-    if (!old.isOpen() || ::fstat(old.get(), &status) != 0)
-        return errno == ENOENT
-               && ::fchmod(newFile, (newFileMode & ~processUmask()) | (newFileMode & 0600)) == 0;
+    if (!old.isOpen() || ::fstat(old.get(), &status) != 0) {
+        const mode_t mask = ::umask(0);
+        ::umask(mask);
+        return errno == ENOENT && ::fchmod(newFile, newFileMode & (~mask | 0600)) == 0;
+    }
     copyExtendedAttributes(old.get(), newFile);
-    if (::fchown(newFile, status.st_uid, status.st_gid) != 0
-        && (status.st_uid != ::geteuid() || ::fchown(newFile, uid_t(-1), status.st_gid) != 0)
-        && status.st_uid != ::geteuid())
+    // A group that its owner is not in can't be kept.
+    if (::fchown(newFile, status.st_uid, status.st_gid) != 0 && status.st_uid != ::geteuid())
         return false;
     return ::fchmod(newFile, status.st_mode & 07777) == 0;
 }
 
 FileContent readRegularFile(const QString &path, qint64 limit)
 {
-    FileContent result;
-    const QByteArray name = QFile::encodeName(path);
-    const Descriptor file(::open(name.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
+    const auto unreadable = [](const QString &error) {
+        return FileContent{FileState::Unreadable, {}, error};
+    };
+    const int descriptor = ::open(QFile::encodeName(path).constData(),
+                                  O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
+    if (descriptor < 0)
+        return errno == ENOENT || errno == ENOTDIR ? FileContent() : unreadable(systemErrorText(errno));
+    QFile file;
+    file.open(descriptor, QIODevice::ReadOnly | QIODevice::Unbuffered, QFileDevice::AutoCloseHandle);
     struct stat status = {};
-    if (!file.isOpen() && (errno == ENOENT || errno == ENOTDIR))
-        return result;
-    result.state = FileState::Unreadable;
-    if (!file.isOpen() || ::fstat(file.get(), &status) != 0) {
-        result.error = systemErrorText(errno);
-        return result;
-    }
-    if (!S_ISREG(status.st_mode)) {
-        result.error = S_ISDIR(status.st_mode) ? systemErrorText(EISDIR)
-                                               : QStringLiteral("Not a regular file");
-        return result;
-    }
-    if (readAll(file.get(), status.st_size, limit, &result.content))
-        result.state = FileState::Regular;
-    else
-        result = {FileState::Unreadable, {}, systemErrorText(errno)};
-    return result;
-}
+    ::fstat(descriptor, &status);
+    if (const QString error = kindError(status.st_mode); !error.isNull())
+        return unreadable(error);
 
-void removeStaleTemporaries(const QString &directory)
-{
-    const std::unique_ptr<DIR, Release<::closedir>> entries(
-        ::opendir(QFile::encodeName(directory).constData()));
-    const std::time_t newest = std::time(nullptr) - staleSeconds;
-    while (const dirent *entry = entries ? ::readdir(entries.get()) : nullptr) {
-        struct stat status = {};
-        std::error_code ignored;
-        if (isTemporaryName(entry->d_name)
-            && ::fstatat(::dirfd(entries.get()), entry->d_name, &status, AT_SYMLINK_NOFOLLOW) == 0
-            && (S_ISREG(status.st_mode) || S_ISDIR(status.st_mode)) && status.st_uid == ::geteuid()
-            && status.st_mtime < newest)
-            std::filesystem::remove_all(
-                std::filesystem::path(QFile::encodeName(directory).toStdString()) / entry->d_name, ignored);
+    // It may grow or shrink meanwhile, and files of the kernel state no size at all.
+    constexpr qint64 spare = 4096;
+    FileContent result{FileState::Regular, {}, {}};
+    for (QByteArray part = file.read(qMin<qint64>(status.st_size, limit) + 1); !part.isEmpty();
+         part = file.read(spare)) {
+        result.content += part;
+        if (result.content.size() > limit)
+            return unreadable(systemErrorText(EFBIG));
     }
+    return file.error() == QFileDevice::NoError ? result : unreadable(file.errorString());
 }
 
 QString linkTarget(const QString &path)
 {
-    QString target = path;
-    for (int hops = 0; hops < linkLimit; ++hops) {
-        const QFileInfo info(target);
-        if (!info.isSymLink())
-            return target;
-        target = info.symLinkTarget();
-    }
+    QFileInfo info(path);
+    for (int hops = 0; info.isSymLink() && hops < linkLimit; ++hops)
+        info.setFile(info.symLinkTarget());
+    return info.isSymLink() ? QString() : info.filePath();
+}
+
+QString writableTarget(const QString &path, QString *error)
+{
+    QString target = linkTarget(path);
+    const QString directory = QFileInfo(target).path();
+    if (target.isEmpty())
+        *error = systemErrorText(ELOOP);
+    else if (!makeDirectories(directory))
+        *error = QStringLiteral("Can't create directory %1").arg(directory);
+    else
+        return target;
     return {};
+}
+
+void removeStaleTemporaries(const QString &directory)
+{
+    static const QRegularExpression temporary(QStringLiteral("^\\.qaz-(.*-)?[A-Za-z0-9]{6}$"));
+    const QDateTime newest = QDateTime::currentDateTime().addSecs(-staleSeconds);
+    const auto entries = QDir(directory).entryInfoList(
+        {QStringLiteral(".qaz-*")}, QDir::Files | QDir::Dirs | QDir::Hidden | QDir::NoSymLinks);
+    for (const QFileInfo &entry : entries) {
+        std::error_code ignored;
+        if (entry.lastModified() < newest && entry.ownerId() == ::geteuid()
+            && temporary.match(entry.fileName()).hasMatch())
+            std::filesystem::remove_all(QFile::encodeName(entry.filePath()).constData(), ignored);
+    }
 }
 
 bool replaceFile(const QString &path, const QByteArray &content, QString *error, unsigned newFileMode)
 {
-    const QString target = linkTarget(path);
-    if (target.isEmpty()) {
-        *error = systemErrorText(ELOOP);
-        return false;
-    }
+    const QString target = writableTarget(path, error);
     const QByteArray name = QFile::encodeName(target);
-    if (!isReplaceable(name, error))
+    if (target.isEmpty())
         return false;
-    const QString directory = QFileInfo(target).path();
-    if (!makeDirectories(directory)) {
-        *error = QStringLiteral("Can't create directory %1").arg(directory);
-        return false;
-    }
+    if (const QString obstacle = obstacleAt(name); !obstacle.isNull())
+        return failed(error, obstacle);
 
+    const QString directory = QFileInfo(target).path();
     removeStaleTemporaries(directory);
     // A write beyond the limit of the file size fails as on a full disk; the signal would end the process.
     const auto putBack = qScopeGuard(
@@ -211,10 +162,9 @@ bool replaceFile(const QString &path, const QByteArray &content, QString *error,
                             && ::fsync(file.handle()) == 0
                             && ::rename(QFile::encodeName(file.fileName()).constData(), name.constData())
                                    == 0;
-    if (!isReplaced) {
-        *error = file.error() != QFileDevice::NoError ? file.errorString() : systemErrorText(errno);
-        return false;
-    }
+    if (!isReplaced)
+        return failed(error,
+                      file.error() != QFileDevice::NoError ? file.errorString() : systemErrorText(errno));
     file.setAutoRemove(false);
     const Descriptor parent(::open(QFile::encodeName(directory).constData(), O_RDONLY | O_CLOEXEC));
     if (parent.isOpen())

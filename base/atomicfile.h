@@ -31,10 +31,13 @@ FileContent readRegularFile(const QString &path, qint64 limit = 1 << 30);
 /// \a newFileMode less the umask when there is none. False (see errno) when the owner can't be kept.
 [[nodiscard]] bool takeOverAttributes(int newFile, const QByteArray &oldPath, unsigned newFileMode);
 
-/// Removes this user's temporary files ".qaz-XXXXXX" and directories ".qaz-word-XXXXXX" in \a directory that are older
-/// than an hour.
-void removeStaleTemporaries(const QString &directory);
-
 /// \a path with every symbolic link of its last component followed, also to a file that doesn't exist yet;
 /// empty for a loop of links.
 QString linkTarget(const QString &path);
+
+/// The same, with its directory made if need be; empty with the reason in \a error.
+QString writableTarget(const QString &path, QString *error);
+
+/// Removes this user's temporary files ".qaz-XXXXXX" and directories ".qaz-word-XXXXXX" in \a directory that are older
+/// than an hour.
+void removeStaleTemporaries(const QString &directory);

@@ -19,3 +19,9 @@ QString systemErrorText(int number)
 {
     return QString::fromLocal8Bit(std::strerror(number));
 }
+
+bool failed(QString *error, const QString &reason)
+{
+    *error = reason;
+    return false;
+}

@@ -11,3 +11,6 @@ void printDiagnosticAs(const char *program, const QString &text);
 
 /// The system's text for the error \a number of a failed call (errno).
 QString systemErrorText(int number);
+
+/// False, with \a reason in \a error.
+bool failed(QString *error, const QString &reason);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <string_view>
 
 namespace {
 
@@ -198,18 +199,34 @@ QByteArray KeyFileText::edited(std::vector<Edit> edits) const
     return result;
 }
 
-QByteArrayList listItems(const QByteArray &value, const QByteArray &separators)
+QByteArrayList listItems(QByteArray value, const QByteArray &separators)
 {
+    for (const char separator : separators)
+        value.replace(separator, '
+');
     QByteArrayList items;
-    QByteArray item;
-    for (const char c : value + separators.left(1)) {
-        if (!separators.contains(c)) {
-            item += c;
-            continue;
-        }
+    for (const QByteArray &item : value.split('
+')) {
         if (const QByteArray trimmed = item.trimmed(); !trimmed.isEmpty())
             items.append(trimmed);
-        item.clear();
+}
+return items;
+}
+
+QByteArray escaped(QByteArray text)
+{
+    return text.replace('\\', "\\\\").replace('\n', "\\n").replace('\r', "\\r").replace('\t', "\\t");
+}
+
+QByteArray unescaped(const QByteArray &text)
+{
+    constexpr std::string_view signs("\\nrts"), characters("\\\n\r\t ");
+    QByteArray result;
+    for (int i = 0; i < text.size(); ++i) {
+        const bool isEscape = text[i] == '\\' && i + 1 < text.size();
+        const std::size_t place = isEscape ? signs.find(text[i + 1]) : signs.npos;
+        result += place == signs.npos ? text[i] : characters[place];
+        i += place == signs.npos ? 0 : 1;
     }
-    return items;
+    return result;
 }

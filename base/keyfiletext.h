@@ -78,5 +78,11 @@ private:
     std::vector<Entry> m_entries;
 };
 
-/// The items of a list value, cut at any of \a separators, without the blanks around them; empty ones are left out.
-QByteArrayList listItems(const QByteArray &value, const QByteArray &separators = ",;");
+/// The items of a list \a value of one line, cut at any of \a separators, without the blanks around them; empty ones are left out.
+QByteArrayList listItems(QByteArray value, const QByteArray &separators = ",;");
+
+/// \a text with `\\`, `\n`, `\r` and `\t` for a backslash, line breaks and tabs: one line without a tab.
+QByteArray escaped(QByteArray text);
+
+/// What \a text stands for; `\s` is a blank. An unknown escape is kept as it stands.
+QByteArray unescaped(const QByteArray &text);

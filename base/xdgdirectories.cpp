@@ -2,8 +2,10 @@
 
 #include <QDir>
 #include <QFile>
+#include <QScopeGuard>
 
 #include <cerrno>
+#include <filesystem>
 
 #include <pwd.h>
 #include <sys/stat.h>
@@ -54,25 +56,18 @@ QStringList xdgDataDirectories()
 
 QString privateDirectory()
 {
-    QString runtime = QFile::decodeName(qgetenv("XDG_RUNTIME_DIR"));
+    const QString runtime = QFile::decodeName(qgetenv("XDG_RUNTIME_DIR"));
     if (runtime.startsWith(QLatin1Char('/')) && isOwnDirectory(runtime, 077))
         return runtime;
-    QString own = xdgDirectory("XDG_CACHE_HOME", "/.cache") + QLatin1String("/qaz");
+    const QString own = xdgDirectory("XDG_CACHE_HOME", "/.cache") + QLatin1String("/qaz");
     return makeDirectories(own) && isOwnDirectory(own, 022) ? own : QString();
 }
 
 bool makeDirectories(const QString &path)
 {
-    const QByteArray name = QFile::encodeName(QDir::cleanPath(path));
-    struct stat status = {};
-    if (::stat(name.constData(), &status) == 0) {
-        errno = ENOTDIR;
-        return S_ISDIR(status.st_mode);
-    }
-    const int slash = name.lastIndexOf('/');
-    if (errno != ENOENT || (slash > 0 && !makeDirectories(QFile::decodeName(name.left(slash)))))
-        return false;
-    if (::mkdir(name.constData(), 0700) == 0)
-        return ::chmod(name.constData(), 0700) == 0; // the umask may have taken bits of ours
-    return errno == EEXIST && ::stat(name.constData(), &status) == 0 && S_ISDIR(status.st_mode);
+    const auto putBack = qScopeGuard([mask = ::umask(0077)] { ::umask(mask); });
+    std::error_code failure;
+    std::filesystem::create_directories(QFile::encodeName(QDir::cleanPath(path)).constData(), failure);
+    errno = failure.value();
+    return !failure;
 }

@@ -5,39 +5,20 @@
 #include "freedesktop/themedirectories.h"
 
 #include <QFile>
-#include <QSet>
 
 #include <X11/Xcursor/Xcursor.h>
 
 namespace {
 
-/// Depth-first, as Xcursor goes; \a seen ends loops of inheritance.
-QByteArray findCursor(ThemeDirectories &directories, const QByteArray &theme, const QByteArray &name,
-                      QSet<QByteArray> &seen)
-{
-    if (seen.contains(theme))
-        return {};
-    seen.insert(theme);
-    const QByteArrayList locations = directories.locations(theme);
-    for (const QByteArray &location : locations) {
-        const QByteArray cursors = location + "/cursors";
-        if (directories.listing(location).hasDirectory("cursors")
-            && directories.listing(cursors).hasFile(name))
-            return cursors + '/' + name;
-    }
-    if (const IconThemeIndex *index = directories.index(locations)) {
-        for (const QByteArray &inherited : index->cursorInherits) {
-            if (QByteArray file = findCursor(directories, inherited, name, seen); !file.isEmpty())
-                return file;
-        }
-    }
-    return {};
-}
-
 void appendOnce(QByteArrayList &list, const QByteArray &path)
 {
     if (!list.contains(path))
         list.append(path);
+}
+
+bool holdsCursors(ThemeDirectories &directories, const QByteArray &theme)
+{
+    return directories.listing(theme).directories.contains("cursors");
 }
 
 } // namespace
@@ -66,21 +47,27 @@ QByteArrayList cursorSearchPath()
     return result;
 }
 
-QByteArrayList cursorThemeNames(ThemeDirectories &directories)
+QSet<QByteArray> cursorThemeNames(ThemeDirectories &directories)
 {
     QSet<QByteArray> names;
     for (const QByteArray &base : directories.searchPath()) {
-        for (const DirectoryListing::Entry &entry : directories.listing(base).entries()) {
-            if (entry.canBeDirectory && directories.listing(base + '/' + entry.name).hasDirectory("cursors"))
-                names.insert(entry.name);
+        for (const QByteArray &name : directories.listing(base).directories) {
+            if (holdsCursors(directories, base + '/' + name))
+                names.insert(name);
         }
     }
-    return names.values();
+    return names;
 }
 
 QByteArray cursorFile(ThemeDirectories &directories, const QByteArray &theme, const QByteArray &name)
 {
-    QSet<QByteArray> seen;
-    QByteArray file = findCursor(directories, theme, name, seen);
-    return file.isEmpty() ? findCursor(directories, QByteArrayLiteral("default"), name, seen) : file;
+    for (const QByteArray &candidate :
+         directories.withInherited({theme, "default"}, &IconThemeIndex::cursorInherits)) {
+        for (const QByteArray &location : directories.locations(candidate)) {
+            const QByteArray cursors = location + "/cursors";
+            if (holdsCursors(directories, location) && directories.listing(cursors).files.contains(name))
+                return cursors + '/' + name;
+        }
+    }
+    return {};
 }

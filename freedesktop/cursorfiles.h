@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QByteArrayList>
+#include <QSet>
 
 class ThemeDirectories;
 
@@ -12,9 +13,8 @@ QByteArrayList cursorClientPath();
 /// older Xcursor libraries do not know, and the desktop's own icons.
 QByteArrayList cursorSearchPath();
 
-/// The names of all themes in \a directories, those of cursorSearchPath(), that hold cursors, each once, in no
-/// particular order.
-QByteArrayList cursorThemeNames(ThemeDirectories &directories);
+/// The names of all themes in \a directories, those of cursorSearchPath(), that hold cursors.
+QSet<QByteArray> cursorThemeNames(ThemeDirectories &directories);
 
 /// The file of the cursor \a name in \a theme, found in \a directories as Xcursor finds it: in the theme, in those
 /// it inherits from, in the "default" theme. Empty when there is none.

@@ -3,23 +3,14 @@
 #include <QDir>
 #include <QFile>
 
-namespace {
-
-QString executableDirectory()
-{
-    // Asked of the kernel: the application object, which knows it too, may not exist yet.
-    const QString executable = QFile::symLinkTarget(QStringLiteral("/proc/self/exe"));
-    return executable.left(executable.lastIndexOf(QLatin1Char('/')));
-}
-
-} // namespace
-
 QString dataRoot()
 {
     const QByteArray named = qgetenv("QAZ_DATA_DIR");
     if (!named.isEmpty())
         return QDir::cleanPath(QFile::decodeName(named));
-    QString installed = QDir::cleanPath(executableDirectory() + QLatin1String("/../share/qaz"));
+    // Asked of the kernel: the application object, which knows it too, may not exist yet.
+    const QString executable = QFile::symLinkTarget(QStringLiteral("/proc/self/exe"));
+    const QString installed = QDir::cleanPath(executable + QLatin1String("/../../share/qaz"));
 #ifdef QAZ_SOURCE_DATA_DIR
     if (!QFile::exists(installed))
         return QStringLiteral(QAZ_SOURCE_DATA_DIR);

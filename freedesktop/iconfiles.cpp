@@ -5,7 +5,6 @@
 #include "freedesktop/themedirectories.h"
 
 #include <QFile>
-#include <QSet>
 
 #include <algorithm>
 
@@ -17,7 +16,7 @@ QByteArray fileIn(ThemeDirectories &directories, const QByteArray &directory, co
 {
     const DirectoryListing &listing = directories.listing(directory);
     for (const char *ending : endings) {
-        if (listing.hasFile(name + ending))
+        if (listing.files.contains(name + ending))
             return directory + '/' + name + ending;
     }
     return {};
@@ -31,7 +30,8 @@ QByteArray fileInTheme(ThemeDirectories &directories, const QByteArrayList &loca
     const QByteArray top = slash < 0 ? path : path.left(slash);
     for (const QByteArray &location : locations) {
         // Indexes name directories that were never installed; the listing spares a look at each of them.
-        if (!top.isEmpty() && top != "." && top != ".." && !directories.listing(location).hasDirectory(top))
+        if (!top.isEmpty() && top != "." && top != ".."
+            && !directories.listing(location).directories.contains(top))
             continue;
         if (QByteArray file = fileIn(directories, location + '/' + path, name); !file.isEmpty())
             return file;
@@ -39,63 +39,21 @@ QByteArray fileInTheme(ThemeDirectories &directories, const QByteArrayList &loca
     return {};
 }
 
-bool isOfContext(const IconDirectory &directory, const QByteArray &context)
+/// The directories of \a index whose icons are of \a context, those for \a size pixels first, then the nearest.
+QVector<IconDirectory> directoriesFor(const IconThemeIndex &index, int size, const QByteArray &context)
 {
-    return context.isEmpty() || directory.context.isEmpty()
-           || directory.context.compare(context, Qt::CaseInsensitive) == 0;
+    QVector<IconDirectory> directories;
+    for (const IconDirectory &directory : index.directories) {
+        if (context.isEmpty() || directory.context.isEmpty()
+            || directory.context.compare(context, Qt::CaseInsensitive) == 0)
+            directories.append(directory);
+    }
+    std::stable_sort(directories.begin(), directories.end(),
+                     [size](const IconDirectory &left, const IconDirectory &right) {
+                         return sizeDistance(left, size) < sizeDistance(right, size);
+                     });
+    return directories;
 }
-
-struct Lookup {
-    ThemeDirectories &directories;
-    QByteArray name;
-    int size;
-    QByteArray context;
-    QSet<QByteArray> seen; ///< themes that were searched: they may inherit in a circle
-
-    QByteArray inOneTheme(const IconThemeIndex &index, const QByteArrayList &locations) const
-    {
-        QVector<IconDirectory> others;
-        for (const IconDirectory &directory : index.directories) {
-            if (!isOfContext(directory, context))
-                continue;
-            if (!matchesSize(directory, size)) {
-                others.append(directory);
-                continue;
-            }
-            if (QByteArray file = fileInTheme(directories, locations, directory.path, name); !file.isEmpty())
-                return file;
-        }
-        std::stable_sort(others.begin(), others.end(),
-                         [this](const IconDirectory &left, const IconDirectory &right) {
-                             return sizeDistance(left, size) < sizeDistance(right, size);
-                         });
-        for (const IconDirectory &directory : qAsConst(others)) {
-            if (QByteArray file = fileInTheme(directories, locations, directory.path, name); !file.isEmpty())
-                return file;
-        }
-        return {};
-    }
-
-    QByteArray inThemeAndParents(const QByteArray &theme)
-    {
-        if (seen.contains(theme))
-            return {};
-        seen.insert(theme);
-        const QByteArrayList locations = directories.locations(theme);
-        const IconThemeIndex *index = directories.index(locations);
-        if (!index)
-            return {};
-        if (QByteArray file = inOneTheme(*index, locations); !file.isEmpty())
-            return file;
-        for (const QByteArray &parent : index->inherits) {
-            if (parent == "hicolor") // the standard searches it last, whoever names it
-                continue;
-            if (QByteArray file = inThemeAndParents(parent); !file.isEmpty())
-                return file;
-        }
-        return {};
-    }
-};
 
 } // namespace
 
@@ -115,11 +73,19 @@ QByteArrayList iconSearchPath()
 QByteArray iconFile(ThemeDirectories &directories, const QByteArray &theme, const QByteArray &name, int size,
                     const QByteArray &context)
 {
-    Lookup lookup{directories, name, size, context, {}};
-    if (QByteArray file = lookup.inThemeAndParents(theme); !file.isEmpty())
-        return file;
-    if (QByteArray file = lookup.inThemeAndParents(QByteArrayLiteral("hicolor")); !file.isEmpty())
-        return file;
+    QByteArrayList themes = directories.withInherited({theme}, &IconThemeIndex::inherits);
+    themes.removeAll("hicolor"); // the standard searches it last, whoever names it
+    themes.append("hicolor");
+    for (const QByteArray &candidate : qAsConst(themes)) {
+        const QByteArrayList locations = directories.locations(candidate);
+        const IconThemeIndex *index = directories.index(locations);
+        if (!index)
+            continue;
+        for (const IconDirectory &directory : directoriesFor(*index, size, context)) {
+            if (QByteArray file = fileInTheme(directories, locations, directory.path, name); !file.isEmpty())
+                return file;
+        }
+    }
     if (!context.isEmpty())
         return {};
     for (const QByteArray &base : directories.searchPath()) {

@@ -5,39 +5,28 @@
 #include <QHash>
 
 #include <algorithm>
-#include <climits>
 
 namespace {
 
 const QByteArray themeGroup = QByteArrayLiteral("Icon Theme");
 const QByteArray inheritsKey = QByteArrayLiteral("Inherits");
 
-struct DirectoryGroup {
-    QHash<QByteArray, QByteArray> values;
-
-    int number(const char *key, int otherwise) const
-    {
-        bool isNumber = false;
-        const int number = values.value(key).toInt(&isNumber);
-        return isNumber ? number : otherwise;
-    }
-};
-
-IconDirectory iconDirectory(const QByteArray &path, const DirectoryGroup &group)
+IconDirectory iconDirectory(const QByteArray &path, const QHash<QByteArray, QByteArray> &values)
 {
-    IconDirectory directory;
-    directory.path = path;
-    directory.context = group.values.value("Context");
-    const QByteArray type = group.values.value("Type");
-    if (type == "Fixed")
-        directory.type = IconDirectory::Type::Fixed;
-    else if (type == "Scalable")
-        directory.type = IconDirectory::Type::Scalable;
-    directory.size = group.number("Size", 0);
-    directory.scale = group.number("Scale", 1);
-    directory.minSize = group.number("MinSize", directory.size);
-    directory.maxSize = group.number("MaxSize", directory.size);
-    directory.threshold = group.number("Threshold", 2);
+    const auto number = [&values](const char *key, int otherwise) {
+        bool isNumber = false;
+        const int value = values.value(key).toInt(&isNumber);
+        return isNumber ? value : otherwise;
+    };
+    const int size = number("Size", 0);
+    const QByteArray type = values.value("Type");
+    const qint64 threshold = type == "Fixed" ? 0 : number("Threshold", 2);
+    IconDirectory directory{path, values.value("Context"), number("Scale", 1), size - threshold,
+                            size + threshold};
+    if (type == "Scalable") {
+        directory.minSize = number("MinSize", size);
+        directory.maxSize = number("MaxSize", size);
+    }
     return directory;
 }
 
@@ -47,7 +36,7 @@ IconThemeIndex parseIconThemeIndex(const QByteArray &content)
 {
     IconThemeIndex theme;
     QByteArrayList paths;
-    QHash<QByteArray, DirectoryGroup> groups;
+    QHash<QByteArray, QHash<QByteArray, QByteArray>> groups;
     const KeyFileText text = desktopEntryText(content);
     for (const KeyFileText::Entry &entry : text.entries()) {
         const QByteArray group = text.groupName(entry);
@@ -57,7 +46,7 @@ IconThemeIndex parseIconThemeIndex(const QByteArray &content)
         if (key == inheritsKey && theme.cursorInherits.isEmpty())
             theme.cursorInherits = listItems(value, ",; \t");
         if (group != themeGroup) {
-            groups[group].values.insert(key, value);
+            groups[group].insert(key, value);
         } else if (key == inheritsKey) {
             theme.inherits = listItems(value);
         } else if (key == "Directories") {
@@ -66,42 +55,19 @@ IconThemeIndex parseIconThemeIndex(const QByteArray &content)
         }
     }
     for (const QByteArray &path : qAsConst(paths)) {
-        const IconDirectory directory = iconDirectory(path, groups.value(path));
-        if (directory.size > 0)
-            theme.directories.append(directory);
+        if (const auto values = groups.value(path); values.value("Size").toInt() > 0)
+            theme.directories.append(iconDirectory(path, values));
     }
     return theme;
 }
 
-bool matchesSize(const IconDirectory &directory, int size)
+qint64 sizeDistance(const IconDirectory &directory, int size)
 {
-    if (directory.scale != 1)
-        return false;
-    switch (directory.type) {
-    case IconDirectory::Type::Fixed:
-        return directory.size == size;
-    case IconDirectory::Type::Scalable:
-        return directory.minSize <= size && size <= directory.maxSize;
-    case IconDirectory::Type::Threshold:
-        break;
-    }
-    return qAbs(qint64(directory.size) - size) <= directory.threshold;
-}
-
-int sizeDistance(const IconDirectory &directory, int size)
-{
-    const qint64 scale = directory.scale;
-    qint64 smallest = directory.size * scale;
-    qint64 largest = smallest;
-    if (directory.type == IconDirectory::Type::Scalable) {
-        smallest = directory.minSize * scale;
-        largest = directory.maxSize * scale;
-    } else if (directory.type == IconDirectory::Type::Threshold) {
-        smallest = (qint64(directory.size) - directory.threshold) * scale;
-        largest = (qint64(directory.size) + directory.threshold) * scale;
-    }
-    const qint64 distance = size < smallest ? smallest - size : size > largest ? size - largest : 0;
-    return int(qMin<qint64>(distance, INT_MAX));
+    if (directory.scale == 1 && directory.minSize <= size && size <= directory.maxSize)
+        return -1;
+    const qint64 smallest = directory.minSize * directory.scale;
+    const qint64 largest = directory.maxSize * directory.scale;
+    return size < smallest ? smallest - size : qMax<qint64>(0, size - largest);
 }
 
 QByteArray withInherits(const QByteArray &content, const QByteArray &name)

@@ -4,18 +4,13 @@
 #include <QByteArrayList>
 #include <QVector>
 
-/// A directory of icons as a theme's index describes it. Sizes are in pixels.
+/// A directory of icons as a theme's index describes it.
 struct IconDirectory {
-    enum class Type { Threshold, Fixed, Scalable };
-
     QByteArray path;    ///< relative to the theme
     QByteArray context; ///< such as "Places"; empty when the index states none
-    Type type = Type::Threshold;
-    int size = 0;
-    int scale = 1;
-    int minSize = 0;
-    int maxSize = 0;
-    int threshold = 2;
+    int scale;
+    qint64 minSize; ///< in pixels, of the icons that are at home there
+    qint64 maxSize;
 };
 
 /// What an icon or cursor theme's index.theme says.
@@ -28,11 +23,8 @@ struct IconThemeIndex {
 
 IconThemeIndex parseIconThemeIndex(const QByteArray &content);
 
-/// Whether icons of \a size pixels are at home in \a directory.
-bool matchesSize(const IconDirectory &directory, int size);
-
-/// How far \a directory is from holding icons of \a size pixels: 0 for a match.
-int sizeDistance(const IconDirectory &directory, int size);
+/// How far \a directory is from holding icons of \a size pixels: -1 where they are at home, 0 and more elsewhere.
+qint64 sizeDistance(const IconDirectory &directory, int size);
 
 /// An index.theme with \a name as the theme that it inherits from, or, for an empty name, without one. Every
 /// other line of \a content stays as it is.

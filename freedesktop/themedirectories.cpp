@@ -1,9 +1,28 @@
 #include "freedesktop/themedirectories.h"
 
 #include "base/atomicfile.h"
+#include "base/chandle.h"
 #include "freedesktop/desktopentry.h"
 
 #include <QFile>
+
+#include <memory>
+
+#include <dirent.h>
+
+DirectoryListing::DirectoryListing(const QByteArray &path)
+{
+    const std::unique_ptr<DIR, Release<::closedir>> directory(::opendir(path.constData()));
+    while (const dirent *entry = directory ? ::readdir(directory.get()) : nullptr) {
+        // Where a link leads is seen by whoever opens it; asking for each would cost a call a name.
+        const bool isOpen = entry->d_type == DT_LNK || entry->d_type == DT_UNKNOWN;
+        if (isOpen || entry->d_type == DT_DIR)
+            directories.insert(entry->d_name);
+        if (isOpen || entry->d_type == DT_REG)
+            files.insert(entry->d_name);
+    }
+    directories.subtract({".", ".."});
+}
 
 const DirectoryListing &ThemeDirectories::listing(const QByteArray &path)
 {
@@ -16,7 +35,7 @@ QByteArrayList ThemeDirectories::locations(const QByteArray &name)
     if (name.isEmpty() || name == "." || name == ".." || name.contains('/'))
         return locations;
     for (const QByteArray &base : qAsConst(m_searchPath)) {
-        if (listing(base).hasDirectory(name))
+        if (listing(base).directories.contains(name))
             locations.append(base + '/' + name);
     }
     return locations;
@@ -25,7 +44,7 @@ QByteArrayList ThemeDirectories::locations(const QByteArray &name)
 const IconThemeIndex *ThemeDirectories::index(const QByteArrayList &locations)
 {
     for (const QByteArray &location : locations) {
-        if (!listing(location).hasFile("index.theme"))
+        if (!listing(location).files.contains("index.theme"))
             continue;
         const QByteArray path = location + "/index.theme";
         const auto [index, isNew] = m_indexes.try_emplace(path);
@@ -38,4 +57,19 @@ const IconThemeIndex *ThemeDirectories::index(const QByteArrayList &locations)
             return &*index->second;
     }
     return nullptr;
+}
+
+QByteArrayList ThemeDirectories::withInherited(const QByteArrayList &themes,
+                                               QByteArrayList IconThemeIndex::*parents)
+{
+    QByteArrayList all;
+    for (QByteArrayList waiting = themes; !waiting.isEmpty();) {
+        const QByteArray theme = waiting.takeFirst();
+        if (all.contains(theme))
+            continue;
+        all.append(theme);
+        if (const IconThemeIndex *found = index(locations(theme)))
+            waiting = found->*parents + waiting;
+    }
+    return all;
 }

@@ -1,12 +1,20 @@
 #pragma once
 
-#include "freedesktop/directorylisting.h"
 #include "freedesktop/iconthemeindex.h"
 
 #include <QByteArrayList>
+#include <QSet>
 
 #include <map>
 #include <optional>
+
+/// The names in a directory, in the file system's own bytes, read once. A directory that can't be read has none.
+struct DirectoryListing {
+    explicit DirectoryListing(const QByteArray &path);
+
+    QSet<QByteArray> directories; ///< also links, which may lead to one; without "." and ".."
+    QSet<QByteArray> files;       ///< regular ones, and links, which may lead to one
+};
 
 /// The directories and index files of icon or cursor themes. Each is read at most once in the life of the
 /// object, which is made for one listing: what the user installs meanwhile is seen by the next one.
@@ -30,6 +38,9 @@ public:
 
     /// The first index.theme in \a locations that can be read; null when there is none.
     const IconThemeIndex *index(const QByteArrayList &locations);
+
+    /// \a themes, each followed by those that it inherits from and their own \a parents, each once.
+    QByteArrayList withInherited(const QByteArrayList &themes, QByteArrayList IconThemeIndex::*parents);
 
 private:
     QByteArrayList m_searchPath;

@@ -52,16 +52,14 @@ bool QazIconTheme::getThemesNames(List<char> *list)
     const std::shared_ptr<ThemeDirectories> directories = sharedDirectories();
     QSet<QByteArray> names;
     for (const QByteArray &base : directories->searchPath()) {
-        for (const DirectoryListing::Entry &entry : directories->listing(base).entries()) {
-            if (!entry.canBeDirectory || names.contains(entry.name))
-                continue;
-            const IconThemeIndex *index = directories->index(directories->locations(entry.name));
-            if (!index || !index->hasDirectories)
-                continue;
-            names.insert(entry.name);
-            list->append(entry.name.constData());
+        for (const QByteArray &name : directories->listing(base).directories) {
+            const IconThemeIndex *index = directories->index(directories->locations(name));
+            if (index && index->hasDirectories)
+                names.insert(name);
         }
     }
+    for (const QByteArray &name : qAsConst(names))
+        list->append(name.constData());
     return !list->isEmpty();
 }
 

@@ -1,7 +1,5 @@
 #include "platform/themefiletext.h"
 
-#include "base/escapes.h"
-
 namespace {
 
 constexpr char byteOrderMark[] = "\xEF\xBB\xBF";

@@ -1,7 +1,7 @@
 #include "settings/backup.h"
 
 #include "base/diagnostics.h"
-#include "base/filelock.h"
+#include "base/editfile.h"
 #include "base/xdgdirectories.h"
 #include "settings/backupmanifest.h"
 #include "settings/treecopy.h"

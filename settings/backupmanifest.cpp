@@ -1,7 +1,7 @@
 #include "settings/backupmanifest.h"
 
 #include "base/atomicfile.h"
-#include "base/escapes.h"
+#include "base/keyfiletext.h"
 
 #include <QFile>
 

@@ -2,7 +2,7 @@
 
 #include "base/atomicfile.h"
 #include "base/diagnostics.h"
-#include "base/filelock.h"
+#include "base/editfile.h"
 #include "base/xdgdirectories.h"
 #include "settings/treecopy.h"
 

@@ -140,10 +140,9 @@ int listDecorThemes(QStringList *list)
     const QByteArray root = decorThemesDirectory();
     const DirectoryListing themes(root);
     list->clear();
-    for (const DirectoryListing::Entry &entry : themes.entries()) {
-        if (entry.canBeDirectory && !entry.name.startsWith('.')
-            && DirectoryListing(root + '/' + entry.name).hasFile("default.theme"))
-            list->append(QFile::decodeName(entry.name));
+    for (const QByteArray &name : themes.directories) {
+        if (!name.startsWith('.') && DirectoryListing(root + '/' + name).files.contains("default.theme"))
+            list->append(QFile::decodeName(name));
     }
     std::sort(list->begin(), list->end(),
               [](const QString &left, const QString &right) { return left.localeAwareCompare(right) < 0; });
@@ -157,7 +156,7 @@ std::optional<DecorImages> loadDecorImages(const QString &name)
     DecorImages images;
     for (const DecorImage &row : decorFiles) {
         QImage &image = images.*row.image;
-        if (listing.hasFile(row.file))
+        if (listing.files.contains(row.file))
             image = loadXpm(directory + '/' + row.file);
         if (image.isNull())
             return std::nullopt;

@@ -1,6 +1,5 @@
 #include "base/atomicfile.h"
 #include "base/editfile.h"
-#include "base/filelock.h"
 #include "base/xdgdirectories.h"
 #include "tests/support/literals.h"
 #include "tests/support/temporaryhome.h"
