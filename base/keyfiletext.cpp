@@ -202,15 +202,13 @@ QByteArray KeyFileText::edited(std::vector<Edit> edits) const
 QByteArrayList listItems(QByteArray value, const QByteArray &separators)
 {
     for (const char separator : separators)
-        value.replace(separator, '
-');
+        value.replace(separator, '\n');
     QByteArrayList items;
-    for (const QByteArray &item : value.split('
-')) {
+    for (const QByteArray &item : value.split('\n')) {
         if (const QByteArray trimmed = item.trimmed(); !trimmed.isEmpty())
             items.append(trimmed);
-}
-return items;
+    }
+    return items;
 }
 
 QByteArray escaped(QByteArray text)

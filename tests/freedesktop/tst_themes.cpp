@@ -18,6 +18,7 @@ private slots:
     {
         const TemporaryHome home;
         const ScopedEnvironment path("XCURSOR_PATH", QFile::encodeName(home.path("extra"_s)) + ":~/.icons");
+        const ScopedEnvironment data("QAZ_DATA_DIR", "/none");
         home.write(".icons/Described/cursor.theme"_s, "[Icon Theme]\nInherits=x\n");
         for (const char *theme : {".icons/Described", ".icons/WithoutIndex", "extra/OnPath",
                                   "extra/WithoutIndex", ".local/share/icons/InData"})
@@ -130,8 +131,8 @@ private slots:
                {"Size=30", -1}, // the threshold is 2
                {"Size=24\nThreshold=3", 5},
                {"Type=Fixed\nSize=32\nScale=2", 32},
-               {"Type=Scalable\nSize=64\nMaxSize=16\nScale=-1", 48},
-               {"Size=2147483647\nScale=2147483647", 4611686007689904127}};
+               {"Type=Scalable\nSize=9\nMaxSize=64\nScale=2", 0}, // of another scale: no match
+               {"Size=2147483647\nScale=2147483647", 4611686009837453283}};
         for (const auto &[group, distance] : groups) {
             const IconThemeIndex theme = parseIconThemeIndex(
                 QByteArrayLiteral("[Icon Theme]\nDirectories=a,unknown\n[a]\n") + group);
