@@ -1,8 +1,6 @@
 #include "bridge/bridge.h"
 
-#include "bridge/options.h"
 #include "bridge/programs.h"
-#include "bridge/values.h"
 #include "settings/soundassignments.h"
 #include "settings/textvalues.h"
 #include "settings/wmcommands.h"
@@ -10,6 +8,7 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <utility>
 
 #include <X11/Xlib.h>
 
@@ -19,65 +18,17 @@ constexpr int burstMs = 50;
 constexpr int longestFarewellMs = 3000;
 constexpr int longestBurstMs = 1000; // whoever goes on announcing does not keep the others waiting
 
-enum Action : unsigned {
-    ShowWallpaper = 1,
-    TellPrograms = 2,
-    SetScreensaver = 4,
-    Composite = 8,
-    Decorate = 16,
-    AssignSounds = 32,
-    Everything = 63
-};
-
-struct Rule {
-    const char *key;
-    Action action;
-};
-
-// clang-format off
-constexpr Rule rules[] = {
-    {"WallPaper",              ShowWallpaper},
-    {"WallPaperPos",           ShowWallpaper},
-    {"WallPaperPeriod",        ShowWallpaper},
-    {"WallPaperLocal",         ShowWallpaper},
-    {"DesktopColor",           ShowWallpaper},
-    {"DefaultFont",            TellPrograms},
-    {"IconTheme",              TellPrograms},
-    {"CursorTheme",            TellPrograms},
-    {"XftSettings",            TellPrograms},
-    {"ScreenSaverDelay",       SetScreensaver},
-    {"LockerDpmsOffTimeout",   SetScreensaver},
-    {"UseComposite",           Composite},
-    {"CompositeManager",       Composite},
-    {"TitlebarColor",          Decorate},
-    {"TitlebarColor2",         Decorate},
-    {"TitlebarActiveColor",    Decorate},
-    {"TitlebarActiveColor2",   Decorate},
-    {"TitleStringColor",       Decorate},
-    {"TitleStringActiveColor", Decorate},
-    {"FrameColor",             Decorate},
-    {"FrameActiveColor",       Decorate},
-    {"MenuColor",              Decorate},
-    {"MenuColor2",             Decorate},
-    {"MenuActiveColor",        Decorate},
-    {"MenuStringColor",        Decorate},
-    {"MenuStringActiveColor",  Decorate},
-    {"TitleFont",              Decorate},
-    {"CascadeMenuFont",        Decorate},
-    {"EnableSound",            AssignSounds},
-    {"SoundTheme",             AssignSounds}};
-// clang-format on
-
-unsigned actionsOf(const QString &key)
+QStringList words(const char *text)
 {
-    const auto rule = std::find_if(std::begin(rules), std::end(rules),
-                                   [&key](const Rule &row) { return key == QLatin1String(row.key); });
-    if (rule != std::end(rules))
-        return rule->action;
-    const bool isSound = std::any_of(
-        std::begin(soundEvents), std::end(soundEvents),
-        [&key](const SoundEvent &event) { return key == QLatin1String(event.key->name); });
-    return isSound ? unsigned(AssignSounds) : 0;
+    return QString::fromLatin1(text).split(QLatin1Char(' '));
+}
+
+QStringList soundKeys()
+{
+    QStringList keys;
+    for (const SoundEvent &event : soundEvents)
+        keys.append(QLatin1String(event.key->name));
+    return keys;
 }
 
 } // namespace
@@ -99,7 +50,17 @@ Bridge::Bridge(const Session &session)
         connect(&m_session.programs, &Programs::idle, QCoreApplication::instance(), &QCoreApplication::quit);
     else
         follow();
-    m_actions = Everything;
+    m_actions = {
+        {words("WallPaper WallPaperPos WallPaperPeriod WallPaperLocal DesktopColor"),
+         [this] { m_wallpaper.apply(); }},
+        {words("DefaultFont IconTheme CursorTheme XftSettings"), [this] { m_xsettings.apply(); }},
+        {words("ScreenSaverDelay LockerDpmsOffTimeout"), [this] { applyScreensaver(); }},
+        {words("UseComposite CompositeManager"), [this] { m_compositor.apply(); }},
+        {words("TitlebarColor TitlebarColor2 TitlebarActiveColor TitlebarActiveColor2 TitleStringColor "
+               "TitleStringActiveColor FrameColor FrameActiveColor MenuColor MenuColor2 MenuActiveColor "
+               "MenuStringColor MenuStringActiveColor TitleFont CascadeMenuFont"),
+         [this] { m_openbox.apply(); }},
+        {words("EnableSound SoundTheme") + soundKeys(), [this] { m_sounds.apply(); }}};
     carryOut();
 }
 
@@ -111,29 +72,29 @@ void Bridge::follow()
         tell(QStringLiteral("Another bridge has taken over"));
         QCoreApplication::quit();
     });
-    m_watcher = std::make_unique<WindowWatcher>(x, [this](const char *soundKey) { m_sounds.play(soundKey); });
+    m_watcher = std::make_unique<WindowWatcher>(x, m_sounds);
     x.listen([this](const XEvent &event) { take(event); });
     m_sounds.play("SystemStartSound");
 }
 
 void Bridge::applyAnew()
 {
-    m_session.values.reload();
-    gather(Everything);
+    m_session.values.forgetAnnounced();
+    for (Action &action : m_actions)
+        action.isDue = true;
+    waitForMore();
 }
 
 void Bridge::endSession()
 {
     m_sounds.play("SystemExitSound");
-    connect(&m_session.programs, &Programs::ended, this, &Bridge::quitWhenSilent, Qt::UniqueConnection);
+    const auto quitWhenSilent = [this] {
+        if (m_sounds.isSilent())
+            QCoreApplication::quit();
+    };
+    connect(&m_session.programs, &Programs::ended, this, quitWhenSilent);
     QTimer::singleShot(longestFarewellMs, QCoreApplication::instance(), &QCoreApplication::quit);
     quitWhenSilent();
-}
-
-void Bridge::quitWhenSilent()
-{
-    if (m_sounds.isSilent())
-        QCoreApplication::quit();
 }
 
 void Bridge::take(const XEvent &event)
@@ -154,8 +115,7 @@ void Bridge::takeCommand(const QByteArray &command)
         applyAnew();
         return;
     }
-    const unsigned actions = readUpdateCommand(command, &key, &value) ? actionsOf(key) : 0;
-    if (actions == 0) {
+    if (!readUpdateCommand(command, &key, &value) || !demand(key)) {
         if (m_session.options.verbose)
             tell(QStringLiteral("Not for this program: ") + QString::fromLocal8Bit(command).trimmed());
         return;
@@ -163,34 +123,33 @@ void Bridge::takeCommand(const QByteArray &command)
     m_session.values.announce(key, value);
     if (key == QLatin1String("UseComposite"))
         m_compositor.take(countsAsTrue(value));
-    gather(actions);
 }
 
-void Bridge::gather(unsigned actions)
+bool Bridge::demand(const QString &key)
 {
-    if (m_actions == 0)
+    const auto action = std::find_if(m_actions.begin(), m_actions.end(),
+                                     [&key](const Action &each) { return each.keys.contains(key); });
+    if (action == m_actions.end())
+        return false;
+    action->isDue = true;
+    waitForMore();
+    return true;
+}
+
+void Bridge::waitForMore()
+{
+    if (!m_burstTimer.isActive())
         m_burst.start();
-    m_actions |= actions;
     m_burstTimer.start(int(qBound(0LL, longestBurstMs - m_burst.elapsed(), qint64(burstMs))));
 }
 
 void Bridge::carryOut()
 {
-    const unsigned actions = m_actions;
-    m_actions = 0;
     m_session.values.refresh();
-    if (actions & ShowWallpaper)
-        m_wallpaper.apply();
-    if (actions & TellPrograms)
-        m_xsettings.apply();
-    if (actions & SetScreensaver)
-        applyScreensaver();
-    if (actions & Composite)
-        m_compositor.apply();
-    if (actions & Decorate)
-        m_openbox.apply();
-    if (actions & AssignSounds)
-        m_sounds.apply();
+    for (Action &action : m_actions) {
+        if (std::exchange(action.isDue, false))
+            action.carryOut();
+    }
 }
 
 void Bridge::applyScreensaver()
@@ -210,12 +169,12 @@ void Bridge::rootPropertyChanged(unsigned long property)
 {
     if (property == m_session.x.atom("_NET_CURRENT_DESKTOP") && m_session.x.currentDesktop() != m_desktop) {
         m_desktop = m_session.x.currentDesktop();
-        m_wallpaper.changeDesktop();
+        m_wallpaper.show();
         m_sounds.play("PagingSound");
     } else if (property == m_session.x.atom("_NET_SUPPORTING_WM_CHECK")
                && m_session.x.windowManager() != m_windowManager) {
         m_windowManager = m_session.x.windowManager();
-        gather(Decorate);
+        demand(QStringLiteral("TitlebarColor")); // it may be Openbox
     }
 }
 

@@ -12,7 +12,9 @@
 #include <QObject>
 #include <QTimer>
 
+#include <functional>
 #include <memory>
+#include <vector>
 
 /// Carries out what the theme file says and what is announced of it, for as long as the session lasts.
 class Bridge : public QObject
@@ -28,15 +30,22 @@ public:
     void endSession();
 
 private:
+    /// What is to be done when one of some keys has a new value.
+    struct Action {
+        QStringList keys;
+        std::function<void()> carryOut;
+        bool isDue = true;
+    };
+
     void follow();
     void take(const _XEvent &event);
     void takeCommand(const QByteArray &command);
-    void gather(unsigned actions);
+    bool demand(const QString &key);
+    void waitForMore();
     void carryOut();
     void applyScreensaver();
     void rootPropertyChanged(unsigned long property);
     void selectionChanged();
-    void quitWhenSilent();
 
     Session m_session;
     Wallpaper m_wallpaper;
@@ -46,7 +55,7 @@ private:
     Sounds m_sounds;
     CommandReceiver m_receiver;
     std::unique_ptr<WindowWatcher> m_watcher;
-    unsigned m_actions = 0; // gathered
+    std::vector<Action> m_actions;
     QTimer m_burstTimer;
     QElapsedTimer m_burst;
     int m_desktop = 0;

@@ -1,8 +1,6 @@
 #include "bridge/compositor.h"
 
-#include "bridge/options.h"
 #include "bridge/programs.h"
-#include "bridge/values.h"
 #include "bridge/xconnection.h"
 #include "settings/textvalues.h"
 
@@ -44,7 +42,7 @@ void Compositor::start()
     // Anybody on the display can send a command, so what is run is never taken from one.
     const QString manager = m_session.values.fileText("CompositeManager", "/usr/bin/qaz-kompmgr");
     if (!manager.isEmpty())
-        m_manager = m_session.programs.start({manager}, [this] {
+        m_manager = m_session.programs.start({manager}, [this](bool) {
             m_manager = nullptr;
             selectionChanged();
         });

@@ -1,17 +1,17 @@
 // Carries out on an ordinary X11 session what the theme editor announces to the window manager.
 
 #include "bridge/bridge.h"
-#include "bridge/options.h"
 #include "bridge/programs.h"
-#include "bridge/values.h"
 #include "bridge/xconnection.h"
+#include "settings/themefile.h"
 
+#include <QCommandLineParser>
 #include <QCoreApplication>
+#include <QFileInfo>
 #include <QSocketNotifier>
 
 #include <cerrno>
 #include <csignal>
-#include <cstdio>
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -19,6 +19,52 @@
 namespace {
 
 constexpr int wrongOption = 2;
+
+struct Switch {
+    const char *name;
+    const char *help;
+    bool Options::*value;
+};
+
+constexpr Switch switches[] = {
+    {"once", "Apply everything and end; nothing that would have to stay is started.", &Options::once},
+    {"dry-run", "Print each command line instead of running it; write nothing.", &Options::dryRun},
+    {"verbose", "Tell what is run and which commands are not for this program.", &Options::verbose},
+    {"replace", "Take over from a bridge that runs on this screen.", &Options::replace},
+    {"openbox", "Tell Openbox's rc.xml, after a backup, to use the theme and its fonts.", &Options::openbox},
+};
+
+/// False, with one line in \a error, when the arguments are wrong.
+bool readOptions(Options *options, QString *error)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral(
+        "Carries out on an ordinary X11 session what the theme editor announces to the window manager."));
+    for (const Switch &known : switches)
+        parser.addOption({QString::fromLatin1(known.name), QString::fromLatin1(known.help)});
+    const QCommandLineOption help = parser.addHelpOption();
+    const QCommandLineOption version = parser.addVersionOption();
+    parser.addPositionalArgument(QStringLiteral("themefile"),
+                                 QStringLiteral("The theme file to follow (default: the user's)."),
+                                 QStringLiteral("[themefile]"));
+    if (!parser.parse(QCoreApplication::arguments())) {
+        *error = parser.errorText();
+        return false;
+    }
+    if (parser.isSet(help))
+        parser.showHelp();
+    if (parser.isSet(version))
+        parser.showVersion();
+    const QStringList files = parser.positionalArguments();
+    if (files.size() > 1)
+        *error = QStringLiteral("There is one theme file at most, not '%1'").arg(files.at(1));
+    else if (!files.isEmpty() && !QFileInfo(files.first()).isFile())
+        *error = QStringLiteral("There is no theme file '%1'").arg(files.first());
+    for (const Switch &known : switches)
+        options->*known.value = parser.isSet(QString::fromLatin1(known.name));
+    options->themeFile = files.isEmpty() ? defaultThemeFile() : QFileInfo(files.first()).absoluteFilePath();
+    return error->isEmpty();
+}
 
 int signalPipe[2] = {-1, -1};
 
@@ -75,7 +121,7 @@ int serve(const Options &options)
         QCoreApplication::exit(1);
     });
     Values values(options.themeFile);
-    Programs programs(options.dryRun, options.verbose);
+    Programs programs(options);
     Bridge bridge({x, values, programs, options});
     handleSignals(&bridge);
     return options.once && programs.isIdle() ? 0 : QCoreApplication::exec();
@@ -86,14 +132,11 @@ int serve(const Options &options)
 int main(int argc, char *argv[])
 {
     const QCoreApplication application(argc, argv);
+    QCoreApplication::setApplicationVersion(QStringLiteral(QAZ_VERSION));
     Options options;
     QString error;
-    if (!readOptions(QCoreApplication::arguments(), &options, &error)) {
-        tell(error);
-        return wrongOption;
-    }
-    if (options.answer.isEmpty())
+    if (readOptions(&options, &error))
         return serve(options);
-    std::fputs(options.answer.toLocal8Bit().constData(), stdout);
-    return 0;
+    tell(error);
+    return wrongOption;
 }

@@ -11,8 +11,11 @@ public:
     void apply();
 
 private:
-    bool writeTheme() const;
     void editConfiguration() const;
 
     Session m_session;
 };
+
+/// The `themerc` of an Openbox theme in the colours that \a values hold. A text that names no colour counts as its
+/// default.
+QByteArray openboxTheme(const Values &values);

@@ -1,6 +1,7 @@
 #include "bridge/programs.h"
 
 #include "base/diagnostics.h"
+#include "bridge/session.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -38,23 +39,6 @@ protected:
     void setupChildProcess() override { ::prctl(PR_SET_PDEATHSIG, SIGTERM); }
 };
 
-/// The end of a line about \a tool; a compositing manager may be of any package.
-QString packageHint(const QString &tool)
-{
-    for (const Tool &known : tools) {
-        if (tool == QLatin1String(known.name))
-            return QStringLiteral(" (Debian package %1)").arg(QLatin1String(known.package));
-    }
-    return {};
-}
-
-QString findProgram(const QString &name)
-{
-    const QString inPath = QStandardPaths::findExecutable(name);
-    return inPath.isEmpty() ? QStandardPaths::findExecutable(name, {QCoreApplication::applicationDirPath()})
-                            : inPath;
-}
-
 } // namespace
 
 void tell(const QString &text)
@@ -80,9 +64,8 @@ QString shellLine(const QStringList &command)
     return words.join(QLatin1Char(' '));
 }
 
-Programs::Programs(bool printOnly, bool verbose)
-    : m_printOnly(printOnly)
-    , m_verbose(verbose)
+Programs::Programs(const Options &options)
+    : m_options(options)
 {}
 
 Programs::~Programs()
@@ -112,23 +95,18 @@ void Programs::runNext(const QString &purpose)
     Queue &queue = m_queues[purpose];
     queue.running = nullptr;
     while (!queue.running && !queue.waiting.isEmpty()) {
-        queue.running = launch(queue.waiting.takeFirst(), [this, purpose](bool failed) {
+        queue.running = start(queue.waiting.takeFirst(), [this, purpose](bool failed) {
             if (failed) // what follows needs what failed
                 m_queues[purpose].waiting.clear();
             runNext(purpose);
         });
         if (queue.running)
             QTimer::singleShot(hangMs, queue.running, &QProcess::kill);
-        else if (!m_printOnly)
+        else if (!m_options.dryRun)
             queue.waiting.clear();
     }
     if (isIdle())
         emit idle();
-}
-
-QProcess *Programs::start(const QStringList &command, const std::function<void()> &whenEnded)
-{
-    return launch(command, [whenEnded](bool) { whenEnded(); });
 }
 
 void Programs::end(QProcess *process)
@@ -143,20 +121,22 @@ bool Programs::isIdle() const
     return std::none_of(m_queues.cbegin(), m_queues.cend(), [](const Queue &queue) { return queue.running; });
 }
 
-QProcess *Programs::launch(const QStringList &command, const std::function<void(bool failed)> &whenEnded)
+QProcess *Programs::start(const QStringList &command, const std::function<void(bool failed)> &whenEnded)
 {
-    if (m_printOnly) {
+    if (m_options.dryRun) {
         std::printf("%s\n", shellLine(command).toLocal8Bit().constData());
         std::fflush(stdout);
         return nullptr;
     }
     const QString tool = QFileInfo(command.first()).fileName();
-    const QString program = findProgram(command.first());
+    QString program = QStandardPaths::findExecutable(command.first());
+    if (program.isEmpty())
+        program = QStandardPaths::findExecutable(command.first(), {QCoreApplication::applicationDirPath()});
     if (program.isEmpty()) {
         complain(tool, QStringLiteral("%1 is not installed"));
         return nullptr;
     }
-    if (m_verbose)
+    if (m_options.verbose)
         tell(shellLine(command));
     auto *process = new Child(this);
     process->setStandardInputFile(QProcess::nullDevice());
@@ -186,5 +166,10 @@ void Programs::complain(const QString &tool, const QString &what)
     if (m_complained.contains(tool))
         return;
     m_complained.insert(tool);
-    tell(what.arg(tool) + packageHint(tool));
+    const auto *known = std::find_if(std::begin(tools), std::end(tools),
+                                     [&tool](const Tool &each) { return tool == QLatin1String(each.name); });
+    // A compositing manager may be of any package.
+    tell(known == std::end(tools)
+             ? what.arg(tool)
+             : QStringLiteral("%1 (Debian package %2)").arg(what.arg(tool), QLatin1String(known->package)));
 }

@@ -9,6 +9,8 @@
 
 #include <functional>
 
+struct Options;
+
 /// One line "qaz-wm-bridge: TEXT" on standard error.
 void tell(const QString &text);
 
@@ -21,19 +23,17 @@ class Programs : public QObject
 {
     Q_OBJECT
 public:
-    /// \a printOnly: each command line goes to standard output and nothing is run.
-    Programs(bool printOnly, bool verbose);
+    /// In a dry run each command line goes to standard output and nothing is run.
+    explicit Programs(const Options &options);
     /// Ends all children.
     ~Programs() override;
-
-    bool isPrintOnly() const { return m_printOnly; }
 
     /// Runs \a commands one after the other; those that wait from an earlier call for the same \a purpose are dropped.
     void run(const QString &purpose, const QVector<QStringList> &commands);
 
     /// Starts a program that stays until it ends by itself, is ended, or this object goes; \a whenEnded is called then,
     /// but not by the destructor. Null when it can't be started or is only printed.
-    QProcess *start(const QStringList &command, const std::function<void()> &whenEnded);
+    QProcess *start(const QStringList &command, const std::function<void(bool failed)> &whenEnded);
 
     /// Asks a child to end, and makes it end.
     void end(QProcess *process);
@@ -51,12 +51,10 @@ private:
         QVector<QStringList> waiting;
     };
 
-    QProcess *launch(const QStringList &command, const std::function<void(bool failed)> &whenEnded);
     void runNext(const QString &purpose);
     void complain(const QString &tool, const QString &what);
 
-    bool m_printOnly;
-    bool m_verbose;
+    const Options &m_options;
     QHash<QString, Queue> m_queues;
     QSet<QString> m_complained; // of which tools
 };

@@ -1,7 +1,6 @@
 #include "bridge/sounds.h"
 
 #include "bridge/programs.h"
-#include "bridge/values.h"
 #include "platform/qazsoundtheme.h"
 #include "settings/directories.h"
 #include "settings/soundassignments.h"
@@ -54,7 +53,7 @@ void Sounds::play(const char *key)
     if (file.isEmpty())
         return;
     QProcess *player = m_session.programs.start({QStringLiteral("aplay"), QStringLiteral("-q"), file},
-                                                [this] { --m_playing; });
+                                                [this](bool) { --m_playing; });
     if (!player)
         return;
     ++m_playing;

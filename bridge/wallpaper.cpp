@@ -1,10 +1,6 @@
 #include "bridge/wallpaper.h"
 
-#include "base/atomicfile.h"
-#include "bridge/options.h"
-#include "bridge/ownfiles.h"
 #include "bridge/programs.h"
-#include "bridge/values.h"
 #include "bridge/wallpaperpicture.h"
 #include "bridge/xconnection.h"
 #include "freedesktop/images.h"
@@ -47,11 +43,6 @@ void Wallpaper::apply()
 {
     setUpSlides();
     m_shown.clear();
-    show();
-}
-
-void Wallpaper::changeDesktop()
-{
     show();
 }
 
@@ -115,7 +106,7 @@ QVector<QStringList> Wallpaper::commandsFor(const QString &wallpaper, Fit fit) c
     if (!isSvg(path))
         return {showCommand(path, fit, background)};
     const QSize size = m_session.x.screenSize();
-    const QString rendered = ownFile(renderedName(path, size), m_session.options.dryRun);
+    const QString rendered = ownFile(renderedName(path, size));
     const QStringList show = showCommand(rendered, fit, background);
     if (isNewer(rendered, path))
         return {show};
@@ -128,11 +119,8 @@ QVector<QStringList> Wallpaper::commandsFor(const QString &wallpaper, Fit fit) c
 QVector<QStringList> Wallpaper::colorCommands(const QColor &color) const
 {
     const QColor shown = color.isValid() ? color : QColor(Qt::black);
-    const QString path = ownFile(QLatin1String("color-") + shown.name().mid(1) + QLatin1String(".ppm"),
-                                 m_session.options.dryRun);
-    QString error;
-    if (!m_session.options.dryRun && !QFileInfo::exists(path)
-        && !replaceFile(path, oneColorPicture(shown), &error))
-        tell(QStringLiteral("Can't write %1: %2").arg(path, error));
+    const QString path = ownFile(QLatin1String("color-") + shown.name().mid(1) + QLatin1String(".ppm"));
+    if (!QFileInfo::exists(path))
+        m_session.write(path, oneColorPicture(shown));
     return {showCommand(path, Fit::Tile, shown)};
 }

@@ -19,11 +19,10 @@ public:
 
     /// Shows what the values say now, also when nothing has changed: somebody else may have drawn over it.
     void apply();
-    /// Another virtual desktop has come into view.
-    void changeDesktop();
+    /// Shows what belongs to the virtual desktop in view, if that is another picture than before.
+    void show();
 
 private:
-    void show();
     void showNext();
     void setUpSlides();
     QString found(const QString &wallpaper) const;

@@ -1,13 +1,15 @@
 #include "bridge/windowwatcher.h"
 
+#include "bridge/sounds.h"
+
 #include <X11/Xlib.h>
 
-WindowWatcher::WindowWatcher(XConnection &x, const std::function<void(const char *)> &report)
+WindowWatcher::WindowWatcher(XConnection &x, Sounds &sounds)
     : m_x(x)
-    , m_report([](const char *) {})
+    , m_sounds(sounds)
 {
-    readWindows(); // those that are there already were not opened now
-    m_report = report;
+    for (const unsigned long window : clients())
+        add(window);
 }
 
 void WindowWatcher::take(const XEvent &event)
@@ -15,28 +17,36 @@ void WindowWatcher::take(const XEvent &event)
     if (event.type != PropertyNotify)
         return;
     if (event.xproperty.window == m_x.rootWindow() && event.xproperty.atom == m_x.atom("_NET_CLIENT_LIST"))
-        readWindows();
+        readClients();
     else if (event.xproperty.atom == m_x.atom("_NET_WM_STATE") && m_windows.contains(event.xproperty.window))
         readState(event.xproperty.window);
 }
 
-void WindowWatcher::readWindows()
+QVector<unsigned long> WindowWatcher::clients() const
 {
-    const QVector<unsigned long> windows = m_x.numbers(m_x.rootWindow(), "_NET_CLIENT_LIST");
+    return m_x.numbers(m_x.rootWindow(), "_NET_CLIENT_LIST");
+}
+
+void WindowWatcher::add(XConnection::Window window)
+{
+    m_x.watchProperties(window);
+    m_windows.insert(window, stateOf(window));
+}
+
+void WindowWatcher::readClients()
+{
+    const QVector<unsigned long> windows = clients();
     for (const unsigned long window : windows) {
         if (m_windows.contains(window))
             continue;
-        m_x.watchProperties(window);
-        m_windows.insert(window, stateOf(window));
-        m_report("OpenSound");
+        add(window);
+        m_sounds.play("OpenSound");
     }
-    for (auto known = m_windows.begin(); known != m_windows.end();) {
-        if (windows.contains(known.key())) {
-            ++known;
+    for (const unsigned long window : m_windows.keys()) {
+        if (windows.contains(window))
             continue;
-        }
-        known = m_windows.erase(known);
-        m_report("CloseSound");
+        m_windows.remove(window);
+        m_sounds.play("CloseSound");
     }
 }
 
@@ -55,9 +65,9 @@ void WindowWatcher::readState(XConnection::Window window)
     const State now = stateOf(window);
     m_windows.insert(window, now);
     if (now.isHidden != before.isHidden)
-        m_report(now.isHidden ? "MinimizeSound" : "RestoreUpSound");
+        m_sounds.play(now.isHidden ? "MinimizeSound" : "RestoreUpSound");
     if (now.isMaximized != before.isMaximized)
-        m_report(now.isMaximized ? "MaximizeSound" : "RestoreDownSound");
+        m_sounds.play(now.isMaximized ? "MaximizeSound" : "RestoreDownSound");
     if (now.wantsAttention && !before.wantsAttention)
-        m_report("ForceTrayMessageSound");
+        m_sounds.play("ForceTrayMessageSound");
 }

@@ -4,12 +4,14 @@
 
 #include <QHash>
 
-/// Sees what happens to the windows of an EWMH window manager.
+class Sounds;
+
+/// Sees what happens to the windows of an EWMH window manager, and plays the sounds for it.
 class WindowWatcher
 {
 public:
-    /// \a report gets the theme file's key of the sound for each event; \a x is the caller's.
-    WindowWatcher(XConnection &x, const std::function<void(const char *soundKey)> &report);
+    /// \a x and \a sounds are the caller's.
+    WindowWatcher(XConnection &x, Sounds &sounds);
 
     void take(const _XEvent &event);
 
@@ -20,11 +22,13 @@ private:
         bool wantsAttention = false;
     };
 
-    void readWindows();
+    QVector<unsigned long> clients() const;
+    void add(XConnection::Window window);
+    void readClients();
     void readState(XConnection::Window window);
     State stateOf(XConnection::Window window) const;
 
     XConnection &m_x;
-    std::function<void(const char *soundKey)> m_report;
+    Sounds &m_sounds;
     QHash<XConnection::Window, State> m_windows;
 };

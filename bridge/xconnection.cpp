@@ -4,7 +4,9 @@
 #include <QElapsedTimer>
 #include <QSocketNotifier>
 
+#include <cstring>
 #include <memory>
+#include <utility>
 
 #include <X11/Xatom.h>
 #include <X11/Xlib.h>
@@ -15,19 +17,6 @@ namespace {
 
 constexpr int takeOverMs = 15000;
 
-XConnection *connection = nullptr; // there is one, and Xlib's handlers get no argument of ours
-
-/// Windows come and go between an event and the answer to it.
-int keepQuiet(Display * /*display*/)
-{
-    return 0;
-}
-
-int ignoreError(Display * /*display*/, XErrorEvent * /*error*/)
-{
-    return 0;
-}
-
 } // namespace
 
 XConnection::XConnection()
@@ -35,17 +24,12 @@ XConnection::XConnection()
 {
     if (!m_display)
         return;
-    connection = this;
-    XSetErrorHandler(ignoreError);
-    XSetIOErrorHandler(keepQuiet);
+    // Windows come and go between an event and the answer to it.
+    XSetErrorHandler([](Display *, XErrorEvent *) { return 0; });
+    XSetIOErrorHandler([](Display *) { return 0; });
     // The default ends the process on the spot, without its children.
     XSetIOErrorExitHandler(
-        m_display,
-        [](Display *, void *) {
-            if (connection)
-                connection->lose();
-        },
-        nullptr);
+        m_display, [](Display *, void *self) { static_cast<XConnection *>(self)->lose(); }, this);
     // Whoever sees the selection taken may send at once.
     XSelectInput(m_display, rootWindow(), SubstructureNotifyMask | PropertyChangeMask);
     int error = 0;
@@ -55,16 +39,14 @@ XConnection::XConnection()
 
 XConnection::~XConnection()
 {
-    connection = nullptr;
-    if (m_display && !m_isLost)
+    if (m_display && !std::exchange(m_isLost, true))
         XCloseDisplay(m_display);
 }
 
 void XConnection::lose()
 {
-    if (!m_isLost)
+    if (!std::exchange(m_isLost, true))
         emit serverLost();
-    m_isLost = true;
 }
 
 int XConnection::screenNumber() const
@@ -180,41 +162,34 @@ bool XConnection::waitForOldOwner(Window window) const
     return true;
 }
 
-QByteArray XConnection::property(Window window, const char *name, int format, unsigned long *count) const
+QByteArray XConnection::property(Window window, const char *name, int format) const
 {
     constexpr long limit = 1 << 18; // in units of 32 bits
     Atom type = 0;
     int actualFormat = 0;
+    unsigned long count = 0;
     unsigned long rest = 0;
     unsigned char *data = nullptr;
-    if (XGetWindowProperty(m_display, window, atom(name), 0, limit, False, AnyPropertyType, &type,
-                           &actualFormat, count, &rest, &data)
-            != Success
-        || !data)
-        return {};
+    XGetWindowProperty(m_display, window, atom(name), 0, limit, False, AnyPropertyType, &type, &actualFormat,
+                       &count, &rest, &data);
     const std::unique_ptr<unsigned char, int (*)(void *)> owner(data, XFree);
-    if (actualFormat != format)
+    if (!data || actualFormat != format)
         return {};
     // Xlib hands 32-bit items out as longs.
-    const int itemBytes = format == 32 ? int(sizeof(long)) : 1;
-    return {reinterpret_cast<const char *>(data), int(*count) * itemBytes};
+    return {reinterpret_cast<const char *>(data), int(count * (format == 32 ? sizeof(long) : 1))};
 }
 
 QVector<unsigned long> XConnection::numbers(Window window, const char *name) const
 {
-    unsigned long count = 0;
-    const QByteArray data = property(window, name, 32, &count);
-    QVector<unsigned long> numbers;
-    const auto *items = reinterpret_cast<const unsigned long *>(data.constData());
-    for (int i = 0; i < data.size() / int(sizeof(long)); ++i)
-        numbers.append(items[i]);
+    const QByteArray data = property(window, name, 32);
+    QVector<unsigned long> numbers(data.size() / int(sizeof(long)));
+    std::memcpy(numbers.data(), data.constData(), std::size_t(data.size()));
     return numbers;
 }
 
 QByteArray XConnection::text(Window window, const char *name) const
 {
-    unsigned long count = 0;
-    return property(window, name, 8, &count);
+    return property(window, name, 8);
 }
 
 void XConnection::watchProperties(Window window) const

@@ -59,7 +59,7 @@ private:
     void readEvents();
     void lose();
     unsigned long selectionAtom(const char *name) const;
-    QByteArray property(Window window, const char *name, int format, unsigned long *count) const;
+    QByteArray property(Window window, const char *name, int format) const;
     bool waitForOldOwner(Window window) const;
 
     _XDisplay *m_display;

@@ -1,10 +1,6 @@
 #include "bridge/xsettings.h"
 
-#include "base/atomicfile.h"
-#include "bridge/options.h"
-#include "bridge/ownfiles.h"
 #include "bridge/programs.h"
-#include "bridge/values.h"
 #include "bridge/xconnection.h"
 #include "platform/qazicontheme.h"
 #include "settings/inifile.h"
@@ -105,10 +101,6 @@ XSettingsTexts XSettings::texts() const
 
 void XSettings::apply()
 {
-    const QString display = QString::fromLocal8Bit(qgetenv("DISPLAY"))
-                                .replace(QLatin1Char('/'), QLatin1Char('_'));
-    const QString name = QStringLiteral("xsettingsd-%1.conf").arg(display);
-    const QString path = ownFile(name, m_session.options.dryRun);
     if (!m_manager && m_session.x.isOwned(selection)) {
         if (!m_isLeft)
             tell(QStringLiteral("Another settings manager runs: fonts, icons and cursors are left to it"));
@@ -116,11 +108,10 @@ void XSettings::apply()
         return;
     }
     m_isLeft = false;
-    QString error;
-    if (!m_session.options.dryRun && !replaceFile(path, xsettingsFile(texts()), &error, 0600)) {
-        tell(QStringLiteral("Can't write %1: %2").arg(path, error));
+    const QString display = qEnvironmentVariable("DISPLAY").replace(QLatin1Char('/'), QLatin1Char('_'));
+    const QString path = ownFile(QStringLiteral("xsettingsd-%1.conf").arg(display));
+    if (!m_session.write(path, xsettingsFile(texts())))
         return;
-    }
     m_hasNews = m_manager;
     if (m_manager)
         tellManager();
@@ -128,7 +119,7 @@ void XSettings::apply()
         m_manager = m_session.programs.start({QStringLiteral("xsettingsd"), QStringLiteral("-c"), path,
                                               QStringLiteral("-s"),
                                               QString::number(m_session.x.screenNumber())},
-                                             [this] {
+                                             [this](bool) {
                                                  m_manager = nullptr;
                                                  if (m_hasNews)
                                                      apply();

@@ -1,5 +1,5 @@
+#include "bridge/openbox.h"
 #include "bridge/openboxrc.h"
-#include "bridge/openboxtheme.h"
 #include "bridge/programs.h"
 #include "bridge/wallpaperpicture.h"
 #include "bridge/xsettings.h"
@@ -61,22 +61,28 @@ private slots:
 
     void openboxThemeHoldsColorsOnly()
     {
-        const QMap<QString, QString> stored = {{"TitlebarColor"_s, "qvblue"_s},
-                                               {"TitlebarColor2"_s, "#000080"_s},
-                                               {"MenuColor"_s, "red\nevil: 1"_s},
-                                               {"MenuActiveColor"_s, "lime"_s},
-                                               {"TitleStringColor"_s, "Qt"_s}};
-        const QByteArray theme = openboxTheme([&stored](const char *key, const char *defaultText) {
-            return stored.value(QLatin1String(key), QLatin1String(defaultText));
-        });
-        for (const char *line :
-             {"window.inactive.title.bg: Flat Solid", "window.inactive.title.bg.color: #000080",
-              "window.active.title.bg: Flat Gradient Horizontal", "window.active.title.bg.color: #000080",
-              "window.active.title.bg.colorTo: #a6caf0", "menu.items.bg.color: #a4a3be",
-              "menu.items.bg.colorTo: #fbfcfd", "menu.items.active.bg.color: #00ff00",
-              "window.inactive.label.text.color: #ffffff", "window.active.border.color: #c0c0c0"})
-            QVERIFY2(theme.contains('\n' + QByteArray(line) + '\n'), theme.constData());
-        QVERIFY2(!theme.contains("evil"), theme.constData());
+        const TemporaryHome home;
+        Values values(home.write("t"_s, "TitlebarColor=qvblue\nTitlebarColor2=#000080\nMenuActiveColor=lime\n"
+                                        "TitleStringColor=Qt\nFrameColor=red\n"));
+        values.announce("MenuColor"_s, "red\nevil: 1"_s);
+        QByteArray theme = openboxTheme(values);
+        theme.replace("window.", "w.")
+            .replace("inactive.", "-")
+            .replace("active.", "+")
+            .replace(".color", "");
+        theme.replace("Flat Gradient Horizontal", ">").replace("Flat Solid", "=").replace(": ", " ");
+        QCOMPARE(theme.replace('\n', '|').constData(),
+                 "border.width 1|w.*.label.bg Parentrelative|w.*.button.*.bg Parentrelative|"
+                 "w.*.handle.bg =|w.*.grip.bg =|menu.items.+bg =|w.label.text.justify left|"
+                 "w.-label.text #ffffff|w.-button.*.image #ffffff|w.+label.text #ffffff|"
+                 "w.+button.*.image #ffffff|menu.title.text #ffffff|w.-border #ff0000|w.-client #ff0000|"
+                 "w.-title.separator #ff0000|w.-handle.bg #ff0000|w.-grip.bg #ff0000|w.+border #c0c0c0|"
+                 "w.+client #c0c0c0|w.+title.separator #c0c0c0|w.+handle.bg #c0c0c0|w.+grip.bg #c0c0c0|"
+                 "menu.border #c0c0c0|menu.items.+bg #00ff00|menu.items.text #000000|"
+                 "menu.items.+text #ffffff|w.-title.bg #000080|w.-title.bg =|w.-title.bgTo #000080|"
+                 "w.+title.bg #000080|w.+title.bg >|w.+title.bgTo #a6caf0|menu.title.bg #000080|"
+                 "menu.title.bg >|menu.title.bgTo #a6caf0|menu.items.bg #a4a3be|menu.items.bg >|"
+                 "menu.items.bgTo #fbfcfd|");
     }
 
     void picturesAreImagesInRegularFiles()
