@@ -63,10 +63,8 @@ QtSingleApplication::QtSingleApplication(const QString &id, int &argc, char **ar
 
 QtSingleApplication::~QtSingleApplication()
 {
-    // The socket goes before the lock: afterwards the one of that name belongs to the next owner.
+    // Before the lock: afterwards the socket of that name belongs to the next owner.
     delete m_server;
-    if (m_lock)
-        ::unlinkat(m_directory.get(), (m_name + ".lock").constData(), 0);
 }
 
 bool QtSingleApplication::isRunning()
@@ -86,7 +84,6 @@ bool QtSingleApplication::takeLock()
     const QByteArray name = m_name + ".lock";
     for (;;) {
         struct stat opened = {};
-        struct stat named = {};
         auto file = std::make_unique<Descriptor>(
             ::openat(m_directory.get(), name.constData(),
                      O_RDWR | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, 0600));
@@ -98,12 +95,8 @@ bool QtSingleApplication::takeLock()
         ::fchmod(file->get(), 0600);
         if (::flock(file->get(), LOCK_EX | LOCK_NB) != 0)
             return false;
-        // The owner before may have removed the file since it was opened.
-        if (::fstatat(m_directory.get(), name.constData(), &named, AT_SYMLINK_NOFOLLOW) == 0
-            && named.st_ino == opened.st_ino) {
-            m_lock = std::move(file);
-            return true;
-        }
+        m_lock = std::move(file);
+        return true;
     }
 }
 
