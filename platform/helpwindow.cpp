@@ -1,6 +1,5 @@
 #include "platform/helpwindow.h"
 
-#include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QIcon>
 #include <QLabel>
@@ -11,22 +10,13 @@
 #include <QTextBlock>
 #include <QToolButton>
 
+#include <functional>
+
 namespace {
 
 constexpr int margin = 16;
 constexpr int smallestZoom = -6;
 constexpr int largestZoom = 20;
-
-QString translated(const char *text)
-{
-    return QCoreApplication::translate("Help", text);
-}
-
-template<typename Action>
-void onKey(QWidget *window, const QKeySequence &key, Action action)
-{
-    QObject::connect(new QShortcut(key, window), &QShortcut::activated, window, action);
-}
 
 } // namespace
 
@@ -36,7 +26,7 @@ HelpWindow::HelpWindow()
     setAttribute(Qt::WA_DeleteOnClose);
     setAttribute(Qt::WA_QuitOnClose, false);
     setObjectName(QStringLiteral("helpWindow"));
-    setWindowTitle(translated(QT_TRANSLATE_NOOP("Help", "Qaz Theme Editor Help")));
+    setWindowTitle(tr("Qaz Theme Editor Help"));
     setWindowIcon(QIcon::fromTheme(QStringLiteral("help-contents"),
                                    QIcon(QStringLiteral(":/fallback/help-contents.svg"))));
     setOpenExternalLinks(false);
@@ -44,45 +34,44 @@ HelpWindow::HelpWindow()
     createBar();
     connect(this, &QTextBrowser::sourceChanged, this, &HelpWindow::fitPictures);
 
-    for (const QKeySequence::StandardKey key : {QKeySequence::Cancel, QKeySequence::Close})
-        onKey(this, key, [this] { close(); });
-    for (const QKeySequence &key :
-         {QKeySequence(Qt::CTRL + Qt::Key_Plus), QKeySequence(Qt::CTRL + Qt::Key_Equal)})
-        onKey(this, key, [this] { zoom(1); });
-    onKey(this, QKeySequence(Qt::CTRL + Qt::Key_Minus), [this] { zoom(-1); });
-    onKey(this, QKeySequence(Qt::CTRL + Qt::Key_0), [this] { zoom(-m_steps); });
-    onKey(this, QKeySequence::Find, [this] {
-        m_text->setFocus();
-        m_text->selectAll();
-    });
-    onKey(this, QKeySequence::FindNext, [this] { search(); });
-    onKey(this, QKeySequence::FindPrevious, [this] { search(QTextDocument::FindBackward); });
+    const std::pair<QKeySequence, std::function<void()>> keys[] = {
+        {QKeySequence::Cancel, [this] { close(); }},
+        {QKeySequence::Close, [this] { close(); }},
+        {Qt::CTRL + Qt::Key_Plus, [this] { zoom(1); }},
+        {Qt::CTRL + Qt::Key_Equal, [this] { zoom(1); }},
+        {Qt::CTRL + Qt::Key_Minus, [this] { zoom(-1); }},
+        {Qt::CTRL + Qt::Key_0, [this] { zoom(-m_steps); }},
+        {QKeySequence::Find, [this] { m_text->setFocus(Qt::ShortcutFocusReason); }},
+        {QKeySequence::FindNext, [this] { search(); }},
+        {QKeySequence::FindPrevious, [this] { search(QTextDocument::FindBackward); }}};
+    for (const auto &[key, action] : keys)
+        connect(new QShortcut(key, this), &QShortcut::activated, this, action);
     resize(760, 640);
 }
 
 void HelpWindow::createBar()
 {
-    const auto addButton = [this](const char *name, const char *text, Qt::ArrowType arrow) {
+    const auto addButton = [this](const char *name, const QString &text, Qt::ArrowType arrow) {
         auto *button = new QToolButton(m_bar);
         button->setObjectName(QLatin1String(name));
-        button->setText(translated(text));
-        button->setToolTip(translated(text));
+        button->setText(text);
+        button->setToolTip(text);
         button->setArrowType(arrow);
         m_bar->layout()->addWidget(button);
         return button;
     };
     auto *row = new QHBoxLayout(m_bar);
     m_bar->setAutoFillBackground(true);
-    auto *back = addButton("backButton", QT_TRANSLATE_NOOP("Help", "Back"), Qt::LeftArrow);
-    auto *forward = addButton("forwardButton", QT_TRANSLATE_NOOP("Help", "Forward"), Qt::RightArrow);
-    auto *label = new QLabel(translated(QT_TRANSLATE_NOOP("Help", "Search:")), m_bar);
+    auto *back = addButton("backButton", tr("Back"), Qt::LeftArrow);
+    auto *forward = addButton("forwardButton", tr("Forward"), Qt::RightArrow);
+    auto *label = new QLabel(tr("Search:"), m_bar);
     row->addWidget(label);
     m_text = new QLineEdit(m_bar);
     m_text->setObjectName(QStringLiteral("searchLineEdit"));
     label->setBuddy(m_text);
     row->addWidget(m_text);
-    auto *previous = addButton("previousButton", QT_TRANSLATE_NOOP("Help", "Previous"), Qt::UpArrow);
-    auto *next = addButton("nextButton", QT_TRANSLATE_NOOP("Help", "Next"), Qt::DownArrow);
+    auto *previous = addButton("previousButton", tr("Previous"), Qt::UpArrow);
+    auto *next = addButton("nextButton", tr("Next"), Qt::DownArrow);
     m_result = new QLabel(m_bar);
     m_result->setObjectName(QStringLiteral("resultLabel"));
     row->addWidget(m_result);
@@ -113,7 +102,7 @@ void HelpWindow::search(QTextDocument::FindFlags flags)
         if (!found)
             setTextCursor(before);
     }
-    m_result->setText(found ? QString() : translated(QT_TRANSLATE_NOOP("Help", "Not found")));
+    m_result->setText(found ? QString() : tr("Not found"));
 }
 
 void HelpWindow::zoom(int steps)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QTextBrowser>
 
 class QLabel;
@@ -9,6 +10,7 @@ class QLineEdit;
 /// Its text has the size of the application's font, or the one that the user zoomed to.
 class HelpWindow : public QTextBrowser
 {
+    Q_DECLARE_TR_FUNCTIONS(Help)
 public:
     HelpWindow();
 
