@@ -26,12 +26,6 @@ namespace {
 
 constexpr int pageMargin = 9;
 
-/// A file name may itself hold the place mark of the modified sign.
-QString titleText(const QString &fileName)
-{
-    return QString(fileName).replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
-}
-
 } // namespace
 
 ConfigDialog::ConfigDialog(const QString &fileName, QWidget *parent, Qt::WindowFlags flags)
@@ -55,9 +49,11 @@ ConfigDialog::ConfigDialog(const QString &fileName, QWidget *parent, Qt::WindowF
     setWindowTitle(title);
     setWindowIcon(contentsWidget->item(rowOf(&typeOf<ThemePage>))->icon());
     setWindowIconText(title);
-    const QString name = QFileInfo(themeFile).fileName();
+    QString name = QFileInfo(themeFile).fileName();
+    name.replace(QLatin1String("[*]"),
+                 QLatin1String("[*][*]")); // the place mark of the modified sign, as a name
     if (fileOpen() && !name.isEmpty())
-        setWindowTitle(title + QLatin1String(" - ") + titleText(name) + QLatin1String("[*]"));
+        setWindowTitle(title + QLatin1String(" - ") + name + QLatin1String("[*]"));
     connectPages();
     connect(m_watcher, &ThemeFileWatcher::changedByOthers, this, &ConfigDialog::followThemeFile);
 }

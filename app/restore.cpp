@@ -13,11 +13,7 @@
 #include <QInputDialog>
 #include <QMessageBox>
 
-#include <optional>
-
 namespace {
-
-enum class RestoreDepth { ThemeOnly, AllSettings };
 
 /// Backs up what is to be removed; without a copy the user decides whether it goes all the same.
 bool mayLose(QWidget *parent, const QString &path)
@@ -56,26 +52,6 @@ bool removeTree(QWidget *parent, const QString &path, const QString &home)
     return mayRemove && (!mayLose(parent, path) || QDir(path).removeRecursively());
 }
 
-/// The depth that the user chose; none when the choice was cancelled.
-std::optional<RestoreDepth> askDepth(QWidget *parent)
-{
-    const QString onlyTheme = ConfigDialog::tr("Theme only");
-    bool accepted = false;
-    const QString choice = QInputDialog::getItem(
-        parent, ConfigDialog::tr("Restore"),
-        ConfigDialog::tr("Are you sure?\nIf yes then select restore type and press Yes\n\nRestore type:"),
-        {onlyTheme, ConfigDialog::tr("All Qaz settings")}, 0, false, &accepted);
-    if (!accepted || choice.isEmpty())
-        return std::nullopt;
-    return choice == onlyTheme ? RestoreDepth::ThemeOnly : RestoreDepth::AllSettings;
-}
-
-void showFailure(QWidget *parent, const QString &path)
-{
-    showMessage(parent, QMessageBox::Critical, ConfigDialog::tr("Error"),
-                ConfigDialog::tr("Can't remove '%1'").arg(path));
-}
-
 } // namespace
 
 bool mayRemoveTree(const QString &path, const QString &home)
@@ -87,20 +63,21 @@ bool mayRemoveTree(const QString &path, const QString &home)
 
 void ConfigDialog::restoreSlot()
 {
-    const std::optional<RestoreDepth> depth = askDepth(this);
-    if (!depth)
+    const QString onlyTheme = tr("Theme only");
+    bool accepted = false;
+    const QString choice = QInputDialog::getItem(
+        this, tr("Restore"),
+        tr("Are you sure?\nIf yes then select restore type and press Yes\n\nRestore type:"),
+        {onlyTheme, tr("All Qaz settings")}, 0, false, &accepted);
+    if (!accepted || choice.isEmpty())
         return;
     removeDesktopWallpapers();
     const QString home = directoryPath(DirectoryKind::Home);
-    if (*depth == RestoreDepth::ThemeOnly) {
-        if (!removeFile(this, themeFile))
-            showFailure(this, themeFile);
-    } else {
+    const QString toRemove = choice == onlyTheme ? themeFile : directoryPath(DirectoryKind::PersonalSettings);
+    if (choice != onlyTheme)
         removeFile(this, home + QLatin1String("/.Xresources"));
-        const QString personal = directoryPath(DirectoryKind::PersonalSettings);
-        if (!removeTree(this, personal, home))
-            showFailure(this, personal);
-    }
+    if (choice == onlyTheme ? !removeFile(this, toRemove) : !removeTree(this, toRemove, home))
+        showMessage(this, QMessageBox::Critical, tr("Error"), tr("Can't remove '%1'").arg(toRemove));
     removeFile(this, home + QLatin1String("/.config/Trolltech.conf"));
     // Yes as the only button and No as the default one: Qt takes this form for the one with two buttons.
     if (QMessageBox::question(
