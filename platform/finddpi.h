@@ -4,5 +4,5 @@ struct _XDisplay;
 using Display = _XDisplay;
 
 /// The horizontal resolution of \a screen in dots per inch, its pixels over its physical size. 0 when the
-/// server states no size. \a vertical, when given, is set to the vertical one.
-double FindDPI(Display *display, int screen, double *vertical = nullptr);
+/// server states no size.
+double FindDPI(Display *display, int screen);

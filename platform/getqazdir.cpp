@@ -14,12 +14,6 @@
 
 namespace {
 
-QString renderedWallpapers()
-{
-    QString path = xdgDirectory("XDG_CACHE_HOME", "/.cache") + QLatin1String("/qaz/wallpapers");
-    return makeDirectories(path) ? path : QString();
-}
-
 /// The number of the current virtual desktop, counted from 1.
 qint64 currentDesktop()
 {
@@ -46,8 +40,10 @@ qint64 currentDesktop()
 QString pathOf(int kind)
 {
     switch (kind) {
-    case 1:
-        return renderedWallpapers();
+    case 1: {
+        QString path = xdgDirectory("XDG_CACHE_HOME", "/.cache") + QLatin1String("/qaz/wallpapers");
+        return makeDirectories(path) ? path : QString();
+    }
     case 2:
     case 3:
         return xdgDirectory("XDG_CONFIG_HOME", "/.config") + QLatin1String("/qaz");

@@ -9,38 +9,26 @@
 
 QazDesktopEntry::QazDesktopEntry(const char *path)
     : m_path(path)
-    , m_text(std::make_unique<KeyFileText>())
 {}
-
-QazDesktopEntry::~QazDesktopEntry() = default;
 
 bool QazDesktopEntry::load()
 {
     const FileContent file = readRegularFile(QFile::decodeName(m_path));
-    *m_text = desktopEntryText(file.content);
+    m_text = desktopEntryText(file.content);
     return file.state == FileState::Regular;
 }
 
 const char *QazDesktopEntry::getUnknownValue(const char *key)
 {
-    const std::optional<QByteArray> value = m_text->value(desktopEntryGroup, key);
-    if (!value && !m_changes.contains(key))
-        return nullptr;
-    m_lastValue = m_changes.value(key, value.value_or(QByteArray()));
-    return m_lastValue.constData();
+    const std::optional<QByteArray> value = m_text.value(desktopEntryGroup, key);
+    m_lastValue = value.value_or(QByteArray());
+    return value ? m_lastValue.constData() : nullptr;
 }
 
 void QazDesktopEntry::setUnknowns(const List<char> &keys, const List<char> &values)
 {
-    for (int i = 0; i < keys.count() && i < values.count(); ++i) {
-        const QByteArray value = values.at(i);
-        if (value.contains('\n') || value.contains('\r')) {
-            printDiagnostic(
-                QStringLiteral("Can't store a value with a line break in %1").arg(QFile::decodeName(m_path)));
-            continue;
-        }
-        m_changes.insert(keys.at(i), value);
-    }
+    for (int i = 0; i < keys.count() && i < values.count(); ++i)
+        m_changes.insert(keys.at(i), values.at(i));
 }
 
 bool QazDesktopEntry::save(int /*flags*/)

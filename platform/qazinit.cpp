@@ -13,7 +13,6 @@
 #include <QTranslator>
 
 #include <algorithm>
-#include <cstring>
 
 namespace {
 
@@ -58,9 +57,7 @@ char *qazSessionConfigSuffix(int kind)
                || c == '.' || c == '-';
     });
     const QByteArray suffix = isValid && !session.isEmpty() ? '-' + session : QByteArray();
-    auto *text = new char[std::size_t(suffix.size()) + 1];
-    std::memcpy(text, suffix.constData(), std::size_t(suffix.size()) + 1);
-    return text;
+    return qstrdup(suffix.constData());
 }
 
 bool qazInTabletMode()

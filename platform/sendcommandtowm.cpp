@@ -8,23 +8,6 @@
 
 #include <X11/Xlib.h>
 
-namespace {
-
-/// The window that names the sender: never mapped, one for each connection, gone with it.
-Window senderWindow(Display *display)
-{
-    static Display *owner = nullptr;
-    static Window window = 0;
-    if (owner != display) {
-        window = XCreateWindow(display, DefaultRootWindow(display), -10, -10, 1, 1, 0, 0, InputOnly,
-                               CopyFromParent, 0, nullptr);
-        owner = display;
-    }
-    return window;
-}
-
-} // namespace
-
 void SendCommandToWM(Display *display, const char *text)
 {
     if (!display) {
@@ -41,9 +24,12 @@ void SendCommandToWM(Display *display, const char *text)
         return;
     }
 
+    // Names the sender: never mapped, gone with its connection.
+    static const Window sender = XCreateWindow(display, DefaultRootWindow(display), -10, -10, 1, 1, 0, 0,
+                                               InputOnly, CopyFromParent, 0, nullptr);
     XEvent event = {};
     event.xclient.type = ClientMessage;
-    event.xclient.window = senderWindow(display);
+    event.xclient.window = sender;
     event.xclient.message_type = XInternAtom(display, firstCommandAtom, False);
     event.xclient.format = 8;
     for (std::size_t sent = 0; sent < size; sent += commandMessageBytes) {
