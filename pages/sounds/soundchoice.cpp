@@ -2,62 +2,7 @@
 
 #include "settings/soundassignments.h"
 
-#include <QDir>
 #include <QFileInfo>
-
-#include <algorithm>
-
-namespace {
-
-bool isSameDirectory(const QString &one, const QString &other)
-{
-    if (QDir::cleanPath(one) == QDir::cleanPath(other))
-        return true;
-    const QString canonical = QFileInfo(one).canonicalFilePath();
-    return !canonical.isEmpty() && canonical == QFileInfo(other).canonicalFilePath();
-}
-
-void markFormat(const QString &path, SoundFormats *formats)
-{
-    if (path.endsWith(QLatin1String(".oga")) || path.endsWith(QLatin1String(".ogg")))
-        formats->ogg = true;
-    if (!path.endsWith(QLatin1String(".wav")) && !path.endsWith(QLatin1String(".au")))
-        formats->nonWav = true;
-}
-
-} // namespace
-
-QString defaultSound(const QString &key, bool fromTheme)
-{
-    const auto event = std::find_if(
-        std::begin(soundEvents), std::end(soundEvents),
-        [&key](const SoundEvent &known) { return key == QLatin1String(known.key->name); });
-    if (event == std::end(soundEvents))
-        return {};
-    return QString::fromLatin1(fromTheme ? event->themeSound : event->builtInFile);
-}
-
-QString usableSound(const QString &name, QazSoundTheme *theme, const QString &soundsDirectory,
-                    SoundFormats *formats)
-{
-    QString path;
-    switch (soundKind(name)) {
-    case SoundKind::None:
-        break;
-    case SoundKind::File:
-        path = name;
-        break;
-    case SoundKind::BuiltIn:
-        path = soundsDirectory + QLatin1Char('/') + name;
-        break;
-    case SoundKind::ThemeSound:
-        path = themeSoundFile(theme, name);
-        if (!path.isEmpty())
-            markFormat(path, formats);
-        break;
-    }
-    return !path.isEmpty() && QFileInfo::exists(path) ? name : QString();
-}
 
 QString startOfChoice(const QString &value, bool hasTheme, const QString &soundsDirectory)
 {
@@ -72,8 +17,9 @@ QString startOfChoice(const QString &value, bool hasTheme, const QString &sounds
 QString assignmentForFile(const QString &path, const QString &soundsDirectory)
 {
     const QFileInfo file(path);
+    const QString directory = QFileInfo(file.path()).canonicalFilePath();
     // A name without a dot would be read as a theme's sound.
-    const bool isBuiltIn = isSameDirectory(file.path(), soundsDirectory)
+    const bool isBuiltIn = directory == QFileInfo(soundsDirectory).canonicalFilePath()
                            && soundKind(file.fileName()) == SoundKind::BuiltIn;
     return isBuiltIn ? file.fileName() : path;
 }

@@ -2,7 +2,6 @@
 
 #include "pages/common/messagebox.h"
 #include "pages/common/waitcursor.h"
-#include "pages/sounds/soundchoice.h"
 #include "pages/sounds/soundpage.h"
 #include "platform/qazsoundtheme.h"
 
@@ -15,8 +14,6 @@
 #include <filesystem>
 
 namespace {
-
-namespace fs = std::filesystem;
 
 /// \a path as a shell reads it as one word; a path without special characters stays as it is.
 QString shellWord(const QString &path)
@@ -40,38 +37,46 @@ bool isSafe(const QString &path)
 }
 
 /// Whether the command's find prints it: directories and links, too.
-bool isFound(const fs::path &path)
+bool isOgg(const QString &path)
 {
-    const QByteArray name = QByteArray::fromStdString(path.filename().string());
-    return name.endsWith(".ogg") || name.endsWith(".oga");
+    return path.endsWith(QLatin1String(".ogg")) || path.endsWith(QLatin1String(".oga"));
+}
+
+bool isWav(const QString &path)
+{
+    return path.endsWith(QLatin1String(".wav")) || path.endsWith(QLatin1String(".au"));
 }
 
 } // namespace
 
-bool offerConversion(QWidget *page, const QazSoundTheme &theme, const SoundFormats &formats)
+bool offerConversion(QWidget *page, const QazSoundTheme &theme, const QStringList &files)
 {
-    const QString title = SoundPage::tr("Attention");
+    if (std::all_of(files.begin(), files.end(), isWav))
+        return false;
     const QString name = QString::fromLocal8Bit(theme.getName());
     const QString directory = QFile::decodeName(theme.getPath());
-    if (!formats.ogg && formats.nonWav)
-        showMessage(
-            page, QMessageBox::Information, title,
-            SoundPage::tr("Not all files in theme '%1' are in wav format\nYou should convert them to wav.")
-                .arg(name));
-    if (!formats.ogg)
+    const auto tell = [&](QMessageBox::Icon icon, const QString &text, QMessageBox::StandardButtons buttons) {
+        return showMessage(page, icon, SoundPage::tr("Attention"), text, buttons);
+    };
+    if (std::none_of(files.begin(), files.end(), isOgg)) {
+        tell(QMessageBox::Information,
+             SoundPage::tr("Not all files in theme '%1' are in wav format\nYou should convert them to wav.")
+                 .arg(name),
+             QMessageBox::Ok);
         return false;
+    }
     if (const QString file = unsafeForConversion(directory); !file.isEmpty()) {
-        showMessage(page, QMessageBox::Warning, title,
-                    SoundPage::tr("Not all files in theme '%1' are in wav format\n"
-                                  "They can't be converted: '%2' has to be renamed first.\n"
-                                  "Blanks, quotation marks, backslashes and control characters are not safe.")
-                        .arg(name, file));
+        tell(QMessageBox::Warning,
+             SoundPage::tr("Not all files in theme '%1' are in wav format\n"
+                           "They can't be converted: '%2' has to be renamed first.\n"
+                           "Blanks, quotation marks, backslashes and control characters are not safe.")
+                 .arg(name, file),
+             QMessageBox::Ok);
         return false;
     }
     const QString question = SoundPage::tr("Not all files in theme '%1' are in wav format\n"
                                            "Would you like to convert them to wav now?");
-    if (showMessage(page, QMessageBox::Question, title, question.arg(name),
-                    QMessageBox::Yes | QMessageBox::No)
+    if (tell(QMessageBox::Question, question.arg(name), QMessageBox::Yes | QMessageBox::No)
         != QMessageBox::Yes)
         return false;
     convertToWav(directory);
@@ -86,19 +91,18 @@ QString conversionCommand(const QString &directory)
 QString unsafeForConversion(const QString &directory)
 {
     std::error_code error;
-    fs::path path(QFile::encodeName(directory).toStdString());
-    fs::recursive_directory_iterator entry(path, error);
-    const auto shown = [&path] { return QFile::decodeName(path.c_str()); };
+    QString path = directory;
+    std::filesystem::recursive_directory_iterator entry(QFile::encodeName(directory).constData(), error);
     while (!error) {
-        if (isFound(path) && !isSafe(shown()))
-            return shown();
-        if (entry == fs::recursive_directory_iterator())
+        if (isOgg(path) && !isSafe(path))
+            return path;
+        if (entry == end(entry))
             return {};
-        path = entry->path();
+        path = QFile::decodeName(entry->path().c_str());
         entry.increment(error);
     }
     // What runs with more rights would look further.
-    return shown();
+    return path;
 }
 
 void convertToWav(const QString &directory, int limit)

@@ -1,14 +1,13 @@
 #pragma once
 
-#include <QString>
+#include <QStringList>
 
 class QWidget;
 class QazSoundTheme;
-struct SoundFormats;
 
-/// Tells the user which of the theme's sounds can't be played, and converts those that can be if the user agrees.
-/// Returns whether it did.
-bool offerConversion(QWidget *page, const QazSoundTheme &theme, const SoundFormats &formats);
+/// Tells the user when some of the theme's \a files can't be played, and converts the theme's ogg files if there is one
+/// among them and the user agrees. Returns whether it did.
+bool offerConversion(QWidget *page, const QazSoundTheme &theme, const QStringList &files);
 
 /// The shell command that converts the ogg files below \a directory to wav files beside them.
 QString conversionCommand(const QString &directory);

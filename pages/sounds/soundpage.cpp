@@ -5,7 +5,6 @@
 #include "pages/common/waitcursor.h"
 #include "pages/sounds/soundchoice.h"
 #include "pages/sounds/soundconversion.h"
-#include "pages/sounds/soundplayer.h"
 #include "platform/qazfiledialog.h"
 #include "platform/qazinit.h"
 #include "platform/qazsettings.h"
@@ -36,13 +35,18 @@ QString soundsDirectory()
 SoundPage::SoundPage(QWidget *parent)
     : QWidget(parent)
     , m_ui(std::make_unique<Ui::SoundForm>())
-    , m_player(std::make_unique<SoundPlayer>())
 {
     m_ui->setupUi(this);
     setUpButtons();
     setUpList();
-    connect(m_player.get(), &SoundPlayer::started, this, &SoundPage::playStarted);
-    connect(m_player.get(), &SoundPlayer::ended, this, &SoundPage::stopItem);
+    const QGroupBox *group = m_ui->wmSoundsGroupBox;
+    connect(group, &QGroupBox::toggled, this, &SoundPage::changedSignal);
+    connect(group, &QGroupBox::toggled, this, &SoundPage::soundEnabled);
+    connect(m_ui->soundThemeCombo, qOverload<int>(&QComboBox::activated), this, &SoundPage::themeSelected);
+    connect(m_ui->clearSoundsButton, &QPushButton::clicked, this, &SoundPage::clearAll);
+    connect(m_ui->defaultSoundsButton, &QPushButton::clicked, this, &SoundPage::defaultAll);
+    connect(&m_player, &SoundPlayer::started, this, &SoundPage::playStarted);
+    connect(&m_player, &SoundPlayer::ended, this, &SoundPage::stopItem);
 }
 
 SoundPage::~SoundPage() = default;
@@ -75,6 +79,10 @@ void SoundPage::setUpList()
     }
     list->hideColumn(KeyColumn);
     list->resizeColumnToContents(EventColumn);
+    connect(list, &QTreeWidget::itemChanged, this, &SoundPage::changedSignal);
+    connect(list, &QTreeWidget::itemChanged, this, &SoundPage::itemSelected);
+    connect(list, &QTreeWidget::itemSelectionChanged, this, &SoundPage::itemSelected);
+    connect(list, &QTreeWidget::itemDoubleClicked, this, &SoundPage::openItem);
     new DropFilter(list, [this](const QMimeData *data, const QPoint &at) { return taking(data, at); });
     const auto onKey = [this, list](Qt::Key key, void (SoundPage::*action)()) {
         auto *shortcut = new QShortcut(QKeySequence(key), list);
@@ -90,16 +98,14 @@ void SoundPage::setUpList()
 bool SoundPage::loadValues(QazSettings *settings)
 {
     const WaitCursor waitCursor;
-    {
-        // A repeated load is no edit.
-        const QSignalBlocker listBlocker(m_ui->soundListView);
-        const QSignalBlocker groupBlocker(m_ui->wmSoundsGroupBox);
-        fillThemes(settings);
-        m_ui->wmSoundsGroupBox->setChecked(countsAsTrue(storedText(settings, enableKey)));
-        for (QTreeWidgetItem *item : rows())
-            item->setText(FileColumn, settings->value(item->text(KeyColumn), QString()).toString());
-    }
-    connectChanges();
+    // A repeated load is no edit.
+    const QSignalBlocker listBlocker(m_ui->soundListView);
+    const QSignalBlocker groupBlocker(m_ui->wmSoundsGroupBox);
+    fillThemes(settings);
+    m_ui->wmSoundsGroupBox->setChecked(countsAsTrue(storedText(settings, enableKey)));
+    for (QTreeWidgetItem *item : rows())
+        item->setText(FileColumn, settings->value(item->text(KeyColumn), QString()).toString());
+    m_ui->soundListView->setCurrentItem(m_ui->soundListView->itemAt(0, 0));
     soundEnabled(m_ui->wmSoundsGroupBox->isChecked());
     loaded = true;
     return true;
@@ -107,36 +113,15 @@ bool SoundPage::loadValues(QazSettings *settings)
 
 void SoundPage::fillThemes(const QazSettings *settings)
 {
-    m_ui->soundThemeCombo->clear();
-    m_ui->soundThemeCombo->addItem(tr("No theme"));
+    QComboBox *combo = m_ui->soundThemeCombo;
+    combo->clear();
+    combo->addItem(tr("No theme"));
     List<char> names;
     if (!QazSoundTheme::getThemesNames(&names))
         return;
-    const QString stored = storedText(settings, soundThemeKey);
-    QStringList entries;
     for (int i = 0; i < names.count(); ++i)
-        entries.append(QString::fromLocal8Bit(names.at(i)));
-    m_ui->soundThemeCombo->addItems(entries);
-    m_ui->soundThemeCombo->setCurrentIndex(entries.indexOf(stored) + 1);
-}
-
-void SoundPage::connectChanges()
-{
-    const auto unique = Qt::UniqueConnection; // loading may run again
-    const QTreeWidget *list = m_ui->soundListView;
-    const QGroupBox *group = m_ui->wmSoundsGroupBox;
-    connect(m_ui->soundThemeCombo, qOverload<int>(&QComboBox::activated), this, &SoundPage::themeSelected,
-            unique);
-    connect(group, &QGroupBox::toggled, this, &SoundPage::changedSignal, unique);
-    connect(group, &QGroupBox::toggled, this, &SoundPage::soundEnabled, unique);
-    connect(list, &QTreeWidget::itemChanged, this, &SoundPage::changedSignal, unique);
-    if (QTreeWidgetItem *top = list->itemAt(0, 0))
-        m_ui->soundListView->setCurrentItem(top);
-    connect(list, &QTreeWidget::itemSelectionChanged, this, &SoundPage::itemSelected, unique);
-    connect(list, &QTreeWidget::itemChanged, this, &SoundPage::itemSelected, unique);
-    connect(list, &QTreeWidget::itemDoubleClicked, this, &SoundPage::openItem, unique);
-    connect(m_ui->clearSoundsButton, &QPushButton::clicked, this, &SoundPage::clearAll, unique);
-    connect(m_ui->defaultSoundsButton, &QPushButton::clicked, this, &SoundPage::defaultAll, unique);
+        combo->addItem(QString::fromLocal8Bit(names.at(i)));
+    combo->setCurrentIndex(qMax(0, combo->findText(storedText(settings, soundThemeKey))));
 }
 
 bool SoundPage::saveValues(QazSettings *settings)
@@ -155,11 +140,8 @@ bool SoundPage::saveValues(QazSettings *settings)
 void SoundPage::soundDisabled(bool disabled)
 {
     // From here on the controls say that nothing plays.
-    if (m_player->isPlaying()) {
-        m_player->stop();
-        m_startCursor.reset();
-        setPlaying(false);
-    }
+    if (m_player.state() != QProcess::NotRunning)
+        stopItem();
     const QTreeWidgetItem *item = selectedItem();
     const bool hasSound = item && !item->text(FileColumn).isEmpty();
     m_ui->clearSoundsButton->setDisabled(disabled);
@@ -181,23 +163,26 @@ void SoundPage::itemSelected()
     soundEnabled(m_ui->wmSoundsGroupBox->isChecked());
 }
 
-void SoundPage::fillSoundFiles(bool fromTheme, bool clear, bool keepUserFiles)
+/// Gives the rows their sounds of the open theme, or the built-in ones, where those exist.
+void SoundPage::fillSoundFiles(bool keepUserFiles)
 {
-    const QString directory = soundsDirectory();
-    QazSoundTheme *theme = fromTheme ? m_theme.get() : nullptr;
-    SoundFormats formats;
-    for (QTreeWidgetItem *item : rows()) {
-        if (clear) {
-            item->setText(FileColumn, QString());
-            continue;
-        }
+    QStringList files; // of the theme
+    for (int row = 0; row < int(std::size(soundEvents)); ++row) {
+        QTreeWidgetItem *item = m_ui->soundListView->topLevelItem(row);
         if (keepUserFiles && soundKind(item->text(FileColumn)) == SoundKind::File)
             continue;
-        const QString name = defaultSound(item->text(KeyColumn), fromTheme);
-        item->setText(FileColumn, usableSound(name, theme, directory, &formats));
+        QString name = QLatin1String(soundEvents[row].builtInFile);
+        QString file = soundsDirectory() + QLatin1Char('/') + name;
+        if (m_theme) {
+            name = QLatin1String(soundEvents[row].themeSound);
+            file = themeSoundFile(m_theme.get(), name);
+            if (!file.isEmpty())
+                files += file;
+        }
+        item->setText(FileColumn, QFileInfo(file).isFile() ? name : QString());
     }
     // After a conversion the theme looks at its directories again; the rows' names mean the converted files.
-    if (m_theme && offerConversion(this, *m_theme, formats))
+    if (m_theme && offerConversion(this, *m_theme, files))
         openTheme(QString::fromLocal8Bit(m_theme->getThemeName()));
 }
 
@@ -211,22 +196,22 @@ void SoundPage::openTheme(const QString &name)
 void SoundPage::themeSelected(int index)
 {
     const QString name = m_ui->soundThemeCombo->itemText(index);
-    const bool fromTheme = name != tr("No theme");
     m_theme.reset();
     emit changedSignal(); // the choice itself is an edit, also when no row changes with it
-    if (fromTheme)
+    if (name != tr("No theme"))
         openTheme(name);
-    fillSoundFiles(fromTheme, false, true);
+    fillSoundFiles(true);
 }
 
 void SoundPage::clearAll()
 {
-    fillSoundFiles(false, true, false);
+    for (QTreeWidgetItem *item : rows())
+        item->setText(FileColumn, QString());
 }
 
 void SoundPage::defaultAll()
 {
-    fillSoundFiles(m_theme != nullptr, false, false);
+    fillSoundFiles(false);
 }
 
 QList<QTreeWidgetItem *> SoundPage::rows() const
@@ -297,14 +282,14 @@ void SoundPage::playItem()
         fail(tr("Warning"), tr("File '%1' is not wav.\nSelect other theme or conver to wav,\n"
                                "for example ogg/oga to wav by oggdev utility.")
                                 .arg(sound.path));
-    } else if (!m_player->isInstalled()) {
-        fail(tr("Error"), tr("Program %1 not found").arg(m_player->program()));
+    } else if (!QFileInfo::exists(m_player.program())) {
+        fail(tr("Error"), tr("Program %1 not found").arg(m_player.program()));
     } else if (!QFileInfo::exists(sound.path)) {
         fail(tr("Error"), tr("Sound '%1' doesn't exist").arg(sound.path));
     } else {
         m_startCursor = std::make_unique<WaitCursor>();
         setPlaying(true); // before the start, which may fail at once and give the controls back
-        m_player->play(sound.path);
+        m_player.play(sound.path);
     }
 }
 
@@ -318,7 +303,7 @@ void SoundPage::stopItem()
     m_startCursor.reset();
     if (!selectedItem())
         return;
-    m_player->stop();
+    m_player.stop();
     setPlaying(false);
 }
 

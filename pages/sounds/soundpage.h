@@ -1,5 +1,7 @@
 #pragma once
 
+#include "pages/sounds/soundplayer.h"
+
 #include <QWidget>
 
 #include <functional>
@@ -9,7 +11,6 @@ class QMimeData;
 class QTreeWidgetItem;
 class QazSettings;
 class QazSoundTheme;
-class SoundPlayer;
 class WaitCursor;
 
 namespace Ui {
@@ -60,8 +61,7 @@ private:
     void setUpButtons();
     void setUpList();
     void fillThemes(const QazSettings *settings);
-    void connectChanges();
-    void fillSoundFiles(bool fromTheme, bool clear, bool keepUserFiles);
+    void fillSoundFiles(bool keepUserFiles);
     void openTheme(const QString &name);
     void setPlaying(bool playing);
     void assignFile(QTreeWidgetItem *item, const QString &path);
@@ -74,6 +74,6 @@ private:
 
     std::unique_ptr<Ui::SoundForm> m_ui;
     std::unique_ptr<QazSoundTheme> m_theme; // none before the user chooses one
-    std::unique_ptr<SoundPlayer> m_player;
+    SoundPlayer m_player;
     std::unique_ptr<WaitCursor> m_startCursor; // until the player has started
 };

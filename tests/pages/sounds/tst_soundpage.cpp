@@ -1,10 +1,87 @@
-#include "settings/soundassignments.h"
-#include "tests/pages/sounds/pageoverfile.h"
+#include "pages/sounds/soundpage.h"
+#include "tests/support/childprocesses.h"
 #include "tests/support/fakeprogram.h"
 #include "tests/support/modaldriver.h"
+#include "tests/support/pageoverfile.h"
 
-#include <QFileDialog>
-#include <QLineEdit>
+#include <QtTest>
+#include <QtWidgets>
+
+#include <sys/stat.h>
+
+namespace {
+
+const QString themeSounds = "menu-popup item-selected window-new window-close window-unminimized "
+                            "window-unmaximized window-minimized "
+                            "window-maximized desktop-login desktop-logout desktop-screen-lock dialog-error "
+                            "window-attention-active "
+                            "desktop-switch-left"_s;
+const QString builtIn = "data/sounds/x-qaz-wm-chimes.wav"_s;
+
+/// A page with built-in files, a theme "wav" of all sounds, and others named after the ending of their menu's sound.
+struct Page : PageOverFile<SoundPage> {
+    explicit Page(const QByteArray &content)
+    {
+        home.write(".asoundrc"_s, "pcm.!default { type null }\n");
+        for (const QString &file :
+             {builtIn, "data/sounds/x-qaz-wm-slide.wav"_s, "data/sounds/x.ogg/a -o x.ogg"_s, "own a.WAV"_s})
+            home.write(file, "sound");
+        home.write("data/sounds/broken/index.theme"_s, "");
+        for (const QString &theme : {"wav"_s, "au"_s, "oga"_s, "flac"_s, "x.ogg"_s}) {
+            const QString directory = "data/sounds/"_s + theme + u'/';
+            home.write(directory + "index.theme"_s, "[Sound Theme]\nName=Fine sounds\nDirectories=.\n");
+            home.write(directory + "menu-popup."_s + theme.section(u'.', -1), "sound");
+            home.write(directory + "desktop-login.wav"_s, "sound");
+        }
+        for (const QString &name : themeSounds.split(u' '))
+            home.write("data/sounds/wav/%1.wav"_s.arg(name), "sound");
+        load(content);
+        page.show();
+        page.activateWindow();
+    }
+
+    void click(const char *button) const { QTest::mouseClick(find<QWidget>(button), Qt::LeftButton); }
+    void choose(const QString &theme) const
+    {
+        themes->setCurrentIndex(themes->findText(theme));
+        emit themes->activated(themes->currentIndex());
+    }
+    void assign(int row, const QString &text) const { list->topLevelItem(row)->setText(1, text); }
+    void select(int row) const { list->setCurrentItem(list->topLevelItem(row)); }
+    /// The assignments that are not empty, as "row=text".
+    QString assignments() const
+    {
+        QStringList result;
+        for (int row = 0; row < 14; ++row) {
+            if (const QString text = list->topLevelItem(row)->text(1); !text.isEmpty())
+                result += QString::number(row) + u'=' + text;
+        }
+        return result.join(u' ').replace(home.path(), "HOME"_s);
+    }
+    /// The beginnings of the enabled controls' names.
+    QString enabled() const
+    {
+        QStringList result;
+        for (const char *name :
+             {"soundThemeCombo", "defaultSoundsButton", "clearSoundsButton", "soundListView",
+              "selectSoundButton", "removeSoundButton", "playButton", "stopButton"}) {
+            if (find<QWidget>(name)->isEnabled())
+                result << QString::fromLatin1(name).remove("sound"_s).left(4);
+        }
+        return result.join(u' ');
+    }
+    static QString focused() { return QApplication::focusWidget()->objectName(); }
+
+    const ScopedEnvironment dataRoot{"QAZ_DATA_DIR", QFile::encodeName(home.path("data"_s))};
+    QComboBox *const themes = page.findChild<QComboBox *>();
+    QGroupBox *const group = page.findChild<QGroupBox *>();
+    QTreeWidget *const list = page.findChild<QTreeWidget *>();
+    QSignalSpy changed{&page, &SoundPage::changedSignal};
+};
+
+const QString allButStop = "Them defa clea List sele remo play"_s;
+
+} // namespace
 
 class TestSoundPage : public QObject
 {
@@ -15,50 +92,63 @@ private slots:
         const QByteArray content
             = "EnableSound=True\nEnableAlsa=true\nSoundTheme=oga\nOpenSound=/not there.wav\n"
               "CloseSound=window-close\nPagingSound=built.wav\n";
-        PageOverFile over(content);
+        Page over(content);
         over.assign(4, "edited"_s);
         over.group->setChecked(false);
-        QSignalSpy changes(over.page.get(), &SoundPage::changedSignal);
-        over.visitFile(&SoundPage::loadValues); // a repeated load is no edit
+        QCOMPARE(over.changed.count(), 2);
+        over.load(content); // a repeated load is no edit
         QCOMPARE(over.themes->currentText(), "oga"_s);
         QCOMPARE(over.assignments(), "2=/not there.wav 3=window-close 13=built.wav"_s);
         QCOMPARE(over.save(), QString());
-        QCOMPARE(over.home.read("some.themerc"_s), content);
-        QCOMPARE(changes.count(), 0);
-        QVERIFY(over.page->loaded);
+        QCOMPARE(over.content(), content);
+        QCOMPARE(over.changed.count(), 2);
+        QVERIFY(over.page.loaded && !QGuiApplication::overrideCursor());
+        QVERIFY(over.list->isColumnHidden(2) && over.list->columnWidth(0) > 100);
+        QVERIFY(over.find<QWidget>("mixerButton")->isHidden());
+        for (const char *name : {"selectSoundButton", "removeSoundButton", "playButton", "stopButton"}) {
+            const auto *button = over.find<QToolButton>(name);
+            QVERIFY2(!button->icon().isNull() && button->iconSize() == QSize(32, 32) && button->autoRaise()
+                         && button->focusPolicy() == Qt::StrongFocus,
+                     name);
+        }
     }
 
     void savesEveryEvent()
     {
-        QByteArray content = "EnableSound=true\nSoundTheme=not installed\n";
-        QString expected = "EnableSound false\n"_s;
-        for (const SoundEvent &event : soundEvents) {
-            content += QByteArray(event.key->name) + "=x\n";
-            expected += QLatin1String(event.key->name) + QLatin1String(" \n");
-        }
-        PageOverFile over(content);
+        const QString keys
+            = "MenuPopupSound MenuCommandSound OpenSound CloseSound RestoreUpSound RestoreDownSound "
+              "MinimizeSound MaximizeSound SystemStartSound SystemExitSound SystemLockSound ErrorDialogSound "
+              "ForceTrayMessageSound PagingSound"_s;
+        Page over("EnableSound=true\nSoundTheme=gone\n" + QString(keys).replace(u' ', "=x\n"_s).toLatin1()
+                  + "=x\n");
         QCOMPARE(over.themes->currentText(), "No theme"_s);
         over.click("clearSoundsButton");
         over.group->setChecked(false);
-        QCOMPARE(over.save(), expected + QLatin1String("SoundTheme "));
+        QCOMPARE(over.save(),
+                 "EnableSound false|"_s + QString(keys).replace(u' ', " |"_s) + " |SoundTheme "_s);
+        over.choose("wav"_s);
+        over.group->setChecked(true);
+        over.click("clearSoundsButton");
+        QCOMPARE(over.save(), "EnableSound true|EnableAlsa true|SoundTheme wav"_s);
         QCOMPARE(over.save(), QString());
     }
 
     void themesReplaceEverythingButOwnFiles()
     {
-        const QString builtIn = "8=x-qaz-wm-chimes.wav 9=x-qaz-wm-chimes.wav 10=x-qaz-wm-chimes.wav"_s;
-        PageOverFile over(
-            "EnableSound=true\nMenuCommandSound=/own.wav\nSystemStartSound=/own.wav\nPagingSound=x\n");
+        const QString builtIns
+            = "8=x-qaz-wm-chimes.wav 9=x-qaz-wm-chimes.wav 10=x-qaz-wm-chimes.wav 13=x-qaz-wm-slide.wav"_s;
+        Page over("EnableSound=true\nMenuCommandSound=/own.wav\nSystemStartSound=/own.wav\nPagingSound=x\n");
         over.click("defaultSoundsButton"); // no theme is open before one is chosen
-        QCOMPARE(over.assignments(), builtIn);
+        QCOMPARE(over.assignments(), builtIns);
         over.assign(1, "/own.wav"_s);
         over.assign(8, "/own.wav"_s);
-        over.choose("wav"_s);
+        over.choose("au"_s);
         QCOMPARE(over.assignments(), "0=menu-popup 1=/own.wav 8=/own.wav"_s);
+        over.choose("wav"_s);
         over.click("defaultSoundsButton");
-        QCOMPARE(over.assignments(), "0=menu-popup 8=desktop-login"_s);
+        QCOMPARE(over.assignments().remove(QRegularExpression("[0-9]+="_s)), themeSounds);
         over.choose("No theme"_s);
-        QCOMPARE(over.assignments(), builtIn);
+        QCOMPARE(over.assignments(), builtIns);
     }
 
     void tellsWhatIsWrongWithATheme_data()
@@ -66,75 +156,211 @@ private slots:
         const QString attention = "Attention|Not all files in theme 'Fine sounds' are in wav format\n"_s;
         const QString question = attention + "Would you like to convert them to wav now?"_s;
         const QString refusal
-            = "\nWarning|File 'DIR/%1/menu-popup.%1' is not wav.\nSelect other theme or conver to wav,\n"
+            = "Warning|File 'HOME/data/sounds/%1' is not wav.\nSelect other theme or conver to wav,\n"
               "for example ogg/oga to wav by oggdev utility."_s;
-        QTest::addColumn<QString>("theme");
         QTest::addColumn<int>("answer");
-        QTest::addColumn<QString>("messages"); // at the choice and at a play
+        QTest::addColumn<QStringList>("messages"); // at the choice and at a play
         const int ok = QMessageBox::Ok, no = QMessageBox::No, yes = QMessageBox::Yes;
-        QTest::newRow("broken") << "broken" << ok << "Warning|Can't load sound theme 'broken'";
-        QTest::newRow("flac") << "flac" << ok
-                              << attention + "You should convert them to wav."_s + refusal.arg("flac"_s);
-        const QString unsafe = "They can't be converted: 'DIR/x.ogg/a -o x.ogg' has to be renamed first.\n"
-                               "Blanks, quotation marks, backslashes and control characters are not safe."_s;
-        QTest::newRow("unsafe") << "x.ogg" << ok
-                                << attention + unsafe
-                                       + QString(refusal).replace("%1/menu-popup.%1"_s,
-                                                                  "x.ogg/menu-popup.ogg"_s);
-        QTest::newRow("oga") << "oga" << no << question + refusal.arg("oga"_s);
-        QTest::newRow("converted") << "oga" << yes << question;
+        QTest::newRow("broken") << ok << QStringList{"Warning|Can't load sound theme 'broken'"_s};
+        QTest::newRow("au") << 0 << QStringList{refusal.arg("au/menu-popup.au"_s)};
+        QTest::newRow("flac") << ok
+                              << QStringList{attention + "You should convert them to wav."_s,
+                                             refusal.arg("flac/menu-popup.flac"_s)};
+        QTest::newRow("x.ogg") << ok
+                               << QStringList{
+                                      attention
+                                          + "They can't be converted: 'HOME/data/sounds/x.ogg/a -o "
+                                            "x.ogg' has to be renamed first.\nBlanks, quotation marks, "
+                                            "backslashes and control characters are not safe."_s,
+                                      refusal.arg("x.ogg/menu-popup.ogg"_s)};
+        QTest::newRow("oga") << no << QStringList{question, refusal.arg("oga/menu-popup.oga"_s)};
+        QTest::newRow("oga converted") << yes << QStringList{question};
     }
     void tellsWhatIsWrongWithATheme()
     {
-        QFETCH(QString, theme);
         QFETCH(int, answer);
         const bool converted = answer == QMessageBox::Yes;
+        const QString theme = QString::fromLatin1(QTest::currentDataTag()).section(u' ', 0, 0);
         FakePrograms programs;
         programs.add("qaz-su"_s, "exec sh \"$@\"");
         programs.add("oggdec"_s, "for file; do cp \"$file\" \"${file%.oga}.wav\"; done");
-        PageOverFile over("EnableSound=true\nCloseSound=/own.wav\n");
-        QSignalSpy changes(over.page.get(), &SoundPage::changedSignal);
+        Page over("EnableSound=true\nCloseSound=/own.wav\n");
         ModalDriver driver;
-        driver.thenAnswer(QMessageBox::StandardButton(answer));
+        if (answer)
+            driver.thenAnswer(QMessageBox::StandardButton(answer));
         over.choose(theme);
-        QVERIFY(changes.count() > 0); // the choice is an edit, also when no row changes
+        QVERIFY(over.changed.count() > 0); // the choice is an edit, also when no row changes
         QCOMPARE(over.assignments(),
                  theme == "broken"_s ? "3=/own.wav"_s : "0=menu-popup 3=/own.wav 8=desktop-login"_s);
         const QStringList call{
-            "-c"_s, "find %1 -name \"*.og[ga]\" | xargs oggdec"_s.arg(over.path("data/sounds/oga"))};
+            "-c"_s, "find %1 -name \"*.og[ga]\" | xargs oggdec"_s.arg(over.home.path("data/sounds/oga"_s))};
         QCOMPARE(programs.calls("qaz-su"_s).value(0), converted ? call : QStringList());
-
         driver.thenAnswer(QMessageBox::Ok);
         over.click("playButton");
         QCOMPARE(over.enabled() == "stop"_s, converted);
-        QTEST(driver.seen().join(QLatin1Char('\n')).replace(over.path("data/sounds"), "DIR"_s), "messages");
+        QTEST(driver.seen().replaceInStrings(over.home.path(), "HOME"_s), "messages");
     }
 
     void takesTheChosenFile()
     {
-        PageOverFile over("EnableSound=true\n");
+        Page over("EnableSound=true\n");
         ModalDriver driver;
-        const auto take = [&](const char *name) {
+        const auto take = [&](const QString &name) {
             QString found;
-            driver.then([&found, path = over.path(name)](QDialog *dialog) {
-                found = qobject_cast<QFileDialog *>(dialog)->directory().path() + u' '
-                        + dialog->findChild<QLineEdit *>()->text();
-                dialog->findChild<QLineEdit *>()->setText(path);
+            driver.then([&found, path = over.home.path(name)](QDialog *dialog) {
+                auto *files = qobject_cast<QFileDialog *>(dialog);
+                auto *field = dialog->findChild<QLineEdit *>();
+                found = files->directory().path() + u' ' + field->text() + u' '
+                        + files->nameFilters().join(u'|');
+                field->setText(path);
                 dialog->accept();
             });
             emit over.list->itemDoubleClicked(over.list->topLevelItem(0), 1);
-            found += QLatin1Char(' ') + over.assignments();
-            return found.replace(over.path("data/sounds"), "DIR"_s);
+            return found.replace(over.home.path(), "HOME"_s) + u' ' + over.assignments();
         };
-        QCOMPARE(take("data/sounds/x-qaz-wm-chimes.wav"), "DIR  0=x-qaz-wm-chimes.wav"_s);
-        QCOMPARE(take("data/sounds/wav/menu-popup.wav"),
-                 "DIR x-qaz-wm-chimes.wav 0=DIR/wav/menu-popup.wav"_s);
-        const QString before = over.assignments();
+        QCOMPARE(take(builtIn), "HOME/data/sounds  Sounds (*.wav *.au) 0=x-qaz-wm-chimes.wav"_s);
+        QCOMPARE(take("own a.WAV"_s),
+                 "HOME/data/sounds x-qaz-wm-chimes.wav Sounds (*.wav *.au) 0=HOME/own a.WAV"_s);
         driver.thenReject();
         over.click("selectSoundButton");
-        QCOMPARE(over.assignments(), before);
+        QCOMPARE(over.assignments(), "0=HOME/own a.WAV"_s);
         QCOMPARE(driver.seen().last(), "Open File|QazFileDialog"_s);
         QVERIFY(driver.isDone());
+    }
+
+    void controlsFollowTheSelection()
+    {
+        Page over("EnableSound=true\nMenuCommandSound=x\n");
+        QVERIFY(QTest::qWaitForWindowActive(&over.page));
+        const QString emptyRow = "Them defa clea List sele"_s;
+        QCOMPARE(over.enabled(), emptyRow); // the first row is selected
+        over.select(1);
+        QCOMPARE(over.enabled(), allButStop);
+        over.group->setChecked(false);
+        QCOMPARE(over.enabled(), "Them"_s);
+        over.group->setChecked(true);
+        QCOMPARE(over.enabled(), allButStop);
+        over.click("removeSoundButton");
+        QCOMPARE(over.enabled(), emptyRow);
+        QCOMPARE(over.assignments(), QString());
+        QCOMPARE(over.focused(), "soundListView"_s);
+        over.list->clearSelection();
+        QCOMPARE(over.enabled(), "Them defa clea List"_s);
+    }
+
+    void playsUntilStopped()
+    {
+        auto over = std::make_unique<Page>("EnableSound=true\n");
+        QVERIFY(QTest::qWaitForWindowActive(&over->page));
+        QFile pipe(over->home.path("endless.wav"_s));
+        QCOMPARE(::mkfifo(QFile::encodeName(pipe.fileName()).constData(), 0600), 0);
+        over->assign(0, pipe.fileName());
+        const auto play = [&over] {
+            over->click("playButton");
+            QCOMPARE(over->enabled(), "stop"_s);
+            QCOMPARE(over->focused(), "stopButton"_s);
+            QVERIFY(QGuiApplication::overrideCursor());
+            QTRY_VERIFY(!QGuiApplication::overrideCursor());
+            QVERIFY(hasChildProcesses());
+        };
+        play();
+        over->click("stopButton");
+        QCOMPARE(over->enabled(), allButStop);
+        QCOMPARE(over->focused(), "playButton"_s);
+        QVERIFY(!hasChildProcesses());
+
+        play();
+        QVERIFY(pipe.open(QIODevice::WriteOnly)); // nothing comes: the player gives up
+        pipe.close();
+        QTRY_COMPARE(over->enabled(), allButStop);
+
+        over->click("playButton");
+        over->group->setChecked(false); // hardly started
+        QVERIFY(!QGuiApplication::overrideCursor());
+        QCOMPARE(over->enabled(), "Them"_s);
+        over->group->setChecked(true);
+        QCOMPARE(over->enabled(), allButStop);
+        QVERIFY(!hasChildProcesses());
+
+        over->click("playButton");
+        over.reset();
+        QVERIFY(!hasChildProcesses());
+    }
+
+    void tellsWhatCannotBePlayed()
+    {
+        Page over("EnableSound=true\nMenuPopupSound=menu-popup\n");
+        ModalDriver driver;
+        driver.thenAnswer(QMessageBox::Ok);
+        over.click("playButton");
+        QCOMPARE(over.enabled(), "Them defa clea List sele remo"_s);
+        const FakePrograms none(FakePrograms::Path::Instead);
+        driver.thenAnswer(QMessageBox::Ok);
+        over.find<QPushButton>("mixerButton")->click();
+        QCOMPARE(
+            driver.seen(),
+            QStringList({"Error|Sound '%1' doesn't exist"_s.arg(over.home.path("data/sounds/menu-popup"_s)),
+                         "Error|Can't start 'qasmixer'"_s}));
+    }
+
+    void keysActOnTheSelectedRow()
+    {
+        Page over("EnableSound=true\nMenuPopupSound=a.wav\nMenuCommandSound=b.wav\n");
+        over.list->setFocus();
+        QVERIFY(QTest::qWaitForWindowActive(&over.page));
+        ModalDriver driver;
+        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
+            driver.thenReject();
+            QTest::keyClick(over.list, key);
+            QCOMPARE(driver.seen().takeLast(), "Open File|QazFileDialog"_s);
+        }
+        QTest::keyClick(over.list, Qt::Key_Down);
+        QTest::keyClick(over.list, Qt::Key_Delete);
+        QCOMPARE(over.assignments(), "0=a.wav"_s);
+        QCOMPARE(over.changed.count(), 1);
+        QVERIFY(driver.isDone());
+    }
+
+    void soundFilesAreDroppedAndPasted()
+    {
+        const int paste = -1, header = -2, below = 40; // in place of a row
+        const struct {
+            QString file; // below the home
+            int row;
+            QString assignments;
+        } rows[] = {{"own a.WAV"_s, 2, "2=HOME/own a.WAV"_s},
+                    {builtIn, 13, "13=x-qaz-wm-chimes.wav"_s},
+                    {builtIn, paste, "3=x-qaz-wm-chimes.wav"_s},
+                    {"t"_s, 2, {}},
+                    {"t"_s, paste, {}},
+                    {builtIn, header, {}},
+                    {builtIn, below, {}}};
+        for (const auto &[file, row, assignments] : rows) {
+            Page over("EnableSound=true\n");
+            over.page.resize(400, 700);
+            over.select(3);
+            auto *data = new QMimeData;
+            data->setUrls({QUrl::fromLocalFile(over.home.path(file))});
+            QGuiApplication::clipboard()->setMimeData(data);
+            const int height = over.list->visualItemRect(over.list->topLevelItem(0)).height();
+            const QPoint at(5, row * height + height / 2);
+            const auto actions = Qt::MoveAction | Qt::CopyAction;
+            QDragEnterEvent enter(at, actions, data, Qt::LeftButton, {});
+            QDragMoveEvent move(at, actions, data, Qt::LeftButton, {});
+            QDropEvent drop(at, actions, data, Qt::LeftButton, {});
+            for (QDropEvent *event : std::initializer_list<QDropEvent *>{&enter, &move, &drop}) {
+                if (row == paste)
+                    break;
+                QCOMPARE(over.assignments(), QString());
+                QCoreApplication::sendEvent(over.list->viewport(), event);
+                // What enters at an unfit place may fit at another one. A file manager must not move the file.
+                QCOMPARE(event->isAccepted(), event == &enter ? file != "t"_s : !assignments.isEmpty());
+                QVERIFY(!event->isAccepted() || event->dropAction() == Qt::CopyAction);
+            }
+            if (row == paste)
+                QTest::keyClick(over.list, Qt::Key_V, Qt::ControlModifier);
+            QCOMPARE(over.assignments(), assignments);
+        }
     }
 };
 

@@ -1,0 +1,157 @@
+#include "pages/sounds/soundchoice.h"
+#include "pages/sounds/soundconversion.h"
+#include "pages/sounds/soundplayer.h"
+#include "platform/qazsoundtheme.h"
+#include "settings/soundassignments.h"
+#include "tests/support/childprocesses.h"
+#include "tests/support/fakeprogram.h"
+#include "tests/support/literals.h"
+#include "tests/support/standarderror.h"
+#include "tests/support/temporaryhome.h"
+
+#include <QtTest>
+
+#include <sys/stat.h>
+
+/// Playing, choosing and converting, without the page.
+class TestSoundFiles : public QObject
+{
+    Q_OBJECT
+private slots:
+    void resolvesAssignments()
+    {
+        const TemporaryHome home;
+        home.write(".local/share/sounds/t/index.theme"_s, "[Sound Theme]\nDirectories=.\n");
+        for (const QString &file : {"one.wav"_s, "two.au"_s, "six.WAV"_s})
+            home.write(".local/share/sounds/t/"_s + file, "sound");
+        QazSoundTheme theme("t");
+        QVERIFY(theme.load());
+        const char *const rows[][3] = {// what is played with the theme (! it is not) and without
+                                       {"built.wav", "/d/built.wav", "/d/built.wav"},
+                                       {"one", "T/one.wav", "/d/one"},
+                                       {"two", "!T/two.au", "/d/two"},
+                                       {"six", "!T/six.WAV", "/d/six"},
+                                       {"seven", "seven", "/d/seven"},
+                                       {"/own.ogg", "/own.ogg", "/own.ogg"}};
+        for (const auto &[assignment, withTheme, alone] : rows) {
+            const PlayableSound sound = playableSound(QLatin1String(assignment), &theme, "/d"_s);
+            QCOMPARE((sound.isPlayable ? QString() : "!"_s)
+                         + QString(sound.path).replace(QFile::decodeName(theme.getPath()), "T"_s),
+                     QLatin1String(withTheme));
+            QCOMPARE(playableSound(QLatin1String(assignment), nullptr, "/d"_s).path, QLatin1String(alone));
+        }
+    }
+
+    void startsChoosingWhereTheFileIs()
+    {
+        const TemporaryHome home;
+        const QString themes = QFileInfo("/usr/share/sounds"_s).isDir() ? "/usr/share/sounds"_s : QString();
+        const QString used = home.write("used.wav"_s, "sound"), directory = home.path("d"_s),
+                      built = home.write("d/built.wav"_s, "sound");
+        const QString rows[][4] = {// value, sounds directory, start with a theme and without
+                                   {used, directory, used, used},
+                                   {home.path("gone.wav"_s), directory, home.path(), home.path()},
+                                   {"built.wav"_s, directory, built, built},
+                                   {"x.wav"_s, directory, directory, directory},
+                                   {"x.wav"_s, "/missing"_s, themes, {}},
+                                   {{}, directory, themes, directory},
+                                   {"one"_s, directory, themes, directory},
+                                   {"/missing/x.wav"_s, directory, themes, directory}};
+        for (const auto &[value, sounds, withTheme, alone] : rows) {
+            QCOMPARE(startOfChoice(value, true, sounds), withTheme);
+            QCOMPARE(startOfChoice(value, false, sounds), alone);
+        }
+
+        const QString link = home.path("link"_s);
+        QVERIFY(QFile::link(directory, link));
+        QCOMPARE(assignmentForFile(built, link), "built.wav"_s);
+        for (const QString &end : {"-more/a.wav"_s, "/sub/a.wav"_s, "/name"_s}) // would mean a theme's sound
+            QCOMPARE(assignmentForFile(directory + end, directory), directory + end);
+    }
+
+    void quotesSpecialPathsOnly()
+    {
+        const QString command = "find %1 -name \"*.og[ga]\" | xargs oggdec"_s;
+        for (const QString &path : {"/usr/My-theme_2.0+x,@=:"_s, "/söhne/音"_s, "/a%1"_s})
+            QCOMPARE(conversionCommand(path), command.arg(path));
+        for (const QChar c : " \t\n\"\\$`;&|<>()*?[]{}!#~^"_s)
+            QCOMPARE(conversionCommand("/a"_s + c), command.arg("'/a%1'"_s.arg(c)));
+        QCOMPARE(conversionCommand("/it's"_s), command.arg("'/it'\\''s'"_s));
+    }
+
+    void unsafeNamesAreFound()
+    {
+        const TemporaryHome home;
+        home.write("t/fine.ogg"_s, {});
+        QVERIFY(QFile::link("/"_s, home.path("t/link"_s))); // not followed
+        const QString directory = home.path("t"_s);
+        for (const QString &safe : {"a.ogg"_s, "sub/x-1_2.oga"_s, "-o.ogg"_s, "söhne.ogg"_s, "a b.wav"_s,
+                                    "$(x);.ogg"_s, "a b/c.wav"_s}) {
+            home.write("t/"_s + safe, {});
+            QCOMPARE(unsafeForConversion(directory), QString());
+        }
+        for (const QString &unsafe :
+             {"a -o x.ogg"_s, "d -o y/x.oga"_s, "it's.ogg"_s, "a\"b.ogg"_s, "a`b.oga"_s, "a\\b.ogg"_s,
+              "a\tb.ogg"_s, "a\nb.ogg"_s, "a\x1b.ogg"_s, "a\u00a0b.ogg"_s, ".hidden one.ogg"_s}) {
+            const QString path = home.write("t/"_s + unsafe, {});
+            QCOMPARE(unsafeForConversion(directory), path);
+            QVERIFY(QFile::remove(path));
+        }
+        // Directories count, too.
+        QVERIFY(home.makeDirectory("t/dir \n.ogg"_s));
+        QCOMPARE(unsafeForConversion(directory), directory + "/dir \n.ogg"_s);
+        QCOMPARE(unsafeForConversion(directory + "/dir \n.ogg"_s), directory + "/dir \n.ogg"_s);
+        QVERIFY(home.makeDirectory("t/empty dir"_s));
+        QCOMPARE(unsafeForConversion(directory + "/empty dir"_s), QString());
+        // What can't be looked into may hold anything.
+        for (const QString &unknown : {home.path("missing"_s), "-d"_s})
+            QCOMPARE(unsafeForConversion(unknown), unknown);
+    }
+
+    void leavesALongConversionAlone()
+    {
+        FakePrograms programs(FakePrograms::Path::Instead);
+        convertToWav("/a"_s); // nothing to run it
+        QVERIFY(!QGuiApplication::overrideCursor());
+
+        QFile go(programs.directory() + "/go"_s);
+        QCOMPARE(::mkfifo(QFile::encodeName(go.fileName()).constData(), 0600), 0);
+        programs.add("qaz-su"_s, "read line <\"${0%/*}/go\"; : >\"$0.done\"");
+        convertToWav("/a"_s, 50);
+        const QString done = programs.directory() + "/qaz-su.done"_s;
+        QVERIFY(!QFile::exists(done));
+        QVERIFY(go.open(QIODevice::WriteOnly)); // waits for the reader
+        go.close();
+        QTRY_VERIFY(QFile::exists(done));
+        QTRY_VERIFY(!hasChildProcesses());
+    }
+
+    void playerTellsOfEveryEnd()
+    {
+        const struct {
+            QByteArray script;
+            QString diagnostic;
+        } rows[] = {{"exit 0", {}},
+                    {"exit 3", "/player ended with status 3\n"_s},
+                    {"kill -SEGV $$", "/player: Process crashed\n"_s},
+                    {{}, "/player: "_s}}; // never starts
+        for (const auto &[script, diagnostic] : rows) {
+            FakePrograms programs;
+            if (!script.isEmpty())
+                programs.add("player"_s, script);
+            StandardError errors;
+            SoundPlayer player(programs.directory() + "/player"_s);
+            QSignalSpy ends(&player, &SoundPlayer::ended);
+            player.play("-x.wav"_s);
+            QTRY_COMPARE(ends.count(), 1);
+            QCOMPARE(programs.calls("player"_s).value(0).join(u' '),
+                     script.isEmpty() ? QString() : "-q -x.wav"_s);
+            const QString told = QString::fromLocal8Bit(errors.take());
+            QVERIFY2(told.contains(diagnostic) && told.count(u'\n') == !diagnostic.isEmpty(),
+                     qPrintable(told));
+        }
+    }
+};
+
+QTEST_MAIN(TestSoundFiles)
+#include "tst_soundfiles.moc"
