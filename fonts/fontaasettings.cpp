@@ -1,34 +1,55 @@
 #include "fonts/fontaasettings.h"
 
+#include "base/chandle.h"
 #include "fonts/kxftconfig.h"
-#include "fonts/lcdfiltering.h"
-#include "fonts/subpixelswatch.h"
 #include "platform/qazhelp.h"
 #include "settings/renderingstore.h"
 #include "ui_fontaasettingsform.h"
 
+#include <QPainter>
 #include <QPushButton>
 #include <QShortcut>
 #include <QSignalBlocker>
+
+#include <optional>
+#include <type_traits>
+
+#include <ft2build.h>
+#include FT_FREETYPE_H
+#include FT_LCD_FILTER_H
 
 namespace {
 
 constexpr int required = KXftConfig::SubPixelType | KXftConfig::ExcludedRange | KXftConfig::AntiAlias
                          | KXftConfig::HintingStyle;
 
-constexpr SubPixelOrder subPixelOrders[] = {SubPixelOrder::Rgb, SubPixelOrder::Bgr,
-                                            SubPixelOrder::VerticalRgb, SubPixelOrder::VerticalBgr};
-constexpr HintStyle hintStyles[] = {HintStyle::None, HintStyle::Slight, HintStyle::Medium, HintStyle::Full};
-
-constexpr ExcludeRange defaultPixels{0, 14};
-constexpr ExcludeRange defaultPoints{0, 10};
-
-/// The value that \a spinBox shows for \a value.
-double shownValue(const QDoubleSpinBox *spinBox, double value)
+/// A picture of one pixel that shows where its red, green and blue stripes lie.
+QPixmap subPixelSwatch(SubPixelOrder order)
 {
-    // Rounded as text, as the spin box does it: 8.35 lies below its decimal digits and shows as 8.3.
-    const double rounded = QString::number(value, 'f', spinBox->decimals()).toDouble();
-    return qBound(spinBox->minimum(), rounded, spinBox->maximum());
+    constexpr int extent = 12;
+    constexpr int stripe = extent / 3;
+    const QColor colors[] = {0xe01b24, 0x26a269, 0x1a5fb4};
+    const bool isVertical = order == SubPixelOrder::VerticalRgb || order == SubPixelOrder::VerticalBgr;
+    const bool beginsWithRed = order == SubPixelOrder::Rgb || order == SubPixelOrder::VerticalRgb;
+    QPixmap swatch(extent, extent);
+    QPainter painter(&swatch);
+    for (int i = 0; i < 3; ++i)
+        painter.fillRect(isVertical ? QRect(0, i * stripe, extent, stripe)
+                                    : QRect(i * stripe, 0, stripe, extent),
+                         colors[beginsWithRed ? i : 2 - i]);
+    return swatch;
+}
+
+/// Whether the FreeType library can filter for the sub-pixels of a display; yes while it can't be asked.
+bool isLcdFilteringSupported()
+{
+    static std::optional<bool> answer;
+    FT_Library handle = nullptr;
+    if (!answer && FT_Init_FreeType(&handle) == 0) {
+        const std::unique_ptr<std::remove_pointer_t<FT_Library>, Release<FT_Done_FreeType>> library(handle);
+        answer = FT_Library_SetLcdFilter(handle, FT_LCD_FILTER_DEFAULT) != FT_Err_Unimplemented_Feature;
+    }
+    return answer.value_or(true);
 }
 
 } // namespace
@@ -38,17 +59,21 @@ FontAASettings::FontAASettings(QWidget *parent)
     , m_ui(std::make_unique<Ui::FontAASettingsForm>())
 {
     m_ui->setupUi(this);
-    for (const SubPixelOrder order : subPixelOrders)
-        m_ui->subPixelTypeCombo->addItem(subPixelSwatch(order), FontRendering::displayName(order));
-    for (const HintStyle style : hintStyles)
-        m_ui->hintStyleCombo->addItem(FontRendering::displayName(style));
+    m_ui->buttonBox->setContentsMargins(10, 0, 10, 10);
+    m_ui->subPixelTypeCombo->setToolTip(m_ui->useSubPixelCheckBox->toolTip());
+    m_ui->hintStyleCombo->setToolTip(m_ui->hintingLabel->toolTip());
+    for (QWidget *widget : findChildren<QWidget *>())
+        widget->setWhatsThis(widget->toolTip());
+    for (int order = int(SubPixelOrder::Rgb); order < int(SubPixelOrder::Count); ++order)
+        m_ui->subPixelTypeCombo->addItem(subPixelSwatch(SubPixelOrder(order)),
+                                         FontRendering::displayName(SubPixelOrder(order)));
+    for (int style = int(HintStyle::None); style < int(HintStyle::Count); ++style)
+        m_ui->hintStyleCombo->addItem(FontRendering::displayName(HintStyle(style)));
     connect(m_ui->buttonBox, &QDialogButtonBox::accepted, this, &FontAASettings::accept);
     connect(m_ui->buttonBox, &QDialogButtonBox::rejected, this, &FontAASettings::reject);
-
     connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this,
             [] { qazHelpShow(QStringLiteral("antialiasing")); });
 
-    showExcludeRange(defaultRange());
     load();
 
     connect(m_ui->excludeRangeCheckBox, &QCheckBox::toggled, this, &FontAASettings::rangeChanged);
@@ -71,25 +96,19 @@ bool FontAASettings::load()
 
     KXftConfig config(required);
     config.reset();
-    const ExcludeRange range = showsPixels() ? config.excludePixelRange() : config.excludeRange();
-    m_ui->excludeRangeCheckBox->setChecked(!range.isZero());
-    showExcludeRange(range.isZero() ? defaultRange() : range);
-    m_rangeEdited = false;
+    showRange(showsPixels() ? config.excludePixelRange() : config.excludeRange());
 
     const SubPixelOrder order = config.subPixelType();
-    const int orderIndex = order == SubPixelOrder::None
-                               ? -1
-                               : m_ui->subPixelTypeCombo->findText(FontRendering::displayName(order));
-    m_ui->useSubPixelCheckBox->setChecked(orderIndex >= 0);
-    if (orderIndex >= 0)
-        m_ui->subPixelTypeCombo->setCurrentIndex(orderIndex);
+    m_ui->useSubPixelCheckBox->setChecked(order != SubPixelOrder::None);
+    if (order != SubPixelOrder::None)
+        m_ui->subPixelTypeCombo->setCurrentIndex(int(order) - int(SubPixelOrder::Rgb));
 
-    if (config.hintStyle() == HintStyle::NotSet) {
-        config.setHintStyle(HintStyle::Medium);
-        storeRendering(
-            {{QLatin1String(RenderingKey::hintStyle), FontRendering::fileName(HintStyle::Medium)}});
+    HintStyle style = config.hintStyle();
+    if (style == HintStyle::NotSet) {
+        style = HintStyle::Medium;
+        storeRendering({{QLatin1String(RenderingKey::hintStyle), FontRendering::fileName(style)}});
     }
-    m_ui->hintStyleCombo->setCurrentText(FontRendering::displayName(config.hintStyle()));
+    m_ui->hintStyleCombo->setCurrentIndex(int(style) - int(HintStyle::None));
 
     enableWidgets();
     return config.antiAliasing();
@@ -99,13 +118,15 @@ bool FontAASettings::save(bool useAntiAliasing, QString *error)
 {
     KXftConfig config(required);
     config.reset();
-    const SubPixelOrder order = chosenOrder();
-    const HintStyle style = chosenHintStyle();
+    const SubPixelOrder order = m_ui->useSubPixelCheckBox->isChecked() ? SubPixelOrder(
+                                    m_ui->subPixelTypeCombo->currentIndex() + int(SubPixelOrder::Rgb))
+                                                                       : SubPixelOrder::None;
+    const HintStyle style = HintStyle(m_ui->hintStyleCombo->currentIndex() + int(HintStyle::None));
     config.setAntiAliasing(useAntiAliasing);
-    if (const std::optional<ExcludeRange> range = editedRange(config); range && showsPixels())
-        config.setExcludePixelRange(*range);
-    else if (range)
-        config.setExcludeRange(*range);
+    if (showsPixels())
+        config.setExcludePixelRange(m_range);
+    else
+        config.setExcludeRange(m_range);
     config.setSubPixelType(order);
     config.setHintStyle(style);
     const bool fileChanged = config.changed();
@@ -114,7 +135,6 @@ bool FontAASettings::save(bool useAntiAliasing, QString *error)
                      .arg(config.fileName(), reason);
         return false;
     }
-    m_rangeEdited = false;
 
     const QString styleName = FontRendering::fileName(style);
     const bool hintStyleChanged = storedRendering(RenderingKey::hintStyle).toString() != styleName;
@@ -126,11 +146,10 @@ bool FontAASettings::save(bool useAntiAliasing, QString *error)
 
 void FontAASettings::defaults()
 {
-    m_ui->excludeRangeCheckBox->setChecked(true);
-    showExcludeRange(defaultRange());
+    showRange({});
+    m_ui->excludeRangeCheckBox->setChecked(true); // takes the shown range
     m_ui->useSubPixelCheckBox->setChecked(false);
-    m_ui->hintStyleCombo->setCurrentText(FontRendering::displayName(HintStyle::Medium));
-    m_rangeEdited = true; // also when the boxes show the default already, for something near it
+    m_ui->hintStyleCombo->setCurrentIndex(int(HintStyle::Medium) - int(HintStyle::None));
     enableWidgets();
 }
 
@@ -150,56 +169,25 @@ void FontAASettings::changed()
 
 void FontAASettings::rangeChanged()
 {
-    m_rangeEdited = true;
+    m_range = m_ui->excludeRangeCheckBox->isChecked()
+                  ? ExcludeRange{m_ui->excludeFromSpinBox->value(), m_ui->excludeToSpinBox->value()}
+                  : ExcludeRange{};
     changed();
+}
+
+void FontAASettings::showRange(const ExcludeRange &range)
+{
+    const ExcludeRange shown = range.isZero() ? ExcludeRange{0, showsPixels() ? 14.0 : 10.0} : range;
+    m_ui->excludeRangeCheckBox->setChecked(!range.isZero());
+    m_ui->excludeFromSpinBox->setValue(shown.from);
+    m_ui->excludeToSpinBox->setValue(shown.to);
+    m_range = range;
 }
 
 bool FontAASettings::showsPixels() const
 {
     const QString suffix = m_ui->excludeFromSpinBox->suffix();
     return suffix.contains(QLatin1String("pix")) || suffix.contains(QLatin1String("px"));
-}
-
-ExcludeRange FontAASettings::defaultRange() const
-{
-    return showsPixels() ? defaultPixels : defaultPoints;
-}
-
-void FontAASettings::showExcludeRange(const ExcludeRange &range)
-{
-    m_ui->excludeFromSpinBox->setValue(range.from);
-    m_ui->excludeToSpinBox->setValue(range.to);
-}
-
-std::optional<ExcludeRange> FontAASettings::editedRange(const KXftConfig &config) const
-{
-    if (!m_ui->excludeRangeCheckBox->isChecked())
-        return ExcludeRange{};
-    const ExcludeRange inFile = showsPixels() ? config.excludePixelRange() : config.excludeRange();
-    const ExcludeRange shown{m_ui->excludeFromSpinBox->value(), m_ui->excludeToSpinBox->value()};
-    // The spin boxes show fewer digits and a smaller range than a file may hold: what was not edited stays.
-    const bool showsFile = shown.equals(
-        {shownValue(m_ui->excludeFromSpinBox, inFile.from), shownValue(m_ui->excludeToSpinBox, inFile.to)});
-    return showsFile && !m_rangeEdited ? std::nullopt : std::make_optional(shown);
-}
-
-SubPixelOrder FontAASettings::chosenOrder() const
-{
-    const QString shown = m_ui->subPixelTypeCombo->currentText();
-    for (const SubPixelOrder order : subPixelOrders) {
-        if (m_ui->useSubPixelCheckBox->isChecked() && shown == FontRendering::displayName(order))
-            return order;
-    }
-    return SubPixelOrder::None;
-}
-
-HintStyle FontAASettings::chosenHintStyle() const
-{
-    for (const HintStyle style : hintStyles) {
-        if (m_ui->hintStyleCombo->currentText() == FontRendering::displayName(style))
-            return style;
-    }
-    return HintStyle::Medium;
 }
 
 void FontAASettings::enableWidgets()
@@ -209,10 +197,10 @@ void FontAASettings::enableWidgets()
     m_ui->excludeToSpinBox->setEnabled(excludes);
     m_ui->excludeToLabel->setEnabled(excludes);
 
-    m_ui->useSubPixelCheckBox->setEnabled(isLcdFilteringSupported());
-    if (!m_ui->useSubPixelCheckBox->isEnabled())
+    const bool canFilter = isLcdFilteringSupported();
+    m_ui->useSubPixelCheckBox->setEnabled(canFilter);
+    if (!canFilter)
         m_ui->useSubPixelCheckBox->setChecked(false);
-    m_ui->subPixelTypeCombo->setEnabled(m_ui->useSubPixelCheckBox->isEnabled()
-                                        && m_ui->useSubPixelCheckBox->isChecked());
+    m_ui->subPixelTypeCombo->setEnabled(m_ui->useSubPixelCheckBox->isChecked());
     m_ui->buttonBox->button(QDialogButtonBox::Ok)->setEnabled(m_changesMade);
 }

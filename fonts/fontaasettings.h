@@ -5,9 +5,6 @@
 #include <QDialog>
 
 #include <memory>
-#include <optional>
-
-class KXftConfig;
 
 namespace Ui {
 class FontAASettingsForm;
@@ -39,17 +36,14 @@ public slots:
     void changed();
 
 private:
-    bool showsPixels() const;
-    ExcludeRange defaultRange() const;
-    void showExcludeRange(const ExcludeRange &range);
     void rangeChanged();
-    /// The range to store; nothing while the file's own range is shown and was not edited.
-    std::optional<ExcludeRange> editedRange(const KXftConfig &config) const;
-    SubPixelOrder chosenOrder() const;
-    HintStyle chosenHintStyle() const;
+    void showRange(const ExcludeRange &range);
+    bool showsPixels() const;
     void enableWidgets();
 
     std::unique_ptr<Ui::FontAASettingsForm> m_ui;
     bool m_changesMade = false;
-    bool m_rangeEdited = false; // since it was last read or written
+    /// In the unit shown. The spin boxes show fewer digits and smaller sizes than a file may hold: what was not edited
+    /// stays.
+    ExcludeRange m_range;
 };

@@ -1,12 +1,12 @@
 #include "fonts/fontrendering.h"
 
-#include <algorithm>
+#include <QCoreApplication>
+
 #include <cmath>
 #include <iterator>
 
 namespace {
 
-constexpr double tolerance = 0.0001;
 constexpr double pointsPerInch = 72;
 
 struct Name {
@@ -24,7 +24,7 @@ constexpr Name subPixelNames[] = {
 static_assert(std::size(subPixelNames) == std::size_t(SubPixelOrder::Count));
 
 constexpr Name hintNames[] = {
-    {nullptr,      nullptr}, // not set
+    {"hintmedium", QT_TRANSLATE_NOOP("FontRendering", "Medium")}, // not set
     {"hintnone",   QT_TRANSLATE_NOOP("FontRendering", "None")},
     {"hintslight", QT_TRANSLATE_NOOP("FontRendering", "Slight")},
     {"hintmedium", QT_TRANSLATE_NOOP("FontRendering", "Medium")},
@@ -33,23 +33,17 @@ static_assert(std::size(hintNames) == std::size_t(HintStyle::Count));
 // clang-format on
 
 template<std::size_t count>
-const Name &nameAt(const Name (&names)[count], int index, int fallback)
-{
-    return names[index >= 0 && index < int(count) && names[index].file ? index : fallback];
-}
-
-template<std::size_t count>
 int indexOf(const Name (&names)[count], const QString &file)
 {
-    const auto *found = std::find_if(std::begin(names), std::end(names), [&file](const Name &name) {
-        return name.file && file == QLatin1String(name.file);
-    });
-    return found == std::end(names) ? 0 : int(found - std::begin(names));
+    int index = count - 1;
+    while (index > 0 && file != QLatin1String(names[index].file))
+        --index;
+    return index;
 }
 
-bool areEqual(double one, double other)
+QString translated(const Name &name)
 {
-    return std::abs(one - other) < tolerance;
+    return QCoreApplication::translate("FontRendering", name.display);
 }
 
 ExcludeRange converted(const ExcludeRange &range, double factor)
@@ -59,34 +53,30 @@ ExcludeRange converted(const ExcludeRange &range, double factor)
 
 } // namespace
 
-bool ExcludeRange::isZero() const
-{
-    return equals({});
-}
-
 bool ExcludeRange::equals(const ExcludeRange &other) const
 {
-    return areEqual(from, other.from) && areEqual(to, other.to);
+    constexpr double tolerance = 0.0001;
+    return std::abs(from - other.from) < tolerance && std::abs(to - other.to) < tolerance;
 }
 
 QString FontRendering::fileName(SubPixelOrder order)
 {
-    return QLatin1String(nameAt(subPixelNames, int(order), int(SubPixelOrder::None)).file);
+    return QLatin1String(subPixelNames[int(order)].file);
 }
 
 QString FontRendering::fileName(HintStyle style)
 {
-    return QLatin1String(nameAt(hintNames, int(style), int(HintStyle::Medium)).file);
+    return QLatin1String(hintNames[int(style)].file);
 }
 
 QString FontRendering::displayName(SubPixelOrder order)
 {
-    return tr(nameAt(subPixelNames, int(order), int(SubPixelOrder::None)).display);
+    return translated(subPixelNames[int(order)]);
 }
 
 QString FontRendering::displayName(HintStyle style)
 {
-    return tr(nameAt(hintNames, int(style), int(HintStyle::Medium)).display);
+    return translated(hintNames[int(style)]);
 }
 
 SubPixelOrder FontRendering::subPixelOrder(const QString &fileName)
@@ -102,13 +92,8 @@ HintStyle FontRendering::hintStyle(const QString &fileName)
 bool bringIntoAgreement(ExcludeRange *points, ExcludeRange *pixels, double dpi)
 {
     if (pixels->isZero()) {
-        if (points->isZero())
-            return false;
-        const ExcludeRange wanted = converted(*points, dpi / pointsPerInch);
-        if (wanted.equals(*pixels))
-            return false;
-        *pixels = wanted;
-        return true;
+        *pixels = converted(*points, dpi / pointsPerInch);
+        return !pixels->isZero();
     }
     *points = converted(*pixels, pointsPerInch / dpi);
     return true;

@@ -4,261 +4,227 @@
 #include <QTextCodec>
 
 #include <algorithm>
-#include <cstring>
 
 namespace {
 
+using Child = FontsXml::Child;
+
 constexpr char declaration[] = "<?xml version=\"1.0\"?>";
 constexpr char quotedDeclaration[] = "<?xml version = '1.0'?>";
-constexpr char bareDoctype[] = "<!DOCTYPE fontconfig>";
 constexpr char doctype[] = "<!DOCTYPE fontconfig SYSTEM \"fonts.dtd\">";
+constexpr char newFile[] = "<?xml version=\"1.0\"?>\n<!DOCTYPE fontconfig SYSTEM \"fonts.dtd\">\n"
+                           "<fontconfig>\n</fontconfig>\n";
 constexpr char emptyRoot[] = "<fontconfig>\n</fontconfig>\n";
 
-struct ByteOrderMark {
-    const char *codec;
-    QByteArray bytes;
-};
-
-/// The tabs that \a line begins with.
-int levelOf(const QByteArray &line)
+bool isOf(const Child &child, FontsItem::Kind kind)
 {
-    int level = 0;
-    while (level < line.size() && line.at(level) == '\t')
-        ++level;
-    return level;
-}
-
-QString encodable(const QString &text, const QTextCodec *codec)
-{
-    if (codec->canEncode(text))
-        return text;
-    QString result;
-    for (const uint codePoint : text.toUcs4()) {
-        const QString character = QString::fromUcs4(&codePoint, 1);
-        result += codec->canEncode(character)
-                      ? character
-                      : QLatin1String("&#") + QString::number(codePoint) + QLatin1Char(';');
-    }
-    return result;
+    return child.item && child.item->kind == kind;
 }
 
 } // namespace
 
 FontsDocument::FontsDocument()
 {
-    clear();
-}
-
-void FontsDocument::clear()
-{
-    m_codec = QTextCodec::codecForName("UTF-8");
-    m_byteOrderMark.clear();
-    m_text = QByteArray(declaration) + '\n' + doctype + '\n' + emptyRoot;
     QString error;
-    const bool isRead = readFontsXml(m_text, &m_xml, &error);
-    Q_ASSERT(isRead);
-    Q_UNUSED(isRead)
-}
-
-bool FontsDocument::decode(const QByteArray &content, QString *error)
-{
-    static const ByteOrderMark marks[] = {
-        {"UTF-8", "\xEF\xBB\xBF"}, {"UTF-16LE", "\xFF\xFE"}, {"UTF-16BE", "\xFE\xFF"}};
-    static const QRegularExpression declared(
-        QStringLiteral("^<\\?xml\\s[^>]*?encoding\\s*=\\s*[\"']([^\"']*)[\"']"));
-
-    QByteArray name = "UTF-8";
-    const auto *mark = std::find_if(
-        std::begin(marks), std::end(marks),
-        [&content](const ByteOrderMark &mark) { return content.startsWith(mark.bytes); });
-    if (mark != std::end(marks)) {
-        m_byteOrderMark = mark->bytes;
-        name = mark->codec;
-    } else if (const auto match = declared.match(QString::fromLatin1(content.left(200))); match.hasMatch()) {
-        name = match.captured(1).toLatin1();
-    }
-    m_codec = QTextCodec::codecForName(name);
-    if (!m_codec) {
-        *error = QStringLiteral("unknown encoding %1").arg(QString::fromLatin1(name));
-        return false;
-    }
-    m_text = content.mid(m_byteOrderMark.size());
-    if (!isUtf8()) {
-        QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
-        m_text = m_codec->toUnicode(m_text.constData(), m_text.size(), &state).toUtf8();
-    }
-    // Only a text that turns back into the same bytes can be changed without losing any.
-    if (encoded(m_text) != content) {
-        *error = QStringLiteral("not %1 text").arg(QString::fromLatin1(m_codec->name()));
-        return false;
-    }
-    // The XML reader would take a second mark for the first, and a declaration would be put in front of it.
-    if (m_text.startsWith(marks[0].bytes)) {
-        *error = QStringLiteral("more than one byte order mark");
-        return false;
-    }
-    return true;
-}
-
-bool FontsDocument::isUtf8() const
-{
-    constexpr int utf8Mib = 106;
-    return m_codec->mibEnum() == utf8Mib;
-}
-
-QByteArray FontsDocument::encoded(const QByteArray &text) const
-{
-    if (isUtf8())
-        return m_byteOrderMark + text;
-    const QString decoded = QString::fromUtf8(text);
-    QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
-    return m_byteOrderMark + m_codec->fromUnicode(decoded.constData(), decoded.size(), &state);
+    const bool isUnderstood = understand(newFile, &error);
+    Q_ASSERT(isUnderstood);
+    Q_UNUSED(isUnderstood)
 }
 
 bool FontsDocument::setContent(const QByteArray &content, QString *error)
 {
-    clear();
-    if (content.trimmed().isEmpty())
+    *this = FontsDocument();
+    if (content.trimmed().isEmpty() || understand(content, error))
         return true;
-    bool understood = decode(content, error);
-    if (understood) {
-        understood = readFontsXml(m_text, &m_xml, error);
-        if (!understood && !m_xml.hasRoot) {
-            const QByteArray text = m_text + (m_text.endsWith('\n') ? QByteArray() : newLine()) + emptyRoot;
-            understood = readFontsXml(text, &m_xml, error);
-            m_text = text;
-        }
-    }
-    if (!understood)
-        clear();
-    return understood;
+    *this = FontsDocument();
+    return false;
 }
 
-QByteArray FontsDocument::withChanges(const QVector<Change> &changes) const
+bool FontsDocument::understand(const QByteArray &content, QString *error)
+{
+    if (!decode(content, error))
+        return false;
+    if (readFontsXml(m_text, &m_xml, error))
+        return true;
+    if (m_xml.rootOpenEnd > 0)
+        return false;
+    m_text += (m_text.endsWith(QLatin1Char('\n')) ? QString() : newLine()) + QLatin1String(emptyRoot);
+    return readFontsXml(m_text, &m_xml, error);
+}
+
+bool FontsDocument::decode(const QByteArray &content, QString *error)
+{
+    static const QRegularExpression declared(
+        QStringLiteral("^<\\?xml\\s[^>]*?encoding\\s*=\\s*[\"']([^\"']*)[\"']"));
+    const auto match = declared.match(QString::fromLatin1(content.left(200)));
+    const QByteArray name = match.hasMatch() ? match.captured(1).toLatin1() : QByteArray("UTF-8");
+    m_codec = QTextCodec::codecForUtfText(content, QTextCodec::codecForName(name));
+    if (!m_codec) {
+        *error = QStringLiteral("unknown encoding %1").arg(QString::fromLatin1(name));
+        return false;
+    }
+    QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
+    m_text = m_codec->toUnicode(content.constData(), content.size(), &state);
+    const QChar mark(QChar::ByteOrderMark);
+    m_byteOrderMark = m_text.startsWith(mark) ? QString(mark) : QString();
+    m_text.remove(0, m_byteOrderMark.size());
+    // Only a text that turns back into the same bytes can be changed without losing any. A second mark would be
+    // taken for the first.
+    if (encoded(m_text) == content && !m_text.startsWith(mark))
+        return true;
+    *error = QStringLiteral("not %1 text").arg(QString::fromLatin1(m_codec->name()));
+    return false;
+}
+
+QByteArray FontsDocument::encoded(const QString &text) const
+{
+    const QString whole = m_byteOrderMark + text;
+    QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
+    return m_codec->fromUnicode(whole.constData(), whole.size(), &state);
+}
+
+FontsItem FontsDocument::item(FontsItem::Kind kind) const
+{
+    FontsItem found{kind};
+    for (const Child &child : children())
+        found = isOf(child, kind) ? *child.item : found;
+    return found;
+}
+
+QByteArray FontsDocument::withItems(const QVector<FontsItem> &items) const
 {
     QVector<Edit> edits;
     addPrologEdits(&edits);
-    QVector<QByteArray> added;
-    for (const Change &change : changes) {
-        const QByteArray form = encodable(change.form, m_codec).toUtf8();
-        if (change.child >= 0) {
-            edits.append(changeOf(children().at(change.child), form));
-        } else if (change.before >= 0) {
-            const int start = children().at(change.before).start;
-            const QByteArray indentation = lineIndentation(start);
-            edits.append({start, start, laidOut(form.split('\n'), indentation) + newLine() + indentation});
-        } else if (!form.isEmpty()) {
-            added.append(form);
+    QString added;
+    for (const FontsItem &item : items) {
+        const Child *last = nullptr;
+        for (const Child &child : children()) {
+            if (!isOf(child, item.kind))
+                continue;
+            last = &child;
+            // An older element of the same kind would come back into force if only the last one went.
+            if (item.isEmpty())
+                edits.append(removal(child));
+        }
+        if (item.isEmpty())
+            continue;
+        if (last) {
+            edits.append(replacement(*last, item));
+        } else if (const Child *place = placeOf(item, items)) {
+            const QString indentation = lineIndentation(place->start);
+            edits.append({place->start, place->start, laidOut(item, indentation) + newLine() + indentation});
+        } else {
+            added += newLine() + indentationStep() + laidOut(item, indentationStep());
         }
     }
     if (!added.isEmpty())
-        edits.append(additionOf(added));
+        edits.append(addition(added));
     std::stable_sort(edits.begin(), edits.end(),
                      [](const Edit &one, const Edit &other) { return one.start < other.start; });
-
-    QByteArray text;
-    int position = 0;
-    for (const Edit &edit : qAsConst(edits)) {
-        text.append(m_text.constData() + position, edit.start - position).append(edit.text);
-        position = edit.end;
-    }
-    text.append(m_text.constData() + position, m_text.size() - position);
+    QString text = m_text;
+    for (auto edit = edits.crbegin(); edit != edits.crend(); ++edit)
+        text.replace(edit->start, edit->end - edit->start, edit->text);
     return encoded(text);
 }
 
 void FontsDocument::addPrologEdits(QVector<Edit> *edits) const
 {
-    if (m_text.startsWith(quotedDeclaration))
-        edits->append({0, int(qstrlen(quotedDeclaration)), declaration});
-    else if (!m_text.startsWith("<?xml"))
-        edits->append({0, 0, declaration + newLine()});
-    const int bareSize = int(qstrlen(bareDoctype));
-    if (m_xml.doctype >= 0 && m_text.mid(m_xml.doctype, bareSize) == bareDoctype)
-        edits->append({m_xml.doctype, m_xml.doctype + bareSize, doctype});
+    if (m_text.startsWith(QLatin1String(quotedDeclaration)))
+        edits->append({0, int(qstrlen(quotedDeclaration)), QLatin1String(declaration)});
+    else if (!m_text.startsWith(QLatin1String("<?xml")))
+        edits->append({0, 0, QLatin1String(declaration) + newLine()});
+    if (m_xml.bareDoctype >= 0)
+        edits->append(
+            {m_xml.bareDoctype, m_xml.bareDoctype + int(qstrlen(bareDoctypeText)), QLatin1String(doctype)});
 }
 
-FontsDocument::Edit FontsDocument::changeOf(const Child &child, const QByteArray &form) const
+FontsDocument::Edit FontsDocument::replacement(const Child &child, const FontsItem &item) const
 {
-    const QByteArray indentation = lineIndentation(child.start);
-    // What users wrote between our tags is theirs.
-    QList<QByteArray> lines = child.remarks;
-    if (form.isEmpty())
-        return {lines.isEmpty() ? removalStart(child, indentation) : child.start, child.end,
-                laidOut(lines, indentation)};
-    for (QByteArray &line : lines)
-        line.prepend('\t');
-    QList<QByteArray> wanted = form.split('\n');
-    // A start tag may carry more than we know of.
-    if (child.hasMoreAttributes)
-        wanted.first() = m_text.mid(child.start, child.startTagEnd - child.start);
-    QByteArray essence;
-    for (const QByteArray &line : qAsConst(wanted))
-        essence += line.mid(levelOf(line));
+    const QString indentation = lineIndentation(child.start);
+    QString wanted = laidOut(item, indentation);
+    QString essence = fontsItemForm(item).remove(QLatin1Char('\t')).remove(QLatin1Char('\n'));
+    const int startTagSize = wanted.indexOf(QLatin1Char('>')) + 1;
+    // A start tag may carry more than we know of, and what users wrote between our tags is theirs.
+    QString kept = child.hasMoreAttributes ? m_text.mid(child.start, child.startTagEnd - child.start)
+                                           : wanted.left(startTagSize);
+    essence.replace(0, startTagSize, kept);
     if (essence == child.essence)
         return {child.start, child.start, {}};
-    return {child.start, child.end, laidOut(wanted.mid(0, 1) + lines + wanted.mid(1), indentation)};
+    for (const QString &remark : child.remarks)
+        kept += newLine() + indentation + indentationStep() + remark;
+    return {child.start, child.end, wanted.replace(0, startTagSize, kept)};
 }
 
-int FontsDocument::removalStart(const Child &child, const QByteArray &indentation) const
+FontsDocument::Edit FontsDocument::removal(const Child &child) const
 {
-    int start = child.start - indentation.size();
-    const int lineEnd = m_text.indexOf('\n', child.end);
-    const bool isAlone = start > 0 && m_text.at(start - 1) == '\n' && lineEnd >= 0
-                         && m_text.mid(child.end, lineEnd - child.end).trimmed().isEmpty();
-    if (!isAlone)
-        return child.start;
-    --start;
-    return start > 0 && m_text.at(start - 1) == '\r' ? start - 1 : start;
+    const QString indentation = lineIndentation(child.start);
+    if (!child.remarks.isEmpty())
+        return {child.start, child.end, child.remarks.join(newLine() + indentation)};
+    // With the line break before it when it has its lines for itself.
+    const int start = child.start - indentation.size();
+    const int lineEnd = m_text.indexOf(QLatin1Char('\n'), child.end);
+    const bool isAlone = start > 0 && m_text.at(start - 1) == QLatin1Char('\n') && lineEnd >= 0
+                         && m_text.midRef(child.end, lineEnd - child.end).trimmed().isEmpty();
+    const int lineBreakSize = start > 1 && m_text.at(start - 2) == QLatin1Char('\r') ? 2 : 1;
+    return {isAlone ? start - lineBreakSize : child.start, child.end, {}};
 }
 
-FontsDocument::Edit FontsDocument::additionOf(const QVector<QByteArray> &forms) const
+FontsDocument::Edit FontsDocument::addition(const QString &elements) const
 {
-    const QByteArray step = indentationStep();
-    QByteArray text;
-    for (const QByteArray &form : forms)
-        text += newLine() + step + laidOut(form.split('\n'), step);
     if (m_xml.rootClose < 0)
-        return {m_xml.rootOpenEnd - 2, m_xml.rootOpenEnd, '>' + text + newLine() + "</fontconfig>"};
+        return {m_xml.rootOpenEnd - 2, m_xml.rootOpenEnd,
+                QLatin1Char('>') + elements + newLine() + QLatin1String("</fontconfig>")};
     int position = m_xml.rootClose;
-    while (position > m_xml.rootOpenEnd && std::strchr(" \t\r\n", m_text.at(position - 1)))
+    while (position > m_xml.rootOpenEnd && m_text.at(position - 1).isSpace())
         --position;
-    if (!m_text.mid(position, m_xml.rootClose - position).contains('\n'))
-        text += newLine();
-    return {position, position, text};
+    const bool endsLine = m_text.midRef(position, m_xml.rootClose - position).contains(QLatin1Char('\n'));
+    return {position, position, endsLine ? elements : elements + newLine()};
 }
 
-QByteArray FontsDocument::laidOut(QList<QByteArray> lines, const QByteArray &indentation) const
+const Child *FontsDocument::placeOf(const FontsItem &item, const QVector<FontsItem> &items) const
 {
-    const QByteArray step = indentationStep();
-    for (int i = 1; i < lines.size(); ++i) {
-        const int level = levelOf(lines.at(i));
-        lines[i] = indentation + step.repeated(level) + lines.at(i).mid(level);
-    }
-    return lines.join(newLine());
+    if (item.kind != FontsItem::Kind::AntiAliasing)
+        return nullptr;
+    // The rules apply in their order: behind a range, the new one would take it out of force.
+    const auto first = std::find_if(children().begin(), children().end(), [&items](const Child &child) {
+        return std::any_of(items.begin(), items.end(), [&child](const FontsItem &item) {
+            return item.isRange() && !item.isEmpty() && isOf(child, item.kind);
+        });
+    });
+    return first == children().end() ? nullptr : first;
 }
 
-QByteArray FontsDocument::lineIndentation(int position) const
+QString FontsDocument::laidOut(const FontsItem &item, const QString &indentation) const
+{
+    return fontsItemForm(item)
+        .replace(QLatin1Char('\t'), indentationStep())
+        .replace(QLatin1Char('\n'), newLine() + indentation);
+}
+
+QString FontsDocument::lineIndentation(int position) const
 {
     int start = position;
-    while (start > 0 && (m_text.at(start - 1) == ' ' || m_text.at(start - 1) == '\t'))
+    while (start > 0
+           && (m_text.at(start - 1) == QLatin1Char(' ') || m_text.at(start - 1) == QLatin1Char('\t')))
         --start;
-    return start > 0 && m_text.at(start - 1) == '\n' ? m_text.mid(start, position - start) : QByteArray();
+    return start > 0 && m_text.at(start - 1) == QLatin1Char('\n') ? m_text.mid(start, position - start)
+                                                                  : QString();
 }
 
-QByteArray FontsDocument::indentationStep() const
+QString FontsDocument::indentationStep() const
 {
     for (const Child &child : children()) {
-        QByteArray indentation = lineIndentation(child.start);
+        QString indentation = lineIndentation(child.start);
         if (!indentation.isEmpty())
             return indentation;
     }
-    return "  ";
+    return QStringLiteral("  ");
 }
 
-QByteArray FontsDocument::newLine() const
+QString FontsDocument::newLine() const
 {
-    const int end = m_text.indexOf('\n');
-    return end > 0 && m_text.at(end - 1) == '\r' ? "\r\n" : "\n";
+    const int end = m_text.indexOf(QLatin1Char('\n'));
+    return end > 0 && m_text.at(end - 1) == QLatin1Char('\r') ? QStringLiteral("\r\n") : QStringLiteral("\n");
 }
 
 bool FontsDocument::holdsOnlySettings() const
@@ -268,8 +234,7 @@ bool FontsDocument::holdsOnlySettings() const
         if (!child.item || child.hasMoreAttributes || !child.remarks.isEmpty()
             || kinds.contains(child.item->kind))
             return false;
-        if (child.item->kind != FontsItem::Kind::Directory)
-            kinds.append(child.item->kind);
+        kinds.append(child.item->kind);
     }
     return !m_xml.holdsMore;
 }

@@ -2,7 +2,7 @@
 
 #include "base/diagnostics.h"
 #include "base/xdgdirectories.h"
-#include "fonts/fontsitem.h"
+#include "settings/backup.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -30,25 +30,11 @@ constexpr std::time_t orphanedLockAge = 1;
 constexpr std::time_t anonymousLockAge = 60;
 constexpr std::time_t livingLockAge = 600;
 
-using FcStrListPtr = std::unique_ptr<FcStrList, Release<FcStrListDone>>;
-
-bool matches(const QString &path, const char *pattern)
-{
-    return QRegularExpression(QLatin1String(pattern)).match(path).hasMatch();
-}
-
-QString userDefault()
-{
-    QString file = userFontsFile();
-    makeDirectories(QFileInfo(file).path());
-    return file;
-}
-
-/// The number of the living process that the lock file \a path names; 0 for none.
-pid_t livingOwner(const QByteArray &path)
+/// Whether the process that the lock file \a path names is alive.
+bool hasLivingOwner(const QByteArray &path)
 {
     const pid_t owner = pid_t(readRegularFile(QFile::decodeName(path), 100).content.trimmed().toInt());
-    return owner > 0 && (::kill(owner, 0) == 0 || errno == EPERM) ? owner : 0;
+    return owner > 0 && (::kill(owner, 0) == 0 || errno == EPERM);
 }
 
 /// Removes the lock \a path when it is older than its writer can live.
@@ -59,8 +45,13 @@ void removeStaleLock(const QByteArray &path)
         return;
     const auto age = std::abs(std::time(nullptr) - status.st_mtime); // a clock may have been set back
     const bool namesOwner = S_ISREG(status.st_mode) && status.st_size > 0;
-    if (age > (!namesOwner ? anonymousLockAge : livingOwner(path) > 0 ? livingLockAge : orphanedLockAge))
+    if (age > (!namesOwner ? anonymousLockAge : hasLivingOwner(path) ? livingLockAge : orphanedLockAge))
         std::remove(path.constData());
+}
+
+QStringList userFontsFiles()
+{
+    return {homeDirectory() + QLatin1String("/.fonts.conf"), userFontsFile()};
 }
 
 } // namespace
@@ -68,7 +59,8 @@ void removeStaleLock(const QByteArray &path)
 QStringList fontconfigFiles()
 {
     QStringList files;
-    const FcStrListPtr list(FcConfigGetConfigFiles(FcConfigGetCurrent()));
+    const std::unique_ptr<FcStrList, Release<FcStrListDone>> list(
+        FcConfigGetConfigFiles(FcConfigGetCurrent()));
     if (!list)
         return files;
     while (const FcChar8 *file = FcStrListNext(list.get()))
@@ -78,7 +70,7 @@ QStringList fontconfigFiles()
 
 void guardFontconfig()
 {
-    for (const QString &path : {userFontsFile(), homeDirectory() + QLatin1String("/.fonts.conf")}) {
+    for (const QString &path : userFontsFiles()) {
         const QFileInfo info(path);
         if (info.exists() && !info.isFile() && !info.isDir()) {
             printDiagnostic(QStringLiteral("Can't use %1: Not a regular file").arg(path));
@@ -92,25 +84,38 @@ QString userFontsFile()
     return xdgDirectory("XDG_CONFIG_HOME", "/.config") + QLatin1String("/fontconfig/fonts.conf");
 }
 
+void removeUserFontconfigFiles()
+{
+    for (const QString &path : userFontsFiles()) {
+        if (!QFileInfo(path).isFile())
+            continue;
+        const QString copy = backUp(path);
+        if (QFile::remove(path) && !copy.isEmpty())
+            printDiagnostic(QStringLiteral("Removed %1, a copy is %2").arg(path, copy));
+    }
+}
+
 QString chooseFontsFile(const QStringList &configFiles, bool system)
 {
-    const QString home = directoryFormOfPath(homeDirectory());
+    const QString home = QDir::cleanPath(homeDirectory()) + QLatin1Char('/');
     QStringList candidates;
     for (const QString &file : configFiles) {
-        const QFileInfo info(file);
-        const QString path = fileFormOfPath(directoryFormOfPath(file));
+        const QFileInfo info(QDir::cleanPath(file));
+        const QString path = info.filePath();
         if (info.isFile() && (system || path.startsWith(home)))
             candidates.append(path);
-        if (system && info.isDir() && matches(file, "/conf\\.d/?$|/conf\\.d?$"))
-            return directoryFormOfPath(file) + QLatin1String("29-qaz-rendering.conf");
+        if (system && info.isDir() && path.contains(QRegularExpression(QStringLiteral("/conf\\.d?$"))))
+            return path + QLatin1String("/29-qaz-rendering.conf");
     }
-    for (const QString &candidate : qAsConst(candidates)) {
-        if (matches(candidate, system ? "/local\\.conf$" : "/\\.?fonts\\.conf$"))
-            return candidate;
-    }
+    const QRegularExpression wanted(system ? QStringLiteral("/local\\.conf$")
+                                           : QStringLiteral("/\\.?fonts\\.conf$"));
+    candidates = candidates.filter(wanted) + candidates;
     if (!candidates.isEmpty())
         return candidates.first();
-    return system ? QStringLiteral("/etc/fonts/local.conf") : userDefault();
+    if (system)
+        return QStringLiteral("/etc/fonts/local.conf");
+    makeDirectories(QFileInfo(userFontsFile()).path());
+    return userFontsFile();
 }
 
 FileContent readFontsFile(const QString &path)
@@ -140,17 +145,19 @@ FontsFileLock::FontsFileLock(const QString &path)
     QElapsedTimer timer;
     timer.start();
     // Whoever holds it is about to write a small file: waiting saves the user from doing it all again.
-    while (!(m_held = FcAtomicLock(m_atomic.get())) && !timer.hasExpired(lockTimeoutMs)) {
+    while (!FcAtomicLock(m_atomic.get())) {
+        if (timer.hasExpired(lockTimeoutMs)) {
+            m_error = QStringLiteral("Another program has locked it");
+            return;
+        }
         removeStaleLock(m_target + ".LCK");
         QThread::msleep(lockPauseMs);
     }
-    if (!m_held)
-        m_error = QStringLiteral("Another program has locked it");
 }
 
 FontsFileLock::~FontsFileLock()
 {
-    if (m_held)
+    if (isHeld())
         FcAtomicUnlock(m_atomic.get());
 }
 
@@ -166,13 +173,11 @@ bool FontsFileLock::replace(const QByteArray &content, const std::function<bool(
         return false;
     const bool takesOver = file.open(QIODevice::ReadOnly)
                            && takeOverAttributes(file.handle(), m_target, 0666);
-    if (takesOver && isCurrent()) {
-        if (FcAtomicReplaceOrig(m_atomic.get()))
-            return true;
+    const bool isWanted = takesOver && isCurrent();
+    if (isWanted && FcAtomicReplaceOrig(m_atomic.get()))
+        return true;
+    if (isWanted || !takesOver)
         *error = systemErrorText(errno);
-    } else if (!takesOver) {
-        *error = systemErrorText(errno);
-    }
     FcAtomicDeleteNew(m_atomic.get());
     return false;
 }

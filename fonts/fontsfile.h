@@ -21,6 +21,10 @@ void guardFontconfig();
 /// The user's own file in the configuration directory, whether it exists or not.
 QString userFontsFile();
 
+/// Deletes the user's own fontconfig files, so that the system's configuration applies. Each is copied to the
+/// backups first; one line on standard error names the copy.
+void removeUserFontconfigFiles();
+
 /// Which of \a configFiles (see fontconfigFiles()) the rendering settings belong into; the default place when
 /// there is none yet. The directory of the user's default place is created with mode 0700.
 QString chooseFontsFile(const QStringList &configFiles, bool system);
@@ -41,7 +45,7 @@ public:
     FontsFileLock(const FontsFileLock &) = delete;
     FontsFileLock &operator=(const FontsFileLock &) = delete;
 
-    bool isHeld() const { return m_held; }
+    bool isHeld() const { return m_error.isEmpty(); }
     /// Why it is not held.
     QString error() const { return m_error; }
 
@@ -54,6 +58,5 @@ public:
 private:
     QByteArray m_target;
     std::unique_ptr<FcAtomic, Release<FcAtomicDestroy>> m_atomic;
-    bool m_held = false;
     QString m_error;
 };

@@ -1,21 +1,22 @@
 #include "fonts/fontsitem.h"
 
-#include <algorithm>
 #include <cmath>
-#include <iterator>
 
 namespace {
 
-struct ValueElement {
-    FontsItem::Kind kind;
+using Kind = FontsItem::Kind;
+using Attributes = QMap<QByteArray, QByteArray>;
+
+struct Property {
+    Kind kind;
     const char *name; // of the font property
     const char *tag;  // of the value
 };
 
-constexpr ValueElement valueElements[] = {{FontsItem::Kind::SubPixel, "rgba", "const"},
-                                          {FontsItem::Kind::HintStyle, "hintstyle", "const"},
-                                          {FontsItem::Kind::Hinting, "hinting", "bool"},
-                                          {FontsItem::Kind::AntiAliasing, "antialias", "bool"}};
+constexpr Property properties[] = {
+    {Kind::SubPixel, "rgba", "const"},       {Kind::HintStyle, "hintstyle", "const"},
+    {Kind::Hinting, "hinting", "bool"},      {Kind::AntiAliasing, "antialias", "bool"},
+    {Kind::ExcludePoints, "size", "double"}, {Kind::ExcludePixels, "pixelsize", "double"}};
 
 /// The value in the child \a tag, if that is all that \a element holds.
 std::optional<QString> onlyValue(const FontsElement &element, const char *tag)
@@ -23,146 +24,87 @@ std::optional<QString> onlyValue(const FontsElement &element, const char *tag)
     if (element.children.size() != 1 || !element.text.isEmpty() || element.hasUnknown)
         return {};
     const FontsElement &child = element.children.front();
-    const bool fits = child.tag == tag && child.attributes.isEmpty() && child.children.empty()
+    const bool fits = child.tag == QLatin1String(tag) && child.attributes.isEmpty() && child.children.empty()
                       && !child.hasUnknown;
-    return fits ? std::make_optional(QString::fromUtf8(child.text)) : std::nullopt;
+    return fits ? std::make_optional(child.text) : std::nullopt;
 }
 
 /// The value \a tag of an "edit" that assigns \a name.
 std::optional<QString> assignedValue(const FontsElement &edit, const char *name, const char *tag)
 {
-    const bool fits = edit.tag == "edit" && edit.attributes.size() == 2
-                      && edit.attributes.value("mode") == "assign" && edit.attributes.value("name") == name;
+    const bool fits = edit.tag == QLatin1String("edit")
+                      && edit.attributes == Attributes{{"mode", "assign"}, {"name", name}};
     return fits ? onlyValue(edit, tag) : std::nullopt;
 }
 
-std::optional<FontsItem> readValue(const FontsElement &edit)
+/// The bound of the sizes \a name that \a test sets with \a compare, or with the same and "equal".
+std::optional<double> readBound(const FontsElement &test, const char *name, const QByteArray &compare)
 {
-    for (const ValueElement &element : valueElements) {
-        if (const auto value = assignedValue(edit, element.name, element.tag))
-            return FontsItem{element.kind, *value, {}};
-    }
-    return {};
-}
-
-struct Bound {
-    QByteArray name;
-    bool isLower = false;
-    double value = 0;
-};
-
-std::optional<Bound> readBound(const FontsElement &test)
-{
-    const QByteArray name = test.attributes.value("name");
-    const QByteArray compare = test.attributes.value("compare");
-    const bool isLower = compare == "more" || compare == "more_eq";
-    const bool isUpper = compare == "less" || compare == "less_eq";
-    if (test.tag != "test" || test.attributes.size() != 3 || test.attributes.value("qual") != "any"
-        || (name != "size" && name != "pixelsize") || (!isLower && !isUpper))
+    Attributes wanted{{"qual", "any"}, {"name", name}, {"compare", compare}};
+    if (test.attributes != wanted)
+        wanted["compare"] += "_eq";
+    if (test.tag != QLatin1String("test") || test.attributes != wanted)
         return {};
     bool isNumber = false;
     const double value = onlyValue(test, "double").value_or(QString()).toDouble(&isNumber);
-    if (!isNumber || !std::isfinite(value))
-        return {};
-    return Bound{name, isLower, value};
+    return isNumber && std::isfinite(value) ? std::make_optional(value) : std::nullopt;
 }
 
-std::optional<FontsItem> readExcludeRange(const std::vector<FontsElement> &children)
+std::optional<FontsItem> readRange(const Property &property, const FontsElement &lower,
+                                   const FontsElement &upper)
 {
-    const std::optional<Bound> one = readBound(children[0]);
-    const std::optional<Bound> other = readBound(children[1]);
-    // With other tests or none the match says something else, and writing it as a range would change it.
-    if (!one || !other || one->name != other->name || one->isLower == other->isLower
-        || assignedValue(children[2], "antialias", "bool") != QLatin1String("false"))
+    const std::optional<double> from = readBound(lower, property.name, "more");
+    const std::optional<double> to = readBound(upper, property.name, "less");
+    if (!from || !to)
         return {};
-    return FontsItem{one->name == "pixelsize" ? FontsItem::Kind::ExcludePixels
-                                              : FontsItem::Kind::ExcludePoints,
-                     {},
-                     {one->isLower ? one->value : other->value, one->isLower ? other->value : one->value}};
+    return FontsItem{property.kind, {}, {*from, *to}};
 }
 
-QString boundForm(QLatin1String name, const char *compare, double value)
+QString boundForm(const char *name, const char *compare, double value)
 {
     return QStringLiteral(
                "\t<test qual=\"any\" name=\"%1\" compare=\"%2\">\n\t\t<double>%3</double>\n\t</test>\n")
-        .arg(name, QLatin1String(compare), QString::number(value, 'g', 6));
+        .arg(QLatin1String(name), QLatin1String(compare), QString::number(value, 'g', 6));
 }
 
-QString editForm(QLatin1String name, QLatin1String tag, const QString &value)
+QString editForm(const char *name, const char *tag, const QString &value)
 {
     return QStringLiteral("\t<edit mode=\"assign\" name=\"%1\">\n\t\t<%2>%3</%2>\n\t</edit>\n")
-        .arg(name, tag, value);
-}
-
-QString matchForm(const QString &content)
-{
-    return QLatin1String("<match target=\"font\">\n") + content + QLatin1String("</match>");
+        .arg(QLatin1String(name), QLatin1String(tag), value);
 }
 
 } // namespace
 
-bool FontsItem::isOn() const
-{
-    return text.toLower() == QLatin1String("true");
-}
-
 std::optional<FontsItem> readFontsItem(const FontsElement &element)
 {
-    if (element.hasUnknown)
+    if (element.hasUnknown || element.tag != QLatin1String("match")
+        || element.attributes.value("target") != "font" || !element.text.isEmpty())
         return {};
-    if (element.tag == "dir" && element.children.empty() && !element.text.isEmpty())
-        return FontsItem{FontsItem::Kind::Directory, QString::fromUtf8(element.text), {}};
-    if (element.tag != "match" || element.attributes.value("target") != "font" || !element.text.isEmpty())
-        return {};
-    switch (element.children.size()) {
-    case 1:
-        return readValue(element.children.front());
-    case 3:
-        return readExcludeRange(element.children);
-    default:
-        return {};
+    const std::vector<FontsElement> &children = element.children;
+    // With other tests or none a match with sizes says something else, and writing it as a range would change it.
+    const bool mayBeRange = children.size() == 3
+                            && assignedValue(children[2], "antialias", "bool") == QLatin1String("false");
+    for (const Property &property : properties) {
+        const bool isRange = FontsItem{property.kind}.isRange();
+        if (!isRange && children.size() == 1) {
+            if (const auto value = assignedValue(children[0], property.name, property.tag))
+                return FontsItem{property.kind, *value, {}};
+        } else if (isRange && mayBeRange) {
+            for (const int lower : {0, 1}) {
+                if (const auto range = readRange(property, children[lower], children[1 - lower]))
+                    return range;
+            }
+        }
     }
+    return {};
 }
 
-QString valueForm(FontsItem::Kind kind, const QString &value)
+QString fontsItemForm(const FontsItem &item)
 {
-    const auto *element = std::find_if(std::begin(valueElements), std::end(valueElements),
-                                       [kind](const ValueElement &element) { return element.kind == kind; });
-    Q_ASSERT(element != std::end(valueElements));
-    return matchForm(editForm(QLatin1String(element->name), QLatin1String(element->tag), value));
-}
-
-QString excludeForm(FontsItem::Kind kind, const ExcludeRange &range)
-{
-    const QLatin1String name(kind == FontsItem::Kind::ExcludePixels ? "pixelsize" : "size");
-    return matchForm(boundForm(name, "more_eq", range.from) + boundForm(name, "less_eq", range.to)
-                     + editForm(QLatin1String("antialias"), QLatin1String("bool"), QStringLiteral("false")));
-}
-
-QString directoryForm(const QString &directory, const QString &home)
-{
-    QString path = fileFormOfPath(directory);
-    const QString homeInDirectoryForm = directoryFormOfPath(home);
-    if (homeInDirectoryForm.size() > 1 && directoryFormOfPath(path).startsWith(homeInDirectoryForm))
-        path.replace(0, homeInDirectoryForm.size() - 1, QLatin1Char('~'));
-    path = path.toHtmlEscaped();
-    // A line break would start a new line of the form.
-    path.replace(QLatin1Char('\n'), QLatin1String("&#10;")).replace(QLatin1Char('\t'), QLatin1String("&#9;"));
-    return QLatin1String("<dir>") + path + QLatin1String("</dir>");
-}
-
-QString directoryFormOfPath(QString path, const QString &home)
-{
-    if (path.startsWith(QLatin1Char('~')))
-        path.replace(0, 1, home);
-    while (path.contains(QLatin1String("//")))
-        path.replace(QLatin1String("//"), QLatin1String("/"));
-    return path.endsWith(QLatin1Char('/')) ? path : path + QLatin1Char('/');
-}
-
-QString fileFormOfPath(QString path)
-{
-    if (path.size() > 1 && path.endsWith(QLatin1Char('/')))
-        path.chop(1);
-    return path;
+    const Property &property = properties[int(item.kind)];
+    const QString content = item.isRange() ? boundForm(property.name, "more_eq", item.range.from)
+                                                 + boundForm(property.name, "less_eq", item.range.to)
+                                                 + editForm("antialias", "bool", QStringLiteral("false"))
+                                           : editForm(property.name, property.tag, item.text);
+    return QLatin1String("<match target=\"font\">\n") + content + QLatin1String("</match>");
 }

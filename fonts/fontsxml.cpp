@@ -1,12 +1,8 @@
 #include "fonts/fontsxml.h"
 
-#include "base/chandle.h"
+#include <QXmlStreamReader>
 
-#include <memory>
-#include <type_traits>
 #include <utility>
-
-#include <expat.h>
 
 namespace {
 
@@ -17,178 +13,149 @@ constexpr int depthLimit = 200;
 class Reader
 {
 public:
-    Reader(const QByteArray &text, FontsXml *xml);
+    Reader(const QString &text, FontsXml *xml)
+        : m_text(text)
+        , m_xml(xml)
+        , m_reader(text)
+    {
+        m_reader.setNamespaceProcessing(false);
+    }
     bool read(QString *error);
 
 private:
-    static Reader *self(void *data) { return static_cast<Reader *>(data); }
-    void setHandlers();
-    void doctype(const char *systemId, bool hasSubset);
-    void startElement(const char *name, const char **attributes);
+    void readToken(QXmlStreamReader::TokenType token);
+    void doctype();
+    void startElement();
     void endElement();
-    void characters(const char *text, int size);
+    void characters();
     void remark();
-    void skippedEntity();
-    void flushCharacters();
-    void refuse(const QString &reason);
-    int eventStart() const { return int(XML_GetCurrentByteIndex(m_parser.get())); }
-    int eventEnd() const { return eventStart() + XML_GetCurrentByteCount(m_parser.get()); }
-    QByteArray eventText() const { return m_text.mid(eventStart(), eventEnd() - eventStart()); }
+    /// The token as it stands in the text; what an entity stands for has no place there.
+    QString tokenText() const { return m_start < m_end ? m_text.mid(m_start, m_end - m_start) : QString(); }
 
-    const QByteArray &m_text;
+    const QString &m_text;
     FontsXml *m_xml;
-    const std::unique_ptr<std::remove_pointer_t<XML_Parser>, Release<XML_ParserFree>> m_parser;
+    QXmlStreamReader m_reader;
     std::vector<FontsElement> m_open; // the elements around the place, from the child of the root on
-    QByteArray m_characters;          // they come in pieces
-    QByteArray m_rawCharacters;       // as they stand in the text
-    QString m_refusal;
     int m_depth = 0;
+    int m_start = 0; // of the token
+    int m_end = 0;   // behind it
 };
-
-Reader::Reader(const QByteArray &text, FontsXml *xml)
-    : m_text(text)
-    , m_xml(xml)
-    , m_parser(XML_ParserCreate("UTF-8"))
-{
-    XML_SetUserData(m_parser.get(), this);
-    setHandlers();
-}
-
-void Reader::setHandlers()
-{
-    const XML_Parser parser = m_parser.get();
-    XML_SetStartDoctypeDeclHandler(parser, [](void *data, const char *, const char *systemId, const char *,
-                                              int hasSubset) { self(data)->doctype(systemId, hasSubset); });
-    XML_SetElementHandler(
-        parser,
-        [](void *data, const char *name, const char **attributes) {
-            self(data)->startElement(name, attributes);
-        },
-        [](void *data, const char *) { self(data)->endElement(); });
-    XML_SetCharacterDataHandler(
-        parser, [](void *data, const char *text, int size) { self(data)->characters(text, size); });
-    XML_SetCommentHandler(parser, [](void *data, const char *) { self(data)->remark(); });
-    XML_SetProcessingInstructionHandler(parser,
-                                        [](void *data, const char *, const char *) { self(data)->remark(); });
-    XML_SetSkippedEntityHandler(parser, [](void *data, const char *, int isParameter) {
-        if (!isParameter)
-            self(data)->skippedEntity();
-    });
-}
 
 bool Reader::read(QString *error)
 {
-    if (XML_Parse(m_parser.get(), m_text.constData(), m_text.size(), 1) == XML_STATUS_OK)
-        return true;
-    const QString reason = m_refusal.isEmpty()
-                               ? QString::fromLatin1(XML_ErrorString(XML_GetErrorCode(m_parser.get())))
-                               : m_refusal;
-    *error = QStringLiteral("line %1: %2")
-                 .arg(QString::number(XML_GetCurrentLineNumber(m_parser.get())), reason);
-    return false;
+    while (!m_reader.atEnd())
+        readToken(m_reader.readNext());
+    if (m_reader.hasError())
+        *error = QStringLiteral("line %1: %2")
+                     .arg(QString::number(m_reader.lineNumber()), m_reader.errorString());
+    return !m_reader.hasError();
 }
 
-void Reader::refuse(const QString &reason)
+void Reader::readToken(QXmlStreamReader::TokenType token)
 {
-    m_refusal = reason;
-    XML_StopParser(m_parser.get(), XML_FALSE);
+    // The reader looks a character ahead to find the end of a text; the next tag begins there.
+    if (token != QXmlStreamReader::Characters || m_reader.isCDATA()) {
+        m_start = m_text.indexOf(QLatin1Char('<'), m_end);
+        m_end = int(m_reader.characterOffset());
+    }
+    switch (token) {
+    case QXmlStreamReader::DTD:
+        return doctype();
+    case QXmlStreamReader::StartElement:
+        return startElement();
+    case QXmlStreamReader::EndElement:
+        return endElement();
+    case QXmlStreamReader::Characters:
+        return characters();
+    case QXmlStreamReader::Comment:
+    case QXmlStreamReader::ProcessingInstruction:
+        return remark();
+    case QXmlStreamReader::EntityReference: // of which nobody here knows what it stands for
+        (m_open.empty() ? m_xml->holdsMore : m_open.back().hasUnknown) = true;
+        return;
+    default:
+        return;
+    }
 }
 
-void Reader::doctype(const char *systemId, bool hasSubset)
+void Reader::doctype()
 {
-    m_xml->holdsMore = m_xml->holdsMore || hasSubset;
-    if (!systemId && !hasSubset)
-        m_xml->doctype = m_text.lastIndexOf("<!DOCTYPE", eventStart());
+    m_xml->holdsMore = m_xml->holdsMore || m_reader.text().contains(QLatin1Char('['));
+    if (m_reader.text() == QLatin1String(bareDoctypeText))
+        m_xml->bareDoctype = m_text.lastIndexOf(QLatin1String(bareDoctypeText), m_end);
 }
 
-void Reader::startElement(const char *name, const char **attributes)
+void Reader::startElement()
 {
-    flushCharacters();
+    const QXmlStreamAttributes attributes = m_reader.attributes();
     if (++m_depth > depthLimit)
-        return refuse(QStringLiteral("elements are nested too deeply"));
+        return m_reader.raiseError(QStringLiteral("elements are nested too deeply"));
     if (m_depth == 1) {
-        if (qstrcmp(name, "fontconfig") != 0)
-            refuse(QStringLiteral("the root element is '%1', not 'fontconfig'").arg(QString::fromUtf8(name)));
-        m_xml->hasRoot = true;
-        m_xml->rootOpenEnd = eventEnd();
-        m_xml->holdsMore = m_xml->holdsMore || *attributes;
+        if (m_reader.qualifiedName() != QLatin1String("fontconfig"))
+            m_reader.raiseError(QStringLiteral("the root element is '%1', not 'fontconfig'")
+                                    .arg(m_reader.qualifiedName().toString()));
+        m_xml->rootOpenEnd = m_end;
+        m_xml->holdsMore = m_xml->holdsMore || !attributes.isEmpty();
         return;
     }
     FontsElement element;
-    element.tag = name;
-    for (; *attributes; attributes += 2)
-        element.attributes.insert(attributes[0], attributes[1]);
-    if (m_depth == 2) {
+    element.tag = m_reader.qualifiedName().toString();
+    for (const QXmlStreamAttribute &attribute : attributes)
+        element.attributes.insert(attribute.qualifiedName().toUtf8(), attribute.value().toUtf8());
+    if (m_open.empty()) {
         FontsXml::Child child;
-        child.start = eventStart();
-        child.startTagEnd = eventEnd();
-        child.hasMoreAttributes = element.attributes.size() > 1;
+        child.start = m_start;
+        child.startTagEnd = m_end;
+        child.hasMoreAttributes = attributes.size() > 1;
         m_xml->children.append(child);
     }
-    m_xml->children.last().essence += eventText();
+    m_xml->children.last().essence += tokenText();
     m_open.push_back(std::move(element));
 }
 
 void Reader::endElement()
 {
-    flushCharacters();
     if (--m_depth == 0) {
-        m_xml->rootClose = eventEnd() == m_xml->rootOpenEnd ? -1 : eventStart();
+        m_xml->rootClose = m_end == m_xml->rootOpenEnd ? -1 : m_start;
         return;
     }
     FontsXml::Child &child = m_xml->children.last();
-    child.essence += eventText();
+    child.essence += tokenText();
     FontsElement element = std::move(m_open.back());
     m_open.pop_back();
     if (!m_open.empty()) {
         m_open.back().children.push_back(std::move(element));
         return;
     }
-    child.end = eventEnd();
-    // What an entity stands for has no place in the text, so it can't be changed there.
-    if (m_text.at(child.start) == '<')
+    child.end = m_end;
+    // What comes out of an entity can't be changed in the text.
+    if (child.start < child.startTagEnd)
         child.item = readFontsItem(element);
-    if (!child.item)
-        child.essence.clear();
 }
 
-void Reader::characters(const char *text, int size)
+void Reader::characters()
 {
-    m_characters.append(text, size);
-    m_rawCharacters += eventText();
-}
-
-void Reader::flushCharacters()
-{
-    if (!m_characters.trimmed().isEmpty() && m_open.empty()) {
+    if (m_reader.text().trimmed().isEmpty())
+        return;
+    if (m_open.empty()) {
         m_xml->holdsMore = true;
-    } else if (!m_characters.trimmed().isEmpty()) {
-        m_open.back().text += m_characters;
-        m_xml->children.last().essence += m_rawCharacters;
+        return;
     }
-    m_characters.clear();
-    m_rawCharacters.clear();
+    m_open.back().text += m_reader.text();
+    m_xml->children.last().essence += m_reader.text();
 }
 
 void Reader::remark()
 {
     if (m_open.empty())
         m_xml->holdsMore = true;
-    else if (m_text.at(eventStart()) == '<') // not out of an entity
-        m_xml->children.last().remarks.append(eventText());
-}
-
-void Reader::skippedEntity()
-{
-    if (m_open.empty())
-        m_xml->holdsMore = true;
-    else
-        m_open.back().hasUnknown = true;
+    else if (const QString text = tokenText(); !text.isEmpty())
+        m_xml->children.last().remarks.append(text);
 }
 
 } // namespace
 
-bool readFontsXml(const QByteArray &text, FontsXml *xml, QString *error)
+bool readFontsXml(const QString &text, FontsXml *xml, QString *error)
 {
     *xml = {};
     return Reader(text, xml).read(error);

@@ -2,11 +2,10 @@
 
 #include "fonts/fontsitem.h"
 
-#include <QByteArray>
-#include <QList>
+#include <QStringList>
 #include <QVector>
 
-/// What is where in the text of a fontconfig file. Places are bytes of the text.
+/// What is where in the text of a fontconfig file.
 struct FontsXml {
     /// An element directly below the root.
     struct Child {
@@ -15,18 +14,19 @@ struct FontsXml {
         int startTagEnd = 0;
         int end = 0;
         bool hasMoreAttributes = false; ///< than a setting's element needs
-        QList<QByteArray> remarks;      ///< comments and processing instructions inside
-        QByteArray essence; ///< without them and the blanks between tags; of an element with an item
+        QStringList remarks;            ///< comments and processing instructions inside
+        QString essence;                ///< without them and the blanks between tags
     };
 
     QVector<Child> children;
-    bool hasRoot = false;
     bool holdsMore = false; ///< remarks, text or attributes beside the children
-    int doctype = -1;       ///< a document type declaration without a DTD; -1: there is none
-    int rootOpenEnd = 0;    ///< behind the root's start tag
+    int bareDoctype = -1;   ///< a document type declaration of nothing but the root's name; -1: there is none
+    int rootOpenEnd = 0;    ///< behind the root's start tag; 0: there is no root
     int rootClose = -1;     ///< the root's end tag; -1: the root is an empty-element tag
 };
 
-/// Reads \a text, which is UTF-8 whatever its declaration says. Returns false when it is not well-formed or its
-/// root is no fontconfig element; \a error says why.
-[[nodiscard]] bool readFontsXml(const QByteArray &text, FontsXml *xml, QString *error);
+/// A document type declaration without the name of its DTD.
+inline constexpr char bareDoctypeText[] = "<!DOCTYPE fontconfig>";
+
+/// Reads \a text. Returns false when it is not well-formed or its root is no fontconfig element; \a error says why.
+[[nodiscard]] bool readFontsXml(const QString &text, FontsXml *xml, QString *error);

@@ -1,12 +1,48 @@
 #include "fonts/kfontrequester.h"
 
 #include "fonts/nearestfont.h"
-#include "fonts/previewlabel.h"
 #include "settings/rolefonttext.h"
 
 #include <QFontDialog>
+#include <QGuiApplication>
 #include <QHBoxLayout>
+#include <QLabel>
+#include <QPainter>
 #include <QPushButton>
+#include <QStyle>
+
+namespace {
+
+/// Shows one line of text in a font of any size, elided where there is no room: a long family name or a huge font
+/// never forces the window to grow. Its text() stays whole.
+class PreviewLabel : public QLabel
+{
+    // No Q_OBJECT: to style sheets and assistive tools it is a plain QLabel.
+public:
+    using QLabel::QLabel;
+
+    QSize minimumSizeHint() const override
+    {
+        const QFontMetrics ordinary(QGuiApplication::font());
+        const QSize least(ordinary.averageCharWidth() * 10, ordinary.height() * 2);
+        return QLabel::minimumSizeHint().boundedTo(least);
+    }
+
+protected:
+    void paintEvent(QPaintEvent * /*event*/) override
+    {
+        QPainter painter(this);
+        drawFrame(&painter);
+        const int indent = QFontMetrics(QGuiApplication::font()).horizontalAdvance(QLatin1Char('x')) / 2;
+        const QRect area = contentsRect().adjusted(indent, 0, -indent, 0);
+        const QString shown = fontMetrics().elidedText(text(), Qt::ElideRight, area.width());
+        const Qt::Alignment place = QStyle::visualAlignment(layoutDirection(),
+                                                            Qt::AlignLeft | Qt::AlignVCenter);
+        style()->drawItemText(&painter, area, int(place), palette(), isEnabled(), shown, foregroundRole());
+    }
+};
+
+} // namespace
 
 class KFontRequesterPrivate : public QObject
 {
@@ -25,7 +61,6 @@ public:
     bool fixedOnly;
     QLabel *sampleLabel = nullptr;
     QPushButton *button = nullptr;
-    QString sampleText; // empty: the preview names family and size
     QString title;
     QFont selectedFont;
 };
@@ -36,6 +71,7 @@ void KFontRequesterPrivate::buildWidgets()
     layout->setContentsMargins(0, 0, 0, 0);
     sampleLabel = new PreviewLabel(q);
     sampleLabel->setObjectName(QStringLiteral("previewLabel"));
+    sampleLabel->setTextFormat(Qt::PlainText); // family names are anybody's text
     sampleLabel->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
     button = new QPushButton(KFontRequester::tr("..."), q);
     button->setObjectName(QStringLiteral("chooseButton"));
@@ -56,11 +92,8 @@ void KFontRequesterPrivate::displaySampleText()
 {
     sampleLabel->setFont(selectedFont);
     const int size = selectedFont.pointSize() == -1 ? selectedFont.pixelSize() : selectedFont.pointSize();
-    if (sampleText.isEmpty())
-        sampleLabel->setText(
-            KFontRequester::tr("%1 %2").arg(familyDisplayName(selectedFont.family()), QString::number(size)));
-    else
-        sampleLabel->setText(sampleText);
+    sampleLabel->setText(
+        KFontRequester::tr("%1 %2").arg(familyDisplayName(selectedFont.family()), QString::number(size)));
 }
 
 void KFontRequesterPrivate::setToolTips()

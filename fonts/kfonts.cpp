@@ -1,8 +1,8 @@
 #include "fonts/kfonts.h"
 
 #include "fonts/fontaasettings.h"
+#include "fonts/fontsfile.h"
 #include "fonts/fontuseitem.h"
-#include "fonts/userfontfiles.h"
 #include "fonts/xresources.h"
 #include "freedesktop/xresources.h"
 #include "pages/common/messagebox.h"

@@ -2,7 +2,6 @@
 
 #include "base/chandle.h"
 #include "base/diagnostics.h"
-#include "base/xdgdirectories.h"
 #include "fonts/fontsfile.h"
 #include "settings/backup.h"
 
@@ -10,7 +9,6 @@
 #include <QThread>
 #include <QX11Info>
 
-#include <algorithm>
 #include <memory>
 #include <utility>
 
@@ -37,14 +35,14 @@ double screenDpi()
     return dpi > 0 ? dpi : 96;
 }
 
-QString boolForm(Kind kind, bool value)
+bool truthOf(const FontsItem &item, bool fallback)
 {
-    return valueForm(kind, value ? QStringLiteral("true") : QStringLiteral("false"));
+    return item.isEmpty() ? fallback : item.text.toLower() == QLatin1String("true");
 }
 
-QString rangeForm(Kind kind, const ExcludeRange &range)
+QString truthText(bool value)
 {
-    return range.isZero() ? QString() : excludeForm(kind, range);
+    return value ? QStringLiteral("true") : QStringLiteral("false");
 }
 
 } // namespace
@@ -65,25 +63,20 @@ bool KXftConfig::reset()
         printDiagnostic(QStringLiteral("Can't use %1: %2").arg(m_file, m_refusal));
         return false;
     }
+    if (!(m_required & ExcludedRange)
+        || !bringIntoAgreement(&m_settings.points, &m_settings.pixels, screenDpi()))
+        return true;
+    m_madeChanges = true;
     QString error; // told already; whoever edits something tries again
-    if (bringRangesIntoAgreement() && !apply(&error))
+    if (!apply(&error))
         read();
     return true;
 }
 
 void KXftConfig::read()
 {
-    m_madeChanges = false;
-    m_subPixel = {};
-    m_excludeRange = {};
-    m_excludePixelRange = {};
-    m_hint = {};
-    m_hinting = {};
-    m_antiAliasing = {};
-    m_antiAliasing.set = systemAntiAliasing();
-    m_directories.clear();
-
     const FileContent file = readFontsFile(m_file);
+    m_madeChanges = false;
     m_content = file.content;
     m_refusal = file.error;
     QString error;
@@ -91,52 +84,18 @@ void KXftConfig::read()
         m_refusal = error;
     else if (file.state == FileState::Missing && !canMakeFile(m_file))
         m_refusal = QStringLiteral("It does not exist and can't be made");
-    for (int child = 0; child < m_document.children().size(); ++child) {
-        if (const auto &item = m_document.children().at(child).item)
-            readItem(*item, child);
-    }
-}
-
-void KXftConfig::readItem(const FontsItem &item, int child)
-{
-    switch (item.kind) {
-    case Kind::Directory:
-        m_directories.append(ListItem{{child}, directoryFormOfPath(item.text, homeDirectory())});
-        break;
-    case Kind::SubPixel:
-        m_subPixel = {{child}, FontRendering::subPixelOrder(item.text)};
-        break;
-    case Kind::HintStyle:
-        m_hint = {{child}, FontRendering::hintStyle(item.text)};
-        break;
-    case Kind::Hinting:
-        m_hinting = {{child}, item.isOn()};
-        break;
-    case Kind::AntiAliasing:
-        m_antiAliasing = {{child}, item.isOn()};
-        break;
-    case Kind::ExcludePoints:
-        m_excludeRange = {{child}, item.range};
-        break;
-    case Kind::ExcludePixels:
-        m_excludePixelRange = {{child}, item.range};
-        break;
-    }
+    m_settings = {FontRendering::subPixelOrder(m_document.item(Kind::SubPixel).text),
+                  m_document.item(Kind::ExcludePoints).range,
+                  m_document.item(Kind::ExcludePixels).range,
+                  FontRendering::hintStyle(m_document.item(Kind::HintStyle).text),
+                  truthOf(m_document.item(Kind::Hinting), true),
+                  truthOf(m_document.item(Kind::AntiAliasing), systemAntiAliasing())};
 }
 
 bool KXftConfig::wasRewritten() const
 {
     const FileContent now = readFontsFile(m_file);
     return now.state == FileState::Regular && now.content != m_content;
-}
-
-bool KXftConfig::bringRangesIntoAgreement()
-{
-    const bool toBeWritten = (m_required & ExcludedRange)
-                             && bringIntoAgreement(&m_excludeRange.range, &m_excludePixelRange.range,
-                                                   screenDpi());
-    m_madeChanges = m_madeChanges || toBeWritten;
-    return toBeWritten;
 }
 
 bool KXftConfig::apply(QString *error)
@@ -162,7 +121,10 @@ bool KXftConfig::writeOrMerge(FontsFileLock *lock, QString *error)
         if (wasRewritten()) {
             if (!std::exchange(isTold, true))
                 printDiagnostic(QStringLiteral("font config file was rewritten since we last read!"));
-            merge();
+            const Settings wanted = m_settings;
+            read();
+            m_settings = wanted;
+            m_madeChanges = true;
         }
         if (!m_refusal.isEmpty()) // half of it is written, perhaps
             QThread::msleep(rereadPauseMs);
@@ -178,163 +140,65 @@ bool KXftConfig::writeOrMerge(FontsFileLock *lock, QString *error)
 /// False with an empty \a error when another program came in between.
 bool KXftConfig::write(FontsFileLock *lock, QString *error)
 {
-    bringRangesIntoAgreement();
-    const QByteArray content = m_document.withChanges(changes());
+    const QByteArray content = m_document.withItems(items());
     // A rewrite that changes nothing can lose nothing, and would only drive the older copies out.
     if (m_content != content && !m_document.holdsOnlySettings()) {
         if (const QString copy = backUp(m_file); !copy.isEmpty())
             printDiagnostic(QStringLiteral("Saved a copy of %1 as %2").arg(m_file, copy));
     }
-    if (!lock->replace(
-            content, [this] { return !wasRewritten(); }, error))
+    const auto isCurrent = [this] { return !wasRewritten(); };
+    if (!lock->replace(content, isCurrent, error) || readFontsFile(m_file).content != content)
         return false;
-    const KXftConfig wanted = *this;
     read();
-    if (m_content == content)
-        return true;
-    *this = wanted;
-    return false;
+    return true;
 }
 
-void KXftConfig::merge()
+QVector<FontsItem> KXftConfig::items() const
 {
-    const KXftConfig wanted = *this;
-    read();
-    m_madeChanges = true;
-    if (m_required & Directories) {
-        for (const ListItem &directory : wanted.m_directories) {
-            if (directory.toBeRemoved)
-                removeDirectory(directory.string);
-            else
-                addDirectory(directory.string);
-        }
-    }
-    // Both units, so that a conversion there and back can't move the bounds.
-    m_excludeRange.range = wanted.m_excludeRange.range;
-    m_excludePixelRange.range = wanted.m_excludePixelRange.range;
-    m_subPixel.type = wanted.m_subPixel.type;
-    m_hint.style = wanted.m_hint.style;
-    m_hinting.set = wanted.m_hinting.set;
-    m_antiAliasing.set = wanted.m_antiAliasing.set;
-}
-
-void KXftConfig::addChange(QVector<FontsDocument::Change> *changes, Kind kind, const Item &item,
-                           const QString &form, int before) const
-{
-    if (!form.isEmpty()) {
-        changes->append({item.child, form, before});
-        return;
-    }
-    // An older element of the same kind would come back into force if only the last one went.
-    for (int child = 0; child < m_document.children().size(); ++child) {
-        if (const auto &found = m_document.children().at(child).item; found && found->kind == kind)
-            changes->append({child, {}, -1});
-    }
-}
-
-int KXftConfig::firstExcludeRange() const
-{
-    const auto &children = m_document.children();
-    const auto first = std::find_if(
-        children.begin(), children.end(), [this](const FontsDocument::Child &child) {
-            return child.item
-                   && ((child.item->kind == Kind::ExcludePoints && !m_excludeRange.range.isZero())
-                       || (child.item->kind == Kind::ExcludePixels && !m_excludePixelRange.range.isZero()));
-        });
-    return first == children.end() ? -1 : int(first - children.begin());
-}
-
-QVector<FontsDocument::Change> KXftConfig::changes() const
-{
-    QVector<FontsDocument::Change> changes;
-    for (const ListItem &directory : m_directories) {
-        if (directory.child < 0 && !directory.toBeRemoved)
-            changes.append({-1, directoryForm(directory.string, homeDirectory()), -1});
-        else if (directory.child >= 0 && directory.toBeRemoved)
-            changes.append({directory.child, {}, -1});
-    }
+    const Settings &settings = m_settings;
+    QVector<FontsItem> items;
     if (m_required & SubPixelType)
-        addChange(&changes, Kind::SubPixel, m_subPixel,
-                  m_subPixel.type == SubPixelOrder::None
-                      ? QString()
-                      : valueForm(Kind::SubPixel, FontRendering::fileName(m_subPixel.type)));
+        items.append({Kind::SubPixel, settings.subPixelType == SubPixelOrder::None
+                                          ? QString()
+                                          : FontRendering::fileName(settings.subPixelType)});
     if (m_required & HintingStyle) {
-        addChange(&changes, Kind::Hinting, m_hinting, boolForm(Kind::Hinting, m_hinting.set));
-        addChange(&changes, Kind::HintStyle, m_hint,
-                  m_hint.style == HintStyle::NotSet
-                      ? QString()
-                      : valueForm(Kind::HintStyle, FontRendering::fileName(m_hint.style)));
+        items.append({Kind::Hinting, truthText(settings.hinting)});
+        items.append({Kind::HintStyle, settings.hintStyle == HintStyle::NotSet
+                                           ? QString()
+                                           : FontRendering::fileName(settings.hintStyle)});
     }
-    // The rules apply in their order: behind a range, the new one would take it out of force.
     if (m_required & AntiAlias)
-        addChange(&changes, Kind::AntiAliasing, m_antiAliasing,
-                  boolForm(Kind::AntiAliasing, m_antiAliasing.set),
-                  (m_required & ExcludedRange) ? firstExcludeRange() : -1);
+        items.append({Kind::AntiAliasing, truthText(settings.antiAliasing)});
     if (m_required & ExcludedRange) {
-        addChange(&changes, Kind::ExcludePoints, m_excludeRange,
-                  rangeForm(Kind::ExcludePoints, m_excludeRange.range));
-        addChange(&changes, Kind::ExcludePixels, m_excludePixelRange,
-                  rangeForm(Kind::ExcludePixels, m_excludePixelRange.range));
+        items.append({Kind::ExcludePoints, {}, settings.points});
+        items.append({Kind::ExcludePixels, {}, settings.pixels});
     }
-    return changes;
+    return items;
+}
+
+void KXftConfig::setRanges(const ExcludeRange &points, const ExcludeRange &pixels)
+{
+    m_settings.points = points;
+    m_settings.pixels = pixels;
+    bringIntoAgreement(&m_settings.points, &m_settings.pixels, screenDpi());
+    m_madeChanges = true;
 }
 
 void KXftConfig::setExcludeRange(const ExcludeRange &points)
 {
-    if (m_excludeRange.range.equals(points))
-        return;
-    // The pixels would win when both are brought into agreement.
-    ExcludeRange agreed = points;
-    m_excludePixelRange.range = {};
-    bringIntoAgreement(&agreed, &m_excludePixelRange.range, screenDpi());
-    m_excludeRange.range = points;
-    m_madeChanges = true;
+    if (!m_settings.points.equals(points))
+        setRanges(points, {});
 }
 
 void KXftConfig::setExcludePixelRange(const ExcludeRange &pixels)
 {
-    if (m_excludePixelRange.range.equals(pixels))
-        return;
-    ExcludeRange agreed = pixels;
-    m_excludeRange.range = {};
-    bringIntoAgreement(&m_excludeRange.range, &agreed, screenDpi());
-    m_excludePixelRange.range = pixels;
-    m_madeChanges = true;
+    if (!m_settings.pixels.equals(pixels))
+        setRanges({}, pixels);
 }
 
 void KXftConfig::setHintStyle(HintStyle style)
 {
-    set(&m_hint.style, style);
+    set(&m_settings.hintStyle, style);
     if (style != HintStyle::NotSet)
         setHinting(style != HintStyle::None);
-}
-
-QStringList KXftConfig::directories() const
-{
-    QStringList paths;
-    for (const ListItem &directory : m_directories) {
-        if (!directory.toBeRemoved)
-            paths.append(directory.string);
-    }
-    return paths;
-}
-
-void KXftConfig::addDirectory(const QString &path)
-{
-    const QString wanted = directoryFormOfPath(path);
-    for (ListItem &directory : m_directories) {
-        if (directory.string == wanted)
-            return set(&directory.toBeRemoved, false);
-    }
-    m_directories.append(ListItem{{}, wanted});
-    m_madeChanges = true;
-}
-
-void KXftConfig::removeDirectory(const QString &path)
-{
-    const QString unwanted = directoryFormOfPath(path);
-    for (ListItem &directory : m_directories) {
-        if (directory.string == unwanted)
-            set(&directory.toBeRemoved, true);
-    }
 }

@@ -1,8 +1,7 @@
 #include "fonts/fontsdocument.h"
 #include "tests/fuzz/fuzzing.h"
 
-// A file that was understood is understood after a change, too, with one child more for an added one, one less for a
-// removed one.
+// A file that was understood is understood after a change, too, and holds what was set or removed.
 int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     const FuzzInput input(data, size);
@@ -13,20 +12,17 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
         require(document.children().isEmpty());
         return 0;
     }
-    FontsDocument changed; // an untouched file may get a prolog
-    require(changed.setContent(document.withChanges({}), &error));
-    require(changed.children().size() == document.children().size());
-
-    FontsDocument::Change addition;
-    addition.form = QStringLiteral("<dir>/usr/share/fonts</dir>");
-    require(changed.setContent(document.withChanges({addition}), &error));
-    require(changed.children().size() == document.children().size() + 1);
-
-    for (int child = 0; child < document.children().size(); ++child) {
-        if (!document.children().at(child).item)
-            continue;
-        require(changed.setContent(document.withChanges({{child, {}, -1}}), &error));
-        require(changed.children().size() == document.children().size() - 1);
+    const FontsItem wanted[] = {{FontsItem::Kind::SubPixel, QStringLiteral("vbgr")},
+                                {FontsItem::Kind::AntiAliasing, QStringLiteral("true")},
+                                {FontsItem::Kind::ExcludePixels, {}, {8, 15}}};
+    for (const FontsItem &item : wanted) {
+        FontsDocument changed;
+        require(changed.setContent(document.withItems({item}), &error));
+        require(changed.item(item.kind).text == item.text);
+        require(changed.item(item.kind).range.equals(item.range));
+        require(changed.setContent(document.withItems({FontsItem{item.kind}}), &error));
+        require(changed.item(item.kind).isEmpty());
+        require(changed.children().size() <= document.children().size());
     }
     return 0;
 }
