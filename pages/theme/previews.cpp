@@ -1,127 +1,70 @@
 #include "pages/theme/previews.h"
 
-#include <QLinearGradient>
 #include <QPainter>
-
-#include <cstring>
 
 namespace {
 
-constexpr QImage::Format canvasFormat = QImage::Format_ARGB32_Premultiplied;
-constexpr int pixelSize = 4;
 constexpr int buttonMargin = 5; // right of the close button
 constexpr int closeGap = 2;     // between maximise and close; there is none between minimise and maximise
 
-QImage transparentCanvas(const QSize &size)
+/// Copies images to a canvas that is transparent before.
+class CanvasPainter : public QPainter
 {
-    QImage canvas(size, canvasFormat);
-    canvas.fill(Qt::transparent);
-    return canvas;
-}
-
-/// The part of \a image that is needed, in the canvas's format: images may be far larger than the canvas.
-QImage converted(const QImage &image, const QRect &part)
-{
-    const QImage cut = part == image.rect() ? image : image.copy(part);
-    return cut.format() == canvasFormat ? cut : cut.convertToFormat(canvasFormat);
-}
-
-/// Copies \a part of \a image to \a target on the canvas.
-void copyPart(QImage &canvas, const QPoint &target, const QImage &image, const QRect &part)
-{
-    const QPoint shift = target - part.topLeft();
-    const QRect visible = part.intersected(image.rect()).translated(shift).intersected(canvas.rect());
-    if (visible.isEmpty())
-        return;
-    const QImage source = converted(image, visible.translated(-shift));
-    for (int row = 0; row < visible.height(); ++row)
-        std::memcpy(canvas.scanLine(visible.y() + row) + visible.x() * pixelSize, source.constScanLine(row),
-                    std::size_t(visible.width()) * pixelSize);
-}
-
-void copyImage(QImage &canvas, const QPoint &target, const QImage &image)
-{
-    copyPart(canvas, target, image, image.rect());
-}
-
-/// Fills \a area of the canvas with copies of \a image laid out from the canvas's origin.
-void tile(QImage &canvas, const QRect &area, const QImage &image)
-{
-    const QRect visible = area.intersected(canvas.rect());
-    if (area.isEmpty() || visible.isEmpty() || image.isNull()) // Qt turns a negative width over
-        return;
-    const QImage source = converted(image, image.rect().intersected(canvas.rect()));
-    for (int y = visible.top(); y <= visible.bottom(); ++y) {
-        const auto *from = reinterpret_cast<const QRgb *>(source.constScanLine(y % image.height()));
-        auto *to = reinterpret_cast<QRgb *>(canvas.scanLine(y));
-        for (int x = visible.left(); x <= visible.right(); ++x)
-            to[x] = from[x % image.width()];
+public:
+    explicit CanvasPainter(QImage *canvas)
+    {
+        canvas->fill(Qt::transparent);
+        begin(canvas);
+        setCompositionMode(CompositionMode_Source);
     }
-}
 
-void copyReleasedButton(QImage &canvas, const QPoint &target, const QImage &button)
-{
-    copyPart(canvas, target, button, QRect(0, 0, button.width(), button.height() / 2));
-}
+    /// Fills \a area with copies of \a image laid out from the canvas's origin.
+    void tile(const QRect &area, const QImage &image)
+    {
+        // The image may be far larger than the canvas. Qt turns a negative width over.
+        if (!area.isEmpty())
+            fillRect(area, QBrush(image.copy(image.rect().intersected(window()))));
+    }
+
+    void drawReleasedButton(int x, int y, const QImage &button)
+    {
+        const QRect released(0, 0, button.width(), button.height() / 2);
+        if (!released.isEmpty()) // for Qt the whole image
+            drawImage(QPoint(x, y), button, released);
+    }
+};
 
 } // namespace
 
-QImage threeImagesPreview(const QSize &size, const QImage &first, const QImage &second, const QImage &third)
+QImage threeImagesPreview(const QSize &size, const QVector<QImage> &images)
 {
-    QImage canvas = transparentCanvas(size);
-    const int step = size.width() / 3;
+    QImage canvas(size, QImage::Format_ARGB32_Premultiplied);
+    CanvasPainter painter(&canvas);
     int x = 0;
-    for (const QImage *image : {&first, &second, &third}) {
-        copyImage(canvas, QPoint(x, size.height() / 2 - image->height() / 2), *image);
-        x += step;
+    for (const QImage &image : images) {
+        painter.drawImage(x, size.height() / 2 - image.height() / 2, image);
+        x += size.width() / 3;
     }
     return canvas;
 }
 
 QImage decorPreview(const QSize &size, const DecorImages &images)
 {
-    QImage canvas = transparentCanvas(size);
+    QImage canvas(size, QImage::Format_ARGB32_Premultiplied);
+    CanvasPainter painter(&canvas);
     const int width = size.width();
     const int top = images.topFrame.height();
-    copyImage(canvas, QPoint(0, 0), images.topLeftCorner);
-    copyImage(canvas, QPoint(width - images.topRightCorner.width(), 0), images.topRightCorner);
-    tile(canvas,
-         QRect(images.leftFrame.width(), top, width - images.rightFrame.width() - 1, images.title.height()),
-         images.title);
-    tile(canvas,
-         QRect(images.topLeftCorner.width(), 0,
-               width - images.topLeftCorner.width() - images.topRightCorner.width(), top),
-         images.topFrame);
+    const int left = images.topLeftCorner.width();
+    const int right = images.topRightCorner.width();
+    painter.drawImage(0, 0, images.topLeftCorner);
+    painter.drawImage(width - right, 0, images.topRightCorner);
+    const int titleWidth = width - images.rightFrame.width() - 1;
+    painter.tile(QRect(images.leftFrame.width(), top, titleWidth, images.title.height()), images.title);
+    painter.tile(QRect(left, 0, width - left - right, top), images.topFrame);
     const int closeX = width - buttonMargin - images.closeButton.width();
     const int maximizeX = closeX - (images.maximizeButton.width() + closeGap);
-    const int minimizeX = maximizeX - images.minimizeButton.width();
-    copyReleasedButton(canvas, QPoint(closeX, top), images.closeButton);
-    copyReleasedButton(canvas, QPoint(maximizeX, top), images.maximizeButton);
-    copyReleasedButton(canvas, QPoint(minimizeX, top), images.minimizeButton);
+    painter.drawReleasedButton(closeX, top, images.closeButton);
+    painter.drawReleasedButton(maximizeX, top, images.maximizeButton);
+    painter.drawReleasedButton(maximizeX - images.minimizeButton.width(), top, images.minimizeButton);
     return canvas;
-}
-
-QImage solidSwatch(const QSize &size, const QColor &color)
-{
-    QImage canvas(size, canvasFormat);
-    canvas.fill(color.isValid() ? color : QColor(Qt::transparent));
-    return canvas;
-}
-
-QImage gradientSwatch(const QSize &size, const QColor &left, const QColor &right)
-{
-    QImage canvas = transparentCanvas(size);
-    QLinearGradient gradient(0, 0, size.width(), 0);
-    gradient.setColorAt(0.0, left);
-    gradient.setColorAt(1.0, right);
-    QPainter painter(&canvas);
-    painter.fillRect(canvas.rect(), gradient);
-    return canvas;
-}
-
-QImage colorSwatch(const QSize &size, const QColor &first, const QColor &second)
-{
-    if (first.isValid() && second.isValid())
-        return gradientSwatch(size, first, second);
-    return solidSwatch(size, first.isValid() ? first : QColor(Qt::white));
 }

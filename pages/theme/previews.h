@@ -1,8 +1,7 @@
 #pragma once
 
-#include <QColor>
 #include <QImage>
-#include <QSize>
+#include <QVector>
 
 /// The images of a decoration theme's active window.
 struct DecorImages {
@@ -22,16 +21,7 @@ struct DecorImages {
 
 /// Three images side by side on a transparent canvas, each in the middle of its height. Null images leave
 /// their place empty.
-QImage threeImagesPreview(const QSize &size, const QImage &first, const QImage &second, const QImage &third);
+QImage threeImagesPreview(const QSize &size, const QVector<QImage> &images);
 
 /// A miniature of a title bar: corners, title, top frame, and the three buttons.
 QImage decorPreview(const QSize &size, const DecorImages &images);
-
-/// One colour all over; transparent for an invalid one.
-QImage solidSwatch(const QSize &size, const QColor &color);
-
-/// From \a left at the left edge to \a right at the right edge.
-QImage gradientSwatch(const QSize &size, const QColor &left, const QColor &right);
-
-/// The swatch of an element: a gradient between two valid colours, else the first colour, else white.
-QImage colorSwatch(const QSize &size, const QColor &first, const QColor &second);

@@ -1,33 +1,58 @@
 #include "pages/theme/themelists.h"
 
+#include "base/atomicfile.h"
+#include "base/chandle.h"
 #include "base/diagnostics.h"
 #include "freedesktop/cursorfiles.h"
+#include "freedesktop/images.h"
 #include "freedesktop/themedirectories.h"
 #include "pages/theme/previews.h"
-#include "pages/theme/themeimages.h"
 #include "platform/qazicontheme.h"
+#include "settings/directories.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QIconEngine>
 #include <QPixmap>
+#include <QX11Info>
 
 #include <algorithm>
+#include <cstdio>
 #include <functional>
+#include <memory>
+
+#include <X11/Xcursor/Xcursor.h>
 
 namespace {
 
-constexpr unsigned pointerShape = 68;
-constexpr unsigned watchShape = 150;
-constexpr unsigned textShape = 152;
 constexpr int themeIconSize = 32;
+constexpr qint64 iconPixelLimit = 4096 * 4096;
+constexpr int rowLimit = 2048; // of a decoration image; previews are a few dozen pixels high
 
-/// An icon of \a size whose picture \a draw makes when it is shown for the first time.
+struct DecorImage {
+    const char *file;
+    QImage DecorImages::*image;
+};
+
+// clang-format off
+constexpr DecorImage decorFiles[] = {
+    {"titleAT.xpm",   &DecorImages::title},
+    {"frameAT.xpm",   &DecorImages::topFrame},
+    {"frameATL.xpm",  &DecorImages::topLeftCorner},
+    {"frameATR.xpm",  &DecorImages::topRightCorner},
+    {"frameAL.xpm",   &DecorImages::leftFrame},
+    {"frameAR.xpm",   &DecorImages::rightFrame},
+    {"minimizeA.xpm", &DecorImages::minimizeButton},
+    {"maximizeA.xpm", &DecorImages::maximizeButton},
+    {"closeA.xpm",    &DecorImages::closeButton}};
+// clang-format on
+
+/// An icon whose picture \a draw makes when it is shown for the first time.
 class LazyIconEngine : public QIconEngine
 {
 public:
-    LazyIconEngine(const QSize &size, const std::function<QImage()> &draw)
-        : m_size(size)
-        , m_draw(draw)
+    explicit LazyIconEngine(const std::function<QImage()> &draw)
+        : m_draw(draw)
     {}
 
     void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State state) override
@@ -37,11 +62,6 @@ public:
     QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state) override
     {
         return icon().pixmap(size, mode, state);
-    }
-    QSize actualSize(const QSize &size, QIcon::Mode /*mode*/, QIcon::State /*state*/) override
-    {
-        const bool fits = size.width() >= m_size.width() && size.height() >= m_size.height();
-        return fits ? m_size : m_size.scaled(size, Qt::KeepAspectRatio);
     }
     QIconEngine *clone() const override { return new LazyIconEngine(*this); }
 
@@ -53,7 +73,6 @@ private:
         return m_icon;
     }
 
-    QSize m_size;
     std::function<QImage()> m_draw;
     QIcon m_icon;
 };
@@ -63,8 +82,41 @@ QStringList sortedNames(const List<char> &list)
     QStringList names;
     for (int i = 0; i < list.count(); ++i)
         names.append(QFile::decodeName(list.at(i)));
-    std::sort(names.begin(), names.end());
+    names.sort();
     return names;
+}
+
+QIcon iconOf(const QImage &preview)
+{
+    return QIcon(QPixmap::fromImage(preview));
+}
+
+/// The cursor \a shape of a theme at the display's default cursor size; null when there is none.
+QImage loadCursorImage(const char *shape, const QString &theme, ThemeDirectories &directories)
+{
+    using FilePtr = std::unique_ptr<std::FILE, Release<std::fclose>>;
+    using CursorPtr = std::unique_ptr<XcursorImage, Release<XcursorImageDestroy>>;
+    const QByteArray path = cursorFile(directories, QFile::encodeName(theme), shape);
+    // A FIFO among a theme's cursors would stop the program.
+    const FilePtr file(QFileInfo(QFile::decodeName(path)).isFile() ? std::fopen(path.constData(), "re")
+                                                                   : nullptr);
+    const CursorPtr cursor(file ? XcursorFileLoadImage(file.get(), XcursorGetDefaultSize(QX11Info::display()))
+                                : nullptr);
+    if (!cursor)
+        return {};
+    // Premultiplied already, as X wants it.
+    return QImage(reinterpret_cast<const uchar *>(cursor->pixels), int(cursor->width), int(cursor->height),
+                  QImage::Format_ARGB32_Premultiplied)
+        .copy();
+}
+
+/// The icon at \a path: an image file's own pixels, or an SVG drawn in the themes' size. Null when it can't be read, or is
+/// so large that it can't be meant as an icon.
+QImage loadIconImage(const QString &path)
+{
+    const QSize size(themeIconSize, themeIconSize);
+    return isSvg(path) ? drawSvg(readRegularFile(path).content, size, Qt::transparent, Qt::KeepAspectRatio)
+                       : loadImage(path, iconPixelLimit);
 }
 
 QString iconPath(const QazIconTheme &theme, const char *name, const char *context)
@@ -74,17 +126,50 @@ QString iconPath(const QazIconTheme &theme, const char *name, const char *contex
     return path;
 }
 
-/// The preview of an icon theme from the paths of its home, trash and desktop icons.
-QImage placesPreview(const QSize &size, const QStringList &paths)
+/// An XPM without the rows below \a rowLimit: no preview shows them, and decoding thousands takes seconds. What
+/// isn't an XPM of more rows is returned as it is.
+QByteArray withoutHiddenRows(const QByteArray &xpm)
 {
-    return threeImagesPreview(size, loadIconImage(paths.at(0), themeIconSize),
-                              loadIconImage(paths.at(1), themeIconSize),
-                              loadIconImage(paths.at(2), themeIconSize));
+    const int begin = xpm.indexOf('"') + 1;
+    const int end = xpm.indexOf('"', begin);
+    QByteArrayList values
+        = xpm.mid(begin, qMax(0, end - begin)).simplified().split(' '); // width, height, colours
+    if (begin == 0 || values.size() < 4 || values.at(1).toInt() <= rowLimit)
+        return xpm;
+    int position = end;
+    // Each colour and each row is a string of its own, between two quotes.
+    for (qint64 quotes = 2 * (qint64(values.at(2).toInt()) + rowLimit); quotes > 0 && position >= 0; --quotes)
+        position = xpm.indexOf('"', position + 1);
+    if (position < 0)
+        return xpm;
+    values[1] = QByteArray::number(rowLimit);
+    return xpm.left(begin) + values.join(' ') + xpm.mid(end, position + 1 - end) + "\n};\n";
 }
 
-QIcon iconOf(const QImage &preview)
+QImage loadXpm(const QByteArray &path)
 {
-    return QIcon(QPixmap::fromImage(preview));
+    const FileContent file = readRegularFile(QFile::decodeName(path));
+    if (file.state != FileState::Regular)
+        return {};
+    const QImage image = QImage::fromData(withoutHiddenRows(file.content), "XPM");
+    return image.isNull() ? QImage::fromData(file.content) : image;
+}
+
+/// All images of the decoration theme in \a directory; none when a single one is missing, or it is no theme.
+std::optional<DecorImages> loadDecorImages(const QByteArray &directory)
+{
+    const DirectoryListing listing(directory);
+    if (!listing.files.contains("default.theme"))
+        return std::nullopt;
+    DecorImages images;
+    for (const DecorImage &row : decorFiles) {
+        QImage &image = images.*row.image;
+        if (listing.files.contains(row.file))
+            image = loadXpm(directory + '/' + row.file);
+        if (image.isNull())
+            return std::nullopt;
+    }
+    return images;
 }
 
 } // namespace
@@ -96,11 +181,11 @@ QVector<ThemeEntry> cursorThemeEntries(const QSize &size)
     QazIconTheme::getCursorThemeNames(&list);
     ThemeDirectories directories(cursorSearchPath());
     for (const QString &name : sortedNames(list)) {
-        const QImage pointer = loadCursorImage(pointerShape, name, directories);
-        const QImage watch = loadCursorImage(watchShape, name, directories);
-        const QImage text = loadCursorImage(textShape, name, directories);
-        if (!pointer.isNull() && !watch.isNull() && !text.isNull())
-            entries.append({name, iconOf(threeImagesPreview(size, pointer, watch, text))});
+        QVector<QImage> cursors;
+        for (const char *shape : {"left_ptr", "watch", "xterm"})
+            cursors += loadCursorImage(shape, name, directories);
+        if (std::none_of(cursors.cbegin(), cursors.cend(), std::mem_fn(&QImage::isNull)))
+            entries.append({name, iconOf(threeImagesPreview(size, cursors))});
     }
     return entries;
 }
@@ -117,16 +202,21 @@ QVector<ThemeEntry> iconThemeEntries(const QSize &size)
             continue;
         QazIconTheme theme(QFile::encodeName(name).constData(), nullptr, false);
         theme.load();
-        QStringList places;
-        for (const char *place : {"user-home", "user-trash", "user-desktop"})
-            places.append(iconPath(theme, place, "Places"));
-        if (!iconPath(theme, "preferences-system-time", "Applications").isEmpty())
-            // Decoding the icons is most of the work; only the themes that come into view need it.
-            entries.append({name, QIcon(new LazyIconEngine(
-                                      size, [size, places] { return placesPreview(size, places); }))});
-        else
+        if (iconPath(theme, "preferences-system-time", "Applications").isEmpty()) {
             printDiagnostic(
                 QStringLiteral("theme %1 is not full (no preferences-system-time in apps)").arg(name));
+            continue;
+        }
+        QStringList paths;
+        for (const char *place : {"user-home", "user-trash", "user-desktop"})
+            paths += iconPath(theme, place, "Places");
+        // Decoding the icons is most of the work; only the themes that come into view need it.
+        const auto draw = [size, paths] {
+            QVector<QImage> icons;
+            std::transform(paths.begin(), paths.end(), std::back_inserter(icons), loadIconImage);
+            return threeImagesPreview(size, icons);
+        };
+        entries.append({name, QIcon(new LazyIconEngine(draw))});
     }
     return entries;
 }
@@ -134,12 +224,14 @@ QVector<ThemeEntry> iconThemeEntries(const QSize &size)
 QVector<ThemeEntry> decorThemeEntries(const QSize &size)
 {
     QVector<ThemeEntry> entries;
-    QStringList names;
-    listDecorThemes(&names);
+    const QByteArray root = QFile::encodeName(directoryPath(DirectoryKind::DecorationThemes));
+    QByteArrayList names = DirectoryListing(root).directories.values();
     std::sort(names.begin(), names.end());
-    for (const QString &name : qAsConst(names)) {
-        if (const std::optional<DecorImages> images = loadDecorImages(name))
-            entries.append({name, iconOf(decorPreview(size, *images))});
+    for (const QByteArray &name : qAsConst(names)) {
+        if (name.startsWith('.'))
+            continue;
+        if (const std::optional<DecorImages> images = loadDecorImages(root + '/' + name))
+            entries.append({QFile::decodeName(name), iconOf(decorPreview(size, *images))});
     }
     return entries;
 }

@@ -3,7 +3,6 @@
 #include "pages/common/colordrop.h"
 #include "pages/common/messagebox.h"
 #include "pages/common/waitcursor.h"
-#include "pages/theme/previews.h"
 #include "pages/theme/swatches.h"
 #include "pages/theme/themelists.h"
 #include "pages/theme/themesettings.h"
@@ -17,6 +16,7 @@
 #include <QColorDialog>
 #include <QComboBox>
 #include <QInputDialog>
+#include <QPainter>
 #include <QPushButton>
 
 namespace {
@@ -29,8 +29,6 @@ constexpr PreviewComboBox *Ui::ThemeForm::*themeCombos[] = {
 
 constexpr const ThemeKey &iconThemeKey = themeKey("IconTheme"); // on load the default is empty, on purpose
 constexpr const ThemeKey &decorThemeKey = themeKey("DecorTheme");
-constexpr int noDecorThemeIndex = 0;
-
 constexpr int comboIconHeight = 32; // at 96 dpi
 
 QString storedText(const QazSettings *settings, const ThemeKey &key, const QString &defaultText)
@@ -56,11 +54,6 @@ QString sizeText(const QString &value, const QString &name)
     return value + QLatin1String(",   ") + name;
 }
 
-QColor colorAt(const QStringList &colors, int index)
-{
-    return QColor(colors.value(index));
-}
-
 } // namespace
 
 ThemePage::ThemePage(QWidget *parent)
@@ -80,6 +73,14 @@ ThemePage::ThemePage(QWidget *parent)
     connect(new ColorDrop(m_ui->color1Button), &ColorDrop::dropped, this, setMain);
     connect(new ColorDrop(m_ui->color2Button), &ColorDrop::dropped, this,
             [this](const QColor &color) { setColor(1, color); });
+    connect(m_ui->elementComboBox, qOverload<int>(&QComboBox::currentIndexChanged), this,
+            &ThemePage::colorElementSelected);
+    connect(m_ui->color1Button, &QPushButton::clicked, this, &ThemePage::selectColor1);
+    connect(m_ui->color2Button, &QPushButton::clicked, this, &ThemePage::selectColor2);
+    connect(m_ui->sizeButton, &QPushButton::clicked, this, &ThemePage::selectSize);
+    // Choosing an element or a size only looks at it; the dialogs behind the buttons tell of their edits themselves.
+    for (PreviewComboBox *Ui::ThemeForm::*member : themeCombos)
+        connect(m_ui.get()->*member, qOverload<int>(&QComboBox::activated), this, &ThemePage::changedSignal);
 }
 
 ThemePage::~ThemePage() = default;
@@ -93,7 +94,6 @@ bool ThemePage::loadValues(QazSettings *settings)
     loadDecorThemes(settings);
     loadColors(settings);
     loadSizes(settings);
-    connectEdits();
     loaded = true;
     return true;
 }
@@ -131,28 +131,34 @@ void ThemePage::loadDecorThemes(const QazSettings *settings)
 {
     QComboBox *combo = m_ui->decorThemeCombo;
     const QString configured = storedText(settings, decorThemeKey, QString());
-    combo->addItem(QIcon(QPixmap::fromImage(solidSwatch(combo->iconSize(), QColor()))), tr("No theme"));
+    QPixmap empty(combo->iconSize());
+    empty.fill(Qt::transparent);
+    combo->addItem(empty, tr("No theme"));
     addThemes(combo, decorThemeEntries(combo->iconSize()), configured);
     if (configured.isEmpty())
-        combo->setCurrentIndex(noDecorThemeIndex);
+        combo->setCurrentIndex(0);
 }
 
 void ThemePage::loadColors(const QazSettings *settings)
 {
-    QComboBox *combo = m_ui->elementComboBox;
+    int index = 0;
     for (const ColorElement &element : colorElements()) {
-        const QStringList colors = storedColors(element, *settings);
-        const QImage swatch = colorSwatch(combo->iconSize(), colorAt(colors, 0), colorAt(colors, 1));
-        combo->addItem(QPixmap::fromImage(swatch), tr(element.front()->title),
-                       colorItemData(element, colors));
-        combo->setItemData(combo->count() - 1, colors, storedRole);
+        m_ui->elementComboBox->addItem(tr(element.front()->title));
+        setEntryColors(index++, storedColors(element, *settings));
     }
-    combo->setCurrentIndex(0);
     colorElementSelected(0);
-    connect(combo, qOverload<int>(&QComboBox::currentIndexChanged), this, &ThemePage::colorElementSelected,
-            Qt::UniqueConnection);
-    connect(m_ui->color1Button, &QPushButton::clicked, this, &ThemePage::selectColor1, Qt::UniqueConnection);
-    connect(m_ui->color2Button, &QPushButton::clicked, this, &ThemePage::selectColor2, Qt::UniqueConnection);
+}
+
+/// Stores \a colors with the entry of an element, and shows them in its swatch.
+void ThemePage::setEntryColors(int index, const QStringList &colors)
+{
+    QComboBox *combo = m_ui->elementComboBox;
+    combo->setItemData(index, colorItemData(colorElements()[std::size_t(index)], colors));
+    combo->setItemData(index, colors, storedRole);
+    const QColor first(colors.first());
+    const QColor last(colors.last());
+    const QColor left = first.isValid() ? first : QColor(Qt::white);
+    combo->setItemIcon(index, fillGradient(left, first.isValid() && last.isValid() ? last : left));
 }
 
 void ThemePage::loadSizes(const QazSettings *settings)
@@ -164,15 +170,6 @@ void ThemePage::loadSizes(const QazSettings *settings)
         combo->addItem(sizeText(value, tr(element.key->title)), QLatin1String(element.key->name));
         combo->setItemData(combo->count() - 1, value, storedRole);
     }
-    connect(m_ui->sizeButton, &QPushButton::clicked, this, &ThemePage::selectSize, Qt::UniqueConnection);
-}
-
-void ThemePage::connectEdits()
-{
-    // Choosing an element or a size only looks at it; the dialogs behind the buttons tell of their edits themselves.
-    for (PreviewComboBox *Ui::ThemeForm::*member : themeCombos)
-        connect(m_ui.get()->*member, qOverload<int>(&QComboBox::activated), this, &ThemePage::changedSignal,
-                Qt::UniqueConnection);
 }
 
 void ThemePage::colorElementSelected(int ind)
@@ -181,8 +178,8 @@ void ThemePage::colorElementSelected(int ind)
         return;
     const QStringList colors = m_ui->elementComboBox->itemData(ind, storedRole).toStringList();
     const bool hasEnd = colors.size() > 1;
-    showColor(m_ui->color1Button, colorAt(colors, 0));
-    showColor(m_ui->color2Button, colorAt(colors, hasEnd ? 1 : 0));
+    showColor(m_ui->color1Button, colors.value(0));
+    showColor(m_ui->color2Button, colors.value(hasEnd ? 1 : 0));
     const ColorElement element = colorElements()[std::size_t(ind)];
     m_ui->elementComboBox->setWhatsThis(meaning(*element.front()));
     m_ui->color1Button->setWhatsThis(meaning(*element.front()));
@@ -217,30 +214,30 @@ void ThemePage::selectColor(int which)
 {
     const QStringList colors = m_ui->elementComboBox->currentData(storedRole).toStringList();
     if (which < colors.size())
-        setColor(which, QColorDialog::getColor(colorAt(colors, which), this, QString()));
+        setColor(which, QColorDialog::getColor(colors.at(which), this, QString()));
 }
 
 void ThemePage::setColor(int which, const QColor &color)
 {
-    QComboBox *combo = m_ui->elementComboBox;
-    const int index = combo->currentIndex();
-    QStringList colors = combo->currentData(storedRole).toStringList();
+    const int index = m_ui->elementComboBox->currentIndex();
+    QStringList colors = m_ui->elementComboBox->currentData(storedRole).toStringList();
     if (!color.isValid() || which >= colors.size() || color.name() == colors.at(which))
         return;
     colors[which] = color.name();
-    combo->setItemData(index, colorItemData(colorElements()[std::size_t(index)], colors));
-    combo->setItemData(index, colors, storedRole);
+    setEntryColors(index, colors);
     colorElementSelected(index);
-    const QColor first = colorAt(colors, 0);
-    const QColor second = colorAt(colors, 1);
-    const QColor left = first.isValid() ? first : QColor(Qt::white);
-    combo->setItemIcon(index, fillGradient(left, second.isValid() ? second : left));
     emit changedSignal();
 }
 
 QPixmap ThemePage::fillGradient(const QColor &col1, const QColor &col2)
 {
-    return QPixmap::fromImage(gradientSwatch(m_ui->elementComboBox->iconSize(), col1, col2));
+    QPixmap swatch(m_ui->elementComboBox->iconSize());
+    swatch.fill(Qt::transparent); // the colours may let it shine through
+    QLinearGradient gradient(0, 0, swatch.width(), 0);
+    gradient.setColorAt(0, col1);
+    gradient.setColorAt(1, col2);
+    QPainter(&swatch).fillRect(swatch.rect(), gradient);
+    return swatch;
 }
 
 void ThemePage::selectSize()
@@ -277,7 +274,7 @@ bool ThemePage::saveValues(QazSettings *settings)
                           m_ui->iconThemeCombo->currentText());
     if (const int chosen = m_ui->decorThemeCombo->currentIndex(); chosen >= 0)
         updateStringValue(settings, QLatin1String(decorThemeKey.name), QString(),
-                          chosen == noDecorThemeIndex ? QString() : m_ui->decorThemeCombo->currentText());
+                          chosen == 0 ? QString() : m_ui->decorThemeCombo->currentText());
     int index = 0;
     for (const ColorElement &element : colorElements())
         saveColors(element, m_ui->elementComboBox->itemData(index++, storedRole).toStringList(), settings);

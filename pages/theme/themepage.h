@@ -51,13 +51,13 @@ private:
     void loadDecorThemes(const QazSettings *settings);
     void loadColors(const QazSettings *settings);
     void loadSizes(const QazSettings *settings);
-    void connectEdits();
 
     void saveCursorTheme();
     void saveSizes(QazSettings *settings);
 
     void selectColor(int which);
     void setColor(int which, const QColor &color);
+    void setEntryColors(int index, const QStringList &colors);
     void showColor(QPushButton *button, const QColor &color);
 
     std::unique_ptr<Ui::ThemeForm> m_ui;

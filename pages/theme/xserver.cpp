@@ -7,21 +7,9 @@
 #include <QFile>
 #include <QX11Info>
 
-#include <algorithm>
-#include <array>
-#include <cstdio>
-#include <cstring>
-#include <memory>
-
 #include <X11/Xlib.h>
 
 namespace {
-
-constexpr std::size_t commandSize = 4096;
-
-struct FreeExtensionList {
-    void operator()(char **list) const { XFreeExtensionList(list); }
-};
 
 /// Null elsewhere than on X11, where Qt would hand out a wild pointer.
 Display *applicationDisplay()
@@ -34,13 +22,8 @@ Display *applicationDisplay()
 bool serverHasExtension(const char *name)
 {
     Display *display = applicationDisplay();
-    if (!display)
-        return false;
-    int count = 0;
-    const std::unique_ptr<char *, FreeExtensionList> names(XListExtensions(display, &count));
-    return names && std::any_of(names.get(), names.get() + count, [name](const char *extension) {
-               return std::strcmp(extension, name) == 0;
-           });
+    int ignored = 0;
+    return display && XQueryExtension(display, name, &ignored, &ignored, &ignored);
 }
 
 double screenDpi()
@@ -59,9 +42,6 @@ bool setCursorTheme(const QString &name)
 {
     if (!QazIconTheme::setCurrentCursorThemeName(QFile::encodeName(name).constData()))
         return false;
-    std::array<char, commandSize> command{};
-    std::snprintf(command.data(), command.size(), "QAZWM_UPDATE_VAL CursorTheme %s\n",
-                  name.toLocal8Bit().constData());
-    sendToWindowManager(QByteArray(command.data()));
+    sendToWindowManager(updateCommand(QStringLiteral("CursorTheme"), name));
     return true;
 }
