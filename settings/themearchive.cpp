@@ -10,6 +10,7 @@
 #include <QFileInfo>
 #include <QStringList>
 
+#include <algorithm>
 #include <cerrno>
 #include <memory>
 
@@ -26,12 +27,6 @@ using ReaderPtr = std::unique_ptr<archive, Release<archive_read_free>>;
 using WriterPtr = std::unique_ptr<archive, Release<archive_write_free>>;
 using EntryPtr = std::unique_ptr<archive_entry, Release<archive_entry_free>>;
 
-bool fail(QString *error, const QString &reason)
-{
-    *error = reason;
-    return false;
-}
-
 QString reasonOf(archive *handle)
 {
     return QString::fromLocal8Bit(archive_error_string(handle));
@@ -41,9 +36,9 @@ bool writeFile(archive *writer, const ArchiveFile &file, QString *error)
 {
     const FileContent content = readRegularFile(file.path, mostBytes);
     if (content.state != FileState::Regular)
-        return fail(error, QStringLiteral("%1: %2").arg(file.path, content.state == FileState::Missing
-                                                                       ? systemErrorText(ENOENT)
-                                                                       : content.error));
+        return failed(error, QStringLiteral("%1: %2").arg(file.path, content.state == FileState::Missing
+                                                                         ? systemErrorText(ENOENT)
+                                                                         : content.error));
     const EntryPtr entry(archive_entry_new());
     archive_entry_set_pathname_utf8(entry.get(), file.name.toUtf8().constData());
     archive_entry_set_size(entry.get(), content.content.size());
@@ -54,7 +49,7 @@ bool writeFile(archive *writer, const ArchiveFile &file, QString *error)
                          && archive_write_data(writer, content.content.constData(),
                                                std::size_t(content.content.size()))
                                 == content.content.size();
-    return written || fail(error, reasonOf(writer));
+    return written || failed(error, reasonOf(writer));
 }
 
 /// An archive opened for reading with gzip, as a tar or as the bytes that the gzip holds.
@@ -71,6 +66,21 @@ ReaderPtr openArchive(const QString &path, int (*supportFormat)(archive *), QStr
     return reader;
 }
 
+/// Reads the bytes that \a reader has come to, of at most \a left, which they are taken from; into \a file if there is one.
+bool readData(archive *reader, QFile *file, qint64 *left, QString *error)
+{
+    QByteArray block(int(blockSize), '\0');
+    la_ssize_t got = 0;
+    while ((got = archive_read_data(reader, block.data(), blockSize)) > 0) {
+        *left -= got;
+        if (*left < 0)
+            return failed(error, QStringLiteral("it unpacks to more than 256 MB"));
+        if (file && file->write(block.constData(), got) != got)
+            return failed(error, file->errorString());
+    }
+    return got == 0 || failed(error, reasonOf(reader));
+}
+
 /// Whether the file is a gzip that is complete and of a bearable size. The tar in it has its end before the gzip does:
 /// who reads the tar alone misses what is cut off there.
 bool isWholeGzip(const QString &path, QString *error)
@@ -80,19 +90,12 @@ bool isWholeGzip(const QString &path, QString *error)
     if (!reader)
         return false;
     if (archive_read_next_header(reader.get(), &entry) != ARCHIVE_OK)
-        return fail(error, reasonOf(reader.get()));
+        return failed(error, reasonOf(reader.get()));
     if (archive_filter_code(reader.get(), 0) != ARCHIVE_FILTER_GZIP)
-        return fail(error, QStringLiteral("it is no tar with gzip"));
-    QByteArray block(int(blockSize), '\0');
-    qint64 size = 0;
-    la_ssize_t got = 0;
-    while ((got = archive_read_data(reader.get(), block.data(), blockSize)) > 0) {
-        size += got;
-        // The headers and the fill of the tar's blocks come on top of the files.
-        if (size > mostBytes + mostFiles * 2048)
-            return fail(error, QStringLiteral("it unpacks to more than 256 MB"));
-    }
-    return got == 0 || fail(error, reasonOf(reader.get()));
+        return failed(error, QStringLiteral("it is no tar with gzip"));
+    // The headers and the fill of the tar's blocks come on top of the files.
+    qint64 left = mostBytes + mostFiles * 2048;
+    return readData(reader.get(), nullptr, &left, error);
 }
 
 /// The name of \a entry without "./" in front; empty for one that is not to be trusted.
@@ -101,14 +104,14 @@ QString trustedName(archive_entry *entry, const QStringList &directories)
     QString name = QString::fromUtf8(archive_entry_pathname_utf8(entry));
     while (name.startsWith(QLatin1String("./")))
         name.remove(0, 2);
-    const QStringList parts = name.split(QLatin1Char('/'));
-    const QString &fileName = parts.constLast();
-    bool isPlain = !fileName.isEmpty() && !fileName.startsWith(QLatin1Char('.'))
-                   && fileName.toUtf8().size() < 256;
-    for (const QChar character : fileName)
-        isPlain = isPlain && character.category() != QChar::Other_Control;
-    const bool isPlaced = parts.size() == 1
-                          || (parts.size() == 2 && directories.contains(parts.constFirst()));
+    const QString fileName = name.section(QLatin1Char('/'), -1);
+    const QString directory = name.chopped(fileName.size());
+    const bool isPlain = !fileName.isEmpty() && !fileName.startsWith(QLatin1Char('.'))
+                         && fileName.toUtf8().size() < 256
+                         && std::none_of(fileName.begin(), fileName.end(), [](QChar character) {
+                                return character.category() == QChar::Other_Control;
+                            });
+    const bool isPlaced = directory.isEmpty() || directories.contains(directory.chopped(1));
     return isPlain && isPlaced ? name : QString();
 }
 
@@ -119,25 +122,14 @@ bool isKnownDirectory(archive_entry *entry, const QStringList &directories)
            && (name == QLatin1String(".") || directories.contains(name));
 }
 
-/// Unpacks the entry's bytes to the new file \a path, taking them from what may still be unpacked.
+/// Unpacks the entry's bytes to the new file \a path.
 bool unpackTo(const QString &path, archive *reader, qint64 *left, QString *error)
 {
     QFile file(path);
     // Only new: a name that stands twice, or differs in what this file system takes for equal, is refused.
     if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly))
-        return fail(error, QStringLiteral("%1: %2").arg(QFileInfo(path).fileName(), file.errorString()));
-    QByteArray block(int(blockSize), '\0');
-    la_ssize_t got = 0;
-    while ((got = archive_read_data(reader, block.data(), blockSize)) > 0) {
-        *left -= got;
-        if (*left < 0)
-            return fail(error, QStringLiteral("it unpacks to more than 256 MB"));
-        if (file.write(block.constData(), got) != got)
-            return fail(error, file.errorString());
-    }
-    if (got < 0)
-        return fail(error, reasonOf(reader));
-    return (file.flush() && file.error() == QFile::NoError) || fail(error, file.errorString());
+        return failed(error, QStringLiteral("%1: %2").arg(QFileInfo(path).fileName(), file.errorString()));
+    return readData(reader, &file, left, error) && (file.flush() || failed(error, file.errorString()));
 }
 
 } // namespace
@@ -148,16 +140,16 @@ bool writeArchive(const QString &path, const QVector<ArchiveFile> &files, QStrin
     archive_write_add_filter_gzip(writer.get());
     archive_write_set_format_pax_restricted(writer.get());
     if (archive_write_open_filename(writer.get(), QFile::encodeName(path).constData()) != ARCHIVE_OK)
-        return fail(error, reasonOf(writer.get()));
+        return failed(error, reasonOf(writer.get()));
     qint64 size = 0;
     for (const ArchiveFile &file : files) {
         size += QFileInfo(file.path).size();
         if (size > mostBytes)
-            return fail(error, QStringLiteral("its files are larger than 256 MB"));
+            return failed(error, QStringLiteral("its files are larger than 256 MB"));
         if (!writeFile(writer.get(), file, error))
             return false;
     }
-    return archive_write_close(writer.get()) == ARCHIVE_OK || fail(error, reasonOf(writer.get()));
+    return archive_write_close(writer.get()) == ARCHIVE_OK || failed(error, reasonOf(writer.get()));
 }
 
 bool readArchive(const QString &path, const QString &directory, const QStringList &directories,
@@ -177,16 +169,16 @@ bool readArchive(const QString &path, const QString &directory, const QStringLis
     while ((status = archive_read_next_header(reader.get(), &entry)) >= ARCHIVE_WARN
            && status != ARCHIVE_EOF) {
         if (++entries > mostFiles)
-            return fail(error, QStringLiteral("it has more than 2,000 files"));
+            return failed(error, QStringLiteral("it has more than 2,000 files"));
         if (isKnownDirectory(entry, directories))
             continue;
         const QString name = trustedName(entry, directories);
         if (name.isEmpty() || archive_entry_filetype(entry) != AE_IFREG || archive_entry_hardlink(entry))
-            return fail(error, QStringLiteral("'%1' does not belong in it")
-                                   .arg(QString::fromUtf8(archive_entry_pathname_utf8(entry))));
+            return failed(error, QStringLiteral("'%1' does not belong in it")
+                                     .arg(QString::fromUtf8(archive_entry_pathname_utf8(entry))));
         files->append({name, directory + QLatin1Char('/') + name});
         if (!unpackTo(files->constLast().path, reader.get(), &left, error))
             return false;
     }
-    return status == ARCHIVE_EOF || fail(error, reasonOf(reader.get()));
+    return status == ARCHIVE_EOF || failed(error, reasonOf(reader.get()));
 }

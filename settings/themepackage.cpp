@@ -15,6 +15,7 @@
 #include <QMap>
 #include <QSize>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 
@@ -57,10 +58,8 @@ public:
     {
         const QString copy = m_directory.filePath(themeMember);
         const FileContent file = readRegularFile(m_themeFile);
-        if (file.state == FileState::Unreadable) {
-            *error = file.error;
-            return false;
-        }
+        if (file.state == FileState::Unreadable)
+            return failed(error, file.error);
         if (!replaceFile(copy, file.content, error))
             return false;
         {
@@ -114,11 +113,8 @@ private:
 
     bool isTaken(const QString &member) const
     {
-        for (const ArchiveFile &file : m_files) {
-            if (file.name == member)
-                return true;
-        }
-        return false;
+        return std::any_of(m_files.begin(), m_files.end(),
+                           [&member](const ArchiveFile &file) { return file.name == member; });
     }
 
     bool writeNames(const QazSettings &store, QString *error) const
@@ -142,16 +138,12 @@ private:
 bool moveOver(const QString &from, const QString &to, QString *error)
 {
     const QFileInfo old(to);
-    if (old.isDir() && !old.isSymLink()) {
-        *error = QStringLiteral("%1: %2").arg(to, systemErrorText(EISDIR));
-        return false;
-    }
+    if (old.isDir() && !old.isSymLink())
+        return failed(error, QStringLiteral("%1: %2").arg(to, systemErrorText(EISDIR)));
     if ((old.exists() || old.isSymLink()) && backUp(to, error).isEmpty())
         return false;
-    if (std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0)
-        return true;
-    *error = QStringLiteral("%1: %2").arg(to, systemErrorText(errno));
-    return false;
+    return std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0
+           || failed(error, QStringLiteral("%1: %2").arg(to, systemErrorText(errno)));
 }
 
 bool holdsTheSame(const QString &one, const QString &other)
@@ -169,10 +161,8 @@ bool packTheme(const QString &themeFile, const QString &path, QStringList *missi
     if (!packing.fill(missing, error))
         return false;
     const QTemporaryDir staging(QFileInfo(path).absolutePath() + QLatin1String("/.qaz-pack-XXXXXX"));
-    if (!staging.isValid()) {
-        *error = staging.errorString();
-        return false;
-    }
+    if (!staging.isValid())
+        return failed(error, staging.errorString());
     const QString packed = staging.filePath(QStringLiteral("packed"));
     return writeArchive(packed, packing.files(), error) && moveOver(packed, path, error);
 }
@@ -184,10 +174,8 @@ bool UnpackedTheme::read(const QString &path, QString *error)
     while (!QFileInfo(directory).isDir())
         directory = QFileInfo(directory).path();
     m_staging = std::make_unique<QTemporaryDir>(directory + QLatin1String("/.qaz-unpack-XXXXXX"));
-    if (!m_staging->isValid()) {
-        *error = m_staging->errorString();
-        return false;
-    }
+    if (!m_staging->isValid())
+        return failed(error, m_staging->errorString());
     QVector<ArchiveFile> files;
     return readArchive(path, m_staging->path(), {wallpaperDirectory, soundDirectory}, &files, error)
            && planMoves(files, error);
@@ -207,18 +195,15 @@ bool UnpackedTheme::planMoves(const QVector<ArchiveFile> &files, QString *error)
         } else if (file.name == themeMember) {
             hasTheme = true;
         } else if (file.name != namesMember) {
-            *error = QStringLiteral("'%1' does not belong in it").arg(file.name);
-            return false;
+            return failed(error, QStringLiteral("'%1' does not belong in it").arg(file.name));
         }
     }
-    if (!hasTheme)
-        *error = QStringLiteral("there is no %1 in it").arg(themeMember);
     m_values = knownValues(m_staging->filePath(themeMember));
     for (ThemeValue &value : m_values) {
         if (findThemeKey(value.key)->kind == KeyKind::File)
             value.value = places.value(value.value, value.value);
     }
-    return hasTheme;
+    return hasTheme || failed(error, QStringLiteral("there is no %1 in it").arg(themeMember));
 }
 
 QStringList UnpackedTheme::targets() const
@@ -233,10 +218,8 @@ bool UnpackedTheme::place(QString *error)
 {
     for (const Move &move : qAsConst(m_moves)) {
         const QString directory = QFileInfo(move.to).path();
-        if (!makeDirectories(directory)) {
-            *error = QStringLiteral("Can't create directory %1").arg(directory);
-            return false;
-        }
+        if (!makeDirectories(directory))
+            return failed(error, QStringLiteral("Can't create directory %1").arg(directory));
         if (!moveOver(move.from, move.to, error))
             return false;
     }

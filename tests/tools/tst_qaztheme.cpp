@@ -43,6 +43,7 @@ private slots:
         row("get ScreenSaverDelay PagingSpeed Other SoundTheme TaskbarBoldFont", file, 0,
             "90\n30\n1\n\nVerdana-10:bold\n");
         row("get Nobodys OpaqueMove", file, 1, "TRUE\n");
+        row("get Own", "Own=\n", 0, "\n");
         row("get --json OpaqueMove WallPaper", file, 0, // in the order of the pages
             "{\n  \"WallPaper\": \"qaz-default\",\n  \"OpaqueMove\": \"TRUE\"\n}\n");
         row("set ScreenSaverDelay=0300 PagingSpeed=31", file, 0,

@@ -18,7 +18,7 @@ struct Command {
     const char *name;
     const char *operands; ///< as shown in the help
     int leastOperands;
-    int mostOperands; ///< -1: any number
+    int mostOperands;
     const char *summary;
     const char *help;
     Status (*run)(const Arguments &arguments);
@@ -39,3 +39,8 @@ struct Arguments {
 
 /// Takes \a texts, the command line without the program's name, apart. False with the reason when it is wrong.
 [[nodiscard]] bool parseArguments(const QStringList &texts, Arguments *arguments, QString *error);
+
+QStringList commandNames();
+
+/// What the program prints for --help, of one \a command or, without one, of all.
+QString helpText(const Command *command);

@@ -1,14 +1,10 @@
-#include "tools/qaz-theme/backupcommands.h"
-
 #include "settings/restorecopy.h"
-#include "settings/themeedit.h"
+#include "tools/qaz-theme/commands.h"
 #include "tools/qaz-theme/output.h"
-#include "tools/qaz-theme/valuecommands.h"
 
 #include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
-#include <QTemporaryDir>
 
 #include <algorithm>
 #include <optional>
@@ -58,6 +54,7 @@ Status listBackups(const Arguments &arguments)
 {
     const QString file = arguments.operands.isEmpty() ? QString() : absolute(arguments.operands.constFirst());
     QVector<JsonObject> objects;
+    QStringList lines;
     int number = 0;
     for (const Backup &backup : newestFirst()) {
         ++number; // the same whether all copies are listed or some
@@ -69,15 +66,13 @@ Status listBackups(const Arguments &arguments)
         object.add(QStringLiteral("original"), backup.original);
         object.add(QStringLiteral("copy"), backup.copy);
         objects.append(object);
-        if (!arguments.json)
-            printLine(QStringLiteral("%1  %2  %3  %4")
-                          .arg(number, 3)
-                          .arg(timeOf(backup), backup.original, backup.copy));
+        lines.append(QStringLiteral("%1  %2  %3  %4")
+                         .arg(number, 3)
+                         .arg(timeOf(backup), backup.original, backup.copy));
     }
     JsonObject all;
     all.add(QStringLiteral("backups"), objects);
-    if (arguments.json)
-        print(all);
+    print(arguments.json, all, lines);
     return Success;
 }
 

@@ -1,12 +1,10 @@
 // Reads and changes the desktop's settings from the command line, by the editor's rules.
 
-#include "freedesktop/dataroot.h"
-#include "tools/qaz-theme/commands.h"
+#include "tools/qaz-theme/arguments.h"
 #include "tools/qaz-theme/output.h"
 
 #include <QCoreApplication>
 #include <QTextCodec>
-#include <QTranslator>
 
 #include <cstring>
 

@@ -5,19 +5,15 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 
+#include <algorithm>
 #include <cstdio>
 
 namespace {
 
 /// Any JSON value as text; arrays alone can be documents.
-QByteArray raw(const QJsonArray &values)
+QByteArray raw(const QJsonValue &value)
 {
-    return QJsonDocument(values).toJson(QJsonDocument::Compact);
-}
-
-QByteArray rawValue(const QJsonValue &value)
-{
-    const QByteArray array = raw({value});
+    const QByteArray array = QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
     return array.mid(1, array.size() - 2);
 }
 
@@ -35,49 +31,24 @@ QString onOneLine(const QString &text)
     return line;
 }
 
-void write(const QByteArray &bytes)
-{
-    std::fwrite(bytes.constData(), 1, std::size_t(bytes.size()), stdout);
-}
-
 } // namespace
 
-void JsonObject::addRaw(const QString &name, const QByteArray &value)
+void JsonObject::add(const QString &name, const QJsonValue &value)
 {
-    m_members.append(rawValue(name) + ": " + value);
-}
-
-void JsonObject::add(const QString &name, const QString &text)
-{
-    addRaw(name, rawValue(text));
-}
-
-void JsonObject::add(const QString &name, int number)
-{
-    addRaw(name, rawValue(number));
-}
-
-void JsonObject::add(const QString &name, bool truth)
-{
-    addRaw(name, rawValue(truth));
-}
-
-void JsonObject::add(const QString &name, const QStringList &texts)
-{
-    addRaw(name, raw(QJsonArray::fromStringList(texts)));
+    m_members.append(raw(name) + ": " + raw(value));
 }
 
 void JsonObject::add(const QString &name, const JsonObject &object)
 {
-    addRaw(name, object.text());
+    m_members.append(raw(name) + ": " + object.text());
 }
 
 void JsonObject::add(const QString &name, const QVector<JsonObject> &objects)
 {
-    QList<QByteArray> texts;
+    QByteArrayList texts;
     for (const JsonObject &object : objects)
         texts.append(object.text());
-    addRaw(name, '[' + texts.join(", ") + ']');
+    m_members.append(raw(name) + ": [" + texts.join(", ") + ']');
 }
 
 QByteArray JsonObject::text() const
@@ -87,35 +58,23 @@ QByteArray JsonObject::text() const
 
 QByteArray JsonObject::lines() const
 {
-    return m_members.isEmpty() ? QByteArray("{}\n") : "{\n  " + m_members.join(",\n  ") + "\n}\n";
+    return m_members.isEmpty() ? "{}" : "{\n  " + m_members.join(",\n  ") + "\n}";
 }
 
 void printLine(const QString &text)
 {
-    write(onOneLine(text).toLocal8Bit() + '\n');
+    std::puts(onOneLine(text).toLocal8Bit().constData());
 }
 
-void print(const JsonObject &object)
+void print(bool json, const JsonObject &object, const QStringList &lines)
 {
-    write(object.lines());
+    if (json)
+        std::puts(object.lines().constData());
+    else
+        std::for_each(lines.begin(), lines.end(), printLine);
 }
 
 void complain(const QString &text)
 {
     printDiagnosticAs("qaz-theme", onOneLine(text));
-}
-
-void printChanges(const ThemeChanges &changes, bool json)
-{
-    JsonObject object;
-    for (const ThemeChange &change : changes) {
-        JsonObject member;
-        member.add(QStringLiteral("value"), change.after);
-        member.add(QStringLiteral("before"), change.before);
-        object.add(change.key, member);
-        if (!json)
-            printLine(QStringLiteral("%1: %2 -> %3").arg(change.key, change.before, change.after));
-    }
-    if (json)
-        print(object);
 }

@@ -1,17 +1,15 @@
 #pragma once
 
-#include "settings/themeedit.h"
-
+#include <QByteArrayList>
+#include <QJsonValue>
 #include <QStringList>
+#include <QVector>
 
 /// A JSON object that keeps the order in which its members are added.
 class JsonObject
 {
 public:
-    void add(const QString &name, const QString &text);
-    void add(const QString &name, int number);
-    void add(const QString &name, bool truth);
-    void add(const QString &name, const QStringList &texts);
+    void add(const QString &name, const QJsonValue &value);
     void add(const QString &name, const JsonObject &object);
     void add(const QString &name, const QVector<JsonObject> &objects);
 
@@ -21,17 +19,14 @@ public:
     QByteArray lines() const;
 
 private:
-    void addRaw(const QString &name, const QByteArray &value);
-
-    QList<QByteArray> m_members;
+    QByteArrayList m_members;
 };
 
 /// Prints one line in the local encoding; control characters of \a text are printed as `\n` or `\xNN`.
 void printLine(const QString &text);
-void print(const JsonObject &object);
+
+/// Prints \a object, one member a line, for \a json, and else the \a lines.
+void print(bool json, const JsonObject &object, const QStringList &lines);
 
 /// Prints one line "qaz-theme: TEXT" to standard error.
 void complain(const QString &text);
-
-/// Prints "KEY: BEFORE -> AFTER" for each change, or one object with `value` and `before` of each key.
-void printChanges(const ThemeChanges &changes, bool json);

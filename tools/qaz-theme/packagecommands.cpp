@@ -1,12 +1,10 @@
-#include "tools/qaz-theme/packagecommands.h"
-
 #include "settings/backup.h"
 #include "settings/themepackage.h"
+#include "tools/qaz-theme/commands.h"
 #include "tools/qaz-theme/output.h"
-#include "tools/qaz-theme/valuecommands.h"
 
-#include <QDir>
 #include <QFileInfo>
+#include <QJsonArray>
 
 Status pack(const Arguments &arguments)
 {
@@ -23,18 +21,16 @@ Status pack(const Arguments &arguments)
         complain(QStringLiteral("%1 is not there and was not packed").arg(file));
     JsonObject object;
     object.add(QStringLiteral("packed"), path);
-    object.add(QStringLiteral("missing"), missing);
-    if (arguments.json)
-        print(object);
-    else if (!arguments.quiet)
-        printLine(path);
+    object.add(QStringLiteral("missing"), QJsonArray::fromStringList(missing));
+    if (arguments.json || !arguments.quiet)
+        print(arguments.json, object, {path});
     return Success;
 }
 
 Status unpack(const Arguments &arguments)
 {
     const QString path = arguments.operands.constFirst();
-    if (!isThere(path) || !isReadable(arguments.themeFile))
+    if (!isReadable(path, true) || !isReadable(arguments.themeFile))
         return Failure;
     UnpackedTheme theme;
     QString error;

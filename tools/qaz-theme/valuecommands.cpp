@@ -1,18 +1,15 @@
-#include "tools/qaz-theme/valuecommands.h"
+#include "tools/qaz-theme/commands.h"
 
 #include "base/atomicfile.h"
 #include "freedesktop/dataroot.h"
 #include "platform/qazsettings.h"
 #include "settings/themekeys.h"
-#include "tools/qaz-theme/commands.h"
 #include "tools/qaz-theme/output.h"
 
-#include <QFileInfo>
+#include <QJsonArray>
 #include <QLocale>
 #include <QRegularExpression>
 #include <QTranslator>
-
-#include <algorithm>
 
 namespace {
 
@@ -32,13 +29,13 @@ JsonObject described(const ThemeKey &key, const QazSettings &store)
     object.add(QStringLiteral("default"), defaultText);
     object.add(QStringLiteral("differs"), differs(key, defaultText, value));
     object.add(QStringLiteral("set"), store.value(QLatin1String(key.name)).isValid());
-    object.add(QStringLiteral("kind"), QString::fromLatin1(kindName(key.kind)));
+    object.add(QStringLiteral("kind"), QLatin1String(kindName(key.kind)));
     if (key.kind == KeyKind::Number) {
         object.add(QStringLiteral("minimum"), key.minimum);
         object.add(QStringLiteral("maximum"), key.maximum);
     }
     if (const QStringList words = closedSet(key); !words.isEmpty())
-        object.add(QStringLiteral("values"), words);
+        object.add(QStringLiteral("values"), QJsonArray::fromStringList(words));
     object.add(QStringLiteral("meaning"), meaning(key));
     return object;
 }
@@ -60,36 +57,38 @@ QVector<const ThemeKey *> matchingKeys(const QString &pattern)
     return keys;
 }
 
-/// Known keys in the order of the pages, then the others as they came.
-QStringList inPageOrder(QStringList keys)
+QString shown(const QString &value)
 {
-    const auto place = [](const QString &name) {
-        const ThemeKey *key = findThemeKey(name);
-        return key ? key - std::begin(themeKeys) : std::ptrdiff_t(std::size(themeKeys));
-    };
-    std::stable_sort(keys.begin(), keys.end(), [&place](const QString &left, const QString &right) {
-        return place(left) < place(right);
-    });
-    return keys;
+    return value.isEmpty() ? QStringLiteral("\"\"") : value;
+}
+
+void printChanges(const ThemeChanges &changes, const Arguments &arguments)
+{
+    JsonObject object;
+    QStringList lines;
+    for (const ThemeChange &change : changes) {
+        JsonObject member;
+        member.add(QStringLiteral("value"), change.after);
+        member.add(QStringLiteral("before"), change.before);
+        object.add(change.key, member);
+        lines.append(QStringLiteral("%1: %2 -> %3").arg(change.key, change.before, change.after));
+    }
+    if (!arguments.quiet)
+        print(arguments.json, object, lines);
 }
 
 } // namespace
 
-bool isReadable(const QString &path)
+bool isReadable(const QString &path, bool mustExist)
 {
     const FileContent file = readRegularFile(path);
     if (file.state == FileState::Unreadable)
         complain(QStringLiteral("Can't read %1: %2").arg(path, file.error));
-    return file.state != FileState::Unreadable;
-}
-
-bool isThere(const QString &path)
-{
-    if (!isReadable(path))
-        return false;
-    if (!QFileInfo::exists(path))
+    else if (file.state == FileState::Missing && mustExist)
         complain(QStringLiteral("%1 does not exist").arg(path));
-    return QFileInfo::exists(path);
+    else
+        return true;
+    return false;
 }
 
 Status complainOf(const QStringList &errors)
@@ -101,8 +100,7 @@ Status complainOf(const QStringList &errors)
 
 void tell(const ThemeChanges &changes, const Arguments &arguments)
 {
-    if (!arguments.quiet)
-        printChanges(changes, arguments.json);
+    printChanges(changes, arguments);
     if (!arguments.dryRun && !announce(changes) && !arguments.quiet)
         complain(QStringLiteral("No X display: nobody was told of the changes"));
 }
@@ -125,20 +123,26 @@ Status getValues(const Arguments &arguments)
         return Failure;
     QazSettings store(arguments.themeFile);
     store.sync(true);
+    QStringList keys = arguments.operands;
+    if (arguments.json) { // in the order of the pages, then those that no page knows
+        for (auto key = std::rbegin(themeKeys); key != std::rend(themeKeys); ++key) {
+            if (keys.removeAll(QLatin1String(key->name)) > 0)
+                keys.prepend(QLatin1String(key->name));
+        }
+    }
     Status status = Success;
     JsonObject object;
-    for (const QString &key : arguments.json ? inPageOrder(arguments.operands) : arguments.operands) {
+    QStringList lines;
+    for (const QString &key : qAsConst(keys)) {
         if (!findThemeKey(key) && !store.value(key).isValid()) {
             complain(QStringLiteral("%1 is not set and has no default").arg(key));
             status = NotSame;
-        } else if (arguments.json) {
-            object.add(key, themeValue(store, key));
-        } else {
-            printLine(themeValue(store, key));
+            continue;
         }
+        object.add(key, themeValue(store, key));
+        lines.append(themeValue(store, key));
     }
-    if (arguments.json)
-        print(object);
+    print(arguments.json, object, lines);
     return status;
 }
 
@@ -190,48 +194,45 @@ Status listKeys(const Arguments &arguments)
     QazSettings store(arguments.themeFile);
     store.sync(true);
     JsonObject object;
+    QStringList lines;
     for (const ThemeKey *key : matchingKeys(arguments.operands.value(0))) {
         const QString name = QLatin1String(key->name);
-        if (arguments.json) {
-            object.add(name, described(*key, store));
-            continue;
-        }
         const QString value = themeValue(store, name);
-        const QString defaultText = QString::fromLatin1(key->defaultText);
-        printLine(QStringLiteral("%1 %2 %3 %4 %5")
-                      .arg(QLatin1String(differs(*key, defaultText, value) ? "*" : " "))
-                      .arg(name, -24)
-                      .arg(value.isEmpty() ? QStringLiteral("\"\"") : value, -20)
-                      .arg(defaultText.isEmpty() ? QStringLiteral("\"\"") : defaultText, -20)
-                      .arg(meaning(*key)));
+        const QString defaultText = QLatin1String(key->defaultText);
+        object.add(name, described(*key, store));
+        lines.append(QStringLiteral("%1 %2 %3 %4 %5")
+                         .arg(QLatin1String(differs(*key, defaultText, value) ? "*" : " "))
+                         .arg(name, -24)
+                         .arg(shown(value), -20)
+                         .arg(shown(defaultText), -20)
+                         .arg(meaning(*key)));
     }
-    if (arguments.json)
-        print(object);
+    print(arguments.json, object, lines);
     return Success;
 }
 
 Status diffFiles(const Arguments &arguments)
 {
-    const QString first = arguments.operands.value(0);
-    const QString second = arguments.operands.value(1);
+    QStringList files = arguments.operands;
     for (const QString &path : arguments.operands) {
-        if (!isThere(path))
+        if (!isReadable(path, true))
             return Failure;
     }
-    const QString from = first.isEmpty() ? QString() : second.isEmpty() ? arguments.themeFile : first;
-    const QString to = first.isEmpty() ? arguments.themeFile : second.isEmpty() ? first : second;
     if (!isReadable(arguments.themeFile))
         return Failure;
-    const ThemeChanges changes = differences(from, to);
-    if (!arguments.quiet)
-        printChanges(changes, arguments.json);
+    if (files.size() < 2)
+        files.prepend(arguments.themeFile);
+    if (files.size() < 2)
+        files.prepend({}); // the defaults
+    const ThemeChanges changes = differences(files.at(0), files.at(1));
+    printChanges(changes, arguments);
     return changes.isEmpty() ? Success : NotSame;
 }
 
 Status applyFile(const Arguments &arguments)
 {
     const QString path = arguments.operands.constFirst();
-    if (!isThere(path) || !isReadable(arguments.themeFile))
+    if (!isReadable(path, true) || !isReadable(arguments.themeFile))
         return Failure;
     const ThemeValues values = knownValues(path);
     if (const QStringList wrong = misfits(values); !wrong.isEmpty())
