@@ -55,9 +55,9 @@ QStringList soundBaseDirectories()
     return directories;
 }
 
-QStringList localeVariants(const QString &locale)
+QStringList localeVariants()
 {
-    QString name = locale;
+    QString name;
     for (const char *variable : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
         if (name.isEmpty())
             name = QFile::decodeName(qgetenv(variable));

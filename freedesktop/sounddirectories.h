@@ -9,9 +9,9 @@
 /// The directories that hold sound themes, the user's first and the desktop's own last; absolute, each once.
 QStringList soundBaseDirectories();
 
-/// The spellings of a locale that a localised file may stand under, most specific first and the untranslated
-/// place (an empty text) last: "de_AT@euro" gives "de_AT@euro", "de_AT", "de", "C", "". Empty: the user's locale.
-QStringList localeVariants(const QString &locale);
+/// The spellings of the user's locale that a localised file may stand under, most specific first and the untranslated
+/// place (an empty text) last: "de_AT@euro" gives "de_AT@euro", "de_AT", "de@euro", "de", "C", "".
+QStringList localeVariants();
 
 /// The best file that a directory has for a sound.
 struct SoundCandidate {

@@ -1,7 +1,5 @@
 #include "platform/commandreceiver.h"
 
-#include "platform/commandprotocol.h"
-
 #include <algorithm>
 #include <cstring>
 

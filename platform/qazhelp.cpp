@@ -10,16 +10,16 @@
 
 namespace {
 
-const QString indexTopic = QStringLiteral("index");
-
 SlidingStackedWidget *pageStack()
 {
-    const QWidget *active = QApplication::activeWindow();
-    SlidingStackedWidget *stack = active ? active->findChild<SlidingStackedWidget *>() : nullptr;
-    const QWidgetList windows = QApplication::topLevelWidgets();
-    for (int i = 0; !stack && i < windows.size(); ++i)
-        stack = windows.at(i)->findChild<SlidingStackedWidget *>();
-    return stack;
+    QWidgetList windows = QApplication::topLevelWidgets();
+    if (QWidget *active = QApplication::activeWindow())
+        windows.prepend(active);
+    for (const QWidget *window : qAsConst(windows)) {
+        if (auto *stack = window->findChild<SlidingStackedWidget *>())
+            return stack;
+    }
+    return nullptr;
 }
 
 /// The user guide in the user's language, else in English.
@@ -55,7 +55,7 @@ QString qazHelpLookForWidget()
     const SlidingStackedWidget *stack = pageStack();
     const QWidget *page = stack ? stack->currentWidget() : nullptr;
     if (!page)
-        return indexTopic;
+        return QStringLiteral("index");
     QString topic = QString::fromLatin1(page->metaObject()->className()).toLower();
     topic.remove(QLatin1String("page"));
     return topic;

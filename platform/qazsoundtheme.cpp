@@ -48,7 +48,7 @@ QStringList listOf(const KeyFileText &index, const QByteArray &key)
 
 QString localisedName(const KeyFileText &index)
 {
-    for (const QString &locale : localeVariants({})) {
+    for (const QString &locale : localeVariants()) {
         const QString key = locale.isEmpty() ? QStringLiteral("Name")
                                              : QStringLiteral("Name[%1]").arg(locale);
         if (QString name = textOf(index, themeGroup, key.toUtf8()); !name.isEmpty())
@@ -85,10 +85,9 @@ std::optional<ThemeIndex> loadIndex(const QString &name, const QStringList &base
     return index;
 }
 
-/// The sound in the first of \a profiles, then \a locales, that \a theme has it for.
+/// The sound for stereo, else for no profile, each in the first of \a locales that \a theme has it for.
 std::optional<SoundCandidate> findInTheme(const ThemeIndex &theme, const QString &name,
-                                          const QStringList &profiles, const QStringList &locales,
-                                          SoundDirectories *files)
+                                          const QStringList &locales, SoundDirectories *files)
 {
     std::optional<SoundCandidate> best;
     const auto findBetter = [&](const QString &path) {
@@ -96,7 +95,7 @@ std::optional<SoundCandidate> findInTheme(const ThemeIndex &theme, const QString
         if (candidate && (!best || candidate->rank < best->rank))
             best = candidate;
     };
-    for (const QString &profile : profiles) {
+    for (const QString &profile : {QStringLiteral("stereo"), QString()}) {
         const QStringList directories = theme.directoriesOfProfile.value(profile);
         for (const QString &locale : locales) {
             for (const QString &placement : theme.placements) {
@@ -118,7 +117,7 @@ struct QazSoundTheme::Lookup {
     SoundDirectories files;
 
     void loadChain(const QString &themeName);
-    QString findSound(const QString &name, const QString &profile, const QString &locale);
+    QString findSound(const QString &name);
 };
 
 void QazSoundTheme::Lookup::loadChain(const QString &themeName)
@@ -143,32 +142,27 @@ void QazSoundTheme::Lookup::loadChain(const QString &themeName)
     }
 }
 
-QString QazSoundTheme::Lookup::findSound(const QString &name, const QString &profile, const QString &locale)
+QString QazSoundTheme::Lookup::findSound(const QString &name)
 {
-    QStringList profiles{profile, QStringLiteral("stereo"), QString()};
-    if (profile.isEmpty())
-        profiles.removeFirst();
-    const QStringList locales = localeVariants(locale);
+    const QStringList locales = localeVariants();
     std::optional<SoundCandidate> found;
     for (const ThemeIndex &theme : qAsConst(chain)) {
         // Dashes separate levels of detail; a theme's own general sound fits better than another theme's special one.
         for (QString level = name; !found && !level.isEmpty();
              level.truncate(level.lastIndexOf(QLatin1Char('-'))))
-            found = findInTheme(theme, level, profiles, locales, &files);
+            found = findInTheme(theme, level, locales, &files);
     }
     for (int i = 0; !found && i < baseDirectories.size(); ++i)
         found = files.find(baseDirectories.at(i), name); // sounds of no theme
     return found && found->rank != SoundCandidate::Disabled ? found->path : QString();
 }
 
-QazSoundTheme::QazSoundTheme(const char *themeName, const char *firstDirectory)
+QazSoundTheme::QazSoundTheme(const char *themeName, const char * /*firstDirectory*/)
     : m_themeName(themeName)
     , m_shownName(themeName)
     , m_lookup(std::make_unique<Lookup>())
 {
     m_lookup->baseDirectories = soundBaseDirectories();
-    if (firstDirectory)
-        m_lookup->baseDirectories.prepend(QFile::decodeName(firstDirectory));
 }
 
 QazSoundTheme::~QazSoundTheme() = default;
@@ -209,12 +203,12 @@ bool QazSoundTheme::load()
     return true;
 }
 
-bool QazSoundTheme::getSound(const char *name, const char *profile, const char *locale, char *buffer)
+bool QazSoundTheme::getSound(const char *name, const char * /*profile*/, const char * /*locale*/,
+                             char *buffer)
 {
     if (m_lookup->chain.isEmpty())
         return false;
-    const QByteArray path = QFile::encodeName(m_lookup->findSound(
-        QString::fromLocal8Bit(name), QString::fromLocal8Bit(profile), QString::fromLocal8Bit(locale)));
+    const QByteArray path = QFile::encodeName(m_lookup->findSound(QString::fromLocal8Bit(name)));
     if (path.isEmpty() || path.size() >= soundBufferSize)
         return false;
     qstrcpy(buffer, path.constData());

@@ -11,8 +11,8 @@
 class QazSoundTheme
 {
 public:
-    /// Names a theme by its directory's name; nothing is read before load(). A \a firstDirectory, unless it is
-    /// null, is searched for themes before all others.
+    /// Names a theme by its directory's name; nothing is read before load(). The second argument is part of the
+    /// desktop's interface and has no effect here.
     explicit QazSoundTheme(const char *themeName, const char *firstDirectory = nullptr);
     ~QazSoundTheme();
     QazSoundTheme(const QazSoundTheme &) = delete;
@@ -26,9 +26,9 @@ public:
     /// or its index describes no sound theme; such a theme has no sounds.
     bool load();
 
-    /// Writes the full path of the file for the sound \a name into \a buffer of 4096 bytes. An empty \a profile
-    /// asks for the stereo files, an empty \a locale for the user's. False, with the buffer untouched, when neither
-    /// the theme nor those it inherits from have the sound, or it is disabled there.
+    /// Writes the full path of the file for the sound \a name into \a buffer of 4096 bytes: the stereo one in
+    /// the user's language, for which an empty \a profile and \a locale ask. False, with the buffer untouched, when
+    /// neither the theme nor those it inherits from have the sound, or it is disabled there.
     bool getSound(const char *name, const char *profile, const char *locale, char *buffer);
 
     /// The directory that holds the theme's index, without a trailing slash; empty before load().

@@ -1,7 +1,7 @@
 #include "platform/sendcommandtowm.h"
 
 #include "base/diagnostics.h"
-#include "platform/commandprotocol.h"
+#include "platform/commandreceiver.h"
 
 #include <algorithm>
 #include <cstring>

@@ -1,8 +1,7 @@
 #include "platform/slidingstackedwidget.h"
 
-#include <QParallelAnimationGroup>
-#include <QPropertyAnimation>
 #include <QResizeEvent>
+#include <QVariantAnimation>
 
 namespace {
 
@@ -10,16 +9,6 @@ constexpr int slideMs = 300;
 
 // Where the page that comes in starts, seen from its final place, in the order of the directions.
 constexpr QPoint starts[] = {{-1, 0}, {1, 0}, {0, -1}, {0, 1}};
-
-void addMove(QParallelAnimationGroup *group, QWidget *page, const QPoint &from, const QPoint &to)
-{
-    auto *move = new QPropertyAnimation(page, "pos", group);
-    move->setDuration(slideMs);
-    move->setEasingCurve(QEasingCurve::OutCubic);
-    move->setStartValue(from);
-    move->setEndValue(to);
-    group->addAnimation(move);
-}
 
 } // namespace
 
@@ -41,10 +30,16 @@ void SlidingStackedWidget::slideInIdx(int index, int direction)
     incoming->show();
     incoming->raise();
     m_target = index;
-    m_slide = new QParallelAnimationGroup(this);
-    addMove(m_slide, outgoing, place, place - offset);
-    addMove(m_slide, incoming, place + offset, place);
-    connect(m_slide, &QParallelAnimationGroup::finished, this, &SlidingStackedWidget::finishSlide);
+    m_slide = new QVariantAnimation(this);
+    m_slide->setDuration(slideMs);
+    m_slide->setEasingCurve(QEasingCurve::OutCubic);
+    m_slide->setStartValue(offset);
+    m_slide->setEndValue(QPoint());
+    connect(m_slide, &QVariantAnimation::valueChanged, this, [=](const QVariant &left) {
+        incoming->move(place + left.toPoint());
+        outgoing->move(place + left.toPoint() - offset);
+    });
+    connect(m_slide, &QVariantAnimation::finished, this, &SlidingStackedWidget::finishSlide);
     m_slide->start();
 }
 

@@ -26,6 +26,6 @@ protected:
 private:
     void finishSlide();
 
-    class QParallelAnimationGroup *m_slide = nullptr;
+    class QVariantAnimation *m_slide = nullptr;
     int m_target = -1;
 };

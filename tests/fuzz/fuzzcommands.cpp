@@ -1,4 +1,3 @@
-#include "platform/commandprotocol.h"
 #include "platform/commandreceiver.h"
 #include "tests/fuzz/fuzzing.h"
 

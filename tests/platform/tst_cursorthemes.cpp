@@ -44,8 +44,6 @@ class TestCursorThemes : public QObject
 {
     Q_OBJECT
 private slots:
-    void cleanup() { QCoreApplication::processEvents(); } // ends the reading pass
-
     void settingReachesNewClients()
     {
         const struct {
@@ -69,7 +67,6 @@ private slots:
             QCOMPARE(home.read(resources), "! mine\nXcursor.theme: " + row.theme + "\nXcursor.size: 24\n");
             QCOMPARE(themeOfNewClient(), row.theme);
             QCOMPARE(QByteArray(QazIconTheme::getCurrentCursorThemeName(QX11Info::display())), row.theme);
-            QCoreApplication::processEvents(); // ends the reading pass
         }
     }
 
@@ -155,7 +152,6 @@ private slots:
             QCOMPARE(home.exists(resources), !row.file.isNull() || row.inTheWay == resources);
             QVERIFY(!QFileInfo(home.path(".icons/Far"_s)).isSymLink());
             QVERIFY(row.hasXrdb || !home.exists(defaultIndex));
-            QCoreApplication::processEvents(); // ends the reading pass
         }
     }
 };

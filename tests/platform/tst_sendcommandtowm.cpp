@@ -1,4 +1,3 @@
-#include "platform/commandprotocol.h"
 #include "platform/commandreceiver.h"
 #include "platform/sendcommandtowm.h"
 #include "tests/support/literals.h"
