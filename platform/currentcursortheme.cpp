@@ -130,10 +130,9 @@ void putBack(const QString &path, const FileContent &before, const QByteArray &w
 
 bool canChangeByName(Display *display)
 {
-    int unused = 0;
     int major = 0;
     int minor = 0;
-    return XFixesQueryExtension(display, &unused, &unused) && XFixesQueryVersion(display, &major, &minor)
+    return XFixesQueryExtension(display, &major, &minor) && XFixesQueryVersion(display, &major, &minor)
            && major >= 2;
 }
 

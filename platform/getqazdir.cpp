@@ -7,8 +7,6 @@
 #include <QMap>
 #include <QX11Info>
 
-#include <memory>
-
 #include <X11/Xatom.h>
 #include <X11/Xlib.h>
 
@@ -17,8 +15,9 @@ namespace {
 /// The number of the current virtual desktop, counted from 1.
 qint64 currentDesktop()
 {
+    qint64 number = 1;
     if (!QX11Info::isPlatformX11())
-        return 1;
+        return number;
     Display *display = QX11Info::display();
     const Atom name = XInternAtom(display, "_NET_CURRENT_DESKTOP", False);
     Atom type = 0;
@@ -26,15 +25,13 @@ qint64 currentDesktop()
     unsigned long count = 0;
     unsigned long rest = 0;
     unsigned char *data = nullptr;
-    if (XGetWindowProperty(display, DefaultRootWindow(display), name, 0, 1, False, XA_CARDINAL, &type,
-                           &format, &count, &rest, &data)
-        != Success)
-        return 1;
-    const std::unique_ptr<unsigned char, int (*)(void *)> owner(data, XFree);
+    XGetWindowProperty(display, DefaultRootWindow(display), name, 0, 1, False, XA_CARDINAL, &type, &format,
+                       &count, &rest, &data);
     // Xlib hands 32-bit items out as longs.
-    return type == XA_CARDINAL && format == 32 && count == 1
-               ? qint64(quint32(*reinterpret_cast<const unsigned long *>(data))) + 1
-               : 1;
+    if (type == XA_CARDINAL && format == 32 && count == 1)
+        number += quint32(*reinterpret_cast<const unsigned long *>(data));
+    XFree(data);
+    return number;
 }
 
 QString pathOf(int kind)

@@ -27,7 +27,7 @@ const char *QazDesktopEntry::getUnknownValue(const char *key)
 
 void QazDesktopEntry::setUnknowns(const List<char> &keys, const List<char> &values)
 {
-    for (int i = 0; i < keys.count() && i < values.count(); ++i)
+    for (int i = 0; i < keys.count(); ++i)
         m_changes.insert(keys.at(i), values.at(i));
 }
 

@@ -69,12 +69,10 @@ QtSingleApplication::~QtSingleApplication()
 
 bool QtSingleApplication::isRunning()
 {
-    if (m_lock)
-        return false;
     // Without a place for a lock there is no other instance to be found, either.
-    if (m_directory.isOpen() && !takeLock())
+    if (!m_lock && m_directory.isOpen() && !takeLock())
         return true;
-    if (m_lock)
+    if (m_lock && !m_server)
         listen();
     return false;
 }
@@ -153,7 +151,7 @@ bool QtSingleApplication::sendMessage(const QString &message, int timeout)
     QDataStream stream(&socket);
     stream << message.toUtf8();
     while (socket.bytesAvailable() < qint64(sizeof(acknowledgement) - 1)) {
-        if (timer.hasExpired(timeout) || !socket.waitForReadyRead(left()))
+        if (!socket.waitForReadyRead(left()))
             return false;
     }
     return socket.readAll() == acknowledgement;

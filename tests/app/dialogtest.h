@@ -43,11 +43,20 @@ protected:
         m_dialog.reset(); // of two windows, either may have the focus
         m_dialog = std::make_unique<ConfigDialog>(m_home->path("t"_s));
         m_list = find<QListWidget>("contentsWidget");
-        m_stack = find<SlidingStackedWidget>();
+        m_stack = find<SlidingStackedWidget>("pagesWidget");
         m_dialog->show();
         QVERIFY(QTest::qWaitForWindowExposed(m_dialog.get()));
         m_dialog->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(m_dialog.get()));
+    }
+    /// Shows each page in turn, and calls \a act with it.
+    template<typename Action>
+    void onEachPage(Action act)
+    {
+        for (int row = 0; row < m_list->count(); ++row) {
+            m_list->setCurrentRow(row);
+            act(m_stack->currentWidget());
+        }
     }
     void showPage(const char *name)
     {
