@@ -4,7 +4,7 @@
 #include "fonts/fontsfile.h"
 #include "platform/qazinit.h"
 #include "resources/registerresources.h"
-#include "settings/themefile.h"
+#include "settings/directories.h"
 
 #include <QOpenGLContext>
 

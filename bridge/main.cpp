@@ -3,7 +3,7 @@
 #include "bridge/bridge.h"
 #include "bridge/programs.h"
 #include "bridge/xconnection.h"
-#include "settings/themefile.h"
+#include "settings/directories.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>

@@ -126,7 +126,7 @@ private slots:
         for (const QString &file : settings)
             home.write(file, "precious");
         const auto question = [&home](const QString &file) {
-            return QStringLiteral("Warning|Can't back up '%1': can't create %2/.local/state/qaz/backup\n"
+            return QStringLiteral("Warning|Can't back up '%1': Can't create directory %2/.local/state/qaz/backup\n"
                                   "Remove it all the same?")
                 .arg(home.path(file), home.path());
         };

@@ -1,7 +1,7 @@
 #include "tools/qaz-theme/arguments.h"
 
 #include "base/diagnostics.h"
-#include "settings/themefile.h"
+#include "settings/directories.h"
 #include "tools/qaz-theme/commands.h"
 
 #include <QFileInfo>

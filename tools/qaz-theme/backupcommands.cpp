@@ -1,4 +1,4 @@
-#include "settings/restorecopy.h"
+#include "settings/backup.h"
 #include "tools/qaz-theme/commands.h"
 #include "tools/qaz-theme/output.h"
 
