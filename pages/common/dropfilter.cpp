@@ -9,6 +9,56 @@
 #include <QUrl>
 #include <QWidget>
 
+namespace {
+
+class DropFilter : public QObject
+{
+public:
+    DropFilter(QWidget *target, const TakeData &take)
+        : QObject(target)
+        , m_take(take)
+    {}
+
+protected:
+    bool eventFilter(QObject *object, QEvent *event) override
+    {
+        const QEvent::Type type = event->type();
+        if (type == QEvent::KeyPress && static_cast<QKeyEvent *>(event)->matches(QKeySequence::Paste)) {
+            const QMimeData *data = QGuiApplication::clipboard()->mimeData();
+            const auto take = data ? m_take(data, QPoint(-1, -1)) : std::function<void()>();
+            if (take)
+                take();
+            return bool(take);
+        }
+        if (type != QEvent::DragEnter && type != QEvent::DragMove && type != QEvent::Drop)
+            return false;
+        auto *drop = static_cast<QDropEvent *>(event);
+        auto *target = static_cast<QWidget *>(parent());
+        const QPoint position = target->mapFromGlobal(
+            static_cast<QWidget *>(object)->mapToGlobal(drop->pos()));
+        // Only who lets data in is told where it moves.
+        const auto take = m_take(drop->mimeData(), type == QEvent::DragEnter ? QPoint(-1, -1) : position);
+        drop->setDropAction(Qt::CopyAction); // a file manager would take "move" at its word
+        drop->setAccepted(bool(take));
+        if (take && type == QEvent::Drop)
+            take();
+        return true;
+    }
+
+private:
+    TakeData m_take;
+};
+
+} // namespace
+
+QColor colorOf(const QMimeData *data)
+{
+    if (data->hasColor())
+        return qvariant_cast<QColor>(data->colorData());
+    const QString text = data->text().trimmed();
+    return text.startsWith(QLatin1Char('#')) && text.size() == 7 ? QColor(text) : QColor();
+}
+
 QString localPath(const QString &text)
 {
     const QString line = text.section(QLatin1Char('\n'), 0, 0).trimmed();
@@ -33,39 +83,22 @@ QString droppedFile(const QMimeData *data, const QStringList &endings)
     return {};
 }
 
-DropFilter::DropFilter(QWidget *target, const Taking &taking)
-    : QObject(target)
-    , m_taking(taking)
+void takeDrops(QWidget *target, const TakeData &take)
 {
+    auto *filter = new DropFilter(target, take);
     target->setAcceptDrops(true);
-    target->installEventFilter(this);
+    target->installEventFilter(filter);
     const QList<QWidget *> children = target->findChildren<QWidget *>();
     for (QWidget *child : children) {
         if (child->acceptDrops())
-            child->installEventFilter(this);
+            child->installEventFilter(filter);
     }
 }
 
-bool DropFilter::eventFilter(QObject *object, QEvent *event)
+void takeColors(QWidget *target, const std::function<void(const QColor &)> &take)
 {
-    const QEvent::Type type = event->type();
-    if (type == QEvent::KeyPress && static_cast<QKeyEvent *>(event)->matches(QKeySequence::Paste)) {
-        const QMimeData *data = QGuiApplication::clipboard()->mimeData();
-        const auto take = data ? m_taking(data, QPoint(-1, -1)) : std::function<void()>();
-        if (take)
-            take();
-        return bool(take);
-    }
-    if (type != QEvent::DragEnter && type != QEvent::DragMove && type != QEvent::Drop)
-        return false;
-    auto *drop = static_cast<QDropEvent *>(event);
-    auto *target = static_cast<QWidget *>(parent());
-    const QPoint position = target->mapFromGlobal(static_cast<QWidget *>(object)->mapToGlobal(drop->pos()));
-    // Only who lets data in is told where it moves.
-    const auto take = m_taking(drop->mimeData(), type == QEvent::DragEnter ? QPoint(-1, -1) : position);
-    drop->setDropAction(Qt::CopyAction); // a file manager would take "move" at its word
-    drop->setAccepted(bool(take));
-    if (take && type == QEvent::Drop)
-        take();
-    return true;
+    takeDrops(target, [take](const QMimeData *data, const QPoint & /*position*/) {
+        const QColor color = colorOf(data);
+        return color.isValid() ? std::function<void()>([take, color] { take(color); }) : nullptr;
+    });
 }

@@ -83,7 +83,7 @@ void SoundPage::setUpList()
     connect(list, &QTreeWidget::itemChanged, this, &SoundPage::itemSelected);
     connect(list, &QTreeWidget::itemSelectionChanged, this, &SoundPage::itemSelected);
     connect(list, &QTreeWidget::itemDoubleClicked, this, &SoundPage::openItem);
-    new DropFilter(list, [this](const QMimeData *data, const QPoint &at) { return taking(data, at); });
+    takeDrops(list, [this](const QMimeData *data, const QPoint &at) { return taking(data, at); });
     const auto onKey = [this, list](Qt::Key key, void (SoundPage::*action)()) {
         auto *shortcut = new QShortcut(QKeySequence(key), list);
         shortcut->setContext(Qt::WidgetShortcut);

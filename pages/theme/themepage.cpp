@@ -1,6 +1,6 @@
 #include "pages/theme/themepage.h"
 
-#include "pages/common/colordrop.h"
+#include "pages/common/dropfilter.h"
 #include "pages/common/messagebox.h"
 #include "pages/common/waitcursor.h"
 #include "pages/theme/swatches.h"
@@ -69,10 +69,9 @@ ThemePage::ThemePage(QWidget *parent)
         ellipsisPixmap(palette().color(QPalette::ButtonText), int(qazDpiScaled(16)), devicePixelRatioF()));
     m_ui->elementComboBox->outlineIcons();
     const auto setMain = [this](const QColor &color) { setColor(0, color); };
-    connect(new ColorDrop(m_ui->elementComboBox), &ColorDrop::dropped, this, setMain);
-    connect(new ColorDrop(m_ui->color1Button), &ColorDrop::dropped, this, setMain);
-    connect(new ColorDrop(m_ui->color2Button), &ColorDrop::dropped, this,
-            [this](const QColor &color) { setColor(1, color); });
+    takeColors(m_ui->elementComboBox, setMain);
+    takeColors(m_ui->color1Button, setMain);
+    takeColors(m_ui->color2Button, [this](const QColor &color) { setColor(1, color); });
     connect(m_ui->elementComboBox, qOverload<int>(&QComboBox::currentIndexChanged), this,
             &ThemePage::colorElementSelected);
     connect(m_ui->color1Button, &QPushButton::clicked, this, &ThemePage::selectColor1);

@@ -7,14 +7,14 @@
 #include <QBuffer>
 #include <QFile>
 #include <QFileInfo>
-#include <QMap>
 
 #include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
 
-using Origin = QMap<QString, QString>; // the text chunks of the file
+const QString originKey = QStringLiteral(
+    "Origin"); // the text chunk of the file that holds what it was made from
 
 QString sizeText(const QSize &size)
 {
@@ -22,22 +22,23 @@ QString sizeText(const QSize &size)
 }
 
 /// Empty for what is no image for sure: what is no regular file, and the kernel's own files, which state no size.
-Origin originOf(const QString &image, const PreviewLook &look)
+QString originOf(const QString &image, const PreviewLook &look)
 {
     struct stat status = {};
     if (::stat(QFile::encodeName(image).constData(), &status) != 0 || !S_ISREG(status.st_mode)
         || status.st_size == 0)
         return {};
-    const qint64 modified = status.st_mtim.tv_sec * qint64(1000000000) + status.st_mtim.tv_nsec;
-    return {{QStringLiteral("Path"), image},
-            {QStringLiteral("Device"), QString::number(status.st_dev)},
-            {QStringLiteral("Inode"), QString::number(status.st_ino)},
-            {QStringLiteral("Size"), QString::number(status.st_size)},
-            {QStringLiteral("Modified"), QString::number(modified)}, // in nanoseconds
-            {QStringLiteral("Fit"), wordFromFit(look.fit)},
-            {QStringLiteral("Color"), look.fill.name()},
-            {QStringLiteral("Label"), sizeText(look.label)},
-            {QStringLiteral("Screen"), sizeText(look.screen)}};
+    const QStringList parts = {QString::number(status.st_dev),
+                               QString::number(status.st_ino),
+                               QString::number(status.st_size),
+                               QString::number(status.st_mtim.tv_sec),
+                               QString::number(status.st_mtim.tv_nsec),
+                               wordFromFit(look.fit),
+                               look.fill.name(),
+                               sizeText(look.label),
+                               sizeText(look.screen),
+                               image};
+    return parts.join(QLatin1Char(' '));
 }
 
 bool isUsersAlone(const QString &path, mode_t type)
@@ -48,27 +49,23 @@ bool isUsersAlone(const QString &path, mode_t type)
 }
 
 /// Null when \a path holds no preview of that origin.
-QImage keptPreview(const QString &path, const Origin &origin)
+QImage keptPreview(const QString &path, const QString &origin)
 {
     if (!isUsersAlone(QFileInfo(path).path(), S_IFDIR) || !isUsersAlone(path, S_IFREG))
         return {};
     const QImage kept = loadImage(path);
-    Origin found;
-    for (const QString &key : kept.textKeys())
-        found.insert(key, kept.text(key));
-    return found == origin ? kept : QImage();
+    return kept.text(originKey) == origin ? kept : QImage();
 }
 
 /// Replaces only a regular file of this user, and follows no link: the directory may be one that everybody writes to.
-void keepPreview(const QString &path, QImage preview, const Origin &origin)
+void keepPreview(const QString &path, QImage preview, const QString &origin)
 {
     const QByteArray name = QFile::encodeName(path);
     struct stat status = {};
     const bool exists = ::lstat(name.constData(), &status) == 0;
     if (exists && (!S_ISREG(status.st_mode) || status.st_uid != ::geteuid()))
         return;
-    for (auto text = origin.begin(); text != origin.end(); ++text)
-        preview.setText(text.key(), text.value());
+    preview.setText(originKey, origin);
     QByteArray png;
     QBuffer buffer(&png);
     QString error;
@@ -90,7 +87,7 @@ QString previewPath(const QString &position, const QColor &fill, const QString &
 
 QImage previewOfFile(const QString &image, const PreviewLook &look, const QString &kept)
 {
-    const Origin origin = originOf(image, look);
+    const QString origin = originOf(image, look);
     if (origin.isEmpty())
         return {};
     QImage preview = keptPreview(kept, origin);

@@ -1,7 +1,6 @@
 #include "pages/wallpaper/wallpaperpage.h"
 
 #include "freedesktop/images.h"
-#include "pages/common/colordrop.h"
 #include "pages/common/dropfilter.h"
 #include "pages/common/messagebox.h"
 #include "pages/common/waitcursor.h"
@@ -31,12 +30,6 @@ constexpr const ThemeKey &positionKey = themeKey("WallPaperPos");
 constexpr const ThemeKey &periodKey = themeKey("WallPaperPeriod");
 const QLatin1String defaultColor("blue"); // another one than the element's, on purpose
 
-/// A desktop's own wallpaper may stand in quotation marks.
-QString unquoted(QString wallpaper)
-{
-    return wallpaper.remove(QLatin1Char('"'));
-}
-
 /// Completes typed paths. The model belongs to the completer.
 QCompleter *createPathCompleter(QObject *parent)
 {
@@ -57,7 +50,7 @@ WallpaperPage::WallpaperPage(QWidget *parent)
     m_ui->setupUi(this);
     m_ui->wallpaperLineEdit->setCompleter(createPathCompleter(this));
     m_ui->wallpaperLineEdit->setClearButtonEnabled(true);
-    new DropFilter(this, [this](const QMimeData *data, const QPoint & /*position*/) { return taking(data); });
+    takeDrops(this, [this](const QMimeData *data, const QPoint & /*position*/) { return taking(data); });
 }
 
 WallpaperPage::~WallpaperPage() = default;
@@ -65,26 +58,25 @@ WallpaperPage::~WallpaperPage() = default;
 bool WallpaperPage::loadValues(QazSettings *settings)
 {
     const WaitCursor waitCursor;
+    m_color = desktopColor(
+        settings->value(QLatin1String(themeKey("DesktopColor").name), defaultColor).toString());
     const QString desktopWallpaper = currentDesktopWallpaper();
     if (desktopWallpaper.isEmpty())
         loadGlobalValues(settings);
     else
         loadDesktopValues(desktopWallpaper);
-    const QString shown = m_ui->wallpaperLineEdit->text();
-    // A global colour is not the page's yet: the preview adopts it.
-    m_color = !desktopWallpaper.isEmpty() && isColorText(shown)
-                  ? QColor(shown)
-                  : desktopColor(
-                      settings->value(QLatin1String(themeKey("DesktopColor").name), defaultColor).toString());
     connectWidgets();
     slotWallpaperType();
     loaded = true;
     return true;
 }
 
-void WallpaperPage::loadDesktopValues(const QString &wallpaper)
+void WallpaperPage::loadDesktopValues(QString wallpaper)
 {
-    m_ui->wallpaperLineEdit->setText(unquoted(wallpaper));
+    wallpaper.remove(QLatin1Char('"'));
+    if (isColorText(wallpaper)) // a global one becomes the page's when the preview adopts it
+        m_color = QColor(wallpaper);
+    m_ui->wallpaperLineEdit->setText(wallpaper);
     m_ui->wallpaperForCurrDesktopCheckBox->setChecked(true);
     m_ui->wallpaperPositionCombo->setCurrentIndex(int(Fit::Stretch));
     m_ui->wallpaperPositionCombo->setEnabled(false);
@@ -119,8 +111,8 @@ void WallpaperPage::connectWidgets()
     connect(lineEdit, &QLineEdit::textChanged, this, &WallpaperPage::selectWallpaper, unique);
     connect(combo, activated, this, &WallpaperPage::slotWallpaperType, unique);
     m_ui->wallpaperPixmapLabel->setContextMenuPolicy(Qt::CustomContextMenu);
-    connect(m_ui->wallpaperPixmapLabel, &QWidget::customContextMenuRequested, this,
-            &WallpaperPage::clickFileButton, unique);
+    connect(m_ui->wallpaperPixmapLabel, &QWidget::customContextMenuRequested, m_ui->wallpaperSelectionBtn,
+            &QPushButton::click, unique);
     connect(checkBox, &QCheckBox::stateChanged, this, &WallpaperPage::slotCurrDesktop, unique);
 }
 
@@ -222,19 +214,13 @@ void WallpaperPage::selectWallpaper(const QString &text)
         m_ui->wallpaperLineEdit->setText(path); // which draws the preview
         return;
     }
-    if (isColorText(text))
-        adoptColor(text);
+    if (isColorText(text)) {
+        if (const QColor color(text); color.isValid())
+            m_color = color;
+        else
+            m_ui->wallpaperLineEdit->setText(m_color.name());
+    }
     m_ui->wallpaperPixmapLabel->setPixmap(QPixmap::fromImage(preview(text)));
-}
-
-/// A colour that can't be read is replaced by the page's in the line edit, which draws the preview again.
-void WallpaperPage::adoptColor(const QString &text)
-{
-    const QColor color(text);
-    if (color.isValid())
-        m_color = color;
-    else
-        m_ui->wallpaperLineEdit->setText(m_color.name());
 }
 
 QImage WallpaperPage::preview(const QString &text) const
@@ -270,9 +256,4 @@ void WallpaperPage::slotCurrDesktop(int state)
 void WallpaperPage::clearWallpaper()
 {
     m_ui->wallpaperLineEdit->clear();
-}
-
-void WallpaperPage::clickFileButton()
-{
-    emit m_ui->wallpaperSelectionBtn->clicked();
 }

@@ -44,17 +44,15 @@ public slots:
     bool saveValues(QazSettings *settings);
 
 private:
-    void loadDesktopValues(const QString &wallpaper);
+    void loadDesktopValues(QString wallpaper);
     void loadGlobalValues(const QazSettings *settings);
     void connectWidgets();
-    void clickFileButton();
     void takeFile(const QString &chosen);
     void takeColor(const QColor &color);
     /// Takes a picture or a colour that is dropped on the page, or pasted into the line edit.
     std::function<void()> taking(const QMimeData *data);
     QString convertedFile(const QString &file);
     bool asks(const QString &title, const QString &question);
-    void adoptColor(const QString &text);
     /// What the monitor picture shows of the wallpaper \a text.
     QImage preview(const QString &text) const;
     QSize screenSize() const;

@@ -1,41 +1,24 @@
 #include "pages/wallpaper/wallpaperpage.h"
-#include "platform/qazsettings.h"
 #include "resources/registerresources.h"
-#include "tests/support/literals.h"
 #include "tests/support/modaldriver.h"
-#include "tests/support/temporaryhome.h"
-#include "tests/support/wmlistener.h"
+#include "tests/support/pageoverfile.h"
 
 #include <QtTest>
 #include <QtWidgets>
 
 namespace {
 
-const QString themeFile = "current.themerc"_s;
 const QString desktopFile = "Desktops/Desktop1/.directory"_s;
 const QString otherDesktop = "Desktops/Desktop2/.directory"_s;
 const QByteArray withWallpaper = "[Desktop Entry]\nX-QAZ-WallPaper=a\n";
 const QByteArray svg = "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 10 10'><path fill='#f00' d='M0 "
                        "0h5v10h-5z'/></svg>";
 
-/// A page loaded from the theme file of a home of its own.
-struct Page {
-    explicit Page(const QByteArray &theme = {}, const QByteArray &desktop = {})
+struct Page : PageOverFile<WallpaperPage> {
+    explicit Page(const QByteArray &theme, const QByteArray &desktop = {})
     {
-        home.write(themeFile, theme);
-        home.write(desktopFile, desktop);
-        run(&WallpaperPage::loadValues);
-    }
-    void run(bool (WallpaperPage::*loadOrSave)(QazSettings *))
-    {
-        QazSettings store(home.path(themeFile));
-        store.sync(true);
-        QVERIFY((page.*loadOrSave)(&store) && page.loaded);
-    }
-    template<typename Widget>
-    Widget *child(const char *name) const
-    {
-        return page.findChild<Widget *>(QLatin1String(name));
+        home.write(desktopFile, "[Desktop Entry]\nX-QAZ-WallPaper=" + desktop);
+        load(theme);
     }
     QString shownColor() const { return label->pixmap(Qt::ReturnByValue).toImage().pixelColor(0, 0).name(); }
     /// Presses "File...", chooses as a user does who types the path, and gives the answers.
@@ -51,18 +34,16 @@ struct Page {
         });
         for (const QMessageBox::StandardButton answer : answers)
             driver.thenAnswer(answer);
-        child<QPushButton>("wallpaperSelectionBtn")->click();
+        fileButton->click();
     }
 
-    TemporaryHome home;
-    WmListener listener;
-    WallpaperPage page;
     ModalDriver driver;
-    QLineEdit *lineEdit = child<QLineEdit>("wallpaperLineEdit");
-    QComboBox *position = child<QComboBox>("wallpaperPositionCombo");
-    QSpinBox *period = child<QSpinBox>("SlideShowSpinBox");
-    QCheckBox *onlyDesktop = child<QCheckBox>("wallpaperForCurrDesktopCheckBox");
-    QLabel *label = child<QLabel>("wallpaperPixmapLabel");
+    QLineEdit *lineEdit = find<QLineEdit>("wallpaperLineEdit");
+    QComboBox *position = find<QComboBox>("wallpaperPositionCombo");
+    QSpinBox *period = find<QSpinBox>("SlideShowSpinBox");
+    QCheckBox *onlyDesktop = find<QCheckBox>("wallpaperForCurrDesktopCheckBox");
+    QPushButton *fileButton = find<QPushButton>("wallpaperSelectionBtn");
+    QLabel *label = find<QLabel>("wallpaperPixmapLabel");
     QSignalSpy changed{&page, &WallpaperPage::changedSignal};
 };
 
@@ -87,86 +68,67 @@ class TestWallpaperPage : public QObject
 private slots:
     void initTestCase() { registerResources(); }
 
-    void valuesAreLoaded_data()
-    {
-        QTest::addColumn<QByteArray>("theme");
-        QTest::addColumn<QByteArray>("desktop"); // the wallpaper of its own
-        QTest::addColumn<QString>("state");      // text, position, period, and the colour without a text
-        const auto row = [](const char *title, const char *theme, const char *desktop, const char *state) {
-            QTest::newRow(title) << QByteArray(theme) << QByteArray(desktop) << QString::fromLatin1(state);
-        };
-        row("defaults", nullptr, "", "qaz-default|2|0|#0000ff");
-        row("all set", "WallPaper=/a b.png\nWallPaperPos=Tile\nWallPaperPeriod=15\nDesktopColor=#123456\n",
-            "", "/a b.png|1|15|#123456");
-        row("unknown words", "WallPaperPos=stretch\nWallPaperPeriod=often\nDesktopColor=qvlightgray\n", "",
-            "qaz-default|0|0|#000000");
-        row("out of range", "WallPaperPos=Center\nWallPaperPeriod=9999\n", "", "qaz-default|0|3600|#0000ff");
-        row("the preview adopts a colour", "WallPaper=#a6caf0\nDesktopColor=qvroyalblue\n", "",
-            "#a6caf0|2|0|#a6caf0");
-        row("colour that can't be read", "DesktopColor=red\n", "\"#zz\"", "#000000|2|0|#000000");
-        row("for this desktop only", "WallPaper=/a\nWallPaperPos=Tile\nWallPaperPeriod=15\n", "\"#a6caf0\"",
-            "#a6caf0|2|0|#a6caf0");
-    }
-
     void valuesAreLoaded()
     {
-        QFETCH(QByteArray, theme);
-        QFETCH(QByteArray, desktop);
-        Page page(theme, "[Desktop Entry]\nX-QAZ-WallPaper=" + desktop);
-        QCOMPARE(page.onlyDesktop->isChecked(), !desktop.isEmpty());
-        QCOMPARE(page.position->isEnabled() && page.period->isEnabled(), desktop.isEmpty());
-        QCOMPARE(page.label->pixmap(Qt::ReturnByValue).size(), QSize(242, 181));
-        const QString text = page.lineEdit->text();
-        page.page.clearWallpaper();
-        QTEST("%1|%2|%3|%4"_s.arg(text, QString::number(page.position->currentIndex()),
-                                  QString::number(page.period->value()), page.shownColor()),
-              "state");
-    }
-
-    void repeatedLoadsConnectOnce()
-    {
-        Page page;
-        page.run(&WallpaperPage::loadValues);
-        page.period->setValue(5);
-        page.lineEdit->setText("/x"_s);
-        emit page.position->activated(1);
-        page.onlyDesktop->click();
-        QCOMPARE(page.changed.count(), 4);
-        QVERIFY(!page.position->isEnabled() && !page.period->isEnabled());
-        page.onlyDesktop->click();
-        QVERIFY(page.position->isEnabled() && page.period->isEnabled());
-        QVERIFY(!QGuiApplication::overrideCursor());
+        const struct {
+            QByteArray theme, desktop; // the wallpaper of its own
+            QString state;             // text, position, period, and the colour without a text
+        } rows[] = {{"", "", "qaz-default|2|0|#0000ff"_s},
+                    {"WallPaper=/a b.png\nWallPaperPos=Tile\nWallPaperPeriod=15\nDesktopColor=#123456\n", "",
+                     "/a b.png|1|15|#123456"_s},
+                    {"WallPaperPos=stretch\nWallPaperPeriod=often\nDesktopColor=qvlightgray\n", "",
+                     "qaz-default|0|0|#000000"_s},
+                    {"WallPaperPos=Center\nWallPaperPeriod=9999\n", "", "qaz-default|0|3600|#0000ff"_s},
+                    {"WallPaper=#a6caf0\nDesktopColor=qvroyalblue\n", "", "#a6caf0|2|0|#a6caf0"_s},
+                    {"DesktopColor=red\n", "\"#zz\"", "#000000|2|0|#000000"_s},
+                    {"DesktopColor=red\n", "/a", "/a|2|0|#ff0000"_s},
+                    {"WallPaper=/a\nWallPaperPos=Tile\nWallPaperPeriod=15\n", "\"#a6caf0\"",
+                     "#a6caf0|2|0|#a6caf0"_s}};
+        for (const auto &[theme, desktop, state] : rows) {
+            Page page(theme, desktop);
+            QCOMPARE(page.onlyDesktop->isChecked(), !desktop.isEmpty());
+            QCOMPARE(page.position->isEnabled(), desktop.isEmpty());
+            QCOMPARE(page.period->isEnabled(), desktop.isEmpty());
+            QCOMPARE(page.label->pixmap(Qt::ReturnByValue).size(), QSize(242, 181));
+            const QString text = page.lineEdit->text();
+            page.page.clearWallpaper();
+            QCOMPARE("%1|%2|%3|"_s.arg(text).arg(page.position->currentIndex()).arg(page.period->value())
+                         + page.shownColor(),
+                     state);
+        }
     }
 
     void onlyChangesAreStored()
     {
-        Page page;
+        Page page("");
         page.home.write(otherDesktop, withWallpaper);
-        page.run(&WallpaperPage::saveValues);
-        QCOMPARE(page.listener.take(), QStringList());
-        QCOMPARE(page.home.read(themeFile), QByteArray(""));
+        QCOMPARE(page.save(), QString());
+        QCOMPARE(page.content(), QByteArray(""));
         QCOMPARE(page.home.read(otherDesktop), QByteArray("[Desktop Entry]\n"));
 
+        page.load(""); // again: each edit is still told once
+        QVERIFY(page.page.loaded && !QGuiApplication::overrideCursor());
+        QCOMPARE(page.changed.count(), 0);
         page.lineEdit->setText("/a b.png"_s);
-        page.position->setCurrentIndex(1);
+        QTest::keyClick(page.position, Qt::Key_Up);
         page.period->setValue(15);
-        page.run(&WallpaperPage::saveValues);
-        QCOMPARE(page.listener.take(),
-                 QStringList({"QAZWM_UPDATE_VAL WallPaper /a b.png"_s, "QAZWM_UPDATE_VAL WallPaperPos Tile"_s,
-                              "QAZWM_UPDATE_VAL WallPaperPeriod 15"_s}));
-        const QByteArray stored = page.home.read(themeFile);
+        QCOMPARE(page.changed.count(), 3);
+        QCOMPARE(page.save(), "WallPaper /a b.png|WallPaperPos Tile|WallPaperPeriod 15"_s);
+        const QByteArray stored = page.content();
         QCOMPARE(stored, QByteArray("WallPaper=/a b.png\nWallPaperPeriod=15\nWallPaperPos=Tile\n"));
-        page.run(&WallpaperPage::saveValues);
-        QCOMPARE(page.listener.take(), QStringList());
+        QCOMPARE(page.save(), QString());
 
         page.home.write(otherDesktop, withWallpaper);
         page.onlyDesktop->click();
+        QCOMPARE(page.changed.count(), 4);
+        QVERIFY(!page.position->isEnabled() && !page.period->isEnabled());
         page.lineEdit->setText("#a6caf0"_s);
-        page.run(&WallpaperPage::saveValues);
-        QCOMPARE(page.listener.take(), QStringList{"QAZWM_UPDATE_VAL WallPaperLocal \"#a6caf0\""_s});
+        QCOMPARE(page.save(), "WallPaperLocal \"#a6caf0\""_s);
         QCOMPARE(page.home.read(desktopFile), QByteArray("[Desktop Entry]\nX-QAZ-WallPaper=\"#a6caf0\"\n"));
         QCOMPARE(page.home.read(otherDesktop), withWallpaper);
-        QCOMPARE(page.home.read(themeFile), stored);
+        QCOMPARE(page.content(), stored);
+        page.onlyDesktop->click();
+        QVERIFY(page.position->isEnabled() && page.period->isEnabled());
     }
 
     void textsDrawTheirPreview()
@@ -181,8 +143,7 @@ private slots:
         const QImage file(path);
         QCOMPARE(file.size(), QSize(242, 181));
         QCOMPARE(file.pixelColor(241, 180), QColor(Qt::red));
-        page.position->setCurrentIndex(1);
-        emit page.position->activated(1);
+        QTest::keyClick(page.position, Qt::Key_Up);
         const QString colors[][2] = {{red, "#ff0000"_s},          {"my paper"_s, "#00ff00"_s},
                                      {"no paper"_s, "#102030"_s}, {"#zz"_s, "#102030"_s},
                                      {"#abcdef"_s, "#abcdef"_s},  {QString(), "#abcdef"_s}};
@@ -194,8 +155,7 @@ private slots:
         QCOMPARE(
             QDir(written).entryList(QDir::Files).join(u'|'),
             "Stretch_#102030_red image.xpm.png|Tile_#102030_my paper.png|Tile_#102030_red image.xpm.png"_s);
-        page.run(&WallpaperPage::saveValues);
-        QVERIFY(page.home.read(themeFile).startsWith("WallPaper=#abcdef\n"));
+        QCOMPARE(page.save(), "WallPaper #abcdef|WallPaperPos Tile"_s);
         page.lineEdit->setText("file:///a%20b.png"_s); // typed, or pasted with the mouse
         QCOMPARE(page.lineEdit->text(), "/a b.png"_s);
     }
@@ -221,7 +181,7 @@ private slots:
         page.choose(upperCase);
         QCOMPARE(page.lineEdit->text(), upperCase);
         page.driver.then(look);
-        page.child<QPushButton>("wallpaperSelectionBtn")->click();
+        page.fileButton->click();
         QCOMPARE(page.lineEdit->text(), upperCase);
         const QString place = "|file:///usr/share/wallpapers"_s;
         QCOMPARE(starts, QStringList({QFileInfo(own).path() + place, QFileInfo(upperCase).path() + place}));
@@ -272,7 +232,7 @@ private slots:
             colors->accept();
             QCOMPARE(initial, QColor(0x10, 0x20, 0x30));
         });
-        auto *button = page.child<QPushButton>("colorSelectionButton");
+        auto *button = page.find<QPushButton>("colorSelectionButton");
         button->click();
         QCOMPARE(page.lineEdit->text(), "#a6caf0"_s);
         QCOMPARE(page.shownColor(), "#a6caf0"_s);
@@ -293,7 +253,7 @@ private slots:
         };
         row("picture", "text/uri-list", "file://HOME/a%20b.XPM\r\n", "HOME/a b.XPM");
         row("first that fits", "text/uri-list",
-            "http://host/x.png\r\nfile://HOME/current.themerc\r\nfile://HOME/none.png\r\nfile://HOME/"
+            "http://host/x.png\r\nfile://HOME/t\r\nfile://HOME/none.png\r\nfile://HOME/"
             "a%20b.XPM\r\n",
             "HOME/a b.XPM");
         row("picture as text", "text/plain", "file://HOME/a%20b.XPM", "HOME/a b.XPM");
@@ -318,7 +278,7 @@ private slots:
                     QTest::keyClick(page.lineEdit, Qt::Key_V, Qt::ControlModifier);
             } else {
                 const std::unique_ptr<QMimeData> owner(mime);
-                QWidget *child = page.child<QWidget>(target);
+                QWidget *child = page.find<QWidget>(target);
                 const auto actions = Qt::MoveAction | Qt::CopyAction;
                 QDragEnterEvent enter({1, 1}, actions, mime, Qt::LeftButton, {});
                 QDropEvent drop({1, 1}, actions, mime, Qt::LeftButton, {});
