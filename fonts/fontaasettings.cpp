@@ -74,15 +74,17 @@ FontAASettings::FontAASettings(QWidget *parent)
     connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this,
             [] { qazHelpShow(QStringLiteral("antialiasing")); });
 
-    load();
-
     connect(m_ui->excludeRangeCheckBox, &QCheckBox::toggled, this, &FontAASettings::rangeChanged);
     connect(m_ui->useSubPixelCheckBox, &QCheckBox::toggled, this, &FontAASettings::changed);
-    for (QDoubleSpinBox *spinBox : {m_ui->excludeFromSpinBox, m_ui->excludeToSpinBox})
+    for (QDoubleSpinBox *spinBox : {m_ui->excludeFromSpinBox, m_ui->excludeToSpinBox}) {
+        spinBox->setDecimals(1);
+        spinBox->setMaximum(48);
         connect(spinBox, qOverload<double>(&QDoubleSpinBox::valueChanged), this,
                 &FontAASettings::rangeChanged);
+    }
     for (QComboBox *combo : {m_ui->subPixelTypeCombo, m_ui->hintStyleCombo})
         connect(combo, &QComboBox::textActivated, this, &FontAASettings::changed);
+    load();
 }
 
 FontAASettings::~FontAASettings() = default;

@@ -41,11 +41,6 @@ int indexOf(const Name (&names)[count], const QString &file)
     return index;
 }
 
-QString translated(const Name &name)
-{
-    return QCoreApplication::translate("FontRendering", name.display);
-}
-
 ExcludeRange converted(const ExcludeRange &range, double factor)
 {
     return {std::trunc(range.from * factor + 0.5), std::trunc(range.to * factor + 0.5)};
@@ -71,12 +66,12 @@ QString FontRendering::fileName(HintStyle style)
 
 QString FontRendering::displayName(SubPixelOrder order)
 {
-    return translated(subPixelNames[int(order)]);
+    return QCoreApplication::translate("FontRendering", subPixelNames[int(order)].display);
 }
 
 QString FontRendering::displayName(HintStyle style)
 {
-    return translated(hintNames[int(style)]);
+    return QCoreApplication::translate("FontRendering", hintNames[int(style)].display);
 }
 
 SubPixelOrder FontRendering::subPixelOrder(const QString &fileName)

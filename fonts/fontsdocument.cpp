@@ -11,9 +11,8 @@ using Child = FontsXml::Child;
 
 constexpr char declaration[] = "<?xml version=\"1.0\"?>";
 constexpr char quotedDeclaration[] = "<?xml version = '1.0'?>";
+constexpr char bareDoctype[] = "<!DOCTYPE fontconfig>";
 constexpr char doctype[] = "<!DOCTYPE fontconfig SYSTEM \"fonts.dtd\">";
-constexpr char newFile[] = "<?xml version=\"1.0\"?>\n<!DOCTYPE fontconfig SYSTEM \"fonts.dtd\">\n"
-                           "<fontconfig>\n</fontconfig>\n";
 constexpr char emptyRoot[] = "<fontconfig>\n</fontconfig>\n";
 
 bool isOf(const Child &child, FontsItem::Kind kind)
@@ -26,9 +25,7 @@ bool isOf(const Child &child, FontsItem::Kind kind)
 FontsDocument::FontsDocument()
 {
     QString error;
-    const bool isUnderstood = understand(newFile, &error);
-    Q_ASSERT(isUnderstood);
-    Q_UNUSED(isUnderstood)
+    (void)understand(QByteArray(declaration) + '\n' + doctype + '\n' + emptyRoot, &error); // always succeeds
 }
 
 bool FontsDocument::setContent(const QByteArray &content, QString *error)
@@ -48,7 +45,8 @@ bool FontsDocument::understand(const QByteArray &content, QString *error)
         return true;
     if (m_xml.rootOpenEnd > 0)
         return false;
-    m_text += (m_text.endsWith(QLatin1Char('\n')) ? QString() : newLine()) + QLatin1String(emptyRoot);
+    m_text += m_text.endsWith(QLatin1Char('\n')) ? QString() : newLine();
+    m_text += QLatin1String(emptyRoot);
     return readFontsXml(m_text, &m_xml, error);
 }
 
@@ -133,9 +131,9 @@ void FontsDocument::addPrologEdits(QVector<Edit> *edits) const
         edits->append({0, int(qstrlen(quotedDeclaration)), QLatin1String(declaration)});
     else if (!m_text.startsWith(QLatin1String("<?xml")))
         edits->append({0, 0, QLatin1String(declaration) + newLine()});
-    if (m_xml.bareDoctype >= 0)
-        edits->append(
-            {m_xml.bareDoctype, m_xml.bareDoctype + int(qstrlen(bareDoctypeText)), QLatin1String(doctype)});
+    const int start = m_text.indexOf(QLatin1String(bareDoctype));
+    if (start >= 0 && start < m_xml.rootOpenEnd)
+        edits->append({start, start + int(qstrlen(bareDoctype)), QLatin1String(doctype)});
 }
 
 FontsDocument::Edit FontsDocument::replacement(const Child &child, const FontsItem &item) const
@@ -145,8 +143,7 @@ FontsDocument::Edit FontsDocument::replacement(const Child &child, const FontsIt
     QString essence = fontsItemForm(item).remove(QLatin1Char('\t')).remove(QLatin1Char('\n'));
     const int startTagSize = wanted.indexOf(QLatin1Char('>')) + 1;
     // A start tag may carry more than we know of, and what users wrote between our tags is theirs.
-    QString kept = child.hasMoreAttributes ? m_text.mid(child.start, child.startTagEnd - child.start)
-                                           : wanted.left(startTagSize);
+    QString kept = child.startTag.isEmpty() ? wanted.left(startTagSize) : child.startTag;
     essence.replace(0, startTagSize, kept);
     if (essence == child.essence)
         return {child.start, child.start, {}};
@@ -186,12 +183,13 @@ const Child *FontsDocument::placeOf(const FontsItem &item, const QVector<FontsIt
     if (item.kind != FontsItem::Kind::AntiAliasing)
         return nullptr;
     // The rules apply in their order: behind a range, the new one would take it out of force.
-    const auto first = std::find_if(children().begin(), children().end(), [&items](const Child &child) {
-        return std::any_of(items.begin(), items.end(), [&child](const FontsItem &item) {
-            return item.isRange() && !item.isEmpty() && isOf(child, item.kind);
-        });
-    });
-    return first == children().end() ? nullptr : first;
+    for (const Child &child : children()) {
+        for (const FontsItem &range : items) {
+            if (range.isRange() && !range.isEmpty() && isOf(child, range.kind))
+                return &child;
+        }
+    }
+    return nullptr;
 }
 
 QString FontsDocument::laidOut(const FontsItem &item, const QString &indentation) const
@@ -231,7 +229,7 @@ bool FontsDocument::holdsOnlySettings() const
 {
     QList<FontsItem::Kind> kinds;
     for (const Child &child : children()) {
-        if (!child.item || child.hasMoreAttributes || !child.remarks.isEmpty()
+        if (!child.item || !child.startTag.isEmpty() || !child.remarks.isEmpty()
             || kinds.contains(child.item->kind))
             return false;
         kinds.append(child.item->kind);

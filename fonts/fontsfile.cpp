@@ -30,13 +30,6 @@ constexpr std::time_t orphanedLockAge = 1;
 constexpr std::time_t anonymousLockAge = 60;
 constexpr std::time_t livingLockAge = 600;
 
-/// Whether the process that the lock file \a path names is alive.
-bool hasLivingOwner(const QByteArray &path)
-{
-    const pid_t owner = pid_t(readRegularFile(QFile::decodeName(path), 100).content.trimmed().toInt());
-    return owner > 0 && (::kill(owner, 0) == 0 || errno == EPERM);
-}
-
 /// Removes the lock \a path when it is older than its writer can live.
 void removeStaleLock(const QByteArray &path)
 {
@@ -45,7 +38,9 @@ void removeStaleLock(const QByteArray &path)
         return;
     const auto age = std::abs(std::time(nullptr) - status.st_mtime); // a clock may have been set back
     const bool namesOwner = S_ISREG(status.st_mode) && status.st_size > 0;
-    if (age > (!namesOwner ? anonymousLockAge : hasLivingOwner(path) ? livingLockAge : orphanedLockAge))
+    const pid_t owner = pid_t(readRegularFile(QFile::decodeName(path), 100).content.trimmed().toInt());
+    const bool isAlive = owner > 0 && (::kill(owner, 0) == 0 || errno == EPERM);
+    if (age > (!namesOwner ? anonymousLockAge : isAlive ? livingLockAge : orphanedLockAge))
         std::remove(path.constData());
 }
 

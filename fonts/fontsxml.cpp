@@ -24,11 +24,8 @@ public:
 
 private:
     void readToken(QXmlStreamReader::TokenType token);
-    void doctype();
     void startElement();
     void endElement();
-    void characters();
-    void remark();
     /// The token as it stands in the text; what an entity stands for has no place there.
     QString tokenText() const { return m_start < m_end ? m_text.mid(m_start, m_end - m_start) : QString(); }
 
@@ -58,31 +55,27 @@ void Reader::readToken(QXmlStreamReader::TokenType token)
         m_start = m_text.indexOf(QLatin1Char('<'), m_end);
         m_end = int(m_reader.characterOffset());
     }
-    switch (token) {
-    case QXmlStreamReader::DTD:
-        return doctype();
-    case QXmlStreamReader::StartElement:
+    if (token == QXmlStreamReader::StartElement)
         return startElement();
-    case QXmlStreamReader::EndElement:
+    if (token == QXmlStreamReader::EndElement)
         return endElement();
-    case QXmlStreamReader::Characters:
-        return characters();
-    case QXmlStreamReader::Comment:
-    case QXmlStreamReader::ProcessingInstruction:
-        return remark();
-    case QXmlStreamReader::EntityReference: // of which nobody here knows what it stands for
-        (m_open.empty() ? m_xml->holdsMore : m_open.back().hasUnknown) = true;
-        return;
-    default:
+    const bool isRemark = token == QXmlStreamReader::Comment
+                          || token == QXmlStreamReader::ProcessingInstruction;
+    const bool isText = token == QXmlStreamReader::Characters && !m_reader.text().trimmed().isEmpty();
+    const bool isUnknown = token == QXmlStreamReader::EntityReference;
+    if (m_open.empty()) {
+        const bool hasSubset = token == QXmlStreamReader::DTD && m_reader.text().contains(QLatin1Char('['));
+        m_xml->holdsMore = m_xml->holdsMore || isRemark || isText || isUnknown || hasSubset;
         return;
     }
-}
-
-void Reader::doctype()
-{
-    m_xml->holdsMore = m_xml->holdsMore || m_reader.text().contains(QLatin1Char('['));
-    if (m_reader.text() == QLatin1String(bareDoctypeText))
-        m_xml->bareDoctype = m_text.lastIndexOf(QLatin1String(bareDoctypeText), m_end);
+    FontsXml::Child &child = m_xml->children.last();
+    if (isRemark && m_start < m_end)
+        child.remarks.append(tokenText());
+    if (isText) {
+        m_open.back().text += m_reader.text();
+        child.essence += m_reader.text();
+    }
+    m_open.back().hasUnknown = m_open.back().hasUnknown || isUnknown;
 }
 
 void Reader::startElement()
@@ -105,8 +98,7 @@ void Reader::startElement()
     if (m_open.empty()) {
         FontsXml::Child child;
         child.start = m_start;
-        child.startTagEnd = m_end;
-        child.hasMoreAttributes = attributes.size() > 1;
+        child.startTag = attributes.size() > 1 ? tokenText() : QString();
         m_xml->children.append(child);
     }
     m_xml->children.last().essence += tokenText();
@@ -129,28 +121,8 @@ void Reader::endElement()
     }
     child.end = m_end;
     // What comes out of an entity can't be changed in the text.
-    if (child.start < child.startTagEnd)
+    if (child.start < child.end)
         child.item = readFontsItem(element);
-}
-
-void Reader::characters()
-{
-    if (m_reader.text().trimmed().isEmpty())
-        return;
-    if (m_open.empty()) {
-        m_xml->holdsMore = true;
-        return;
-    }
-    m_open.back().text += m_reader.text();
-    m_xml->children.last().essence += m_reader.text();
-}
-
-void Reader::remark()
-{
-    if (m_open.empty())
-        m_xml->holdsMore = true;
-    else if (const QString text = tokenText(); !text.isEmpty())
-        m_xml->children.last().remarks.append(text);
 }
 
 } // namespace

@@ -11,22 +11,17 @@ struct FontsXml {
     struct Child {
         std::optional<FontsItem> item; ///< the setting that it holds
         int start = 0;
-        int startTagEnd = 0;
         int end = 0;
-        bool hasMoreAttributes = false; ///< than a setting's element needs
-        QStringList remarks;            ///< comments and processing instructions inside
-        QString essence;                ///< without them and the blanks between tags
+        QString startTag;    ///< where it has more attributes than a setting's element needs
+        QStringList remarks; ///< comments and processing instructions inside
+        QString essence;     ///< without them and the blanks between tags
     };
 
     QVector<Child> children;
     bool holdsMore = false; ///< remarks, text or attributes beside the children
-    int bareDoctype = -1;   ///< a document type declaration of nothing but the root's name; -1: there is none
     int rootOpenEnd = 0;    ///< behind the root's start tag; 0: there is no root
     int rootClose = -1;     ///< the root's end tag; -1: the root is an empty-element tag
 };
-
-/// A document type declaration without the name of its DTD.
-inline constexpr char bareDoctypeText[] = "<!DOCTYPE fontconfig>";
 
 /// Reads \a text. Returns false when it is not well-formed or its root is no fontconfig element; \a error says why.
 [[nodiscard]] bool readFontsXml(const QString &text, FontsXml *xml, QString *error);

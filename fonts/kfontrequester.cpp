@@ -47,38 +47,37 @@ protected:
 class KFontRequesterPrivate : public QObject
 {
 public:
-    KFontRequesterPrivate(KFontRequester *requester, bool onlyFixed)
-        : q(requester)
-        , fixedOnly(onlyFixed)
-    {}
-
-    void buildWidgets();
+    KFontRequesterPrivate(KFontRequester *requester, bool onlyFixed);
     void select(const QFont &font);
     void displaySampleText();
     void setToolTips();
 
     KFontRequester *const q;
     bool fixedOnly;
-    QLabel *sampleLabel = nullptr;
-    QPushButton *button = nullptr;
+    QLabel *const sampleLabel;
+    QPushButton *const button;
     QString title;
     QFont selectedFont;
 };
 
-void KFontRequesterPrivate::buildWidgets()
+KFontRequesterPrivate::KFontRequesterPrivate(KFontRequester *requester, bool onlyFixed)
+    : q(requester)
+    , fixedOnly(onlyFixed)
+    , sampleLabel(new PreviewLabel(q))
+    , button(new QPushButton(KFontRequester::tr("..."), q))
 {
     auto *layout = new QHBoxLayout(q);
     layout->setContentsMargins(0, 0, 0, 0);
-    sampleLabel = new PreviewLabel(q);
     sampleLabel->setObjectName(QStringLiteral("previewLabel"));
     sampleLabel->setTextFormat(Qt::PlainText); // family names are anybody's text
     sampleLabel->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
-    button = new QPushButton(KFontRequester::tr("..."), q);
     button->setObjectName(QStringLiteral("chooseButton"));
     layout->addWidget(sampleLabel, 1);
     // Aligned, its fixed height does not bind the preview's.
     layout->addWidget(button, 0, Qt::AlignVCenter);
     q->setFocusProxy(button);
+    displaySampleText();
+    setToolTips();
 }
 
 void KFontRequesterPrivate::select(const QFont &font)
@@ -118,10 +117,7 @@ KFontRequester::KFontRequester(QWidget *parent, bool onlyFixed)
     : QWidget(parent)
     , d(std::make_unique<KFontRequesterPrivate>(this, onlyFixed))
 {
-    d->buildWidgets();
     connect(d->button, &QPushButton::clicked, this, &KFontRequester::_k_buttonClicked);
-    d->displaySampleText();
-    d->setToolTips();
 }
 
 KFontRequester::~KFontRequester() = default;

@@ -20,7 +20,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSpinBox>
-#include <QStyleOptionComboBox>
 #include <QVBoxLayout>
 
 namespace {
@@ -46,24 +45,6 @@ void setHelp(QWidget *widget, const QString &help)
 {
     widget->setToolTip(help);
     widget->setWhatsThis(help);
-}
-
-/// A style may scale a combo box's arrow with the screen's resolution, but not the room for it in the size hint:
-/// the longest text would lose its end.
-void widenToTexts(QComboBox *comboBox)
-{
-    QStyleOptionComboBox option;
-    option.initFrom(comboBox);
-    option.rect.setSize(comboBox->sizeHint());
-    const QRect shown = comboBox->style()->subControlRect(QStyle::CC_ComboBox, &option,
-                                                          QStyle::SC_ComboBoxEditField, comboBox);
-    int longest = 0;
-    for (int i = 0; i < comboBox->count(); ++i)
-        longest = qMax(longest, comboBox->fontMetrics().horizontalAdvance(comboBox->itemText(i)));
-    constexpr int margins = 2; // of the text in its field
-    const int missing = longest + margins - shown.width();
-    if (missing > 0)
-        comboBox->setMinimumWidth(option.rect.width() + missing);
 }
 
 /// Sets the line of the DPI in the user's X resources, or removes it for 0. A file that was made for the line goes with
@@ -118,9 +99,7 @@ KFonts::KFonts(QWidget *parent)
 
 void KFonts::addRoles(QGridLayout *grid)
 {
-    grid->setColumnStretch(0, 0);
     grid->setColumnStretch(1, 1);
-    grid->setColumnStretch(2, 0);
     for (const FontRole &role : fontRoles) {
         const QString key = QLatin1String(role.key->name);
         const QFont defaultFont = textToFont(QLatin1String(role.key->defaultText));
@@ -140,10 +119,11 @@ void KFonts::addAntiAliasingRow(QGridLayout *grid)
 {
     m_aaComboBox = new QComboBox(this);
     m_aaComboBox->setObjectName(QStringLiteral("aaComboBox"));
-    m_aaComboBox->insertItem(AaEnabled, tr("Enabled"));
-    m_aaComboBox->insertItem(AaSystemSettings, tr("System Settings"));
-    m_aaComboBox->insertItem(AaDisabled, tr("Disabled"));
-    widenToTexts(m_aaComboBox);
+    for (const QString &mode : {tr("Enabled"), tr("System Settings"), tr("Disabled")}) {
+        m_aaComboBox->addItem(mode);
+        // A style may scale the arrow with the screen's resolution, but not the room for it.
+        m_aaComboBox->setMinimumContentsLength(qMax(m_aaComboBox->minimumContentsLength(), mode.size()));
+    }
     setHelp(m_aaComboBox, tr("If this option is selected, DE will smooth the edges of curves in fonts."));
     connect(m_aaComboBox, qOverload<int>(&QComboBox::activated), this, &KFonts::slotUseAntiAliasing);
     m_configureButton = new QPushButton(tr("Configure..."), this);
@@ -186,14 +166,15 @@ void KFonts::loadSettings(QazSettings *settings)
     for (FontUseItem *item : qAsConst(m_fontUseItems))
         item->loadFont(settings);
 
-    showAntiAliasing(m_aaSettings->load() ? AaEnabled : AaDisabled);
-    const int dpi = loadedDpi();
-    m_dpiSpinBox->setValue(dpi);
-    dpiAtLoad = dpi;
-    if (const QVariant choice = storedRendering(RenderingKey::dontChangeAaSettings);
-        choice.isNull() || choice.toBool())
-        showAntiAliasing(AaSystemSettings);
+    const bool isEnabled = m_aaSettings->load();
+    const QVariant systemDecides = storedRendering(RenderingKey::dontChangeAaSettings);
+    showAntiAliasing(systemDecides.isNull() || systemDecides.toBool() ? AaSystemSettings
+                     : isEnabled                                      ? AaEnabled
+                                                                      : AaDisabled);
     aaModeAtLoad = aaMode;
+    const int forced = storedRendering(RenderingKey::forceFontDpi).toInt();
+    dpiAtLoad = forced == 0 ? 0 : forcedDpi(forced, xftDpiResource());
+    m_dpiSpinBox->setValue(dpiAtLoad);
     emit changed(false);
 }
 
@@ -202,12 +183,6 @@ void KFonts::showAntiAliasing(int mode)
     aaMode = mode;
     m_aaComboBox->setCurrentIndex(mode);
     m_configureButton->setEnabled(mode == AaEnabled);
-}
-
-int KFonts::loadedDpi() const
-{
-    const int stored = storedRendering(RenderingKey::forceFontDpi).toInt();
-    return stored == 0 ? 0 : forcedDpi(stored, xftDpiResource());
 }
 
 bool KFonts::saveSettings(QazSettings *settings)
@@ -279,8 +254,7 @@ void KFonts::slotApplyFontDiff()
 
 void KFonts::slotUseAntiAliasing()
 {
-    aaMode = m_aaComboBox->currentIndex();
-    m_configureButton->setEnabled(aaMode == AaEnabled);
+    showAntiAliasing(m_aaComboBox->currentIndex());
     emit changed(true);
 }
 

@@ -39,8 +39,6 @@ private:
     void addAntiAliasingRow(QGridLayout *grid);
     void addDpiRow(QGridLayout *grid);
     void showAntiAliasing(int mode);
-    /// The DPI that the server's resources or else the stored settings force; 0 for none.
-    int loadedDpi() const;
 
     QList<FontUseItem *> m_fontUseItems; // in the order of the role table
     int aaMode;                          // index in the combo box

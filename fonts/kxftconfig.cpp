@@ -7,6 +7,7 @@
 
 #include <QElapsedTimer>
 #include <QThread>
+#include <QVariant>
 #include <QX11Info>
 
 #include <memory>
@@ -38,11 +39,6 @@ double screenDpi()
 bool truthOf(const FontsItem &item, bool fallback)
 {
     return item.isEmpty() ? fallback : item.text.toLower() == QLatin1String("true");
-}
-
-QString truthText(bool value)
-{
-    return value ? QStringLiteral("true") : QStringLiteral("false");
 }
 
 } // namespace
@@ -162,13 +158,13 @@ QVector<FontsItem> KXftConfig::items() const
                                           ? QString()
                                           : FontRendering::fileName(settings.subPixelType)});
     if (m_required & HintingStyle) {
-        items.append({Kind::Hinting, truthText(settings.hinting)});
+        items.append({Kind::Hinting, QVariant(settings.hinting).toString()});
         items.append({Kind::HintStyle, settings.hintStyle == HintStyle::NotSet
                                            ? QString()
                                            : FontRendering::fileName(settings.hintStyle)});
     }
     if (m_required & AntiAlias)
-        items.append({Kind::AntiAliasing, truthText(settings.antiAliasing)});
+        items.append({Kind::AntiAliasing, QVariant(settings.antiAliasing).toString()});
     if (m_required & ExcludedRange) {
         items.append({Kind::ExcludePoints, {}, settings.points});
         items.append({Kind::ExcludePixels, {}, settings.pixels});

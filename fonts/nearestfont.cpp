@@ -8,6 +8,7 @@
 #include <QGuiApplication>
 #include <QSet>
 
+#include <algorithm>
 #include <memory>
 
 #include <fontconfig/fontconfig.h>
@@ -99,13 +100,8 @@ QFont nearestInstalledFont(const QFont &wanted)
 
 int nearestSize(const QList<int> &sizes, int wanted)
 {
-    int nearest = wanted;
-    int distance = 1000;
-    for (const int size : sizes) {
-        if (qAbs(size - wanted) < distance) {
-            distance = qAbs(size - wanted);
-            nearest = size;
-        }
-    }
-    return nearest;
+    const auto nearest = std::min_element(sizes.begin(), sizes.end(), [wanted](int one, int other) {
+        return qAbs(one - wanted) < qAbs(other - wanted);
+    });
+    return nearest == sizes.end() || qAbs(*nearest - wanted) >= 1000 ? wanted : *nearest;
 }

@@ -22,34 +22,20 @@
 
 namespace {
 
-/// xrdb hands the name of a file to a shell without quotes.
-bool needsQuotes(const QString &path)
-{
-    static const QRegularExpression special(QStringLiteral("[^A-Za-z0-9/._+-]"));
-    return path.contains(special);
-}
-
 /// Opens the file for the merged resources: beside the user's own, which may include others by relative paths.
 bool openMergedFile(QTemporaryFile *file)
 {
-    const QString home = homeDirectory();
-    file->setFileTemplate(home + QLatin1String("/.qaz-XXXXXX"));
-    if (!needsQuotes(home) && file->open())
-        return true;
-    printDiagnostic(
-        QStringLiteral("Can't merge X resources in %1, files that they include may not be found: %2")
-            .arg(home, needsQuotes(home) ? QStringLiteral("xrdb does not understand its name")
-                                         : file->errorString()));
-    const QString usual = needsQuotes(QDir::tempPath()) ? QStringLiteral("/tmp") : QDir::tempPath();
-    file->setFileTemplate(usual + QLatin1String("/qaz-admin-theme.XXXXXX"));
-    return file->open();
-}
-
-QByteArray userResources()
-{
-    const QString file = userXresources();
-    const QString older = homeDirectory() + QLatin1String("/.Xdefaults");
-    return endedXresources(readRegularFile(QFileInfo::exists(file) ? file : older).content);
+    // xrdb hands the name of a file to a shell without quotes.
+    static const QRegularExpression special(QStringLiteral("[^A-Za-z0-9/._+-]"));
+    for (const QString &directory : {homeDirectory(), QDir::tempPath(), QStringLiteral("/tmp")}) {
+        file->setFileTemplate(directory + QLatin1String("/.qaz-XXXXXX"));
+        if (!directory.contains(special) && file->open())
+            return true;
+        printDiagnostic(QStringLiteral("Can't merge X resources in %1, files that they include may not be "
+                                       "found: It can't be written, or xrdb does not understand its name")
+                            .arg(directory));
+    }
+    return false;
 }
 
 void stampSettingsChange()
@@ -74,7 +60,9 @@ void applyXResources(unsigned flags)
     QTemporaryFile merged;
     if (!openMergedFile(&merged))
         return;
-    QByteArray resources = userResources();
+    const QString file = userXresources();
+    const QString older = homeDirectory() + QLatin1String("/.Xdefaults");
+    QByteArray resources = endedXresources(readRegularFile(QFileInfo::exists(file) ? file : older).content);
     if (flags & exportXftSettings) {
         resources += xftResourceLines(ownSettingsFile()).toLatin1();
         if (storedRendering(RenderingKey::forceFontDpi).toInt() == 0)

@@ -2,23 +2,17 @@
 
 #include "pages/common/waitcursor.h"
 #include "pages/screensaver/screensaversettings.h"
-#include "platform/qazsettings.h"
 #include "settings/updatevalues.h"
 
-namespace {
-
-QVariant storedValue(const QazSettings *settings, const ThemeKey *key)
-{
-    return settings->value(QLatin1String(key->name), QLatin1String(key->defaultText));
-}
-
-} // namespace
+#include <QVariant>
 
 ScreensaverPage::ScreensaverPage(QWidget *parent)
     : QWidget(parent)
     , m_ui(std::make_unique<Ui::ScreensaverForm>())
 {
     m_ui->setupUi(this);
+    for (const NumberSetting &setting : numberSettings)
+        (m_ui.get()->*setting.spinBox)->setMaximum(setting.key->maximum / setting.unit);
 }
 
 ScreensaverPage::~ScreensaverPage() = default;
@@ -27,17 +21,10 @@ bool ScreensaverPage::loadValues(QazSettings *settings, bool /*restore*/)
 {
     const WaitCursor waitCursor;
     for (const NumberSetting &setting : numberSettings)
-        (m_ui.get()->*setting.spinBox)->setValue(storedValue(settings, setting.key).toInt() / setting.unit);
+        (m_ui.get()->*setting.spinBox)->setValue(storedText(settings, *setting.key).toInt() / setting.unit);
     m_ui->startAutomaticallyCheckBox->setChecked(m_ui->minutesToStartSpinBox->value() != 0);
     for (const TruthSetting &setting : truthSettings)
-        (m_ui.get()->*setting.checkBox)->setChecked(storedValue(settings, setting.key).toBool());
-    connectEdits();
-    loaded = true;
-    return true;
-}
-
-void ScreensaverPage::connectEdits()
-{
+        (m_ui.get()->*setting.checkBox)->setChecked(QVariant(storedText(settings, *setting.key)).toBool());
     // Loading may run again, so the connections are unique.
     for (const QSpinBox *spinBox : findChildren<QSpinBox *>()) {
         connect(spinBox, qOverload<int>(&QSpinBox::valueChanged), this, &ScreensaverPage::changedSignal,
@@ -47,6 +34,8 @@ void ScreensaverPage::connectEdits()
     for (const QCheckBox *checkBox : findChildren<QCheckBox *>())
         connect(checkBox, &QCheckBox::stateChanged, this, &ScreensaverPage::changedSignal,
                 Qt::UniqueConnection);
+    loaded = true;
+    return true;
 }
 
 void ScreensaverPage::saveValues(QazSettings *settings)

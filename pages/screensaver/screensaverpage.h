@@ -32,7 +32,5 @@ public slots:
     void saveValues(QazSettings *settings);
 
 private:
-    void connectEdits();
-
     std::unique_ptr<Ui::ScreensaverForm> m_ui;
 };

@@ -196,9 +196,10 @@ private slots:
         StandardError standardError;
         applyXResources(0);
         QCOMPARE(serverResources(), QByteArray("A.a: 1\nB.b: 2\nXft.dpi: 130\n"));
-        QCOMPARE(standardError.take(), "qaz-admin-theme: Can't merge X resources in " + odd
-                                           + ", files that they include may not be found: xrdb does not "
-                                             "understand its name\n");
+        const QByteArray told = standardError.take();
+        QVERIFY2(told.startsWith("qaz-admin-theme: Can't merge X resources in " + odd + ", files that")
+                     && told.endsWith(": It can't be written, or xrdb does not understand its name\n"),
+                 told.constData());
     }
 
     void callsOfXrdb()
