@@ -162,10 +162,7 @@ void ConfigDialog::storeSize() const
     // A small screen's limits are not the user's wish.
     const int wide = width() == m_firstSize.width() ? m_wantedSize.width() : width();
     const int high = height() == m_firstSize.height() ? m_wantedSize.height() : height();
-    QString error; // told on standard error
-    [[maybe_unused]] const bool stored = writeIniValues(
-        ownSettings(), QString(), {{QStringLiteral("width"), wide}, {QStringLiteral("height"), high}},
-        &error);
+    writeIniValues(ownSettings(), {}, {{QStringLiteral("width"), wide}, {QStringLiteral("height"), high}});
 }
 
 void ConfigDialog::guardControls()

@@ -27,10 +27,9 @@ void FontUseItem::saveFont(QazSettings *settings)
     if (!updateStringValue(settings, m_key, QString(), fontToText(font())))
         return;
     // What programs built on the toolkit take for their font, too.
-    QString error;
     if (m_key == QLatin1String("DefaultFont"))
-        (void)writeIniValues(iniFile(QStringLiteral("Trolltech")), QStringLiteral("Qt"),
-                             {{QStringLiteral("font"), font().toString()}}, &error); // tells itself
+        writeIniValues(iniFile(QStringLiteral("Trolltech")), "Qt",
+                       {{QStringLiteral("font"), font().toString()}});
 }
 
 void FontUseItem::restoreDefault()

@@ -4,7 +4,6 @@
 #include "base/chandle.h"
 #include "base/diagnostics.h"
 #include "base/xdgdirectories.h"
-#include "freedesktop/serverresources.h"
 #include "freedesktop/xresources.h"
 #include "settings/renderingstore.h"
 

@@ -6,18 +6,19 @@
 #include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 
-#include <algorithm>
-#include <iterator>
+#include <tuple>
 
 namespace {
 
 SoundCandidate::Rank rankOf(const QString &ending)
 {
-    constexpr const char *endings[] = {"disabled", "wav", "au", "oga", "ogg"}; // in the order of the ranks
-    const auto found = std::find_if(std::begin(endings), std::end(endings),
-                                    [&ending](const char *known) { return ending == QLatin1String(known); });
-    return SoundCandidate::Rank(found - std::begin(endings));
+    static const QStringList endings{QStringLiteral("disabled"), QStringLiteral("wav"), QStringLiteral("au"),
+                                     QStringLiteral("oga"),
+                                     QStringLiteral("ogg")}; // in the order of the ranks
+    const int rank = endings.indexOf(ending);
+    return rank < 0 ? SoundCandidate::Other : SoundCandidate::Rank(rank);
 }
 
 QHash<QString, SoundCandidate> listSounds(const QString &directory)
@@ -33,12 +34,10 @@ QHash<QString, SoundCandidate> listSounds(const QString &directory)
             continue;
         const SoundCandidate candidate{rankOf(fileName.mid(dot + 1)),
                                        directory + QLatin1Char('/') + fileName};
-        const auto known = sounds.find(fileName.left(dot));
-        if (known == sounds.end())
+        const auto known = sounds.constFind(fileName.left(dot));
+        if (known == sounds.constEnd()
+            || std::tie(candidate.rank, candidate.path) < std::tie(known->rank, known->path))
             sounds.insert(fileName.left(dot), candidate);
-        else if (candidate.rank < known->rank
-                 || (candidate.rank == known->rank && candidate.path < known->path))
-            *known = candidate;
     }
     return sounds;
 }
@@ -68,11 +67,8 @@ QStringList localeVariants()
     const QString language = name.section(QLatin1Char('_'), 0, 0);
 
     QStringList variants{name + modifier, name, language + modifier, language, QStringLiteral("C")};
-    variants.removeAll(QString());
     // A locale never leads out of the theme's directory.
-    variants.erase(std::remove_if(variants.begin(), variants.end(),
-                                  [](const QString &variant) { return variant.contains(QLatin1Char('/')); }),
-                   variants.end());
+    variants = variants.filter(QRegularExpression(QStringLiteral("^[^/]+$")));
     variants.removeDuplicates();
     return variants << QString();
 }

@@ -3,6 +3,8 @@
 #include <QByteArray>
 #include <QStringList>
 
+#include <vector>
+
 /// The file of the user's own X resources.
 QString userXresources();
 
@@ -17,3 +19,18 @@ QByteArray endedXresources(QByteArray text);
 /// Runs xrdb with \a arguments and \a input, waiting up to 30 s each for its start and its end. False when it did not
 /// start, which is not told, and when it took too long or failed, which one line on standard error tells.
 bool runXrdb(const QStringList &arguments, const QByteArray &input = {});
+
+/// The text of one resource property of the X server: the resources of all screens, or those of one.
+struct ServerResource {
+    unsigned long window;   ///< root window that carries it
+    unsigned long property; ///< atom
+    unsigned long type;     ///< atom
+    QByteArray text;
+};
+
+/// Every resource property of the server, one that it does not have with an empty text.
+std::vector<ServerResource> readServerResources();
+
+/// Gives each property of \a wanted its text, where it has another one now; an empty text removes it. Returns when
+/// the server has done so.
+void writeServerResources(const std::vector<ServerResource> &wanted);

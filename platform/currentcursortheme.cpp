@@ -8,7 +8,6 @@
 #include "base/xdgdirectories.h"
 #include "freedesktop/cursorfiles.h"
 #include "freedesktop/iconthemeindex.h"
-#include "freedesktop/serverresources.h"
 #include "freedesktop/themedirectories.h"
 #include "freedesktop/xresources.h"
 #include "platform/setxrdbparameterinfile.h"

@@ -8,12 +8,10 @@
 /// QSettings reads it, else \a defaultValue. What is no regular file holds no value.
 QVariant iniValue(const QString &path, const QString &key, const QVariant &defaultValue = {});
 
-/// Sets \a values (texts without NUL, numbers or truth values) in \a group of the QSettings INI file at \a path so
-/// that QSettings reads them back; an empty group is General, and both may have parts separated by '/'. Every other
-/// line stays as it is. On failure the old file stands whole, \a error says why, and one line on standard error says
-/// it, too.
-[[nodiscard]] bool writeIniValues(const QString &path, const QString &group,
-                                  const QMap<QString, QVariant> &values, QString *error);
+/// Sets \a values (texts without NUL, numbers or truth values, under names of letters and digits) in \a group, General
+/// when it is empty, of the QSettings INI file at \a path so that QSettings reads them back. Every other line stays as it
+/// is. On failure the old file stands whole, and one line on standard error says why.
+void writeIniValues(const QString &path, const QByteArray &group, const QMap<QString, QVariant> &values);
 
 /// The file in which QSettings keeps what a program with these names stores; for an empty \a application, what all
 /// programs of the organisation do.

@@ -4,10 +4,9 @@
 
 #include <QCoreApplication>
 
-#include <charconv>
 #include <cmath>
+#include <cstdlib>
 #include <limits>
-#include <optional>
 
 namespace {
 
@@ -19,20 +18,6 @@ QVariant value(const QString &file, const char *key)
 QString text(const QString &file, const char *key, const char *defaultText)
 {
     return iniValue(file, QLatin1String(key), QLatin1String(defaultText)).toString();
-}
-
-/// The decimal number that \a bytes begin with, without its fraction.
-std::optional<int> leadingNumber(const QByteArray &bytes)
-{
-    QByteArray number = bytes.trimmed();
-    if (number.startsWith('+'))
-        number.remove(0, 1);
-    double value = 0;
-    const auto result = std::from_chars(number.cbegin(), number.cend(), value);
-    if (result.ec != std::errc() || !std::isfinite(value))
-        return std::nullopt;
-    constexpr double limit = std::numeric_limits<int>::max();
-    return int(qBound(-limit, value, limit));
 }
 
 } // namespace
@@ -49,8 +34,7 @@ QVariant storedRendering(const char *key)
 
 void storeRendering(const QMap<QString, QVariant> &values)
 {
-    QString error;
-    (void)writeIniValues(ownSettingsFile(), {}, values, &error); // tells itself
+    writeIniValues(ownSettingsFile(), {}, values);
 }
 
 QByteArray xftSettingsCommand(const QString &file)
@@ -98,8 +82,11 @@ int forcedDpi(int stored, const QByteArray &resource)
 {
     if (stored == 0)
         return 0;
-    const std::optional<int> dpi = leadingNumber(resource);
-    if (!dpi)
+    char *end = nullptr;
+    const double number = std::strtod(resource.constData(), &end);
+    if (end == resource.constData() || !std::isfinite(number))
         return stored;
-    return *dpi == 96 ? 0 : *dpi; // what a server has without anybody's wish
+    constexpr double limit = std::numeric_limits<int>::max();
+    const int dpi = int(qBound(-limit, number, limit));
+    return dpi == 96 ? 0 : dpi; // what a server has without anybody's wish
 }

@@ -68,8 +68,7 @@ bool updateKompmgr(const CompositeState &state)
     if (values.isEmpty())
         return false;
     backUp(kompmgrPath()); // boxes that were never loaded overwrite what the user had
-    QString error;         // told where it happens
-    (void)writeIniValues(kompmgrPath(), QStringLiteral("kompmgr"), values, &error);
+    writeIniValues(kompmgrPath(), "kompmgr", values);
     return true;
 }
 
