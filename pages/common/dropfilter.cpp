@@ -25,7 +25,7 @@ protected:
         const QEvent::Type type = event->type();
         if (type == QEvent::KeyPress && static_cast<QKeyEvent *>(event)->matches(QKeySequence::Paste)) {
             const QMimeData *data = QGuiApplication::clipboard()->mimeData();
-            const auto take = data ? m_take(data, QPoint(-1, -1)) : std::function<void()>();
+            const auto take = data ? m_take(data, {}) : std::function<void()>();
             if (take)
                 take();
             return bool(take);
@@ -34,10 +34,10 @@ protected:
             return false;
         auto *drop = static_cast<QDropEvent *>(event);
         auto *target = static_cast<QWidget *>(parent());
-        const QPoint position = target->mapFromGlobal(
-            static_cast<QWidget *>(object)->mapToGlobal(drop->pos()));
-        // Only who lets data in is told where it moves.
-        const auto take = m_take(drop->mimeData(), type == QEvent::DragEnter ? QPoint(-1, -1) : position);
+        std::optional<QPoint> position;
+        if (type != QEvent::DragEnter) // only who lets data in is told where it moves
+            position = target->mapFromGlobal(static_cast<QWidget *>(object)->mapToGlobal(drop->pos()));
+        const auto take = m_take(drop->mimeData(), position);
         drop->setDropAction(Qt::CopyAction); // a file manager would take "move" at its word
         drop->setAccepted(bool(take));
         if (take && type == QEvent::Drop)
@@ -97,7 +97,7 @@ void takeDrops(QWidget *target, const TakeData &take)
 
 void takeColors(QWidget *target, const std::function<void(const QColor &)> &take)
 {
-    takeDrops(target, [take](const QMimeData *data, const QPoint & /*position*/) {
+    takeDrops(target, [take](const QMimeData *data, const std::optional<QPoint> & /*position*/) {
         const QColor color = colorOf(data);
         return color.isValid() ? std::function<void()>([take, color] { take(color); }) : nullptr;
     });

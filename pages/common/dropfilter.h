@@ -5,6 +5,7 @@
 #include <QString>
 
 #include <functional>
+#include <optional>
 
 class QMimeData;
 class QWidget;
@@ -19,9 +20,9 @@ QString droppedFile(const QMimeData *data, const QStringList &endings);
 /// The local path that a text like "file:///a%20b" names, of several lines the first; empty for another text.
 QString localPath(const QString &text);
 
-/// What to do with data that is dropped at a position of a widget: a null function when it doesn't fit. The position
-/// is negative for data that is pasted, or may be dropped somewhere.
-using TakeData = std::function<std::function<void()>(const QMimeData *data, const QPoint &position)>;
+/// What to do with data that is dropped at a position of a widget: a null function when it doesn't fit. Data that is
+/// pasted, or may be dropped somewhere, has no position.
+using TakeData = std::function<std::function<void()>(const QMimeData *data, std::optional<QPoint> position)>;
 
 /// Lets \a target take what is dropped on it or on those of its children that take drops themselves, or pasted while one
 /// of them has the focus. What doesn't fit is left to the widget when it is pasted; it can't be dropped.

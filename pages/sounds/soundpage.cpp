@@ -83,7 +83,7 @@ void SoundPage::setUpList()
     connect(list, &QTreeWidget::itemChanged, this, &SoundPage::itemSelected);
     connect(list, &QTreeWidget::itemSelectionChanged, this, &SoundPage::itemSelected);
     connect(list, &QTreeWidget::itemDoubleClicked, this, &SoundPage::openItem);
-    takeDrops(list, [this](const QMimeData *data, const QPoint &at) { return taking(data, at); });
+    takeDrops(list, [this](const QMimeData *data, std::optional<QPoint> at) { return taking(data, at); });
     const auto onKey = [this, list](Qt::Key key, void (SoundPage::*action)()) {
         auto *shortcut = new QShortcut(QKeySequence(key), list);
         shortcut->setContext(Qt::WidgetShortcut);
@@ -241,14 +241,13 @@ void SoundPage::assignFile(QTreeWidgetItem *item, const QString &path)
     item->setText(FileColumn, assignmentForFile(path, soundsDirectory()));
 }
 
-std::function<void()> SoundPage::taking(const QMimeData *data, const QPoint &position)
+std::function<void()> SoundPage::taking(const QMimeData *data, std::optional<QPoint> position)
 {
     const QTreeWidget *list = m_ui->soundListView;
-    const bool hasPlace = position.x() >= 0;
-    QTreeWidgetItem *item = hasPlace ? list->itemAt(list->viewport()->mapFrom(list, position))
+    QTreeWidgetItem *item = position ? list->itemAt(list->viewport()->mapFrom(list, *position))
                                      : selectedItem();
     const QString file = droppedFile(data, {QStringLiteral("wav"), QStringLiteral("au")});
-    if (file.isEmpty() || (hasPlace && !item))
+    if (file.isEmpty() || (position && !item))
         return {};
     if (!item)
         return [] {};

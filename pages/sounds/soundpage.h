@@ -6,6 +6,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 class QMimeData;
 class QTreeWidgetItem;
@@ -66,7 +67,7 @@ private:
     void setPlaying(bool playing);
     void assignFile(QTreeWidgetItem *item, const QString &path);
     /// Assigns a sound file that is dropped on a row, or pasted for the selected one.
-    std::function<void()> taking(const QMimeData *data, const QPoint &position);
+    std::function<void()> taking(const QMimeData *data, std::optional<QPoint> position);
     QList<QTreeWidgetItem *> rows() const;
     QTreeWidgetItem *selectedItem() const;
     /// Before \a from is disabled: Qt would pass its focus on to the dialog's buttons, which act on Return.

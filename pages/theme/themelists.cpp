@@ -160,14 +160,14 @@ std::optional<DecorImages> loadDecorImages(const QByteArray &directory)
 {
     const DirectoryListing listing(directory);
     if (!listing.files.contains("default.theme"))
-        return std::nullopt;
+        return {};
     DecorImages images;
     for (const DecorImage &row : decorFiles) {
         QImage &image = images.*row.image;
         if (listing.files.contains(row.file))
             image = loadXpm(directory + '/' + row.file);
         if (image.isNull())
-            return std::nullopt;
+            return {};
     }
     return images;
 }

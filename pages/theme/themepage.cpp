@@ -243,8 +243,6 @@ void ThemePage::selectSize()
 {
     QComboBox *combo = m_ui->sizeComboBox;
     const int index = combo->currentIndex();
-    if (index < 0)
-        return;
     const SizeElement &element = sizeElements[index]; // the entries stand in the table's order
     const int value = combo->currentData(storedRole).toString().section(QLatin1Char(','), 0, 0).toInt();
     const QString name = tr(element.key->title);

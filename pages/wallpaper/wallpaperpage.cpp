@@ -50,7 +50,7 @@ WallpaperPage::WallpaperPage(QWidget *parent)
     m_ui->setupUi(this);
     m_ui->wallpaperLineEdit->setCompleter(createPathCompleter(this));
     m_ui->wallpaperLineEdit->setClearButtonEnabled(true);
-    takeDrops(this, [this](const QMimeData *data, const QPoint & /*position*/) { return taking(data); });
+    takeDrops(this, [this](const QMimeData *data, auto /*position*/) { return taking(data); });
 }
 
 WallpaperPage::~WallpaperPage() = default;

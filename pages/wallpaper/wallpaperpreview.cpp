@@ -2,10 +2,12 @@
 
 #include <QPainter>
 
+#include <limits>
+
 namespace {
 
-constexpr int margin = 10;          // of the label, in both directions
-constexpr int painterLimit = 32767; // Qt scales in 16-bit fixed point: what is larger comes out black
+constexpr int margin = 10;                                       // of the label, in both directions
+constexpr int painterLimit = std::numeric_limits<qint16>::max(); // what is larger Qt scales to black
 
 QSize scaledSize(const QSize &image, const QSize &label, const QSize &screen)
 {

@@ -26,20 +26,19 @@ QString directoryName(int width, QChar separator, int height)
 
 QString selectionStart(const QString &text, const QSize &screenSize)
 {
-    int standardWidth = 0, standardHeight = 0, ratioWidth = 0, ratioHeight = 0;
-    WallpaperSizeForScreen(screenSize.width(), screenSize.height(), &standardWidth, &standardHeight,
-                           &ratioWidth, &ratioHeight);
+    int standard[2] = {}, ratio[2] = {};
+    WallpaperSizeForScreen(screenSize.width(), screenSize.height(), &standard[0], &standard[1], &ratio[0],
+                           &ratio[1]);
     const QString own = directoryPath(DirectoryKind::Wallpapers);
     const QString screen = directoryName(screenSize.width(), QLatin1Char('x'), screenSize.height());
-    const QString places[] = {
-        // best first
-        text,
-        own + screen,
-        systemWallpapers + screen,
-        systemWallpapers + directoryName(standardWidth, QLatin1Char('x'), standardHeight),
-        systemWallpapers + directoryName(ratioWidth, QLatin1Char(':'), ratioHeight),
-        systemWallpapers,
-        own};
+    const QString places[] = {// best first
+                              text,
+                              own + screen,
+                              systemWallpapers + screen,
+                              systemWallpapers + directoryName(standard[0], QLatin1Char('x'), standard[1]),
+                              systemWallpapers + directoryName(ratio[0], QLatin1Char(':'), ratio[1]),
+                              systemWallpapers,
+                              own};
     for (const QString &place : places) {
         if (!place.isEmpty() && QFileInfo::exists(place))
             return place;
