@@ -151,54 +151,52 @@ private slots:
         QCOMPARE(over.assignments(), builtIns);
     }
 
-    void tellsWhatIsWrongWithATheme_data()
+    void tellsWhatIsWrongWithATheme()
     {
         const QString attention = "Attention|Not all files in theme 'Fine sounds' are in wav format\n"_s;
         const QString question = attention + "Would you like to convert them to wav now?"_s;
         const QString refusal
-            = "Warning|File 'HOME/data/sounds/%1' is not wav.\nSelect other theme or conver to wav,\n"
+            = "\nWarning|File 'HOME/data/sounds/%1' is not wav.\nSelect other theme or conver to wav,\n"
               "for example ogg/oga to wav by oggdev utility."_s;
-        QTest::addColumn<int>("answer");
-        QTest::addColumn<QStringList>("messages"); // at the choice and at a play
-        const int ok = QMessageBox::Ok, no = QMessageBox::No, yes = QMessageBox::Yes;
-        QTest::newRow("broken") << ok << QStringList{"Warning|Can't load sound theme 'broken'"_s};
-        QTest::newRow("au") << 0 << QStringList{refusal.arg("au/menu-popup.au"_s)};
-        QTest::newRow("flac") << ok
-                              << QStringList{attention + "You should convert them to wav."_s,
-                                             refusal.arg("flac/menu-popup.flac"_s)};
-        QTest::newRow("x.ogg") << ok
-                               << QStringList{
-                                      attention
-                                          + "They can't be converted: 'HOME/data/sounds/x.ogg/a -o "
-                                            "x.ogg' has to be renamed first.\nBlanks, quotation marks, "
-                                            "backslashes and control characters are not safe."_s,
-                                      refusal.arg("x.ogg/menu-popup.ogg"_s)};
-        QTest::newRow("oga") << no << QStringList{question, refusal.arg("oga/menu-popup.oga"_s)};
-        QTest::newRow("oga converted") << yes << QStringList{question};
-    }
-    void tellsWhatIsWrongWithATheme()
-    {
-        QFETCH(int, answer);
-        const bool converted = answer == QMessageBox::Yes;
-        const QString theme = QString::fromLatin1(QTest::currentDataTag()).section(u' ', 0, 0);
-        FakePrograms programs;
-        programs.add("qaz-su"_s, "exec sh \"$@\"");
-        programs.add("oggdec"_s, "for file; do cp \"$file\" \"${file%.oga}.wav\"; done");
-        Page over("EnableSound=true\nCloseSound=/own.wav\n");
-        ModalDriver driver;
-        if (answer)
-            driver.thenAnswer(QMessageBox::StandardButton(answer));
-        over.choose(theme);
-        QVERIFY(over.changed.count() > 0); // the choice is an edit, also when no row changes
-        QCOMPARE(over.assignments(),
-                 theme == "broken"_s ? "3=/own.wav"_s : "0=menu-popup 3=/own.wav 8=desktop-login"_s);
-        const QStringList call{
-            "-c"_s, "find %1 -name \"*.og[ga]\" | xargs oggdec"_s.arg(over.home.path("data/sounds/oga"_s))};
-        QCOMPARE(programs.calls("qaz-su"_s).value(0), converted ? call : QStringList());
-        driver.thenAnswer(QMessageBox::Ok);
-        over.click("playButton");
-        QCOMPARE(over.enabled() == "stop"_s, converted);
-        QTEST(driver.seen().replaceInStrings(over.home.path(), "HOME"_s), "messages");
+        const QString unsafe
+            = "They can't be converted: 'HOME/data/sounds/x.ogg/a -o x.ogg' has to be renamed first.\n"
+              "Blanks, quotation marks, backslashes and control characters are not safe."_s;
+        const struct {
+            QString theme;
+            QList<QMessageBox::StandardButton> answers;
+            QString messages; // at the choice and at a play
+        } rows[] = {
+            {"broken"_s, {QMessageBox::Ok}, "Warning|Can't load sound theme 'broken'"_s},
+            {"au"_s, {QMessageBox::Ok}, refusal.arg("au/menu-popup.au"_s).mid(1)},
+            {"flac"_s,
+             {QMessageBox::Ok, QMessageBox::Ok},
+             attention + "You should convert them to wav."_s + refusal.arg("flac/menu-popup.flac"_s)},
+            {"x.ogg"_s,
+             {QMessageBox::Ok, QMessageBox::Ok},
+             attention + unsafe + refusal.arg("x.ogg/menu-popup.ogg"_s)},
+            {"oga"_s, {QMessageBox::No, QMessageBox::Ok}, question + refusal.arg("oga/menu-popup.oga"_s)},
+            {"oga"_s, {QMessageBox::Yes}, question}};
+        for (const auto &[theme, answers, messages] : rows) {
+            const bool converted = answers.contains(QMessageBox::Yes);
+            FakePrograms programs;
+            programs.add("qaz-su"_s, "exec sh \"$@\"");
+            programs.add("oggdec"_s, "for file; do cp \"$file\" \"${file%.oga}.wav\"; done");
+            Page over("EnableSound=true\nCloseSound=/own.wav\n");
+            ModalDriver driver;
+            for (const QMessageBox::StandardButton answer : answers)
+                driver.thenAnswer(answer);
+            over.choose(theme);
+            QVERIFY(over.changed.count() > 0); // the choice is an edit, also when no row changes
+            QCOMPARE(over.assignments(),
+                     theme == "broken"_s ? "3=/own.wav"_s : "0=menu-popup 3=/own.wav 8=desktop-login"_s);
+            const QString command = "-c find %1 -name \"*.og[ga]\" | xargs oggdec"_s.arg(
+                over.home.path("data/sounds/oga"_s));
+            QCOMPARE(programs.calls("qaz-su"_s).value(0).join(u' '), converted ? command : QString());
+            over.click("playButton");
+            QCOMPARE(over.enabled() == "stop"_s, converted);
+            QCOMPARE(driver.seen().join(u'\n').replace(over.home.path(), "HOME"_s), messages);
+            QVERIFY(driver.isDone());
+        }
     }
 
     void takesTheChosenFile()
