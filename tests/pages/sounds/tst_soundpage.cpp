@@ -288,10 +288,12 @@ private slots:
     void tellsWhatCannotBePlayed()
     {
         Page over("EnableSound=true\nMenuPopupSound=menu-popup\n");
+        QVERIFY(QTest::qWaitForWindowActive(&over.page));
         ModalDriver driver;
         driver.thenAnswer(QMessageBox::Ok);
         over.click("playButton");
         QCOMPARE(over.enabled(), "Them defa clea List sele remo"_s);
+        QCOMPARE(over.focused(), "soundListView"_s);
         const FakePrograms none(FakePrograms::Path::Instead);
         driver.thenAnswer(QMessageBox::Ok);
         over.find<QPushButton>("mixerButton")->click();
@@ -314,6 +316,9 @@ private slots:
         }
         QTest::keyClick(over.list, Qt::Key_Down);
         QTest::keyClick(over.list, Qt::Key_Delete);
+        over.themes->setFocus();
+        over.select(0);
+        QTest::keyClick(over.themes, Qt::Key_Delete); // is no key of the list's
         QCOMPARE(over.assignments(), "0=a.wav"_s);
         QCOMPARE(over.changed.count(), 1);
         QVERIFY(driver.isDone());
@@ -358,6 +363,9 @@ private slots:
             if (row == paste)
                 QTest::keyClick(over.list, Qt::Key_V, Qt::ControlModifier);
             QCOMPARE(over.assignments(), assignments);
+            if (!assignments.isEmpty())
+                QCOMPARE(over.list->currentItem()->text(1),
+                         assignments.section(u'=', 1).replace("HOME"_s, over.home.path()));
         }
     }
 };
