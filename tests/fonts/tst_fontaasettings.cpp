@@ -1,5 +1,5 @@
 #include "fonts/fontaasettings.h"
-#include "tests/support/literals.h"
+#include "tests/fonts/elements.h"
 #include "tests/support/modaldriver.h"
 #include "tests/support/temporaryhome.h"
 
@@ -14,21 +14,6 @@
 
 namespace {
 
-const QString place = ".config/fontconfig/fonts.conf"_s;
-
-QByteArray value(const char *name, const char *tag, const char *text)
-{
-    return QByteArray("<match target='font'><edit mode='assign' name='") + name + "'><" + tag + '>' + text
-           + "</" + tag + "></edit></match>\n";
-}
-
-QByteArray pixelRange(const char *from, const char *to)
-{
-    return QByteArray("<match target='font'><test qual='any' name='pixelsize' compare='more_eq'><double>")
-           + from + "</double></test><test qual='any' name='pixelsize' compare='less_eq'><double>" + to
-           + "</double></test><edit mode='assign' name='antialias'><bool>false</bool></edit></match>\n";
-}
-
 /// The dialog over a fontconfig file of its own.
 class DialogOverFile
 {
@@ -41,10 +26,7 @@ public:
         dialog = std::make_unique<FontAASettings>(nullptr);
     }
 
-    void write(const QByteArray &elements)
-    {
-        home.write(place, "<?xml version=\"1.0\"?>\n<fontconfig>\n" + elements + "</fontconfig>\n");
-    }
+    void write(const QByteArray &elements) { home.write(place, fontsFile(elements)); }
     bool save(bool useAntiAliasing) const
     {
         QString error;
@@ -102,7 +84,7 @@ private slots:
         QVERIFY(file.dialog->isModal());
         // A style that is not set is stored at once, the file stays.
         QCOMPARE(DialogOverFile::stored(), "- - hintmedium"_s);
-        QCOMPARE(file.home.read(place), QByteArray("<?xml version=\"1.0\"?>\n<fontconfig>\n</fontconfig>\n"));
+        QCOMPARE(file.home.read(place), fontsFile({}));
 
         QStringList texts;
         for (const char *name : {"subPixelTypeCombo", "hintStyleCombo"}) {
@@ -125,14 +107,14 @@ private slots:
 
     void fileIsShown()
     {
-        DialogOverFile file(pixelRange("8", "15") + value("rgba", "const", "vbgr")
-                            + value("hintstyle", "const", "hintslight")
-                            + value("antialias", "bool", "false"));
+        DialogOverFile file(range("pixelsize", "8", "15") + element("rgba", "const", "vbgr")
+                            + element("hintstyle", "const", "hintslight")
+                            + element("antialias", "bool", "false"));
         QCOMPARE(file.shown(), "true true 8.0 pix 15.0 pix Vertical BGR Slight"_s);
         QVERIFY(!file.dialog->load());
         QCOMPARE(DialogOverFile::stored(), "- - -"_s);
 
-        file.write(value("antialias", "bool", "true"));
+        file.write(element("antialias", "bool", "true"));
         QVERIFY(file.dialog->load());
         QCOMPARE(file.shown(), "false false (0.0 pix) (14.0 pix) (Vertical BGR) Medium"_s);
         QVERIFY(!file.ok()->isEnabled()); // what was read is no edit
@@ -140,7 +122,7 @@ private slots:
         file.dialog->defaults();
         QCOMPARE(file.shown(), "true false 0.0 pix 14.0 pix (Vertical BGR) Medium"_s);
 
-        file.write(pixelRange("0", "14.04")); // shows as the default's 14, which is meant exactly
+        file.write(range("pixelsize", "0", "14.04")); // shows as the default's 14, which is meant exactly
         file.dialog->load();
         file.dialog->defaults();
         QVERIFY(file.save(true));
@@ -173,8 +155,9 @@ private slots:
 
     void rangeThatWasNotEditedStays()
     {
-        const QByteArray elements = pixelRange("8.35", "60") + value("hintstyle", "const", "hintfull")
-                                    + value("antialias", "bool", "true");
+        const QByteArray elements = range("pixelsize", "8.35", "60")
+                                    + element("hintstyle", "const", "hintfull")
+                                    + element("antialias", "bool", "true");
         DialogOverFile file(elements);
         auto *fromBox = file.find<QDoubleSpinBox>("excludeFromSpinBox");
         auto *toBox = file.find<QDoubleSpinBox>("excludeToSpinBox");
@@ -196,7 +179,7 @@ private slots:
 
     void rejectedDialogShowsTheFileAgain()
     {
-        DialogOverFile file(value("hintstyle", "const", "hintslight"));
+        DialogOverFile file(element("hintstyle", "const", "hintslight"));
         ModalDriver driver;
         driver.then([&file](QDialog *dialog) {
             file.find<QCheckBox>("excludeRangeCheckBox")->click();

@@ -1,19 +1,16 @@
 #include "fonts/fontsfile.h"
 #include "fonts/kxftconfig.h"
-#include "tests/support/literals.h"
+#include "tests/fonts/elements.h"
 #include "tests/support/standarderror.h"
 #include "tests/support/temporaryhome.h"
 
 #include <QDir>
-#include <QProcess>
 #include <QX11Info>
 #include <QtTest>
 
 #include <unistd.h>
 
 namespace {
-
-const QString place = ".config/fontconfig/fonts.conf"_s;
 
 /// As the dialog uses it: chosen and read, the reason of a failure not asked for.
 class Config : public KXftConfig
@@ -38,11 +35,7 @@ public:
 class HomeWithFile : public TemporaryHome
 {
 public:
-    explicit HomeWithFile(const QByteArray &children) { writeChildren(children); }
-    void writeChildren(const QByteArray &children) const
-    {
-        write(place, "<?xml version=\"1.0\"?>\n<fontconfig>\n" + children + "</fontconfig>\n");
-    }
+    explicit HomeWithFile(const QByteArray &children) { write(place, fontsFile(children)); }
     /// No lock, no temporary file.
     bool holdsOnlyTheFile() const
     {
@@ -50,22 +43,6 @@ public:
         return directory.entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot).size() == 1;
     }
 };
-
-QByteArray element(const char *name, const char *tag, const char *value)
-{
-    return QByteArray("  <match target=\"font\">\n    <edit mode=\"assign\" name=\"") + name + "\">\n      <"
-           + tag + '>' + value + "</" + tag + ">\n    </edit>\n  </match>\n";
-}
-
-QByteArray range(const char *name, const char *from, const char *to)
-{
-    const QByteArray test = QByteArray("    <test qual=\"any\" name=\"") + name + "\" compare=\"";
-    return "  <match target=\"font\">\n" + test + "more_eq\">\n      <double>" + from
-           + "</double>\n    </test>\n" + test + "less_eq\">\n      <double>" + to
-           + "</double>\n    </test>\n"
-             "    <edit mode=\"assign\" name=\"antialias\">\n      <bool>false</bool>\n    </edit>\n"
-             "  </match>\n";
-}
 
 QString summary(const KXftConfig &config)
 {
@@ -76,19 +53,6 @@ QString summary(const KXftConfig &config)
                        << ' ' << config.hinting() << ' ' << config.antiAliasing() << ' ' << points.from << '-'
                        << points.to << ' ' << pixels.from << '-' << pixels.to;
     return text;
-}
-
-/// What the run of another editor does: many changes, one after the other.
-int editRepeatedly(int style)
-{
-    int applied = 0;
-    for (int i = 0; i < 6; ++i) {
-        Config config;
-        config.setHintStyle(i % 2 ? HintStyle::Full : HintStyle(style));
-        config.setSubPixelType(SubPixelOrder(1 + i % 4));
-        applied += config.apply();
-    }
-    return applied > 0 ? 0 : 1;
 }
 
 } // namespace
@@ -141,14 +105,13 @@ private slots:
         config.setExcludePixelRange({8, 15});
         QVERIFY(config.apply());
         QCOMPARE(summary(config), "none 0 0 1 6-11 8-15"_s);
-        const QByteArray head = "<?xml version=\"1.0\"?>\n<fontconfig>\n  <dir>/a</dir>\n"
-                                + element("antialias", "bool", "true") + "  <!-- mine -->\n"
-                                + element("hinting", "bool", "false");
+        const QByteArray head = "  <dir>/a</dir>\n" + element("antialias", "bool", "true")
+                                + "  <!-- mine -->\n" + element("hinting", "bool", "false");
         QCOMPARE(home.read(place),
-                 head + range("size", "6", "11") + range("pixelsize", "8", "15") + "</fontconfig>\n");
+                 fontsFile(head + range("size", "6", "11") + range("pixelsize", "8", "15")));
         config.setExcludeRange({});
         QVERIFY(config.apply());
-        QCOMPARE(home.read(place), head + "</fontconfig>\n");
+        QCOMPARE(home.read(place), fontsFile(head));
         QVERIFY(home.holdsOnlyTheFile());
     }
 
@@ -184,12 +147,12 @@ private slots:
                                           + range("size", "3", "7") + "  <!-- mine -->\n"
                                           + range("pixelsize", "4", "9")));
         // Not in front of a range that goes.
-        home.writeChildren(range("size", "3", "7"));
+        home.write(place, fontsFile(range("size", "3", "7")));
         Config other(KXftConfig::AntiAlias);
         other.setAntiAliasing(false);
         QVERIFY(other.apply());
-        QVERIFY(home.read(place).endsWith(range("size", "3", "7") + element("antialias", "bool", "false")
-                                          + "</fontconfig>\n"));
+        QCOMPARE(home.read(place),
+                 fontsFile(range("size", "3", "7") + element("antialias", "bool", "false")));
     }
 
     void linkAndModeStay()
@@ -232,31 +195,13 @@ private slots:
         }
     }
 
-    void readOnlyDirectoryIsLeftAlone()
-    {
-        const HomeWithFile home({});
-        const QString directory = home.path(".config/fontconfig"_s);
-        QFile::setPermissions(directory, QFile::Permissions(0x5555));
-        const QString before = home.fingerprint();
-        // The administrator may write everywhere.
-        const uid_t user = ::geteuid();
-        QVERIFY(user != 0 || ::seteuid(65534) == 0);
-        Config config;
-        config.setSubPixelType(SubPixelOrder::Bgr);
-        const bool applied = config.apply();
-        QVERIFY(user != 0 || ::seteuid(user) == 0);
-        QVERIFY(!applied);
-        QCOMPARE(home.fingerprint(), before);
-        QFile::setPermissions(directory, QFile::Permissions(0x7755));
-    }
-
     void bothChangesSurviveARewrite()
     {
         const HomeWithFile home({});
         Config config;
         config.setExcludePixelRange({3, 10});
         config.setHintStyle(HintStyle::Full);
-        home.writeChildren("  <alias/>\n" + element("rgba", "const", "rgb"));
+        home.write(place, fontsFile("  <alias/>\n" + element("rgba", "const", "rgb")));
         StandardError standardError;
         QVERIFY(config.apply());
         QVERIFY(standardError.take().startsWith(
@@ -297,30 +242,7 @@ private slots:
         QCOMPARE(standardError.take().count("font config file was rewritten since we last read!\n"), 1);
         QCOMPARE(home.read(place), QByteArray("<fontconfig>"));
     }
-
-    void editorsAtTheSameTimeLeaveAWholeFile()
-    {
-        const HomeWithFile home("  <!-- mine -->\n");
-        QProcess editors[3];
-        for (int i = 0; i < 3; ++i)
-            editors[i].start(QCoreApplication::applicationFilePath(),
-                             {"--edit-repeatedly"_s, QString::number(i + 1)});
-        for (QProcess &editor : editors) {
-            QVERIFY(editor.waitForFinished(60000));
-            QVERIFY2(editor.exitCode() == 0, editor.readAllStandardError().constData());
-        }
-        QVERIFY(
-            home.read(place).startsWith("<?xml version=\"1.0\"?>\n<fontconfig>\n  <!-- mine -->\n  <match"));
-        QVERIFY(home.holdsOnlyTheFile());
-    }
 };
 
-int main(int argc, char *argv[])
-{
-    QGuiApplication application(argc, argv);
-    if (argc == 3 && qstrcmp(argv[1], "--edit-repeatedly") == 0)
-        return editRepeatedly(QByteArray(argv[2]).toInt());
-    TestKXftConfig test;
-    return QTest::qExec(&test, argc, argv);
-}
+QTEST_MAIN(TestKXftConfig)
 #include "tst_kxftconfig.moc"
