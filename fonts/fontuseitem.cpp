@@ -47,6 +47,5 @@ void FontUseItem::applyChosenFont(const QFont &chosen)
         result.setFamily(chosen.family());
     result.setWeight(chosen.weight() < 58 ? QFont::Normal : QFont::Bold);
     result.setStyle(chosen.style() != QFont::StyleNormal ? QFont::StyleItalic : QFont::StyleNormal);
-    result.setUnderline(chosen.underline());
     setFont(result, isFixedOnly());
 }

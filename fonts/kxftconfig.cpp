@@ -30,12 +30,6 @@ bool systemAntiAliasing()
     return isOn;
 }
 
-double screenDpi()
-{
-    const int dpi = QX11Info::isPlatformX11() ? QX11Info::appDpiY() : 0;
-    return dpi > 0 ? dpi : 96;
-}
-
 bool truthOf(const FontsItem &item, bool fallback)
 {
     return item.isEmpty() ? fallback : item.text.toLower() == QLatin1String("true");
@@ -60,7 +54,7 @@ bool KXftConfig::reset()
         return false;
     }
     if (!(m_required & ExcludedRange)
-        || !bringIntoAgreement(&m_settings.points, &m_settings.pixels, screenDpi()))
+        || !bringIntoAgreement(&m_settings.points, &m_settings.pixels, QX11Info::appDpiY()))
         return true;
     m_madeChanges = true;
     QString error; // told already; whoever edits something tries again
@@ -176,7 +170,7 @@ void KXftConfig::setRanges(const ExcludeRange &points, const ExcludeRange &pixel
 {
     m_settings.points = points;
     m_settings.pixels = pixels;
-    bringIntoAgreement(&m_settings.points, &m_settings.pixels, screenDpi());
+    bringIntoAgreement(&m_settings.points, &m_settings.pixels, QX11Info::appDpiY());
     m_madeChanges = true;
 }
 

@@ -91,7 +91,7 @@ QFont nearestInstalledFont(const QFont &wanted)
         size = nearestSize(database.smoothSizes(family, style), size);
     QFont font = database.font(family, style, size);
     // What the family has no face for, the toolkit makes from another one.
-    if ((font.weight() > QFont::Normal) != (wanted.weight() > QFont::Normal))
+    if (font.bold() != wanted.bold())
         font.setWeight(wanted.weight());
     if (font.italic() != wanted.italic())
         font.setStyle(wanted.style());

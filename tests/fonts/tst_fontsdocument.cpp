@@ -89,6 +89,8 @@ private slots:
                                     "    <edit mode=\"assign\" name=\"antialias\">\n      <bool>true</bool>\n"
                                     "    </edit>\n  </match>\n</fontconfig>\n";
         QCOMPARE(parsed(" \n").withItems(items), expected);
+        QCOMPARE(parsed("<!DOCTYPE fontconfig>\n<fontconfig/>").withItems({}),
+                 "<?xml version=\"1.0\"?>\n<!DOCTYPE fontconfig SYSTEM \"fonts.dtd\">\n<fontconfig/>");
         const QByteArray prolog = "<?xml version=\"1.0\"?>\n<!-- mine -->";
         QVERIFY(parsed(prolog).withItems(items).startsWith(prolog + "\n<fontconfig>\n  <match"));
     }

@@ -2,6 +2,7 @@
 
 #include "settings/directories.h"
 #include "tests/support/literals.h"
+#include "tests/support/standarderror.h"
 #include "tests/support/temporaryhome.h"
 
 #include <QtTest>
@@ -53,6 +54,20 @@ private slots:
             "ours", [] { return false; }, &error));
         QCOMPARE(error, QString());
         QCOMPARE(home.read(place), QByteArray("<fontconfig/>\n"));
+    }
+
+    void fontconfigDoesNotWaitForAFifo()
+    {
+        const TemporaryHome home;
+        home.write(place, "<fontconfig/>\n");
+        StandardError standardError;
+        guardFontconfig();
+        QCOMPARE(FcConfigEnableHome(FcTrue), FcTrue);
+        const QByteArray fifo = QFile::encodeName(home.path(".fonts.conf"_s));
+        QCOMPARE(::mkfifo(fifo.constData(), 0600), 0);
+        guardFontconfig();
+        QCOMPARE(standardError.take(), "qaz-admin-theme: Can't use " + fifo + ": Not a regular file\n");
+        QCOMPARE(FcConfigEnableHome(FcTrue), FcFalse);
     }
 
     void fileIsChosenAmongFontconfigsOwn()

@@ -4,6 +4,7 @@
 #include "settings/rolefonttext.h"
 #include "tests/support/literals.h"
 
+#include <QBoxLayout>
 #include <QFontDatabase>
 #include <QFontInfo>
 #include <QLabel>
@@ -104,6 +105,8 @@ private slots:
     {
         TitleItem item(QFont(sans, 10));
         const QSize before = item.minimumSizeHint();
+        QCOMPARE(qobject_cast<QBoxLayout *>(item.layout())->stretch(0), 1);
+        QCOMPARE(qobject_cast<QBoxLayout *>(item.layout())->stretch(1), 0);
         item.setFont(QFont(mono, 200), false);
         QCOMPARE(item.findChild<QLabel *>()->text(), "DejaVu Sans Mono 200"_s);
         QCOMPARE(item.minimumSizeHint().width(), before.width());

@@ -92,30 +92,6 @@ private slots:
         QCOMPARE(forcedDpi(120, "1e999"), 120);
     }
 
-    void linesEndAsXrdbSeesThem()
-    {
-        const struct {
-            const char *what;
-            const char *text;
-            bool holdsDpi;
-        } rows[] = {
-            {"own line", "A.b: 1\nXft.dpi: 120\n", true},
-            {"blanks around", "A.b: 1\n Xft.dpi : 120", true},
-            {"continued", "A.b: x\\\nXft.dpi: 1\n", false},
-            {"a backslash is its value", "A.b: x\\\\\nXft.dpi: 1\n", true},
-            {"continued comment", "! x\\\nXft.dpi: 1\n", false},
-            {"comment that ends in two", "! x\\\\\nXft.dpi: 1\n", true},
-            {"other names", "Xft.dpi2: 1\nmyXft.dpi: 2\nXft.dpi\n", false},
-        };
-        for (const auto &row : rows) {
-            const QByteArray text = row.text;
-            QVERIFY2((withXresource(text, "Xft.dpi", {}) != text) == row.holdsDpi, row.what);
-            loadServer(text);
-            const QByteArray seen = '\n' + run("xrdb", {"-query"_s});
-            QVERIFY2(seen.contains("\nXft.dpi:\t") == row.holdsDpi, row.what);
-        }
-    }
-
     void oneResourceChanges()
     {
         const struct {
@@ -133,7 +109,8 @@ private slots:
              "a: 1\nXft.dpi: 3\nb: 2\n"}, // the last one counts
             {"Xft.dpi: \\\n 96\na: \\\nXft.dpi: text\n", {}, "a: \\\nXft.dpi: text\n"},
             {"! mine\\\nXft.dpi: 96\n", "Xft.dpi: 7",
-             "! mine\\\nXft.dpi: 96\nXft.dpi: 7\n"}, // still the comment's
+             "! mine\\\nXft.dpi: 96\nXft.dpi: 7\n"},      // still the comment's
+            {"a: x\\\\\nXft.dpi: 1\n", {}, "a: x\\\\\n"}, // the backslash is its value
             {"a: 1\\\n", "Xft.dpi: 7", "a: 1\\\n\nXft.dpi: 7\n"},
             {"a: \xff\r\nXft.dpi: 96\r\nb: 1\r\n", "Xft.dpi: 7", "a: \xff\r\nXft.dpi: 7\r\nb: 1\r\n"}};
         for (const auto &row : rows)

@@ -2,6 +2,7 @@
 #include "tests/support/pageoverfile.h"
 
 #include <QCheckBox>
+#include <QSignalSpy>
 #include <QSpinBox>
 #include <QtTest>
 
@@ -58,6 +59,8 @@ private slots:
     void everyEditIsSavedInOrder()
     {
         PageOverFile<ScreensaverPage> file("# mine\nLockerBellLevel=7\nOther=1\n");
+        QVERIFY(file.page.loaded);
+        QSignalSpy changed(&file.page, &ScreensaverPage::changedSignal);
         int value = 15;
         for (const char *name : spinBoxes) {
             auto *box = file.find<QSpinBox>(name);
@@ -68,6 +71,7 @@ private slots:
         }
         file.find<QCheckBox>("lockTTYCheckBox")->click();
         file.find<QCheckBox>("lockXaccessCheckBox")->click();
+        QCOMPARE(changed.size(), 16); // two for each digit that changes a number, one for each box
         QCOMPARE(file.save(), "ScreenSaverDelay 900|LockerDpmsOffTimeout 960|LockerWrongPasswdTimeout 17|"
                               "LockerBellLevel 18|LockerTTYLock false|LockerXaccessLock true"_s);
         QCOMPARE(file.content(),
