@@ -79,6 +79,11 @@ private slots:
         QVERIFY(document.item(Kind::ExcludePoints).range.equals({3, 9}));
         QVERIFY(document.item(Kind::ExcludePixels).range.equals({8, 15}));
         QCOMPARE(document.item(Kind::SubPixel).text, "bgr"_s);
+        // What is new does not stand in front of a range that goes.
+        const QByteArray changed = document.withItems(
+            {{Kind::AntiAliasing, "true"_s}, {Kind::ExcludePoints}, {Kind::ExcludePixels}});
+        QCOMPARE(changed.count("<match"), 7);
+        QCOMPARE(parsed(changed).item(Kind::AntiAliasing).text, "true"_s);
     }
 
     void newFileIsWhole()

@@ -136,22 +136,6 @@ private slots:
         QCOMPARE(home.backups().size(), 1);
     }
 
-    void newAntiAliasingStandsBeforeTheRange()
-    {
-        const HomeWithFile home("  <dir>/a</dir>\n" + range("size", "3", "7") + "  <!-- mine -->\n");
-        Config config(KXftConfig::AntiAlias | KXftConfig::ExcludedRange);
-        QVERIFY(home.read(place).contains("<dir>/a</dir>\n" + element("antialias", "bool", "true")
-                                          + range("size", "3", "7") + "  <!-- mine -->\n"
-                                          + range("pixelsize", "4", "9")));
-        // Not in front of a range that goes.
-        home.write(place, fontsFile(range("size", "3", "7")));
-        Config other(KXftConfig::AntiAlias);
-        other.setAntiAliasing(false);
-        QVERIFY(other.apply());
-        QCOMPARE(home.read(place),
-                 fontsFile(range("size", "3", "7") + element("antialias", "bool", "false")));
-    }
-
     void linkAndModeStay()
     {
         const TemporaryHome home;

@@ -78,16 +78,9 @@ private slots:
                  QByteArray("# mine\nLockerBellLevel=18\nOther=1\nLockerDpmsOffTimeout=960\n"
                             "LockerTTYLock=false\nLockerWrongPasswdTimeout=17\nLockerXaccessLock=true\n"
                             "ScreenSaverDelay=900\n"));
-    }
-
-    void aClearedCheckBoxSwitchesTheScreensaverOff()
-    {
-        PageOverFile<ScreensaverPage> file("ScreenSaverDelay=600\n");
         file.find<QCheckBox>("startAutomaticallyCheckBox")->click();
-        const auto *minutes = file.find<QSpinBox>("minutesToStartSpinBox");
-        QVERIFY(minutes->value() == 10 && minutes->isEnabled());
-        file.save();
-        QCOMPARE(file.content(), QByteArray("ScreenSaverDelay=0\n"));
+        QVERIFY(file.find<QSpinBox>("minutesToStartSpinBox")->isEnabled());
+        QCOMPARE(file.save(), "ScreenSaverDelay 0"_s);
     }
 };
 
