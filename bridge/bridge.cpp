@@ -102,7 +102,7 @@ void Bridge::take(const XEvent &event)
     const QByteArray command = m_receiver.take(event);
     if (!command.isNull())
         takeCommand(command);
-    else if (event.type == PropertyNotify && event.xproperty.window == m_session.x.rootWindow())
+    else if (event.type == PropertyNotify) // only the root window has those that count
         rootPropertyChanged(event.xproperty.atom);
     m_watcher->take(event);
 }

@@ -116,10 +116,13 @@ int serve(const Options &options)
     int status = 0;
     if (!mayServe(&x, options, &status))
         return status;
-    QObject::connect(&x, &XConnection::serverLost, QCoreApplication::instance(), [] {
+    // Queued: it may be lost before there is an event loop to leave.
+    const auto giveUp = [] {
         tell(QStringLiteral("The X server is gone"));
         QCoreApplication::exit(1);
-    });
+    };
+    QObject::connect(&x, &XConnection::serverLost, QCoreApplication::instance(), giveUp,
+                     Qt::QueuedConnection);
     Values values(options.themeFile);
     Programs programs(options);
     Bridge bridge({x, values, programs, options});

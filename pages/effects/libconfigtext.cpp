@@ -153,7 +153,7 @@ QString includedName(const QByteArray &quoted)
 {
     QByteArray name;
     for (int i = 1; i < quoted.size() - 1; ++i) {
-        if (quoted.at(i) == '\\' && i + 1 < quoted.size() - 1)
+        if (quoted.at(i) == '\\')
             ++i;
         name += quoted.at(i);
     }

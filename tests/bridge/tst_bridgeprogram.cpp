@@ -2,6 +2,7 @@
 #include "tests/bridge/bridgeprocess.h"
 #include "tests/support/fakeprogram.h"
 #include "tests/support/literals.h"
+#include "tests/support/privateserver.h"
 #include "tests/support/temporaryhome.h"
 
 #include <QImage>
@@ -15,6 +16,15 @@
 namespace {
 
 const QString themeFile = ".config/qaz/current.themerc"_s;
+
+/// Takes a selection, or leaves it.
+void own(const char *selection, bool isTaken)
+{
+    Display *display = QX11Info::display();
+    const Window owner = isTaken ? QX11Info::appRootWindow() : 0;
+    XSetSelectionOwner(display, XInternAtom(display, selection, False), owner, CurrentTime);
+    XSync(display, False);
+}
 
 } // namespace
 
@@ -54,20 +64,42 @@ private slots:
 
     void aDryRunPrintsAndWritesNothing()
     {
-        const QString file = m_home->write("my theme"_s, "WallPaper=#123456\nScreenSaverDelay=0\n"
-                                                         "LockerDpmsOffTimeout=99999999\nUseComposite=true\n"
-                                                         "CompositeManager=/my manager\n");
-        const QString before = m_home->fingerprint();
-        BridgeProcess bridge({"--once"_s, "--dry-run"_s, file});
-        QCOMPARE(bridge.exitCode(), 0);
-        const QString own = m_home->path(".cache/qaz/bridge"_s);
-        QCOMPARE(
-            QString::fromUtf8(bridge.process.readAllStandardOutput()),
-            "feh --no-fehbg --image-bg '#123456' --bg-tile %1/color-123456.ppm\n"
-            "xsettingsd -c %1/xsettingsd-%2.conf -s 0\nxset s 0\nxset dpms 0 0 65534\n'/my manager'\n"_s.arg(
-                own, QString::fromLocal8Bit(qgetenv("DISPLAY"))));
-        QCOMPARE(m_home->fingerprint(), before);
+        const ScopedEnvironment cache("XDG_CACHE_HOME", {}); // ~/.cache, too
+        const std::tuple<QByteArray, QString> rows[] = {
+            {"WallPaper=#123456\nScreenSaverDelay=0\nLockerDpmsOffTimeout=99999999\nUseComposite=true\n"
+             "CompositeManager=/my manager\n",
+             "feh --no-fehbg --image-bg '#123456' --bg-tile OWN/color-123456.ppm\n"
+             "xsettingsd -c OWN/xsettingsd-DISPLAY.conf -s 0\nxset s 0\nxset dpms 0 0 65534\n'/my manager'\n"_s},
+            {"WallPaper=" + QFile::encodeName(m_home->write("a.svg"_s, "<svg/>"))
+                 + "\nWallPaperPos=Center\nDesktopColor=red\nLockerDpmsOffTimeout=0\n",
+             "qaz-svg2png -w 1280 -h 1024 -i HOME/a.svg -o OWN/1280x1024-DIGEST.png\n"
+             "feh --no-fehbg --image-bg '#ff0000' --bg-center OWN/1280x1024-DIGEST.png\n"
+             "xsettingsd -c OWN/xsettingsd-DISPLAY.conf -s 0\nxset s 600\nxset -dpms\n"_s},
+            {"", "feh --no-fehbg --image-bg '#0000ff' --bg-scale BUILD/share/qaz/wallpapers/qaz-default.jpg\n"
+                 "xsettingsd -c OWN/xsettingsd-DISPLAY.conf -s 0\nxset s 600\nxset dpms 0 0 60\n"_s}};
+        for (const auto &[content, expected] : rows) {
+            const QString file = m_home->write("my theme"_s, content);
+            const QString before = m_home->fingerprint();
+            BridgeProcess bridge({"--once"_s, "--dry-run"_s, file});
+            QCOMPARE(bridge.exitCode(), 0);
+            QString output = QString::fromUtf8(bridge.process.readAllStandardOutput());
+            output.replace(m_home->path(".cache/qaz/bridge"_s), "OWN"_s).replace(m_home->path(), "HOME"_s);
+            output.replace(QStringLiteral(QAZ_BINARY_DIR), "BUILD"_s);
+            output.replace(qEnvironmentVariable("DISPLAY"), "DISPLAY"_s);
+            output.replace(QRegularExpression("[0-9a-f]{40}"_s), "DIGEST"_s);
+            QCOMPARE(output, expected);
+            QCOMPARE(m_home->fingerprint(), before);
+        }
         QCOMPARE(m_programs->calls("feh"_s).size(), 0);
+    }
+
+    void onceStartsNothingThatStays()
+    {
+        m_programs->add("manager"_s);
+        m_home->write(themeFile, "UseComposite=true\nCompositeManager=manager\n");
+        QCOMPARE(BridgeProcess({"--once"_s}).exitCode(), 0);
+        QCOMPARE(m_programs->calls("feh"_s).size() + m_programs->calls("xset"_s).size(), 3);
+        QCOMPARE(m_programs->calls("xsettingsd"_s).size() + m_programs->calls("manager"_s).size(), 0);
     }
 
     void aBurstIsCarriedOutOnceWithItsLastValues()
@@ -126,6 +158,15 @@ private slots:
         announce("UseComposite", "true"_s);
         QTRY_COMPARE(m_programs->calls("manager"_s).size(), 2);
         QCOMPARE(m_programs->calls("evil"_s).size(), 0);
+        // Where another one runs it waits until that has gone.
+        announce("UseComposite", "false"_s);
+        own("_NET_WM_CM_S0", true);
+        announce("UseComposite", "true"_s);
+        announce("ScreenSaverDelay", "1"_s);
+        QTRY_COMPARE(m_programs->calls("xset"_s).size(), 4);
+        QCOMPARE(m_programs->calls("manager"_s).size(), 2);
+        own("_NET_WM_CM_S0", false);
+        QTRY_COMPARE(m_programs->calls("manager"_s).size(), 3);
     }
 
     void missingToolsCostOneLineEach()
@@ -146,21 +187,17 @@ private slots:
 
     void oneBridgeServesAScreen()
     {
-        const auto setWindowManager = [](Window owner) {
-            Display *display = QX11Info::display();
-            XSetSelectionOwner(display, XInternAtom(display, "_QAZWM_S0", False), owner, CurrentTime);
-            XSync(display, False);
-        };
         BridgeProcess first;
         QTRY_COMPARE(m_programs->calls("xsettingsd"_s).size(), 1);
         QCOMPARE(BridgeProcess().exitCode(), 1);
         BridgeProcess third({"--replace"_s});
         QCOMPARE(first.exitCode(), 0);
+        QCOMPARE(first.errors(), QStringList{"qaz-wm-bridge: Another bridge has taken over"_s});
         QVERIFY(BridgeProcess::isServing());
-        setWindowManager(QX11Info::appRootWindow());
+        own("_QAZWM_S0", true);
         QCOMPARE(third.exitCode(), 0);
         QCOMPARE(BridgeProcess().exitCode(), 0);
-        setWindowManager(0);
+        own("_QAZWM_S0", false);
     }
 
     void noChildOutlivesIt()
@@ -169,19 +206,14 @@ private slots:
             init();
             m_programs->add("xsettingsd"_s, "echo $$ >'" + QFile::encodeName(m_home->path("pid"_s))
                                                 + "'; exec /bin/sleep 3600");
-            QProcess server;
-            server.start("/usr/bin/Xvfb"_s, {"-displayfd"_s, "1"_s, "-nolisten"_s, "tcp"_s});
-            QTRY_VERIFY(server.canReadLine());
-            const ScopedEnvironment display("DISPLAY", ':' + server.readLine().trimmed());
+            PrivateServer server;
             BridgeProcess bridge;
             QTRY_VERIFY(m_home->read("pid"_s).endsWith('\n'));
-            serverDies ? server.kill() : bridge.process.kill();
+            serverDies ? server.end() : bridge.process.kill();
             QCOMPARE(bridge.exitCode(), serverDies ? 1 : -1);
             QTRY_VERIFY(::kill(m_home->read("pid"_s).toInt(), 0) == -1);
             if (serverDies)
                 QCOMPARE(bridge.errors(), QStringList{"qaz-wm-bridge: The X server is gone"_s});
-            server.kill();
-            server.waitForFinished();
         }
     }
 

@@ -10,8 +10,6 @@
 #include <QImage>
 #include <QtTest>
 
-#include <sys/stat.h>
-
 /// The files and command lines that the bridge makes of values that anybody may have sent.
 class TestBridgeTexts : public QObject
 {
@@ -94,7 +92,7 @@ private slots:
         const QString drawing = home.write("z.svg"_s, "<svg/>");
         QVERIFY(QImage(2, 2, QImage::Format_RGB32).save(first, "PNG"));
         QVERIFY(QImage(2, 2, QImage::Format_RGB32).save(second, "JPG"));
-        QCOMPARE(::mkfifo(QFile::encodeName(home.path("c.png"_s)).constData(), 0600), 0);
+        home.makeFifo("c.png"_s);
         QCOMPARE(nextPicture(first), second);
         QCOMPARE(nextPicture(second), drawing);
         QCOMPARE(nextPicture(drawing), first);

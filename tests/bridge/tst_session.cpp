@@ -137,6 +137,9 @@ private slots:
     void windowEventsAreHeard()
     {
         const int before = m_programs.calls("aplay"_s).size();
+        QWidget earlier; // was opened before anybody listened
+        earlier.show();
+        QVERIFY(QTest::qWaitForWindowActive(&earlier));
         BridgeProcess bridge;
         QTRY_COMPARE(heard(before), "SystemStart"_s);
         QWidget window;
@@ -229,6 +232,9 @@ private:
     TemporaryHome m_home;
     ScopedEnvironment m_configurations{"XDG_CONFIG_DIRS", "/etc/xdg"}; // where Openbox has its own
     ScopedEnvironment m_data{"XDG_DATA_DIRS", "/usr/share"};
+    // What these name is what they mean when they are not set.
+    ScopedEnvironment m_configHome{"XDG_CONFIG_HOME", {}};
+    ScopedEnvironment m_dataHome{"XDG_DATA_HOME", {}};
     FakePrograms m_programs;
     QProcess m_openbox;
 };

@@ -2,7 +2,6 @@
 #include "platform/findinps.h"
 #include "tests/support/environment.h"
 #include "tests/support/literals.h"
-#include "tests/support/spawnedprocess.h"
 #include "tests/support/temporaryhome.h"
 
 #include <QtTest>
@@ -10,11 +9,54 @@
 #include <climits>
 #include <csignal>
 
+#include <spawn.h>
 #include <sys/prctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 namespace {
+
+/// A copy of a program that only waits, at \a path; runs for an hour with the argument "3600".
+QString installWaitingProgram(const QString &path)
+{
+    QDir().mkpath(QFileInfo(path).path());
+    if (!QFile::copy("/bin/sleep"_s, path))
+        qFatal("Can't write %s", qPrintable(path));
+    return path;
+}
+
+/// A child with a command line of the test's choice, killed and reaped at the end of the scope. It runs its program as
+/// soon as the constructor returns.
+class SpawnedProcess
+{
+public:
+    /// Runs a waiting \a program with \a argument0 in the place of its name.
+    SpawnedProcess(const QString &program, const QString &argument0)
+    {
+        QByteArray arguments[] = {QFile::encodeName(argument0), "3600"};
+        char *argv[] = {arguments[0].data(), arguments[1].data(), nullptr};
+        if (posix_spawn(&m_pid, QFile::encodeName(program).constData(), nullptr, nullptr, argv, environ) != 0)
+            qFatal("Can't start %s", qPrintable(program));
+    }
+    ~SpawnedProcess()
+    {
+        ::kill(m_pid, SIGKILL);
+        ::waitpid(m_pid, nullptr, 0);
+    }
+    SpawnedProcess(const SpawnedProcess &) = delete;
+    SpawnedProcess &operator=(const SpawnedProcess &) = delete;
+
+    /// Ends the process but does not reap it.
+    void makeZombie()
+    {
+        siginfo_t info = {};
+        ::kill(m_pid, SIGKILL);
+        ::waitid(P_PID, id_t(m_pid), &info, WEXITED | WNOWAIT);
+    }
+
+private:
+    pid_t m_pid = -1;
+};
 
 QString inPath(const QString &name)
 {
@@ -73,7 +115,7 @@ private slots:
         const QString program = installWaitingProgram(home.path(file));
         for (const auto &[argument0, name, found] : cases) {
             QVERIFY(!isRunning(name));
-            const SpawnedProcess process(program, {argument0, "3600"_s});
+            const SpawnedProcess process(program, argument0);
             QVERIFY2(isRunning(name) == found, qPrintable(argument0 + u' ' + name));
         }
     }
@@ -83,7 +125,7 @@ private slots:
         const TemporaryHome home;
         const QString name = unique("qaz-test-steady"_s);
         const QString program = installWaitingProgram(home.path(name));
-        SpawnedProcess steady(program, {"x"_s, "3600"_s});
+        SpawnedProcess steady(program, "x"_s);
         QVERIFY(QFile::remove(program));
         const pid_t spawner = ::fork();
         if (spawner == 0) {

@@ -26,3 +26,6 @@ private:
     QTemporaryDir m_directory;
     ScopedEnvironment m_path;
 };
+
+/// Whether this process has a child, running or not yet reaped.
+bool hasChildProcesses();

@@ -18,7 +18,8 @@ public:
         home.write("t"_s, content);
         QazSettings store(home.path("t"_s));
         store.sync(true);
-        page.loadValues(&store);
+        if (!page.loadValues(&store))
+            qFatal("A load fails never");
     }
     /// Saves; returns the commands, separated by "|", without their common start.
     QString save()
@@ -26,7 +27,8 @@ public:
         WmListener windowManager;
         QazSettings store(home.path("t"_s));
         store.sync(true);
-        page.saveValues(&store);
+        if (!page.saveValues(&store))
+            qFatal("A save fails never");
         return windowManager.takeUpdates();
     }
     QByteArray content() const { return home.read("t"_s); }

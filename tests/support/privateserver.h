@@ -14,9 +14,10 @@ public:
     {
         // A reset, which the last client's end would start, refuses those who connect meanwhile.
         const QString arguments = QStringLiteral("-displayfd 1 -noreset -nolisten tcp -screen 0 1024x768x24");
-        m_process.start(QStringLiteral("Xvfb"), arguments.split(QLatin1Char(' ')));
-        if (m_process.waitForReadyRead(60000))
-            m_display = std::make_unique<ScopedEnvironment>("DISPLAY", ':' + m_process.readLine().trimmed());
+        m_process.start(QStringLiteral("/usr/bin/Xvfb"), arguments.split(QLatin1Char(' ')));
+        if (!m_process.waitForReadyRead(60000))
+            qFatal("Can't start a server");
+        m_display = std::make_unique<ScopedEnvironment>("DISPLAY", ':' + m_process.readLine().trimmed());
     }
     ~PrivateServer() { end(); }
     void end()

@@ -12,6 +12,8 @@
 
 #include <algorithm>
 
+#include <sys/stat.h>
+
 namespace {
 
 /// With their places below the home; nullptr: unset.
@@ -73,6 +75,21 @@ bool TemporaryHome::exists(const QString &relative) const
 bool TemporaryHome::makeDirectory(const QString &relative) const
 {
     return QDir().mkpath(path(relative));
+}
+
+QString TemporaryHome::makeFifo(const QString &relative) const
+{
+    QString name = path(relative);
+    if (::mkfifo(QFile::encodeName(name).constData(), 0600) != 0)
+        qFatal("Can't make %s", qPrintable(name));
+    return name;
+}
+
+unsigned TemporaryHome::mode(const QString &relative) const
+{
+    struct stat status = {};
+    ::stat(QFile::encodeName(path(relative)).constData(), &status);
+    return status.st_mode & 07777;
 }
 
 QByteArrayList TemporaryHome::backups() const

@@ -25,6 +25,10 @@ public:
     QByteArray read(const QString &relative) const;
     bool exists(const QString &relative) const;
     bool makeDirectory(const QString &relative) const;
+    /// Makes a FIFO in an existing directory and returns its absolute path.
+    QString makeFifo(const QString &relative) const;
+    /// The permission bits of what stands there, through a link; 0 when nothing does.
+    unsigned mode(const QString &relative) const;
     /// The contents of the backups, sorted; empty for a directory.
     QByteArrayList backups() const;
     /// Every file below the home with its content's digest and modification time, sorted: equal texts mean

@@ -27,19 +27,6 @@ QStringList WmListener::commands()
     if (QX11Info::isPlatformX11() && QX11Info::display())
         XSync(QX11Info::display(), False);
     XSync(m_display, False);
-    readEvents();
-    return m_commands;
-}
-
-QStringList WmListener::take()
-{
-    QStringList fresh = commands().mid(m_taken);
-    m_taken = m_commands.size();
-    return fresh;
-}
-
-void WmListener::readEvents()
-{
     while (XPending(m_display) > 0) {
         XEvent event;
         XNextEvent(m_display, &event);
@@ -50,6 +37,14 @@ void WmListener::readEvents()
             command.chop(1);
         m_commands.append(QString::fromLocal8Bit(command));
     }
+    return m_commands;
+}
+
+QStringList WmListener::take()
+{
+    QStringList fresh = commands().mid(m_taken);
+    m_taken = m_commands.size();
+    return fresh;
 }
 
 QString WmListener::takeUpdates()

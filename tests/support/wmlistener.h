@@ -26,8 +26,6 @@ public:
     QString takeUpdates();
 
 private:
-    void readEvents();
-
     _XDisplay *m_display;
     std::unique_ptr<CommandReceiver> m_receiver;
     QStringList m_commands;

@@ -7,8 +7,6 @@
 
 #include <algorithm>
 
-#include <sys/stat.h>
-
 namespace {
 
 const QByteArray svg
@@ -72,7 +70,7 @@ private slots:
         home.write("cut.svg"_s, svg.chopped(10));
         home.write("old.png"_s, "old");
         QVERIFY(home.makeDirectory("directory"_s));
-        QCOMPARE(::mkfifo(QFile::encodeName(home.path("fifo"_s)).constData(), 0600), 0);
+        home.makeFifo("fifo"_s);
         const QString before = home.fingerprint();
         const std::pair<const char *, int> rows[] = {
             {"-w 1 -h 1 -i missing.svg -o old.png", 1},  {"-w 1 -h 1 -i cut.svg -o old.png", 1},

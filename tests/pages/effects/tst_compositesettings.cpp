@@ -1,18 +1,14 @@
 #include "pages/effects/compositesettings.h"
 #include "platform/qazsettings.h"
-#include "tests/support/environment.h"
+#include "tests/support/fakeprogram.h"
 #include "tests/support/literals.h"
-#include "tests/support/spawnedprocess.h"
 #include "tests/support/standarderror.h"
 #include "tests/support/temporaryhome.h"
 #include "tests/support/wmlistener.h"
 
-#include <QFile>
+#include <QProcess>
 #include <QtTest>
 
-#include <memory>
-
-#include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
@@ -25,14 +21,20 @@ class Session
 {
 public:
     Session(const QString &manager, bool runs, const QByteArray &lines)
-        : m_path("PATH", QFile::encodeName(home.path("bin"_s)))
-        , m_manager(manager.toUtf8())
+        : m_manager(manager.toUtf8())
     {
         home.makeDirectory(".config/qaz"_s);
-        const QString program = installWaitingProgram(home.path("bin/"_s + manager));
+        const QString program = m_programs.directory() + u'/' + manager;
+        QFile::copy("/bin/sleep"_s, program);
         if (runs)
-            m_process = std::make_unique<SpawnedProcess>(program, QStringList{program, "3600"_s});
+            m_process.start(program, {"3600"_s});
+        m_process.waitForStarted();
         writeTheme(lines);
+    }
+    ~Session()
+    {
+        m_process.kill();
+        m_process.waitForFinished();
     }
 
     void writeTheme(const QByteArray &lines) const
@@ -63,9 +65,9 @@ private:
         return store;
     }
 
-    ScopedEnvironment m_path;
+    FakePrograms m_programs{FakePrograms::Path::Instead};
     QByteArray m_manager;
-    std::unique_ptr<SpawnedProcess> m_process;
+    QProcess m_process;
 };
 
 // Another run of this test on the same machine must not pass for this one's managers.
@@ -186,25 +188,26 @@ private slots:
 
     void whatIsNoReadableFileIsToldAndLeft()
     {
-        for (const char *kind : {"FIFO", "directory", "file"}) {
+        const std::function<void(const TemporaryHome &)> kinds[] = {
+            [](const TemporaryHome &home) { home.makeFifo(comptonFile); },
+            [](const TemporaryHome &home) { home.makeDirectory(comptonFile); },
+            [](const TemporaryHome &home) { home.write(comptonFile, "shadow = "); }};
+        for (const auto &make : kinds) {
             Session session(compton, false, {});
-            const QByteArray path = QFile::encodeName(session.home.path(comptonFile));
-            if (*kind == 'F')
-                QCOMPARE(::mkfifo(path.constData(), 0600), 0);
-            else if (*kind == 'd')
-                QVERIFY(session.home.makeDirectory(comptonFile));
-            else
-                session.home.write(comptonFile, "shadow = ");
+            make(session.home);
+            const QString path = session.home.path(comptonFile);
+            const auto look = [&path] {
+                return std::tuple(QFileInfo(path).isFile(), QFileInfo(path).size());
+            };
+            const auto before = look();
             StandardError messages;
             const CompositeState state = session.load({false, true, true});
             QVERIFY(state.transparency && state.shadow);
             session.writeTheme("UseComposite=false\n");
             session.save({});
-            const QByteArray message = "qaz-admin-theme: Can't read " + path + '\n';
+            const QByteArray message = "qaz-admin-theme: Can't read " + QFile::encodeName(path) + '\n';
             QCOMPARE(messages.take(), message + message);
-            struct stat status = {};
-            QCOMPARE(::stat(path.constData(), &status), 0);
-            QVERIFY2(*kind == 'F' ? S_ISFIFO(status.st_mode) : *kind == 'd' || status.st_size == 9, kind);
+            QVERIFY(look() == before);
         }
     }
 

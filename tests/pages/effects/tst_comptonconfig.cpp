@@ -44,13 +44,14 @@ private slots:
              "enable-transparency: false;\n",
              "# shadow = true;\nshadow = false; // shadow = true;\n/* shadow\n= 1; */ "
              "enable-transparency: true;\n"},
-            {"shadow=true enable-transparency=false x=1", "shadow=false enable-transparency=true x=1"},
+            {"/**/#\nshadow\r\f\t=true s=\"\"enable-transparency=false x=1",
+             "/**/#\nshadow\r\f\t=false s=\"\"enable-transparency=true x=1"},
             {others, others + "enable-transparency = true;\nshadow = false;\n"},
             {numbers, numbers + "enable-transparency = true;\r\nshadow = false;\r\n"},
             {"shadow = 0;\nenable-transparency = { a = [ 1, 2 ]; };\nz = \"\xfc\";",
              "shadow = false;\nenable-transparency = true;\nz = \"\xfc\";"},
             {"shadow = \"n\" \"o\";enable-transparency=\"true\"", "shadow = false;enable-transparency=true"},
-            {"a = 1.5; /* shadow", "a = 1.5;\nenable-transparency = true;\nshadow = false;\n"}};
+            {"shadow = 1; a = 1.5; /* x", "a = 1.5;\nenable-transparency = true;\nshadow = false;\n"}};
         for (const auto &[before, after] : rows) {
             const TemporaryHome home;
             const QString path = home.path("link"_s);
@@ -67,12 +68,12 @@ private slots:
     void includesAreReadAndKept()
     {
         const TemporaryHome home;
-        const QByteArray absolute = QFile::encodeName(home.write("elsewhere/b.conf"_s, "b = 2;"));
+        const QByteArray absolute = QFile::encodeName(home.write("else\\where"_s, "b = 2;"));
         const QByteArray included = "shadow = true; # theirs\nratio=1.23456789012;other = 0xFF;\n";
         home.write(".config/a.conf"_s, "@include \"deeper.conf\"\na = 1;");
         home.write(".config/deeper.conf"_s, included);
         const QByteArray before = "# mine\n@include \"a.conf\"\n# @include \"missing\"\n";
-        const QByteArray after = "  @include \"" + absolute + "\"\n";
+        const QByteArray after = "  @include \"" + QByteArray(absolute).replace('\\', "\\\\") + "\"\n";
         const QString path = home.write(fileName, before + after);
         QCOMPARE(stored(path), QByteArray("- true"));
         QVERIFY(update(path, false, true));

@@ -4,6 +4,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
+#include <QLabel>
 #include <QSpinBox>
 #include <QtTest>
 
@@ -86,19 +87,23 @@ private slots:
         EffectPageOverFile file("");
         for (const auto &[text, values, checks] : rows) {
             const QByteArray value = '=' + text + '\n';
+            // The opaque resize is read from its own key alone.
             QByteArray content = "SmartPlacement" + value + "OpaqueMove" + value + "OpaqueResize" + value
-                                 + "FullOpaque" + value + "ThumbSize" + value;
+                                 + "ThumbSize" + value;
             for (const QString &key : numbers)
                 content += key.toLatin1() + value;
             file.load(content);
             QCOMPARE(file.values(), values);
             QCOMPARE(file.checks(), checks);
-            QVERIFY(!file.save().contains("Opaque"_s)); // what means the same is left as it stands
+            QVERIFY(!file.save().contains("OpaqueMove"_s)); // what means the same is left as it stands
         }
         for (const QString &key : numbers) {
             const QString range = " from 0 to %1. 0 "_s.arg(file.spin(key)->maximum());
             QVERIFY2(file.spin(key)->whatsThis().contains(range), qPrintable(key));
         }
+        for (const QLabel *label : file.page.findChildren<QLabel *>())
+            QCOMPARE(label->toolTip(), label->buddy()->toolTip());
+        QCOMPARE(file.find<QLabel>("pagingSpeedLabel")->toolTip(), "Autopaging speed"_s);
     }
 
     void stylesAreStoredByKeyword()

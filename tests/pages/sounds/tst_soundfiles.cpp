@@ -3,7 +3,6 @@
 #include "pages/sounds/soundplayer.h"
 #include "platform/qazsoundtheme.h"
 #include "settings/soundassignments.h"
-#include "tests/support/childprocesses.h"
 #include "tests/support/fakeprogram.h"
 #include "tests/support/literals.h"
 #include "tests/support/standarderror.h"

@@ -1,5 +1,4 @@
 #include "pages/sounds/soundpage.h"
-#include "tests/support/childprocesses.h"
 #include "tests/support/fakeprogram.h"
 #include "tests/support/modaldriver.h"
 #include "tests/support/pageoverfile.h"
