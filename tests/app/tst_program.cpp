@@ -1,6 +1,6 @@
 // The real program in processes of its own: start, single instance, files.
 
-#include "tests/support/editorprocess.h"
+#include "tests/support/programprocess.h"
 #include "tests/support/fakeprogram.h"
 #include "tests/support/literals.h"
 #include "tests/support/privateserver.h"

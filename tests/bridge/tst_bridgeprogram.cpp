@@ -57,8 +57,8 @@ private slots:
         for (const auto &[arguments, code, line] : rows) {
             BridgeProcess bridge(arguments.split(u' '));
             QCOMPARE(bridge.exitCode(), code);
-            QCOMPARE(bridge.errors().join(u'\n'), line);
-            QCOMPARE(bridge.process.readAllStandardOutput().isEmpty(), code != 0);
+            QCOMPARE(bridge.errors().trimmed(), line);
+            QCOMPARE(bridge.process().readAllStandardOutput().isEmpty(), code != 0);
         }
     }
 
@@ -82,7 +82,7 @@ private slots:
             const QString before = m_home->fingerprint();
             BridgeProcess bridge({"--once"_s, "--dry-run"_s, file});
             QCOMPARE(bridge.exitCode(), 0);
-            QString output = QString::fromUtf8(bridge.process.readAllStandardOutput());
+            QString output = QString::fromUtf8(bridge.process().readAllStandardOutput());
             output.replace(m_home->path(".cache/qaz/bridge"_s), "OWN"_s).replace(m_home->path(), "HOME"_s);
             output.replace(QStringLiteral(QAZ_BINARY_DIR), "BUILD"_s);
             output.replace(qEnvironmentVariable("DISPLAY"), "DISPLAY"_s);
@@ -116,15 +116,15 @@ private slots:
         QCOMPARE(m_programs->calls("xset"_s)[2], QStringList({"s"_s, "39"_s}));
         QTRY_COMPARE(m_programs->calls("feh"_s).size(), 2);
         QCOMPARE(m_programs->calls("feh"_s)[1][2], "#000039"_s);
-        QCOMPARE(bridge.errors().filter("TaskbarHeight"_s).value(0),
-                 "qaz-wm-bridge: Not for this program: QAZWM_UPDATE_VAL TaskbarHeight? 50"_s);
+        QVERIFY(bridge.errors().contains(
+            "qaz-wm-bridge: Not for this program: QAZWM_UPDATE_VAL TaskbarHeight? 50\n"_s));
 
         // The file's own values count again after both of these.
         sendToWindowManager(restartCommand);
         QTRY_COMPARE(m_programs->calls("feh"_s).size(), 3);
         QCOMPARE(m_programs->calls("feh"_s)[2][2], "#000001"_s);
         m_home->write(themeFile, "WallPaper=#000002\n");
-        ::kill(pid_t(bridge.process.processId()), SIGHUP);
+        ::kill(pid_t(bridge.process().processId()), SIGHUP);
         QTRY_COMPARE(m_programs->calls("feh"_s).size(), 4);
         QCOMPARE(m_programs->calls("feh"_s)[3][2], "#000002"_s);
     }
@@ -137,8 +137,7 @@ private slots:
         for (const QString &wallpaper : {"/dev/zero"_s, "--help"_s, m_home->write("a.png"_s, "text")}) {
             const int before = m_programs->calls("feh"_s).size();
             announce("WallPaper", wallpaper);
-            QTRY_VERIFY(
-                bridge.errors().join(u'\n').contains("The wallpaper '%1' is no image file"_s.arg(wallpaper)));
+            QTRY_VERIFY(bridge.errors().contains("The wallpaper '%1' is no image file"_s.arg(wallpaper)));
             QTRY_VERIFY(m_programs->calls("feh"_s).size() > before);
             QVERIFY(m_programs->calls("feh"_s).last().last().endsWith("color-204060.ppm"_s));
         }
@@ -173,16 +172,16 @@ private slots:
     {
         const FakePrograms none(FakePrograms::Path::Instead);
         BridgeProcess bridge;
-        QTRY_COMPARE(bridge.errors().size(), 3);
+        QTRY_COMPARE(bridge.errors().count(u'\n'), 3);
         for (const char *color : {"#000001", "#000002"})
             announce("WallPaper", QLatin1String(color));
         announce("EnableSound", "true"_s);
-        bridge.process.terminate();
+        bridge.process().terminate();
         QCOMPARE(bridge.exitCode(), 0);
-        QCOMPARE(bridge.errors().join(u'\n'),
+        QCOMPARE(bridge.errors(),
                  "qaz-wm-bridge: feh is not installed (Debian package feh)\n"
                  "qaz-wm-bridge: xsettingsd is not installed (Debian package xsettingsd)\n"
-                 "qaz-wm-bridge: xset is not installed (Debian package x11-xserver-utils)"_s);
+                 "qaz-wm-bridge: xset is not installed (Debian package x11-xserver-utils)\n"_s);
     }
 
     void oneBridgeServesAScreen()
@@ -192,7 +191,7 @@ private slots:
         QCOMPARE(BridgeProcess().exitCode(), 1);
         BridgeProcess third({"--replace"_s});
         QCOMPARE(first.exitCode(), 0);
-        QCOMPARE(first.errors(), QStringList{"qaz-wm-bridge: Another bridge has taken over"_s});
+        QCOMPARE(first.errors(), "qaz-wm-bridge: Another bridge has taken over\n"_s);
         QVERIFY(BridgeProcess::isServing());
         own("_QAZWM_S0", true);
         QCOMPARE(third.exitCode(), 0);
@@ -209,11 +208,11 @@ private slots:
             PrivateServer server;
             BridgeProcess bridge;
             QTRY_VERIFY(m_home->read("pid"_s).endsWith('\n'));
-            serverDies ? server.end() : bridge.process.kill();
+            serverDies ? server.end() : bridge.process().kill();
             QCOMPARE(bridge.exitCode(), serverDies ? 1 : -1);
             QTRY_VERIFY(::kill(m_home->read("pid"_s).toInt(), 0) == -1);
             if (serverDies)
-                QCOMPARE(bridge.errors(), QStringList{"qaz-wm-bridge: The X server is gone"_s});
+                QCOMPARE(bridge.errors(), "qaz-wm-bridge: The X server is gone\n"_s);
         }
     }
 

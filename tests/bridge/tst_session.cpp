@@ -94,7 +94,7 @@ private slots:
         QTRY_VERIFY(output("xset"_s, {"q"_s}).contains("timeout:  420"_s));
         QTRY_COMPARE(titleBar(), "#aa2244"_s);
         QVERIFY(m_home.read(".config/openbox/rc.xml"_s).contains("<size>13</size>"));
-        bridge.process.terminate();
+        bridge.process().terminate();
         QCOMPARE(bridge.exitCode(), 0);
         QTRY_VERIFY(settings().isEmpty()); // its settings manager is gone, too
     }
@@ -160,7 +160,7 @@ private slots:
             act();
             QTRY_VERIFY2(heard().endsWith(last), qPrintable(last));
         }
-        bridge.process.terminate();
+        bridge.process().terminate();
         QCOMPARE(bridge.exitCode(), 0);
         QCOMPARE(heard(before),
                  "SystemStart Open Maximize RestoreDown Minimize RestoreUp Close Paging Paging SystemExit"_s);
@@ -191,9 +191,8 @@ private slots:
         QTRY_VERIFY(settings().contains("Theirs 9"_s));
         BridgeProcess bridge;
         QTRY_VERIFY(BridgeProcess::isServing());
-        QTRY_COMPARE(bridge.errors(),
-                     QStringList{"qaz-wm-bridge: Another settings manager runs: fonts, icons and "
-                                 "cursors are left to it"_s});
+        QTRY_COMPARE(bridge.errors(), "qaz-wm-bridge: Another settings manager runs: fonts, icons and "
+                                      "cursors are left to it\n"_s);
         announce("DefaultFont", "DejaVu Sans-8:normal"_s);
         announce("WallPaper", "#0d0e0f"_s);
         QTRY_COMPARE(pixel().name(), "#0d0e0f"_s);

@@ -27,8 +27,7 @@ public:
         WmListener windowManager;
         QazSettings store(home.path("t"_s));
         store.sync(true);
-        if (!page.saveValues(&store))
-            qFatal("A save fails never");
+        page.saveValues(&store);
         return windowManager.takeUpdates();
     }
     QByteArray content() const { return home.read("t"_s); }

@@ -43,6 +43,10 @@ private slots:
             QVERIFY(qRed(image.pixel(5, 15)) > 250 && qGreen(image.pixel(5, 15)) < 5);
             QCOMPARE(image.pixelColor(35, 15), QColor(Qt::white));
         }
+        QVERIFY(QImage(home.path("b"_s)).save(home.path("c.jpg"_s), nullptr, 90));
+        QCOMPARE(home.read("b.jpg"_s), home.read("c.jpg"_s));
+        const ToolRun help = run("--help"_s);
+        QVERIFY(help.status == 0 && help.out.startsWith("Usage: qaz-svg2png") && help.errors.isEmpty());
     }
 
     void textIsRenderedWithoutADisplay()

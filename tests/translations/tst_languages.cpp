@@ -1,4 +1,4 @@
-#include "tests/support/editorprocess.h"
+#include "tests/support/programprocess.h"
 #include "tests/support/literals.h"
 #include "tests/support/temporaryhome.h"
 
