@@ -39,18 +39,7 @@ bool isXlfdName(const QString &text)
 
 QFont storedRoleFont(const QString &stored, const QFont &defaultFont)
 {
-    if (stored.isEmpty())
-        return defaultFont;
-    if (isXlfdName(stored)) {
-        QFont font = defaultFont;
-        QT_WARNING_PUSH
-        QT_WARNING_DISABLE_DEPRECATED
-        // Only a toolkit with core X fonts honours it; the others go on with the default.
-        font.setRawName(stored);
-        QT_WARNING_POP
-        return font;
-    }
-    return isFontText(stored) ? textToFont(stored) : defaultFont;
+    return isFontText(stored) && !isXlfdName(stored) ? textToFont(stored) : defaultFont;
 }
 
 QString familyDisplayName(const QString &family)

@@ -16,7 +16,8 @@ bool isFontText(const QString &text);
 /// Whether \a text is an X logical font name, possibly a pattern.
 bool isXlfdName(const QString &text);
 
-/// The font of a role whose stored text is \a stored: \a defaultFont for an empty text and one in no known form.
+/// The font of a role whose stored text is \a stored: \a defaultFont for an empty text, one in no known form and an X
+/// logical font name, as the toolkit has no core X fonts.
 QFont storedRoleFont(const QString &stored, const QFont &defaultFont);
 
 /// A raw family name for display: "Fixed [misc]" reads "Fixed[misc]".

@@ -41,6 +41,12 @@ constexpr ThemeKey colorKey(const char *name, const char *defaultText, const cha
     return {name, KeyKind::Color, defaultText, "ThemePage", title, 0, 0, nullptr, false, part};
 }
 
+/// A row of a font role. A missing font is the role's default on load; a saved one is compared with the empty text.
+constexpr ThemeKey fontKey(const char *name, const char *defaultText, const char *title)
+{
+    return {name, KeyKind::Font, defaultText, "KFonts", title, 0, 0, nullptr, true};
+}
+
 // clang-format off
 /// Every key that the pages edit, in the order of the pages and of their rows. Colours stand in the order of their keys.
 inline constexpr ThemeKey themeKeys[] = {
@@ -93,18 +99,17 @@ inline constexpr ThemeKey themeKeys[] = {
     {"DesktopIconSize",          KeyKind::Word,   "48",                    "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Desktop icon size"), 16, 256, "16,22,32,48,64,96,128,256"},
     {"TaskbarHeight",            KeyKind::Number, "49",                    "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Taskbar height"), 21, 280},
 
-    // A missing font is the role's default on load; a saved one is compared with the empty text.
-    {"DefaultFont",              KeyKind::Font,   "Verdana-10:normal",     "KFonts",     QT_TRANSLATE_NOOP("KFonts", "General"), 0, 0, nullptr, true},
-    {"TitleFont",                KeyKind::Font,   "Verdana-10:normal",     "KFonts",     QT_TRANSLATE_NOOP("KFonts", "Title"), 0, 0, nullptr, true},
-    {"StartMenuFont",            KeyKind::Font,   "Verdana-10:normal",     "KFonts",     QT_TRANSLATE_NOOP("KFonts", "Start Menu"), 0, 0, nullptr, true},
-    {"CascadeMenuFont",          KeyKind::Font,   "Verdana-10:normal",     "KFonts",     QT_TRANSLATE_NOOP("KFonts", "Cascade Menu"), 0, 0, nullptr, true},
-    {"CtrlMenuFont",             KeyKind::Font,   "Verdana-10:normal",     "KFonts",     QT_TRANSLATE_NOOP("KFonts", "Control Menu"), 0, 0, nullptr, true},
-    {"DialogFont",               KeyKind::Font,   "Verdana-10:normal",     "KFonts",     QT_TRANSLATE_NOOP("KFonts", "Dialog"), 0, 0, nullptr, true},
-    {"TaskbarFont",              KeyKind::Font,   "Verdana-10:normal",     "KFonts",     QT_TRANSLATE_NOOP("KFonts", "Taskbar"), 0, 0, nullptr, true},
-    {"TaskbarBoldFont",          KeyKind::Font,   "Verdana-10:bold",       "KFonts",     QT_TRANSLATE_NOOP("KFonts", "Taskbar bold"), 0, 0, nullptr, true},
-    {"TaskbarClockFont",         KeyKind::Font,   "Verdana-10:normal",     "KFonts",     QT_TRANSLATE_NOOP("KFonts", "Taskbar clock"), 0, 0, nullptr, true},
-    {"IconFont",                 KeyKind::Font,   "Verdana-10:normal",     "KFonts",     QT_TRANSLATE_NOOP("KFonts", "Icon"), 0, 0, nullptr, true},
-    {"TooltipFont",              KeyKind::Font,   "Verdana-10:normal",     "KFonts",     QT_TRANSLATE_NOOP("KFonts", "Tooltip"), 0, 0, nullptr, true},
+    fontKey("DefaultFont",       "Verdana-10:normal",  QT_TRANSLATE_NOOP("KFonts", "General")),
+    fontKey("TitleFont",         "Verdana-10:normal",  QT_TRANSLATE_NOOP("KFonts", "Title")),
+    fontKey("StartMenuFont",     "Verdana-10:normal",  QT_TRANSLATE_NOOP("KFonts", "Start Menu")),
+    fontKey("CascadeMenuFont",   "Verdana-10:normal",  QT_TRANSLATE_NOOP("KFonts", "Cascade Menu")),
+    fontKey("CtrlMenuFont",      "Verdana-10:normal",  QT_TRANSLATE_NOOP("KFonts", "Control Menu")),
+    fontKey("DialogFont",        "Verdana-10:normal",  QT_TRANSLATE_NOOP("KFonts", "Dialog")),
+    fontKey("TaskbarFont",       "Verdana-10:normal",  QT_TRANSLATE_NOOP("KFonts", "Taskbar")),
+    fontKey("TaskbarBoldFont",   "Verdana-10:bold",    QT_TRANSLATE_NOOP("KFonts", "Taskbar bold")),
+    fontKey("TaskbarClockFont",  "Verdana-10:normal",  QT_TRANSLATE_NOOP("KFonts", "Taskbar clock")),
+    fontKey("IconFont",          "Verdana-10:normal",  QT_TRANSLATE_NOOP("KFonts", "Icon")),
+    fontKey("TooltipFont",       "Verdana-10:normal",  QT_TRANSLATE_NOOP("KFonts", "Tooltip")),
 
     {"ScreenSaverDelay",         KeyKind::Number, "600",                   "ThemeKeys",  QT_TRANSLATE_NOOP("ThemeKeys", "Seconds without input until the screensaver starts; 0: never"), 0, 59940},
     {"LockerDpmsOffTimeout",     KeyKind::Number, "60",                    "ThemeKeys",  QT_TRANSLATE_NOOP("ThemeKeys", "Seconds until the locked display is switched off"), 0, 59940},

@@ -3,6 +3,7 @@
 #include "tests/support/temporaryhome.h"
 #include "tests/support/wmlistener.h"
 
+#include <QDir>
 #include <QFile>
 #include <QTest>
 
@@ -14,55 +15,41 @@ class TestDesktopWallpapers : public QObject
 {
     Q_OBJECT
 private slots:
-    void removingKeepsEveryOtherByte()
+    void removingCutsTheKeyOutOfEveryDesktopsFile()
     {
         const QByteArray signature = "\xEF\xBB\xBF"; // which goes with the key
-        const QByteArray head = "; mine\r\n\r\n\r\n[Z]\r\nb = 1\r\na=2  \r\n[Desktop Entry]\r\n"
-                                "Name=\xFF\r\n# why\r\nX-QAZ-WallPaper[de]=x\r\n";
+        const QByteArray head = "; mine\r\n\r\n[Z]\r\nb = 1\r\n[Desktop Entry]\r\nName=\xFF\r\n# why\r\n"
+                                "X-QAZ-WallPaper[de]=x\r\n";
         const QByteArray tail = "x-qaz-wallpaper=lower\r\n\r\n[Y]\r\nX-QAZ-WallPaper=other group";
-        const QByteArray before = signature + head + "X-QAZ-WallPaper = \"#a6caf0\"\r\n" + tail;
+        const QByteArray content = signature + head + "X-QAZ-WallPaper = \"#a6caf0\"\r\n" + tail;
         const TemporaryHome home;
-        home.write(first, before);
-        removeDesktopWallpapers();
-        QCOMPARE(home.read(first), head + tail);
-        QCOMPARE(home.backups(), QByteArrayList{before});
-    }
-
-    void removingGoesThroughAllDesktops()
-    {
-        const TemporaryHome home;
-        const QByteArray content = "[Desktop Entry]\nX-QAZ-WallPaper=a\n";
-        const QString stripped[] = {first, "Desktops/Desktop/.directory"_s,
-                                    "Desktops/Desktop 22 b/.directory"_s};
-        const QString kept[] = {"Desktops/DesktopFile"_s,          "Desktops/desktop1/.directory"_s,
-                                "Desktops/MyDesktop/.directory"_s, "Desktops/.directory"_s,
-                                "Desktops/Desktop1/other"_s,       "Desktops/Desktop1/sub/.directory"_s};
-        for (const QString &file : stripped)
-            home.write(file, content);
-        for (const QString &file : kept)
-            home.write(file, content);
         // None of these may stop the others or make the program wait.
         QVERIFY(home.makeDirectory("Desktops/DesktopDir/.directory"_s)
                 && home.makeDirectory("Desktops/DesktopFifo"_s));
         QCOMPARE(
             ::mkfifo(QFile::encodeName(home.path("Desktops/DesktopFifo/.directory"_s)).constData(), 0600), 0);
-
-        removeDesktopWallpapers();
-        for (const QString &file : stripped)
-            QCOMPARE(home.read(file), QByteArray("[Desktop Entry]\n"));
-        for (const QString &file : kept)
-            QCOMPARE(home.read(file), content);
-    }
-
-    void filesWithoutTheKeyAreNotTouched()
-    {
-        const TemporaryHome home;
-        home.write("Desktops/Desktop2/.directory"_s, "# X-QAZ-WallPaper=a\n[Other]\nX-QAZ-WallPaper=a\n"
-                                                     "[Desktop Entry]\nX-QAZ-WallPaper[de]=a\n");
-        const QString before = home.fingerprint();
+        home.write("Desktops/Desktop2/.directory"_s,
+                   head + "# X-QAZ-WallPaper=a\r\n" + tail); // without the key
+        for (const char *kept : {"DesktopFile", "desktop1/.directory", "MyDesktop/.directory", ".directory",
+                                 "Desktop1/other", "Desktop1/sub/.directory"})
+            home.write("Desktops/"_s + QLatin1String(kept), content);
         WmListener listener;
-        removeDesktopWallpapers();
         setCurrentDesktopWallpaper("/a.png"_s); // this desktop has no file
+        const QString before = home.fingerprint();
+        const QString stripped[] = {first, "Desktops/Desktop/.directory"_s,
+                                    "Desktops/Desktop 22 b/.directory"_s};
+        for (const QString &file : stripped)
+            home.write(file, content);
+        removeDesktopWallpapers();
+        for (const QString &file : stripped) {
+            QCOMPARE(home.read(file), head + tail);
+            QVERIFY(QFile::remove(home.path(file)));
+        }
+        QCOMPARE(home.backups(), QByteArrayList({content, content, content}));
+        QVERIFY(QDir(home.path(".local"_s)).removeRecursively()
+                && QDir(home.path(".cache"_s)).removeRecursively()
+                && QDir().rmdir(home.path("Desktops/Desktop"_s))
+                && QDir().rmdir(home.path("Desktops/Desktop 22 b"_s)));
         QCOMPARE(home.fingerprint(), before);
         QCOMPARE(listener.take(), QStringList());
     }

@@ -1,6 +1,5 @@
 #include "settings/colortexts.h"
 #include "settings/rolefonttext.h"
-#include "settings/wallpapertexts.h"
 #include "tests/support/literals.h"
 
 #include <QFontInfo>
@@ -26,13 +25,6 @@ private slots:
                          + (desktop.isValid() ? desktop.name() : "-"_s),
                      row);
         }
-    }
-
-    void positionsHaveWords()
-    {
-        for (Fit fit : {Fit::Center, Fit::Tile, Fit::Stretch})
-            QCOMPARE(fitFromWord(wordFromFit(fit)), fit);
-        QCOMPARE(fitFromWord("stretch"_s), Fit::Center);
     }
 
     void storedTextsAreRead()
