@@ -34,7 +34,6 @@ class TestFontUseItem : public QObject
 private slots:
     void bitmapFontsTakeTheNearestSize()
     {
-        QCOMPARE(nearestSize({9, 12, 15}, 15), 15);
         QCOMPARE(nearestSize({9, 12, 15}, 11), 12);
         QCOMPARE(nearestSize({9, 12, 15}, 13), 12);
         QCOMPARE(nearestSize({10, 12}, 11), 10);

@@ -36,11 +36,6 @@ void loadServer(const QByteArray &resources)
     run("xrdb", {"-load"_s, "-nocpp"_s}, resources);
 }
 
-void forceDpi(int dpi)
-{
-    QSettings().setValue(QLatin1String(RenderingKey::forceFontDpi), dpi);
-}
-
 } // namespace
 
 class TestXResources : public QObject
@@ -144,7 +139,7 @@ private slots:
             if (!row.xdefaults.isNull())
                 home.write(".Xdefaults"_s, row.xdefaults);
             home.write(".included"_s, "A.in: 1\n");
-            forceDpi(row.dpi);
+            QSettings().setValue("forceFontDPI"_s, row.dpi);
             loadServer("Other.one: x\nXft.dpi: 99\n");
             applyXResources(exportXftSettings);
             QCOMPARE(serverResources(), row.merged);
@@ -162,7 +157,7 @@ private slots:
         QCOMPARE(serverResources(), QByteArray("A.a: 1\n"));
 
         QCOMPARE(::mkfifo(QFile::encodeName(home.path(".Xresources"_s)).constData(), 0600), 0);
-        forceDpi(130);
+        QSettings().setValue("forceFontDPI"_s, 130);
         const QString directory = "with blank; exit"_s;
         home.write(directory + "/.Xresources"_s, "B.b: 2\n");
         const QByteArray odd = QFile::encodeName(home.path(directory));
