@@ -132,18 +132,17 @@ QByteArray withoutHiddenRows(const QByteArray &xpm)
 {
     const int begin = xpm.indexOf('"') + 1;
     const int end = xpm.indexOf('"', begin);
-    QByteArrayList values
-        = xpm.mid(begin, qMax(0, end - begin)).simplified().split(' '); // width, height, colours
-    if (begin == 0 || values.size() < 4 || values.at(1).toInt() <= rowLimit)
+    QByteArrayList values = xpm.mid(begin, end - begin).simplified().split(' '); // width, height, colours
+    if (values.value(1).toInt() <= rowLimit)
         return xpm;
     int position = end;
     // Each colour and each row is a string of its own, between two quotes.
-    for (qint64 quotes = 2 * (qint64(values.at(2).toInt()) + rowLimit); quotes > 0 && position >= 0; --quotes)
+    for (qint64 quotes = 2 * (values.value(2).toLongLong() + rowLimit); quotes > 0 && position >= 0; --quotes)
         position = xpm.indexOf('"', position + 1);
     if (position < 0)
         return xpm;
     values[1] = QByteArray::number(rowLimit);
-    return xpm.left(begin) + values.join(' ') + xpm.mid(end, position + 1 - end) + "\n};\n";
+    return xpm.left(begin) + values.join(' ') + xpm.mid(end, position + 1 - end);
 }
 
 QImage loadXpm(const QByteArray &path)

@@ -24,9 +24,6 @@ namespace {
 // Beside the entry's data: the stored texts themselves, which may contain the data's separator.
 constexpr int storedRole = Qt::UserRole + 1;
 
-constexpr PreviewComboBox *Ui::ThemeForm::*themeCombos[] = {
-    &Ui::ThemeForm::cursorThemeCombo, &Ui::ThemeForm::iconThemeCombo, &Ui::ThemeForm::decorThemeCombo};
-
 constexpr const ThemeKey &iconThemeKey = themeKey("IconTheme"); // on load the default is empty, on purpose
 constexpr const ThemeKey &decorThemeKey = themeKey("DecorTheme");
 constexpr int comboIconHeight = 32; // at 96 dpi
@@ -78,8 +75,10 @@ ThemePage::ThemePage(QWidget *parent)
     connect(m_ui->color2Button, &QPushButton::clicked, this, &ThemePage::selectColor2);
     connect(m_ui->sizeButton, &QPushButton::clicked, this, &ThemePage::selectSize);
     // Choosing an element or a size only looks at it; the dialogs behind the buttons tell of their edits themselves.
-    for (PreviewComboBox *Ui::ThemeForm::*member : themeCombos)
-        connect(m_ui.get()->*member, qOverload<int>(&QComboBox::activated), this, &ThemePage::changedSignal);
+    for (PreviewComboBox *combo : {m_ui->cursorThemeCombo, m_ui->iconThemeCombo, m_ui->decorThemeCombo}) {
+        combo->setPlaceholderText(tr("Default"));
+        connect(combo, qOverload<int>(&QComboBox::activated), this, &ThemePage::changedSignal);
+    }
 }
 
 ThemePage::~ThemePage() = default;
@@ -87,7 +86,10 @@ ThemePage::~ThemePage() = default;
 bool ThemePage::loadValues(QazSettings *settings)
 {
     const WaitCursor waitCursor;
-    clearForm();
+    for (QComboBox *combo : findChildren<QComboBox *>()) {
+        combo->clear();
+        combo->setIconSize(QSize(combo->iconSize().width(), int(qazDpiScaled(comboIconHeight))));
+    }
     loadCursorThemes();
     loadIconThemes(settings);
     loadDecorThemes(settings);
@@ -97,23 +99,12 @@ bool ThemePage::loadValues(QazSettings *settings)
     return true;
 }
 
-void ThemePage::clearForm()
-{
-    const int height = int(qazDpiScaled(comboIconHeight));
-    for (QComboBox *combo : findChildren<QComboBox *>()) {
-        combo->clear();
-        combo->setIconSize(QSize(combo->iconSize().width(), height));
-    }
-    for (PreviewComboBox *Ui::ThemeForm::*member : themeCombos)
-        (m_ui.get()->*member)->setPlaceholderText(tr("Default"));
-}
-
 void ThemePage::loadCursorThemes()
 {
     QComboBox *combo = m_ui->cursorThemeCombo;
     const QString current = currentCursorTheme();
-    if (current != QLatin1String("default"))
-        combo->setPlaceholderText(current); // seen only when the theme is not in the list
+    // Seen only when the theme is not in the list.
+    combo->setPlaceholderText(current == QLatin1String("default") ? tr("Default") : current);
     QVector<ThemeEntry> entries;
     if (serverHasExtension("RENDER")) // the previews need it, and so do coloured cursors
         entries = cursorThemeEntries(combo->iconSize());

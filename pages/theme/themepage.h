@@ -45,7 +45,6 @@ private slots:
     QPixmap fillGradient(const QColor &col1, const QColor &col2);
 
 private:
-    void clearForm();
     void loadCursorThemes();
     void loadIconThemes(const QazSettings *settings);
     void loadDecorThemes(const QazSettings *settings);

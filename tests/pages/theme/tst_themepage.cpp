@@ -130,6 +130,7 @@ private slots:
                  QColor(0xc0, 0xc0, 0xc0));
         const QImage box = test.elements->grab().toImage().copy(3, 15, 9, 1);
         const auto isDark = [&box](int x) { return box.pixelColor(x, 0).lightness() < 140; };
+        QVERIFY(test.elements->view()->sizeHintForColumn(0) > 110); // the swatch and the name
         QVERIFY(isDark(0) || isDark(1) || isDark(2) || isDark(3) || isDark(4) || isDark(5));
         QCOMPARE(test.texts("sizeComboBox"), "48,   Desktop icon size|77,   Taskbar height"_s);
         QCOMPARE(test.combo("sizeComboBox")->itemData(1).toString(), "TaskbarHeight"_s);
