@@ -1,8 +1,6 @@
 #include "pages/sounds/soundchoice.h"
 #include "pages/sounds/soundconversion.h"
 #include "pages/sounds/soundplayer.h"
-#include "platform/qazsoundtheme.h"
-#include "settings/soundassignments.h"
 #include "tests/support/fakeprogram.h"
 #include "tests/support/literals.h"
 #include "tests/support/standarderror.h"
@@ -17,30 +15,6 @@ class TestSoundFiles : public QObject
 {
     Q_OBJECT
 private slots:
-    void resolvesAssignments()
-    {
-        const TemporaryHome home;
-        home.write(".local/share/sounds/t/index.theme"_s, "[Sound Theme]\nDirectories=.\n");
-        for (const QString &file : {"one.wav"_s, "two.au"_s, "six.WAV"_s})
-            home.write(".local/share/sounds/t/"_s + file, "sound");
-        QazSoundTheme theme("t");
-        QVERIFY(theme.load());
-        const char *const rows[][3] = {// what is played with the theme (! it is not) and without
-                                       {"built.wav", "/d/built.wav", "/d/built.wav"},
-                                       {"one", "T/one.wav", "/d/one"},
-                                       {"two", "!T/two.au", "/d/two"},
-                                       {"six", "!T/six.WAV", "/d/six"},
-                                       {"seven", "seven", "/d/seven"},
-                                       {"/own.ogg", "/own.ogg", "/own.ogg"}};
-        for (const auto &[assignment, withTheme, alone] : rows) {
-            const PlayableSound sound = playableSound(QLatin1String(assignment), &theme, "/d"_s);
-            QCOMPARE((sound.isPlayable ? QString() : "!"_s)
-                         + QString(sound.path).replace(QFile::decodeName(theme.getPath()), "T"_s),
-                     QLatin1String(withTheme));
-            QCOMPARE(playableSound(QLatin1String(assignment), nullptr, "/d"_s).path, QLatin1String(alone));
-        }
-    }
-
     void startsChoosingWhereTheFileIs()
     {
         const TemporaryHome home;

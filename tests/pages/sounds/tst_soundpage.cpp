@@ -69,7 +69,7 @@ struct Page : PageOverFile<SoundPage> {
         }
         return result.join(u' ');
     }
-    static QString focused() { return QApplication::focusWidget()->objectName(); }
+    QString focused() const { return page.focusWidget()->objectName(); }
 
     const ScopedEnvironment dataRoot{"QAZ_DATA_DIR", QFile::encodeName(home.path("data"_s))};
     QComboBox *const themes = page.findChild<QComboBox *>();
@@ -286,20 +286,27 @@ private slots:
 
     void tellsWhatCannotBePlayed()
     {
-        Page over("EnableSound=true\nMenuPopupSound=menu-popup\n");
-        QVERIFY(QTest::qWaitForWindowActive(&over.page));
-        ModalDriver driver;
-        driver.thenAnswer(QMessageBox::Ok);
-        over.click("playButton");
-        QCOMPARE(over.enabled(), "Them defa clea List sele remo"_s);
-        QCOMPARE(over.focused(), "soundListView"_s);
-        const FakePrograms none(FakePrograms::Path::Instead);
-        driver.thenAnswer(QMessageBox::Ok);
-        over.find<QPushButton>("mixerButton")->click();
-        QCOMPARE(
-            driver.seen(),
-            QStringList({"Error|Sound '%1' doesn't exist"_s.arg(over.home.path("data/sounds/menu-popup"_s)),
-                         "Error|Can't start 'qasmixer'"_s}));
+        const QString rows[][3] = {// theme, assignment, what is missing
+                                   {"No theme"_s, "menu-popup"_s, "HOME/data/sounds/menu-popup"_s},
+                                   {"wav"_s, "x.wav"_s, "HOME/data/sounds/x.wav"_s},
+                                   {"wav"_s, "/x"_s, "/x"_s},
+                                   {"wav"_s, "seven"_s, "seven"_s}};
+        for (const auto &[theme, assignment, missing] : rows) {
+            Page over("EnableSound=true\n");
+            QVERIFY(QTest::qWaitForWindowActive(&over.page));
+            over.choose(theme);
+            over.assign(0, assignment);
+            const FakePrograms none(FakePrograms::Path::Instead);
+            ModalDriver driver;
+            driver.thenAnswer(QMessageBox::Ok);
+            driver.thenAnswer(QMessageBox::Ok);
+            over.click("playButton");
+            QCOMPARE(over.enabled(), "Them defa clea List sele remo"_s);
+            QCOMPARE(over.focused(), "soundListView"_s);
+            over.find<QPushButton>("mixerButton")->click();
+            QCOMPARE(driver.seen().join(u'|').replace(over.home.path(), "HOME"_s),
+                     "Error|Sound '%1' doesn't exist|Error|Can't start 'qasmixer'"_s.arg(missing));
+        }
     }
 
     void keysActOnTheSelectedRow()

@@ -42,6 +42,7 @@ struct Page : PageOverFile<WallpaperPage> {
         fileButton->click();
     }
 
+    const ScopedEnvironment data{"QAZ_DATA_DIR", QFile::encodeName(home.path("data"_s))};
     ModalDriver driver;
     QLineEdit *lineEdit = find<QLineEdit>("wallpaperLineEdit");
     QComboBox *position = find<QComboBox>("wallpaperPositionCombo");
@@ -172,13 +173,18 @@ private slots:
     void chosenFileIsTaken()
     {
         Page page("WallPaper=/x\n");
-        const QString own = page.home.write(ownPicture("any"_s), {});
+        page.home.write(ownPicture("any"_s), {});
         const QString path = page.home.write("a/blank \"q\" $(x) %1.xpm"_s, picture("red"));
         const QString upperCase = page.home.write("a/PICTURE.SVG"_s, svg);
+        const QString home = page.home.path();
+        QVERIFY(page.home.makeDirectory("Pictures"_s) && page.home.makeDirectory("data/wallpapers"_s));
         QStringList starts;
-        const auto look = [&starts](QDialog *dialog) {
+        const auto look = [&](QDialog *dialog) {
             auto *files = qobject_cast<QFileDialog *>(dialog);
-            starts += files->directory().path() + u'|' + files->sidebarUrls().last().toString();
+            starts += files->directory().path();
+            for (const QUrl &place : files->sidebarUrls())
+                starts.last() += place.toString().replace("file://"_s, "|"_s);
+            starts.last().replace(home, "HOME"_s);
             files->reject();
         };
         page.driver.then(look);
@@ -193,8 +199,10 @@ private slots:
         page.driver.then(look);
         page.fileButton->click();
         QCOMPARE(page.lineEdit->text(), upperCase);
-        const QString place = "|file:///usr/share/wallpapers"_s;
-        QCOMPARE(starts, QStringList({QFileInfo(own).path() + place, QFileInfo(upperCase).path() + place}));
+        const QString places
+            = "file:|HOME|HOME/Pictures|HOME/.local/share/wallpapers|HOME/data/wallpapers|/usr/share/wallpapers"_s;
+        QCOMPARE(starts,
+                 QStringList({"HOME/.local/share/wallpapers/1280x1024"_s + places, "HOME/a"_s + places}));
         QVERIFY(page.driver.isDone());
         QCOMPARE(page.driver.seen().constFirst(), "Select wallpaper image file|QazFileDialog"_s);
     }

@@ -1,6 +1,5 @@
 #include "pages/wallpaper/keptpreview.h"
 #include "pages/wallpaper/wallpaperpreview.h"
-#include "pages/wallpaper/wallpaperselection.h"
 #include "tests/support/literals.h"
 #include "tests/support/temporaryhome.h"
 
@@ -130,21 +129,6 @@ private slots:
             plant();
         }
         QVERIFY(previewOfFile(home.path("none.xpm"_s), look, kept).isNull());
-    }
-
-    void sidebarHasThePlacesOfPictures()
-    {
-        const TemporaryHome home;
-        const ScopedEnvironment data("QAZ_DATA_DIR", QFile::encodeName(home.path("data"_s)));
-        const QUrl own("file:///own"_s), last("file:///usr/share/wallpapers"_s),
-            atHome = QUrl::fromLocalFile(home.path());
-        QCOMPARE(sidebarPlaces({own}), QList<QUrl>({own, atHome, last}));
-        QList<QUrl> expected = {atHome, own};
-        for (const QString &place : {"Pictures"_s, ".local/share/wallpapers"_s, "data/wallpapers"_s}) {
-            QVERIFY(home.makeDirectory(place));
-            expected += QUrl::fromLocalFile(home.path(place));
-        }
-        QCOMPARE(sidebarPlaces({atHome, own}), expected << last);
     }
 
     void previewFileReplacesOnlyItsOwn()
