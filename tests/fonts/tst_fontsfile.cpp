@@ -8,7 +8,6 @@
 #include <QtTest>
 
 #include <fcntl.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
@@ -63,8 +62,7 @@ private slots:
         StandardError standardError;
         guardFontconfig();
         QCOMPARE(FcConfigEnableHome(FcTrue), FcTrue);
-        const QByteArray fifo = QFile::encodeName(home.path(".fonts.conf"_s));
-        QCOMPARE(::mkfifo(fifo.constData(), 0600), 0);
+        const QByteArray fifo = QFile::encodeName(home.makeFifo(".fonts.conf"_s));
         guardFontconfig();
         QCOMPARE(standardError.take(), "qaz-admin-theme: Can't use " + fifo + ": Not a regular file\n");
         QCOMPARE(FcConfigEnableHome(FcTrue), FcFalse);

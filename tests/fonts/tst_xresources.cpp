@@ -11,8 +11,6 @@
 #include <QSettings>
 #include <QtTest>
 
-#include <sys/stat.h>
-
 namespace {
 
 QByteArray run(const char *program, const QStringList &arguments, const QByteArray &input = {})
@@ -156,7 +154,7 @@ private slots:
         }
         QCOMPARE(serverResources(), QByteArray("A.a: 1\n"));
 
-        QCOMPARE(::mkfifo(QFile::encodeName(home.path(".Xresources"_s)).constData(), 0600), 0);
+        home.makeFifo(".Xresources"_s);
         QSettings().setValue("forceFontDPI"_s, 130);
         const QString directory = "with blank; exit"_s;
         home.write(directory + "/.Xresources"_s, "B.b: 2\n");

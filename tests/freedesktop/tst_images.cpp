@@ -5,8 +5,6 @@
 #include <QtGui>
 #include <QtTest>
 
-#include <sys/stat.h>
-
 namespace {
 
 const QByteArray svg = "<svg xmlns='http://www.w3.org/2000/svg' width='64' height='48'><path fill='red' "
@@ -98,8 +96,7 @@ private slots:
     void specialFilesAreNoImages()
     {
         const TemporaryHome home;
-        const QString fifo = home.path("fifo.png"_s);
-        QCOMPARE(::mkfifo(QFile::encodeName(fifo).constData(), 0600), 0);
+        const QString fifo = home.makeFifo("fifo.png"_s);
         const QByteArray naming
             = "<svg xmlns='http://www.w3.org/2000/svg' xmlns:xlink='http://www.w3.org/1999/xlink'>"
               "<image width='9' height='9' xlink:href=' "

@@ -12,19 +12,12 @@
 
 #include <X11/Xatom.h>
 #include <X11/Xlib.h>
-#include <sys/stat.h>
 
 namespace {
 
 QString directory(int kind)
 {
     return QString::fromLocal8Bit(GetQazDir(kind));
-}
-
-uint modeOf(const QString &path)
-{
-    struct stat status = {};
-    return ::stat(QFile::encodeName(path).constData(), &status) == 0 ? uint(status.st_mode & 07777) : 0;
 }
 
 } // namespace
@@ -83,7 +76,7 @@ private slots:
     {
         const TemporaryHome home;
         QCOMPARE(directory(1), home.path(".cache/qaz/wallpapers"_s));
-        QCOMPARE(modeOf(directory(1)), 0700U);
+        QCOMPARE(home.mode(directory(1)), 0700U);
         const ScopedEnvironment cache("XDG_CACHE_HOME", QFile::encodeName(home.write("file"_s, "")));
         QCOMPARE(directory(1), QString());
     }
@@ -103,7 +96,7 @@ private slots:
     {
         const TemporaryHome home;
         QVERIFY(qazInit("1.2-3", "A title"));
-        QCOMPARE(modeOf(home.path(".config/qaz"_s)), 0700U);
+        QCOMPARE(home.mode(".config/qaz"_s), 0700U);
         QCOMPARE(QDir(home.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
                  QStringList{".config"_s});
         QCOMPARE(QCoreApplication::applicationVersion(), "1.2-3"_s);

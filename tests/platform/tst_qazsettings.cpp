@@ -5,8 +5,6 @@
 
 #include <QtTest>
 
-#include <sys/stat.h>
-
 namespace {
 
 const QString file = "t"_s;
@@ -96,7 +94,7 @@ private slots:
         const QByteArray content = "Key=1\n" + QByteArray(16 * 1024 * 1024 - 6, '#');
         QCOMPARE(load(home.write(file, content)), "1"_s);
         home.write(file, content + '#');
-        QCOMPARE(::mkfifo(QFile::encodeName(home.path("fifo"_s)).constData(), 0600), 0);
+        home.makeFifo("fifo"_s);
         const QString before = home.fingerprint();
         for (const auto &[name, reason] :
              {std::pair(file, "File too large"), {"fifo"_s, "Not a regular file"}}) {

@@ -19,12 +19,6 @@ QByteArray contentOf(const QString &path)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-int modeOf(const QString &path)
-{
-    struct stat status = {};
-    return ::stat(QFile::encodeName(path).constData(), &status) == 0 ? int(status.st_mode & 07777) : -1;
-}
-
 } // namespace
 
 class TestBackup : public QObject
@@ -57,7 +51,7 @@ private slots:
         home.write("outside"_s, "3");
         QVERIFY(QFile::link(home.path("outside"_s), home.path("qaz/link"_s)));
         QVERIFY(QFile::link("nowhere"_s, home.path("qaz/dangling"_s)));
-        QCOMPARE(::mkfifo(QFile::encodeName(home.path("qaz/fifo"_s)).constData(), 0600), 0);
+        home.makeFifo("qaz/fifo"_s);
         const mode_t before = ::umask(0777);
         const QString copy = backUp(home.path("qaz/"_s));
         ::umask(before);
@@ -65,10 +59,10 @@ private slots:
         QCOMPARE(QFile::symLinkTarget(copy + "/link"_s), home.path("outside"_s));
         QVERIFY(QFileInfo(copy + "/dangling"_s).isSymLink());
         for (const char *name : {".local", ".local/state/qaz", ".local/state/qaz/backup"})
-            QCOMPARE(modeOf(home.path(QLatin1String(name))), 0700);
+            QCOMPARE(home.mode(QLatin1String(name)), 0700U);
         for (const QString &path :
              {copy, copy + "/sub"_s, copy + "/a"_s, copy + "/sub/.hidden"_s, home.path(manifest)})
-            QCOMPARE(modeOf(path), QFileInfo(path).isDir() ? 0700 : 0600);
+            QCOMPARE(home.mode(path), QFileInfo(path).isDir() ? 0700U : 0600U);
     }
 
     void theFirstAndTheNineNewestOfEachOriginalAreKept()

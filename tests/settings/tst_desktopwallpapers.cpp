@@ -7,8 +7,6 @@
 #include <QFile>
 #include <QTest>
 
-#include <sys/stat.h>
-
 static const QString first = "Desktops/Desktop1/.directory"_s;
 
 class TestDesktopWallpapers : public QObject
@@ -26,8 +24,7 @@ private slots:
         // None of these may stop the others or make the program wait.
         QVERIFY(home.makeDirectory("Desktops/DesktopDir/.directory"_s)
                 && home.makeDirectory("Desktops/DesktopFifo"_s));
-        QCOMPARE(
-            ::mkfifo(QFile::encodeName(home.path("Desktops/DesktopFifo/.directory"_s)).constData(), 0600), 0);
+        home.makeFifo("Desktops/DesktopFifo/.directory"_s);
         home.write("Desktops/Desktop2/.directory"_s,
                    head + "# X-QAZ-WallPaper=a\r\n" + tail); // without the key
         for (const char *kept : {"DesktopFile", "desktop1/.directory", "MyDesktop/.directory", ".directory",

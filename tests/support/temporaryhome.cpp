@@ -88,7 +88,7 @@ QString TemporaryHome::makeFifo(const QString &relative) const
 unsigned TemporaryHome::mode(const QString &relative) const
 {
     struct stat status = {};
-    ::stat(QFile::encodeName(path(relative)).constData(), &status);
+    ::stat(QFile::encodeName(QDir(m_directory.path()).filePath(relative)).constData(), &status);
     return status.st_mode & 07777;
 }
 

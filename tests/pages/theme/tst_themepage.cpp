@@ -9,8 +9,6 @@
 #include <QtTest>
 #include <QtWidgets>
 
-#include <sys/stat.h>
-
 namespace {
 
 // What is shown, the key, and the defaults: of the colour and of a gradient's end.
@@ -266,8 +264,7 @@ private slots:
         makeCursorTheme(test.home, ".icons/garbage"_s, Qt::red);
         test.home.write(".icons/garbage/cursors/watch"_s, "Xcur\0\0\0garbage");
         makeCursorTheme(test.home, ".icons/pipe"_s, Qt::red, {"left_ptr"_s, "watch"_s});
-        QCOMPARE(::mkfifo(QFile::encodeName(test.home.path(".icons/pipe/cursors/xterm"_s)).constData(), 0600),
-                 0);
+        test.home.makeFifo(".icons/pipe/cursors/xterm"_s);
         makeIconTheme(test.home, ".icons/no %1 clock"_s, Qt::red);
         test.remove(".icons/no %1 clock/a/preferences-system-time.png"_s);
         test.home.write(".icons/preferences-system-time.png"_s, "outside all themes");
