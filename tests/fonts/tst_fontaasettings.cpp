@@ -82,6 +82,10 @@ private slots:
         QVERIFY(!file.find<QLabel>("excludeToLabel")->isEnabled());
         QVERIFY(!file.ok()->isEnabled());
         QVERIFY(file.dialog->isModal());
+        QCOMPARE(file.find<QWidget>("buttonBox")->contentsMargins(), QMargins(10, 0, 10, 10));
+        QCOMPARE(file.find<QWidget>("hintStyleCombo")->whatsThis(),
+                 "Hinting is a process used to enhance the quality of fonts at small sizes."_s);
+        QVERIFY(file.find<QWidget>("subPixelTypeCombo")->whatsThis().startsWith("<p>If you have a TFT"_s));
         // A style that is not set is stored at once, the file stays.
         QCOMPARE(DialogOverFile::stored(), "- - hintmedium"_s);
         QCOMPARE(file.home.read(place), fontsFile({}));

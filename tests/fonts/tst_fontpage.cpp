@@ -89,6 +89,11 @@ private slots:
         QVERIFY(editor.page.loaded);
         QCOMPARE(editor.save(), QString());
         QCOMPARE(editor.page.layout()->contentsMargins(), QMargins());
+        QString texts = QString::number(editor.dpi()->maximum());
+        for (const char *name : {"aaLabel", "dpiLabel", "configureButton", "adjustAllButton"})
+            texts += u'|' + editor.find<QWidget>(name)->property("text").toString();
+        QCOMPARE(texts, "400|Use a&nti-aliasing:|Force fonts DPI:|Configure...|Ad&just All Fonts..."_s);
+        QVERIFY(editor.dpi()->whatsThis() == editor.dpi()->toolTip() && !editor.dpi()->toolTip().isEmpty());
         const auto grids = editor.page.findChildren<QGridLayout *>();
         QCOMPARE(grids.at(0)->columnStretch(1), 1);
         QCOMPARE(QMargins(grids.at(1)->verticalSpacing(), grids.at(1)->horizontalSpacing(),
@@ -104,6 +109,9 @@ private slots:
             QCOMPARE(preview->text(), "DejaVu Sans %1"_s.arg(6 + i));
             const QString name = QLatin1String(roles[i][1]);
             QCOMPARE(preview->toolTip(), "Preview of the \"%1\" font"_s.arg(name));
+            const auto *button = items.at(i)->findChild<QPushButton *>("chooseButton"_s);
+            QCOMPARE(button->text() + button->toolTip() + button->accessibleName(),
+                     "...Click to select a fontSelect the \"%1\" font"_s.arg(name));
             const auto *label = editor.page.findChild<QLabel *>(key + "Label"_s);
             QCOMPARE(label->text(), name);
             QCOMPARE(label->whatsThis(), QLatin1String(roles[i][2]));
@@ -286,15 +294,22 @@ private slots:
         }
     }
 
-    void adjustingAllFonts()
+    void fontsAreChosen()
     {
         const Editor editor;
         ModalDriver driver;
-        driver.then([](QDialog *dialog) {
-            qobject_cast<QFontDialog *>(dialog)->setCurrentFont(mono);
-            dialog->accept();
-        });
-        driver.thenReject();
+        for (int i = 0; i < 2; ++i) {
+            driver.then([](QDialog *dialog) {
+                qobject_cast<QFontDialog *>(dialog)->setCurrentFont(mono);
+                dialog->accept();
+            });
+            driver.thenReject();
+        }
+        const FontUseItem *icons = editor.role("IconFont");
+        for (int i = 0; i < 2; ++i) { // the second choice is cancelled
+            icons->findChild<QPushButton *>()->click();
+            QCOMPARE(icons->findChild<QLabel *>()->text(), "DejaVu Sans Mono 12"_s);
+        }
         auto *button = editor.find<QPushButton>("adjustAllButton");
         QSignalSpy changed(&editor.page, &KFonts::changed);
         button->click();
