@@ -20,3 +20,15 @@ struct ToolRun {
     QByteArray out;
     QByteArray errors;
 };
+
+/// Runs qaz-theme.
+inline ToolRun run(const QStringList &arguments)
+{
+    return {QStringLiteral("qaz-theme"), arguments};
+}
+
+/// The same with arguments that are separated by blanks.
+inline ToolRun run(const char *arguments)
+{
+    return run(QString::fromUtf8(arguments).split(QLatin1Char(' '), Qt::SkipEmptyParts));
+}

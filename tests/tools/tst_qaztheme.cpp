@@ -10,16 +10,6 @@ namespace {
 
 const QString themeFile = ".config/qaz/current.themerc"_s;
 
-ToolRun run(const QStringList &arguments)
-{
-    return {"qaz-theme"_s, arguments};
-}
-
-ToolRun run(const char *arguments)
-{
-    return run(QString::fromUtf8(arguments).split(u' ', Qt::SkipEmptyParts));
-}
-
 } // namespace
 
 class TestQazTheme : public QObject

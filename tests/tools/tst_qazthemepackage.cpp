@@ -13,11 +13,6 @@ namespace {
 
 const QString themeFile = ".config/qaz/current.themerc"_s;
 
-ToolRun run(const QStringList &arguments)
-{
-    return {"qaz-theme"_s, arguments};
-}
-
 enum class Kind { File, SymbolicLink, HardLink, Directory, Fifo };
 
 struct Member {
@@ -72,7 +67,7 @@ private slots:
                                   "CloseSound=~/two/a.wav\nPagingSound=~/one/a.wav\nIconTheme=Two\n"
                                   "ErrorDialogSound=x-qaz-wm-error.wav\nMenuPopupSound=/gone.wav\n")
                            .replace('~', home.path().toUtf8()));
-            const ToolRun result = run({"pack"_s, "a.qaztheme"_s});
+            const ToolRun result = run("pack a.qaztheme");
             QVERIFY2(result.status == 0 && result.errors.count('\n') == 1
                          && result.errors.contains("/gone.wav"),
                      result.errors.constData());
@@ -87,11 +82,11 @@ private slots:
         home.write(themeFile, "Own=2\nIconTheme=Two\n");
         const QString before = home.fingerprint();
         WmListener listener;
-        QCOMPARE(run({"unpack"_s, "-n"_s, "a.qaztheme"_s}).status, 0);
+        QCOMPARE(run("unpack -n a.qaztheme").status, 0);
         QCOMPARE(home.fingerprint(), before);
         QCOMPARE(listener.take(), QStringList());
 
-        const ToolRun result = run({"unpack"_s, "a.qaztheme"_s});
+        const ToolRun result = run("unpack a.qaztheme");
         QVERIFY2(result.status == 0, result.errors.constData());
         QCOMPARE(listener.takeUpdates().replace(home.path(".local/share"_s), "~"_s),
                  "WallPaper ~/wallpapers/Bä rg.png|MenuPopupSound /gone.wav|OpenSound ~/qaz/sounds/a.wav|"
@@ -119,18 +114,18 @@ private slots:
                                                  {"./wallpapers/", {}, Kind::Directory},
                                                  {"./wallpapers/a.png", "new"},
                                                  {"sounds/b.wav", "sound"}});
-        const ToolRun result = run({"unpack"_s, "a.qaztheme"_s});
+        const ToolRun result = run("unpack a.qaztheme");
         QVERIFY2(result.status == 0, result.errors.constData());
         QCOMPARE(home.read(target), QByteArray("new"));
         QCOMPARE(home.read("elsewhere"_s), QByteArray("untouched"));
         QVERIFY(!QFileInfo(home.path(".local/share/qaz/sounds/b.wav"_s)).isSymLink());
         QCOMPARE(home.backups(), QByteArrayList({"old", "untouched"}));
         const QString before = home.fingerprint();
-        QCOMPARE(run({"unpack"_s, "a.qaztheme"_s}).out, QByteArray());
+        QCOMPARE(run("unpack a.qaztheme").out, QByteArray());
         QCOMPARE(home.fingerprint(), before);
         // A package is a file of the user's, too.
         home.write("b.qaztheme"_s, "precious");
-        QCOMPARE(run({"pack"_s, "b.qaztheme"_s}).status, 0);
+        QCOMPARE(run("pack b.qaztheme").status, 0);
         QCOMPARE(home.backups(), QByteArrayList({"old", "precious", "untouched"}));
     }
 
@@ -157,7 +152,7 @@ private slots:
             QVERIFY(home.makeDirectory(".local/share"_s));
             writeArchive(home.path("a.qaztheme"_s), members);
             const QString before = home.fingerprint();
-            const ToolRun result = run({"unpack"_s, "a.qaztheme"_s});
+            const ToolRun result = run("unpack a.qaztheme");
             QVERIFY2(result.status == 2 && result.errors.count('\n') == 1,
                      members.isEmpty() ? "nothing" : members.last().name);
             QCOMPARE(home.fingerprint(), before);
@@ -167,10 +162,18 @@ private slots:
         QCOMPARE(listener.take(), QStringList());
     }
 
-    void limitsAreKept()
+    void whatIsTooLargeCutOffOrOfAnotherKindIsRefused()
     {
         const TemporaryHome home;
         QVERIFY(home.makeDirectory(".local/share"_s));
+        home.write(themeFile, "WallPaper=" + home.write("a.png"_s, QByteArray(3000, 'x')).toUtf8()
+                                  + "\nPagingSpeed=5\n");
+        QCOMPARE(run("pack whole").status, 0);
+        QVERIFY(QFile::remove(home.path(themeFile)));
+        const QByteArray whole = home.read("whole"_s);
+        for (int size :
+             {0, 1, 9, 100, whole.size() / 2, whole.size() - 9, whole.size() - 8, whole.size() - 1})
+            home.write("%1.qaztheme"_s.arg(size), whole.left(size));
         QVector<Member> members{{"theme.themerc", "PagingSpeed=5\n"}};
         QByteArrayList names;
         for (int i = 0; i < 2000; ++i)
@@ -184,33 +187,16 @@ private slots:
         writeArchive(home.path("plain.qaztheme"_s), {members.first()}, "pax", nullptr);
         writeArchive(home.path("zip.qaztheme"_s), {members.first()}, "zip", nullptr);
         const QString before = home.fingerprint();
-        for (const char *name : {"many", "large", "plain", "zip"}) {
-            const ToolRun result = run({"unpack"_s, QLatin1String(name) + ".qaztheme"_s});
-            QVERIFY2(result.status == 2, name);
+        const QStringList packages = QDir(home.path()).entryList({"*.qaztheme"_s});
+        QCOMPARE(packages.size(), 12);
+        for (const QString &name : packages) {
+            QVERIFY2(run({"unpack"_s, name}).status == 2, qPrintable(name));
             QCOMPARE(home.fingerprint(), before);
         }
         members.removeLast();
         writeArchive(home.path("many.qaztheme"_s), members);
-        QCOMPARE(run({"unpack"_s, "many.qaztheme"_s}).status, 0);
-    }
-
-    void aCutOffArchiveChangesNothing()
-    {
-        const TemporaryHome home;
-        QVERIFY(home.makeDirectory(".local/share"_s));
-        home.write(themeFile, "WallPaper=" + home.write("a.png"_s, QByteArray(3000, 'x')).toUtf8()
-                                  + "\nPagingSpeed=5\n");
-        QCOMPARE(run({"pack"_s, "whole.qaztheme"_s}).status, 0);
-        QVERIFY(QFile::remove(home.path(themeFile)));
-        const QByteArray whole = home.read("whole.qaztheme"_s);
-        for (int size :
-             {0, 1, 9, 100, whole.size() / 2, whole.size() - 9, whole.size() - 8, whole.size() - 1}) {
-            home.write("cut.qaztheme"_s, whole.left(size));
-            const QString before = home.fingerprint();
-            QVERIFY2(run({"unpack"_s, "cut.qaztheme"_s}).status == 2, qPrintable(QString::number(size)));
-            QCOMPARE(home.fingerprint(), before);
-        }
-        QCOMPARE(run({"unpack"_s, "whole.qaztheme"_s}).status, 0);
+        QCOMPARE(run("unpack many.qaztheme").status, 0);
+        QCOMPARE(run("unpack whole").status, 0);
     }
 };
 
