@@ -30,17 +30,6 @@ constexpr const ThemeKey &positionKey = themeKey("WallPaperPos");
 constexpr const ThemeKey &periodKey = themeKey("WallPaperPeriod");
 const QLatin1String defaultColor("blue"); // another one than the element's, on purpose
 
-/// Completes typed paths. The model belongs to the completer.
-QCompleter *createPathCompleter(QObject *parent)
-{
-    auto *completer = new QCompleter(parent);
-    QT_WARNING_PUSH
-    QT_WARNING_DISABLE_DEPRECATED // its successor lists directories later than the completer asks for them
-        completer->setModel(new QDirModel(completer));
-    QT_WARNING_POP
-    return completer;
-}
-
 } // namespace
 
 WallpaperPage::WallpaperPage(QWidget *parent)
@@ -48,7 +37,12 @@ WallpaperPage::WallpaperPage(QWidget *parent)
     , m_ui(std::make_unique<Ui::WallpaperForm>())
 {
     m_ui->setupUi(this);
-    m_ui->wallpaperLineEdit->setCompleter(createPathCompleter(this));
+    auto *completer = new QCompleter(this);
+    QT_WARNING_PUSH
+    QT_WARNING_DISABLE_DEPRECATED // its successor lists directories later than the completer asks for them
+        completer->setModel(new QDirModel(completer));
+    QT_WARNING_POP
+    m_ui->wallpaperLineEdit->setCompleter(completer);
     m_ui->wallpaperLineEdit->setClearButtonEnabled(true);
     takeDrops(this, [this](const QMimeData *data, auto /*position*/) { return taking(data); });
 }
