@@ -36,11 +36,10 @@ QString wallpaperIn(const QByteArray &path)
     return QString::fromLocal8Bit(stored);
 }
 
-/// Whether a reader of INI files finds the key. Spaces round "=", one value a key, one line a value.
+/// Whether a reader of INI files finds the key. One value a key, one line a value.
 bool holdsWallpaper(const QByteArray &content)
 {
     CSimpleIniCaseA ini(true, false, false);
-    ini.SetSpaces(true);
     return ini.LoadData(content.constData(), std::size_t(content.size())) >= 0
            && ini.Delete(desktopEntryGroup, wallpaperKey, false);
 }

@@ -12,6 +12,7 @@
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 
 namespace {
@@ -93,7 +94,12 @@ private slots:
             QVERIFY2(replaceFile(home.path("a/b/private"_s), "x", &error, 0600), qPrintable(error));
             QVERIFY(QFile::setPermissions(home.write("a/b/old"_s, ""),
                                           QFile::ReadOwner | QFile::WriteOwner | QFile::ReadOther));
+            const QByteArray old = QFile::encodeName(home.path("a/b/old"_s));
+            ::setxattr(old.constData(), "user.note", "12", 2, 0);
+            // Not every file system keeps it.
+            const auto noted = ::getxattr(old.constData(), "user.note", nullptr, 0);
             QVERIFY(replaceFile(home.path("a/b/old"_s), "y", &error, 0600));
+            QCOMPARE(::getxattr(old.constData(), "user.note", nullptr, 0), noted);
             const std::pair<const char *, unsigned> modes[] = {
                 {"a", 0700},
                 {"a/b", 0700},

@@ -50,7 +50,7 @@ private slots:
     {
         const TemporaryHome home;
         const ScopedEnvironment data("QAZ_DATA_DIR", "/root");
-        const ScopedEnvironment cursors("XCURSOR_PATH", "~/.icons:/a/:/a");
+        const ScopedEnvironment cursors("XCURSOR_PATH", "~/.icons:/a/:/a://");
         const QByteArray user = QFile::encodeName(home.path());
         const struct {
             const char *dataHome;
@@ -68,7 +68,7 @@ private slots:
             };
             QCOMPARE(iconSearchPath().join(':'), user + "/.icons:" + row.first + "/icons:" + others("icons")
                                                      + "/usr/share/pixmaps:/root/icons");
-            QCOMPARE(cursorSearchPath().join(':'), user + "/.icons:/a:" + row.first + "/icons:/root/icons");
+            QCOMPARE(cursorSearchPath().join(':'), user + "/.icons:/a:/:" + row.first + "/icons:/root/icons");
             QCOMPARE(soundBaseDirectories().join(u':').toUtf8(),
                      row.first + "/sounds:" + others("sounds") + "/root/sounds");
         }
@@ -114,9 +114,9 @@ private slots:
             QCOMPARE(parseIconThemeIndex(row.after).inherits.join(','), row.name);
         }
         const IconThemeIndex index = parseIconThemeIndex(
-            "[Icon Theme]\nInherits= , A;B c,\n[X]\nInherits=z\n");
-        QCOMPARE(index.inherits, (QByteArrayList{"A", "B c"}));
-        QCOMPARE(index.cursorInherits, (QByteArrayList{"A", "B", "c"}));
+            "[Icon Theme]\nInherits= , A;B x,\n[X]\nInherits=z\n");
+        QCOMPARE(index.inherits, (QByteArrayList{"A", "B x"}));
+        QCOMPARE(index.cursorInherits, (QByteArrayList{"A", "B", "x"}));
     }
 
     void matchesSizes()

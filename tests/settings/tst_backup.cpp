@@ -112,7 +112,7 @@ private slots:
     {
         const TemporaryHome home;
         const QString original = home.write("file"_s, "x");
-        for (const char *name : {"/../../victim", "..", ".", "../victim"})
+        for (const char *name : {"/../../victim", "..", ".", "../victim", ""})
             home.write(manifest, home.read(manifest)
                                      + (name + ('\t' + QFile::encodeName(original) + '\n')).repeated(20));
         home.write(".local/state/qaz/victim"_s, "y");
