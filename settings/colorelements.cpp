@@ -1,6 +1,5 @@
 #include "settings/colorelements.h"
 
-#include "platform/qazsettings.h"
 #include "settings/colortexts.h"
 #include "settings/updatevalues.h"
 
@@ -21,11 +20,8 @@ std::vector<ColorElement> colorElements()
 QStringList storedColors(const ColorElement &element, const QazSettings &settings)
 {
     QStringList colors;
-    for (const ThemeKey *key : element) {
-        const QString defaultColor = QLatin1String(key->defaultText);
-        colors += currentColorText(settings.value(QLatin1String(key->name), defaultColor).toString(),
-                                   defaultColor);
-    }
+    for (const ThemeKey *key : element)
+        colors += currentColorText(storedText(&settings, *key), QLatin1String(key->defaultText));
     return colors;
 }
 

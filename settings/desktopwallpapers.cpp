@@ -10,7 +10,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QTextCodec>
 
 #define SI_NO_CONVERSION  // only the 8-bit class is used; the others need a file that Debian does not ship
 #define SI_IMPLEMENTATION // here: one library less to load at every start
@@ -99,8 +98,6 @@ void setCurrentDesktopWallpaper(const QString &wallpaper)
 
 void removeDesktopWallpapers()
 {
-    if (!QTextCodec::codecForName("UTF-8"))
-        return;
     const QDir desktops(directoryPath(DirectoryKind::Home) + desktopsDirectory);
     const QStringList names = desktops.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Unsorted);
     for (const QString &name : names) {

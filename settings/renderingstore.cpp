@@ -55,19 +55,14 @@ QByteArray xftSettingsCommand(const QString &file)
 QString xftResourceLines(const QString &file)
 {
     QString lines;
-    if (value(file, RenderingKey::antialias).isValid()) {
-        const bool on = value(file, RenderingKey::antialias).toBool();
-        lines += QLatin1String(on ? "Xft.antialias: 1\n" : "Xft.antialias: 0\n");
-    }
-    if (value(file, RenderingKey::hintStyle).isValid()) {
-        const QString style = text(file, RenderingKey::hintStyle, "hintmedium");
-        if (style.isEmpty()) {
-            lines += QLatin1String("Xft.hinting: -1\n");
-        } else {
-            const bool hinted = style != QLatin1String("hintnone");
-            lines += QLatin1String(hinted ? "Xft.hinting: 1\n" : "Xft.hinting: 0\n");
+    if (const QVariant on = value(file, RenderingKey::antialias); on.isValid())
+        lines += QLatin1String(on.toBool() ? "Xft.antialias: 1\n" : "Xft.antialias: 0\n");
+    if (const QVariant stored = value(file, RenderingKey::hintStyle); stored.isValid()) {
+        const QString style = stored.toString();
+        const int hinting = style.isEmpty() ? -1 : style == QLatin1String("hintnone") ? 0 : 1;
+        lines += QStringLiteral("Xft.hinting: %1\n").arg(hinting);
+        if (!style.isEmpty())
             lines += QLatin1String("Xft.hintstyle: ") + style + QLatin1Char('\n');
-        }
     }
     const QString subPixel = text(file, RenderingKey::subPixel, "");
     if (!subPixel.isEmpty())
