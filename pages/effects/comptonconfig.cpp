@@ -8,6 +8,7 @@
 
 #include <QFileInfo>
 #include <QMap>
+#include <QScopeGuard>
 
 #include <algorithm>
 #include <clocale>
@@ -25,28 +26,12 @@ constexpr char shadowName[] = "shadow";
 // The files in use are a few kilobytes long.
 constexpr int sizeLimit = 1024 * 1024;
 
-/// Numbers have a decimal point in these files, whatever the user's language, until the end of the scope.
-class PointLocale
+/// Numbers have a decimal point in these files, whatever the user's language, as long as the result lives.
+[[nodiscard]] auto decimalPoint()
 {
-public:
-    PointLocale()
-        : m_locale(::newlocale(LC_NUMERIC_MASK, "C", locale_t(nullptr)))
-        , m_before(m_locale ? ::uselocale(m_locale) : locale_t(nullptr))
-    {}
-    ~PointLocale()
-    {
-        if (!m_locale)
-            return;
-        ::uselocale(m_before);
-        ::freelocale(m_locale);
-    }
-    PointLocale(const PointLocale &) = delete;
-    PointLocale &operator=(const PointLocale &) = delete;
-
-private:
-    locale_t m_locale;
-    locale_t m_before;
-};
+    static const locale_t locale = ::newlocale(LC_NUMERIC_MASK, "C", locale_t(nullptr));
+    return qScopeGuard([before = ::uselocale(locale)] { ::uselocale(before); });
+}
 
 /// libconfig's tree of a text.
 class Tree
@@ -59,7 +44,7 @@ public:
 
     bool read(const QByteArray &text)
     {
-        const PointLocale locale;
+        const auto point = decimalPoint();
         return !text.contains('\0') && ::config_read_string(&m_config, text.constData()) == CONFIG_TRUE;
     }
 
@@ -94,7 +79,7 @@ public:
         if (!stream)
             return {};
         {
-            const PointLocale locale;
+            const auto point = decimalPoint();
             ::config_write(&m_config, stream.get());
         }
         stream.reset(); // fills in buffer and size

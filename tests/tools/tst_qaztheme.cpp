@@ -75,8 +75,6 @@ private slots:
         row("-f", "", 2);
         row("complete values OpaqueMove", "", 0, "true\nfalse\n");
         row("complete values PagingSpeed", "", 0);
-        row("complete commands", "", 0,
-            "get\nset\nunset\nlist\ndiff\napply\npack\nunpack\nbackups\nrestore\ncomplete\n");
         row("list paging*speed", "PagingSpeed=5\n", 0,
             "* PagingSpeed              5                    30                   Autopaging speed\n");
         row("list -q BELT", "PagingBeltSize=00\n", 0,
@@ -177,6 +175,19 @@ private slots:
         QCOMPARE(
             run("list PagerColor2").out.simplified(),
             QByteArray("PagerColor2 #fbfcfd #fbfcfd Farbe am Ende des Verlaufs: Hintergrund des Pagers"));
+    }
+
+    void helpSaysWhatEachCommandTakes()
+    {
+        const TemporaryHome home;
+        QByteArray usages;
+        for (const QByteArray &command : run("complete commands").out.trimmed().split('\n'))
+            usages += run({QLatin1String(command), "-h"_s}).out.split('\n').constFirst() + '\n';
+        QCOMPARE(usages.replace("Usage: qaz-theme ", "").replace("[OPTION]... ", ""),
+                 QByteArray("get KEY...\nset KEY=VALUE...\nunset KEY...\nlist [PATTERN]\ndiff [FILE] [FILE]\n"
+                            "apply FILE\npack FILE.qaztheme\nunpack FILE.qaztheme\nbackups [FILE]\n"
+                            "restore N|FILE\ncomplete commands|keys|values [KEY]\n"));
+        QVERIFY(run("--help").out.contains("\n  get KEY...                   print values, one a line\n"));
     }
 
     void withoutADisplayNobodyIsTold()
