@@ -359,6 +359,7 @@ private slots:
                 if (row == paste)
                     break;
                 QCOMPARE(over.assignments(), QString());
+                event->setDropAction(Qt::MoveAction);
                 QCoreApplication::sendEvent(over.list->viewport(), event);
                 // What enters at an unfit place may fit at another one. A file manager must not move the file.
                 QCOMPARE(event->isAccepted(), event == &enter ? file != "t"_s : !assignments.isEmpty());
