@@ -36,7 +36,7 @@ struct EditFileOptions {
     unsigned newFileMode = 0666;  ///< less the umask
     bool removeWhenEmpty = false; ///< a file of which nothing is left goes
     /// Called before an existing file is replaced or removed.
-    std::function<void(const QString &path)> beforeReplace;
+    std::function<void(const QString &path)> beforeReplace = {};
 };
 
 /// Changes the file at \a path in one step that no other program of this user can come between: reads it under

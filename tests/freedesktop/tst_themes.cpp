@@ -57,8 +57,8 @@ private slots:
             const char *dataDirs;
             QByteArray first;
             QByteArray others; // with a star for the kind
-        } rows[] = {{"/h/", "/b/://c:", "/h", "/b/*:/c/*:"},
-                    {"h", "b:./c:..", user + "/.local/share", ""},
+        } rows[] = {{"/h/", "/b/:relative://c:/b:", "/h", "/b/*:/c/*:"},
+                    {"./h", "b:./c:..", user + "/.local/share", ""},
                     {"", "", user + "/.local/share", "/usr/local/share/*:/usr/share/*:"}};
         for (const auto &row : rows) {
             const ScopedEnvironment dataHome("XDG_DATA_HOME", row.dataHome);
