@@ -118,35 +118,22 @@ private slots:
 
     void foreignContentIsNoticed()
     {
-        const QByteArray ours
-            = "<match target='font'><edit mode='assign' name='rgba'><const>rgb</const></edit></match>";
-        const struct {
-            QByteArray prolog;
-            QByteArray children;
-            bool isOurs;
-        } rows[] = {{"<?xml version='1.0'?><!DOCTYPE fontconfig>\n<fontconfig>", '\n' + ours, true},
-                    {"<fontconfig>", ours + "<cachedir>/a</cachedir>", false},
-                    {"<fontconfig>", ours + "<!-- mine -->", false},
-                    {"<fontconfig>", ours + "mine", false},
-                    {"<fontconfig>", "<match target='font'><!-- mine -->" + ours.mid(21), false},
-                    {"<fontconfig>", "<match id='a' target='font'>" + ours.mid(21), false},
-                    {"<!-- mine --><fontconfig>", ours, false},
-                    {"<fontconfig xmlns:my='a'>", ours, false},
-                    {"<!DOCTYPE fontconfig [<!ENTITY a 'b'>]><fontconfig>", ours, false},
-                    {"<!DOCTYPE fontconfig SYSTEM 'a'><fontconfig>", ours + "&b;", false},
-                    {"<fontconfig>", ours + ours, false}}; // the older of two
-        for (const auto &row : rows) {
-            const QByteArray content = row.prolog + row.children + "</fontconfig>\n";
-            QVERIFY2(parsed(content).holdsOnlySettings() == row.isOurs, content.constData());
-        }
-    }
-
-    void namesOfValues()
-    {
-        QCOMPARE(FontRendering::fileName(HintStyle::NotSet), "hintmedium"_s);
-        QCOMPARE(FontRendering::subPixelOrder("RGB"_s), SubPixelOrder::None);
-        QCOMPARE(FontRendering::hintStyle({}), HintStyle::NotSet);
-        QCOMPARE(FontRendering::hintStyle("hintmedium"_s), HintStyle::Medium);
+        const QByteArray rest = "<edit mode='assign' name='rgba'><const>rgb</const></edit></match>";
+        const QByteArray ours = "<match target='font'>" + rest;
+        const QByteArray contents[] = {"<?xml version='1.0'?><!DOCTYPE fontconfig>\n<fontconfig>\n" + ours,
+                                       "<fontconfig>" + ours + "<cachedir>/a</cachedir>",
+                                       "<fontconfig>" + ours + "<!-- mine -->",
+                                       "<fontconfig>" + ours + "mine",
+                                       "<fontconfig><match target='font'><!-- mine -->" + rest,
+                                       "<fontconfig><match id='a' target='font'>" + rest,
+                                       "<!-- mine --><fontconfig>" + ours,
+                                       "<fontconfig xmlns:my='a'>" + ours,
+                                       "<!DOCTYPE fontconfig [<!ENTITY a 'b'>]><fontconfig>" + ours,
+                                       "<!DOCTYPE fontconfig SYSTEM 'a'><fontconfig>" + ours + "&b;",
+                                       "<fontconfig>" + ours + ours}; // the older of two
+        for (const QByteArray &content : contents)
+            QVERIFY2(parsed(content + "</fontconfig>\n").holdsOnlySettings() == (&content == contents),
+                     content.constData());
     }
 };
 

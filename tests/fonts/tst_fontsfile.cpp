@@ -11,10 +11,8 @@
 #include <unistd.h>
 
 namespace {
-
 const QString place = ".config/fontconfig/fonts.conf"_s;
-
-} // namespace
+}
 
 class TestFontsFile : public QObject
 {
@@ -22,24 +20,21 @@ class TestFontsFile : public QObject
 private slots:
     void lockOfAKilledProgramGoes()
     {
-        const struct {
-            const char *what;
-            QByteArray owner; // null: the lock is a directory
-            int age;          // seconds
-        } rows[] = {{"its process has ended", "999999999\n", 5},
-                    {"its number was given out again", QByteArray::number(::getpid()), 700},
-                    {"an old one of nobody", "", 70},
-                    {"an old directory", {}, 3600}};
-        for (const auto &row : rows) {
+        // Whose it is (null: the lock is a directory) and its age in seconds.
+        const QPair<QByteArray, int> locks[] = {{"999999999\n", 5},                    // has ended
+                                                {QByteArray::number(::getpid()), 700}, // given out again
+                                                {"", 70},
+                                                {{}, 3600}};
+        for (const auto &[owner, age] : locks) {
             const TemporaryHome home;
             home.write(place, "<fontconfig/>\n");
             const QString lock = place + ".LCK"_s;
-            QVERIFY(row.owner.isNull() ? home.makeDirectory(lock) : !home.write(lock, row.owner).isEmpty());
+            QVERIFY(owner.isNull() ? home.makeDirectory(lock) : !home.write(lock, owner).isEmpty());
             timespec times[2] = {};
-            times[0].tv_sec = times[1].tv_sec = ::time(nullptr) - row.age;
+            times[0].tv_sec = times[1].tv_sec = ::time(nullptr) - age;
             QCOMPARE(::utimensat(AT_FDCWD, QFile::encodeName(home.path(lock)).constData(), times, 0), 0);
             const FontsFileLock held(home.path(place));
-            QVERIFY2(held.isHeld() && held.error().isEmpty(), row.what);
+            QVERIFY2(held.isHeld() && held.error().isEmpty(), owner.constData());
         }
     }
 
