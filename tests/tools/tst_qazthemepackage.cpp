@@ -16,7 +16,7 @@ const QString themeFile = ".config/qaz/current.themerc"_s;
 enum class Kind { File, SymbolicLink, HardLink, Directory, Fifo };
 
 struct Member {
-    const char *name;
+    QByteArray name;
     QByteArray content; // of a link: where it leads
     Kind kind = Kind::File;
 };
@@ -32,7 +32,7 @@ void writeArchive(const QString &path, const QVector<Member> &members, const cha
     archive_write_open_filename(writer.get(), QFile::encodeName(path).constData());
     for (const Member &member : members) {
         const std::unique_ptr<archive_entry, Release<archive_entry_free>> entry(archive_entry_new());
-        archive_entry_set_pathname_utf8(entry.get(), member.name);
+        archive_entry_set_pathname_utf8(entry.get(), member.name.constData());
         archive_entry_set_perm(entry.get(), 0644);
         constexpr unsigned types[] = {AE_IFREG, AE_IFLNK, AE_IFREG, AE_IFDIR, AE_IFIFO};
         archive_entry_set_filetype(entry.get(), types[int(member.kind)]);
@@ -97,9 +97,8 @@ private slots:
         QCOMPARE(home.read(".local/share/qaz/sounds/2-a.wav"_s), QByteArray("two"));
         QVERIFY(home.read(themeFile).startsWith("Own=2\nIconTheme=Two\n")
                 && !home.read(themeFile).contains("Other"));
-        QCOMPARE(QDir(home.path(".local/share"_s))
-                     .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
-                 QStringList({"qaz"_s, "wallpapers"_s}));
+        QCOMPARE(QDir(home.path(".local/share"_s)).entryList(QDir::AllEntries | QDir::Hidden).join(u' '),
+                 ". .. qaz wallpapers"_s);
     }
 
     void existingFilesAreKeptOrBackedUp()
@@ -154,7 +153,7 @@ private slots:
             const QString before = home.fingerprint();
             const ToolRun result = run("unpack a.qaztheme");
             QVERIFY2(result.status == 2 && result.errors.count('\n') == 1,
-                     members.isEmpty() ? "nothing" : members.last().name);
+                     members.isEmpty() ? "nothing" : members.last().name.constData());
             QCOMPARE(home.fingerprint(), before);
             QVERIFY(!QFile::exists("/tmp/evil"_s)
                     && !QFile::exists(QFileInfo(home.path()).path() + "/evil"_s));
@@ -175,11 +174,8 @@ private slots:
              {0, 1, 9, 100, whole.size() / 2, whole.size() - 9, whole.size() - 8, whole.size() - 1})
             home.write("%1.qaztheme"_s.arg(size), whole.left(size));
         QVector<Member> members{{"theme.themerc", "PagingSpeed=5\n"}};
-        QByteArrayList names;
         for (int i = 0; i < 2000; ++i)
-            names.append("sounds/" + QByteArray::number(i));
-        for (const QByteArray &name : qAsConst(names))
-            members.append(Member{name.constData(), "x"});
+            members.append({"sounds/" + QByteArray::number(i), "x"});
         writeArchive(home.path("many.qaztheme"_s), members);
         const QByteArray half(128 * 1024 * 1024, '\0');
         writeArchive(home.path("large.qaztheme"_s),
