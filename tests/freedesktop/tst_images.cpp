@@ -10,11 +10,11 @@ namespace {
 const QByteArray svg = "<svg xmlns='http://www.w3.org/2000/svg' width='64' height='48'><path fill='red' "
                        "d='M0 0h32v48h-32z'/></svg>";
 
-QByteArray encoded(const char *format, const QSize &size = {64, 48})
+QByteArray encoded(const char *format)
 {
-    QImage image(size, QImage::Format_RGB32);
-    for (int i = 0; i < image.width() * image.height(); ++i) // so that a cut-off file lacks something
-        image.setPixel(i % image.width(), i / image.width(), QRgb(i * 7919));
+    QImage image(64, 48, QImage::Format_RGB32);
+    for (int i = 0; i < 64 * 48; ++i) // so that a cut-off file lacks something
+        image.setPixel(i % 64, i / 64, QRgb(i * 7919));
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
@@ -56,31 +56,23 @@ private slots:
     void imagesAreLoaded()
     {
         const QByteArray png = encoded("png"), jpeg = encoded("jpg"), xpm = encoded("xpm");
-        const struct {
-            const char *name;
-            QByteArray content;
-            bool isLoaded;
-        } rows[] = {{"whole.png", png, true},
-                    {"whole.jpg", jpeg, true},
-                    {"whole.xpm", xpm, true},
-                    {"whole.bmp", encoded("bmp"), true},
-                    {"cut off.png", png.chopped(200), false},
-                    {"cut off.xpm", xpm.chopped(200), false},
-                    {"shown as far as it goes.jpg", jpeg.left(jpeg.size() * 2 / 3), true},
-                    {"last byte missing.jpg", jpeg.chopped(1), true},
-                    {"wrong ending.png", jpeg, true},
-                    {"empty.png", {}, false},
-                    {"text.png", "text", false},
-                    {"whole.svg", svg, true},
-                    {"too large.svg", QByteArray(svg).replace("64", "64000000"), false},
-                    {"too large.png", pngStating(16385, 16384), false},
-                    {"ends in odd numbers.png", pngStating(0x7fffffff, 0x7fffffff), false},
-                    {"states much less.ico", lyingIcon(pngStating(60000, 60000)), false}};
+        const std::tuple<QString, QByteArray, QSize> rows[] = {
+            {"whole.png"_s, png, {64, 48}},
+            {"whole.xpm"_s, xpm, {64, 48}},
+            {"cut off.png"_s, png.chopped(200), {}},
+            {"cut off.xpm"_s, xpm.chopped(200), {}},
+            {"shown as far as it goes, ending wrong.png"_s, jpeg.left(jpeg.size() * 2 / 3), {64, 48}},
+            {"empty.png"_s, {}, {}},
+            {"text.png"_s, "text", {}},
+            {"whole.svg"_s, svg, {64, 48}},
+            {"too large.svg"_s, QByteArray(svg).replace("64", "64000000"), {}},
+            {"too large.png"_s, pngStating(16385, 16384), {}},
+            {"ends in odd numbers.png"_s, pngStating(0x7fffffff, 0x7fffffff), {}},
+            {"states much less.ico"_s, lyingIcon(pngStating(60000, 60000)), {}}};
         const TemporaryHome home;
-        for (const auto &row : rows) {
-            const QString path = home.write(QLatin1String(row.name), row.content);
-            QVERIFY2(loadImage(path).size() == (row.isLoaded ? QSize(64, 48) : QSize(0, 0)), row.name);
-        }
+        for (const auto &[name, content, size] : rows)
+            QVERIFY2(loadImage(home.write(name, content)).size() == size.expandedTo({0, 0}),
+                     qPrintable(name));
     }
 
     void decodedSizeCounts()
