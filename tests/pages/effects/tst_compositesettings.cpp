@@ -163,8 +163,7 @@ private slots:
                 QCOMPARE(session.themeLines(), QByteArray("UseComposite=") + usedThen + '\n');
                 QCOMPARE(session.home.backups().size(), state.transparency || state.shadow ? 1 : 0);
                 const CompositeState reloaded = session.load();
-                QCOMPARE(reloaded.transparency, state.transparency);
-                QCOMPARE(reloaded.shadow, state.shadow);
+                QVERIFY(reloaded.transparency == state.transparency && reloaded.shadow == state.shadow);
                 QVERIFY(session.home.read(kompmgrFile).contains("Other=\"a, b\""));
                 QVERIFY(session.home.read(comptonFile).startsWith("# mine\n"));
             }
@@ -188,40 +187,27 @@ private slots:
 
     void whatIsNoReadableFileIsToldAndLeft()
     {
-        const std::function<void(const TemporaryHome &)> kinds[] = {
-            [](const TemporaryHome &home) { home.makeFifo(comptonFile); },
-            [](const TemporaryHome &home) { home.makeDirectory(comptonFile); },
-            [](const TemporaryHome &home) { home.write(comptonFile, "shadow = "); }};
-        for (const auto &make : kinds) {
-            Session session(compton, false, {});
-            make(session.home);
-            const QString path = session.home.path(comptonFile);
-            const auto look = [&path] {
-                return std::tuple(QFileInfo(path).isFile(), QFileInfo(path).size());
-            };
-            const auto before = look();
-            StandardError messages;
-            const CompositeState state = session.load({false, true, true});
-            QVERIFY(state.transparency && state.shadow);
-            session.writeTheme("UseComposite=false\n");
-            session.save({});
-            const QByteArray message = "qaz-admin-theme: Can't read " + QFile::encodeName(path) + '\n';
-            QCOMPARE(messages.take(), message + message);
-            QVERIFY(look() == before);
-        }
+        Session session(compton, false, {});
+        const QString path = session.home.makeFifo(comptonFile);
+        StandardError messages;
+        const CompositeState state = session.load({false, true, true});
+        QVERIFY(state.transparency && state.shadow);
+        session.writeTheme("UseComposite=false\n");
+        session.save({});
+        const QByteArray message = "qaz-admin-theme: Can't read " + QFile::encodeName(path) + '\n';
+        QCOMPARE(messages.take(), message + message);
+        QVERIFY(QFileInfo::exists(path) && !QFileInfo(path).isFile());
     }
 
     void comptonPlacesAreTriedInOrder()
     {
-        const QString inConfig = comptonFile;
+        const QString &inConfig = comptonFile;
+        const QString dotted = ".compton.conf"_s;
         // The configuration directory, the files, each of which holds its own name, the path and its content.
         const std::tuple<QString, QStringList, QString, const char *> rows[] = {
-            {"xdg"_s,
-             {"xdg/compton.conf"_s, inConfig, ".compton.conf"_s, "etc"_s},
-             "xdg/compton.conf"_s,
-             "xdg/compton.conf"},
-            {".config"_s, {inConfig, ".compton.conf"_s, "etc"_s}, inConfig, ".config/compton.conf"},
-            {"xdg"_s, {inConfig, ".compton.conf"_s, "etc"_s}, ".compton.conf"_s, ".compton.conf"},
+            {"xdg"_s, {"xdg/compton.conf"_s, inConfig, dotted}, "xdg/compton.conf"_s, "xdg/compton.conf"},
+            {".config"_s, {inConfig, dotted, "etc"_s}, inConfig, ".config/compton.conf"},
+            {"xdg"_s, {inConfig, dotted, "etc"_s}, dotted, ".compton.conf"},
             {"xdg"_s, {".config/x"_s, "etc"_s}, inConfig, "etc"},
             {"xdg"_s, {inConfig}, inConfig, ".config/compton.conf"}, // not emptied
             {"xdg"_s, {".config/x"_s}, inConfig, ""},

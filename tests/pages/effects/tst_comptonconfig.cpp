@@ -90,8 +90,7 @@ private slots:
 
     void whatIsNoConfigurationIsLeftAlone()
     {
-        const QByteArray contents[] = {QByteArray("\x7f") + "ELF\x02 =\n",
-                                       "a : {",
+        const QByteArray contents[] = {"a : {",
                                        "a = \"b\\",
                                        QByteArray("shadow = true;\0", 15),
                                        "a = 1; a = 2;",
