@@ -4,8 +4,8 @@
 #include "platform/qazinit.h"
 #include "platform/slidingstackedwidget.h"
 #include "resources/registerresources.h"
-#include "tests/support/literals.h"
 #include "tests/support/temporaryhome.h"
+#include "tests/support/testing.h"
 
 #include <QDialogButtonBox>
 #include <QListWidget>

@@ -2,15 +2,9 @@
 #include "platform/qazinit.h"
 #include "resources/registerresources.h"
 #include "tests/support/fakeprogram.h"
-#include "tests/support/literals.h"
 #include "tests/support/modaldriver.h"
 #include "tests/support/temporaryhome.h"
-
-#include <QComboBox>
-#include <QDialogButtonBox>
-#include <QListWidget>
-#include <QPushButton>
-#include <QtTest>
+#include "tests/support/testing.h"
 
 #include <csignal>
 

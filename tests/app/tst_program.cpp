@@ -1,13 +1,11 @@
 // The real program in processes of its own: start, single instance, files.
 
-#include "tests/support/programprocess.h"
 #include "tests/support/fakeprogram.h"
-#include "tests/support/literals.h"
 #include "tests/support/privateserver.h"
+#include "tests/support/programprocess.h"
 #include "tests/support/temporaryhome.h"
+#include "tests/support/testing.h"
 #include "tests/support/wmlistener.h"
-
-#include <QtTest>
 
 #include <functional>
 #include <optional>

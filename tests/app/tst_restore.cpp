@@ -1,13 +1,10 @@
 #include "app/configdialog.h"
 #include "app/restore.h"
 #include "resources/registerresources.h"
-#include "tests/support/literals.h"
 #include "tests/support/modaldriver.h"
 #include "tests/support/temporaryhome.h"
+#include "tests/support/testing.h"
 #include "tests/support/wmlistener.h"
-
-#include <QtTest>
-#include <QtWidgets>
 
 namespace {
 
@@ -126,8 +123,9 @@ private slots:
         for (const QString &file : settings)
             home.write(file, "precious");
         const auto question = [&home](const QString &file) {
-            return QStringLiteral("Warning|Can't back up '%1': Can't create directory %2/.local/state/qaz/backup\n"
-                                  "Remove it all the same?")
+            return QStringLiteral(
+                       "Warning|Can't back up '%1': Can't create directory %2/.local/state/qaz/backup\n"
+                       "Remove it all the same?")
                 .arg(home.path(file), home.path());
         };
         const QStringList expected = {"Restore|QInputDialog"_s, question(".Xresources"_s),

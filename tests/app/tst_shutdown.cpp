@@ -1,12 +1,10 @@
 // The real program in a process of its own, ended from outside: by a signal and by the loss of the X server.
 
-#include "tests/support/programprocess.h"
 #include "tests/support/fakeprogram.h"
-#include "tests/support/literals.h"
 #include "tests/support/privateserver.h"
+#include "tests/support/programprocess.h"
 #include "tests/support/temporaryhome.h"
-
-#include <QtTest>
+#include "tests/support/testing.h"
 
 #include <csignal>
 #include <optional>

@@ -3,18 +3,8 @@
 #include "platform/qazinit.h"
 #include "platform/slidingstackedwidget.h"
 #include "resources/registerresources.h"
-#include "tests/support/literals.h"
 #include "tests/support/temporaryhome.h"
-
-#include <QAbstractSpinBox>
-#include <QAccessible>
-#include <QComboBox>
-#include <QDialogButtonBox>
-#include <QGroupBox>
-#include <QLabel>
-#include <QListWidget>
-#include <QPushButton>
-#include <QtTest>
+#include "tests/support/testing.h"
 
 namespace {
 

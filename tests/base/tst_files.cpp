@@ -1,8 +1,8 @@
 #include "base/atomicfile.h"
 #include "base/editfile.h"
 #include "base/xdgdirectories.h"
-#include "tests/support/literals.h"
 #include "tests/support/temporaryhome.h"
+#include "tests/support/testing.h"
 
 #include <QDir>
 #include <QFile>

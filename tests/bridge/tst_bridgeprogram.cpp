@@ -1,13 +1,11 @@
 #include "settings/wmcommands.h"
 #include "tests/bridge/bridgeprocess.h"
 #include "tests/support/fakeprogram.h"
-#include "tests/support/literals.h"
 #include "tests/support/privateserver.h"
 #include "tests/support/temporaryhome.h"
+#include "tests/support/testing.h"
 
-#include <QImage>
 #include <QX11Info>
-#include <QtTest>
 
 #include <csignal>
 

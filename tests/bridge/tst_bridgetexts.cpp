@@ -4,11 +4,8 @@
 #include "bridge/wallpaperpicture.h"
 #include "bridge/xsettings.h"
 #include "settings/wmcommands.h"
-#include "tests/support/literals.h"
 #include "tests/support/temporaryhome.h"
-
-#include <QImage>
-#include <QtTest>
+#include "tests/support/testing.h"
 
 /// The files and command lines that the bridge makes of values that anybody may have sent.
 class TestBridgeTexts : public QObject

@@ -3,19 +3,9 @@
 #include "resources/registerresources.h"
 #include "tests/bridge/bridgeprocess.h"
 #include "tests/support/fakeprogram.h"
-#include "tests/support/literals.h"
 #include "tests/support/modaldriver.h"
 #include "tests/support/temporaryhome.h"
-
-#include <QColorDialog>
-#include <QComboBox>
-#include <QDialogButtonBox>
-#include <QFontDialog>
-#include <QImage>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QPushButton>
-#include <QtTest>
+#include "tests/support/testing.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tests/support/literals.h"
+#include "tests/support/testing.h"
 
 #include <QByteArray>
 

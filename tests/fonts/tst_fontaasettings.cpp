@@ -2,15 +2,7 @@
 #include "tests/fonts/elements.h"
 #include "tests/support/modaldriver.h"
 #include "tests/support/temporaryhome.h"
-
-#include <QCheckBox>
-#include <QComboBox>
-#include <QDialogButtonBox>
-#include <QDoubleSpinBox>
-#include <QLabel>
-#include <QPushButton>
-#include <QSettings>
-#include <QtTest>
+#include "tests/support/testing.h"
 
 namespace {
 

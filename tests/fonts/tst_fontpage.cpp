@@ -4,18 +4,7 @@
 #include "tests/support/fakeprogram.h"
 #include "tests/support/modaldriver.h"
 #include "tests/support/pageoverfile.h"
-
-#include <QCheckBox>
-#include <QComboBox>
-#include <QFontDialog>
-#include <QGridLayout>
-#include <QLabel>
-#include <QLineEdit>
-#include <QProcess>
-#include <QPushButton>
-#include <QSettings>
-#include <QSpinBox>
-#include <QtTest>
+#include "tests/support/testing.h"
 
 namespace {
 

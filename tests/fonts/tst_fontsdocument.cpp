@@ -1,8 +1,5 @@
 #include "fonts/fontsdocument.h"
-#include "tests/support/literals.h"
-
-#include <QDir>
-#include <QtTest>
+#include "tests/support/testing.h"
 
 namespace {
 

@@ -1,11 +1,9 @@
 #include "fonts/fontsfile.h"
 
 #include "settings/directories.h"
-#include "tests/support/literals.h"
 #include "tests/support/standarderror.h"
 #include "tests/support/temporaryhome.h"
-
-#include <QtTest>
+#include "tests/support/testing.h"
 
 #include <fcntl.h>
 #include <unistd.h>

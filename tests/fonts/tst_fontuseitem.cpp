@@ -2,14 +2,7 @@
 
 #include "fonts/nearestfont.h"
 #include "settings/rolefonttext.h"
-#include "tests/support/literals.h"
-
-#include <QBoxLayout>
-#include <QFontDatabase>
-#include <QFontInfo>
-#include <QLabel>
-#include <QSignalSpy>
-#include <QtTest>
+#include "tests/support/testing.h"
 
 namespace {
 

@@ -3,10 +3,9 @@
 #include "tests/fonts/elements.h"
 #include "tests/support/standarderror.h"
 #include "tests/support/temporaryhome.h"
+#include "tests/support/testing.h"
 
-#include <QDir>
 #include <QX11Info>
-#include <QtTest>
 
 #include <unistd.h>
 

@@ -3,13 +3,9 @@
 #include "freedesktop/xresources.h"
 #include "settings/renderingstore.h"
 #include "tests/support/fakeprogram.h"
-#include "tests/support/literals.h"
 #include "tests/support/standarderror.h"
 #include "tests/support/temporaryhome.h"
-
-#include <QProcess>
-#include <QSettings>
-#include <QtTest>
+#include "tests/support/testing.h"
 
 namespace {
 

@@ -1,9 +1,6 @@
 #include "freedesktop/images.h"
-#include "tests/support/literals.h"
 #include "tests/support/temporaryhome.h"
-
-#include <QtGui>
-#include <QtTest>
+#include "tests/support/testing.h"
 
 namespace {
 

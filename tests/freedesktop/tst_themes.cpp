@@ -3,8 +3,8 @@
 #include "freedesktop/iconthemeindex.h"
 #include "freedesktop/sounddirectories.h"
 #include "freedesktop/themedirectories.h"
-#include "tests/support/literals.h"
 #include "tests/support/temporaryhome.h"
+#include "tests/support/testing.h"
 
 #include <QTest>
 

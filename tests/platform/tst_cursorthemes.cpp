@@ -1,8 +1,8 @@
 #include "platform/qazicontheme.h"
 #include "tests/support/fakeprogram.h"
-#include "tests/support/literals.h"
 #include "tests/support/samplethemes.h"
 #include "tests/support/temporaryhome.h"
+#include "tests/support/testing.h"
 
 #include <QFile>
 #include <QTest>

@@ -2,11 +2,10 @@
 #include "platform/getqazdir.h"
 #include "platform/qazinit.h"
 #include "tests/support/environment.h"
-#include "tests/support/literals.h"
 #include "tests/support/temporaryhome.h"
+#include "tests/support/testing.h"
 
 #include <QX11Info>
-#include <QtTest>
 
 #include <memory>
 

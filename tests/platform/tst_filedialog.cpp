@@ -1,13 +1,8 @@
 #include "freedesktop/images.h"
 #include "freedesktop/soundinfo.h"
 #include "platform/qazfiledialog.h"
-#include "tests/support/literals.h"
 #include "tests/support/temporaryhome.h"
-
-#include <QLabel>
-#include <QLineEdit>
-#include <QListView>
-#include <QtTest>
+#include "tests/support/testing.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 #include "platform/qazicontheme.h"
-#include "tests/support/literals.h"
 #include "tests/support/temporaryhome.h"
+#include "tests/support/testing.h"
 
 #include <QTest>
 

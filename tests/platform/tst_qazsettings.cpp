@@ -1,9 +1,7 @@
 #include "platform/qazsettings.h"
-#include "tests/support/literals.h"
 #include "tests/support/standarderror.h"
 #include "tests/support/temporaryhome.h"
-
-#include <QtTest>
+#include "tests/support/testing.h"
 
 namespace {
 

@@ -1,9 +1,7 @@
 #include "platform/qazsoundtheme.h"
 #include "tests/support/environment.h"
-#include "tests/support/literals.h"
 #include "tests/support/temporaryhome.h"
-
-#include <QtTest>
+#include "tests/support/testing.h"
 
 #include <sys/stat.h>
 

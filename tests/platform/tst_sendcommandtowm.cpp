@@ -1,10 +1,9 @@
 #include "platform/commandreceiver.h"
 #include "platform/sendcommandtowm.h"
-#include "tests/support/literals.h"
+#include "tests/support/testing.h"
 #include "tests/support/wmlistener.h"
 
 #include <QX11Info>
-#include <QtTest>
 
 #include <X11/Xlib.h>
 

@@ -1,7 +1,5 @@
 #include "platform/slidingstackedwidget.h"
-
-#include <QLabel>
-#include <QtTest>
+#include "tests/support/testing.h"
 
 class TestSlidingStackedWidget : public QObject
 {

@@ -1,8 +1,8 @@
 #include "platform/findwallpaperbyname.h"
 #include "platform/wallpapersizeforscreen.h"
 #include "tests/support/fakeprogram.h"
-#include "tests/support/literals.h"
 #include "tests/support/temporaryhome.h"
+#include "tests/support/testing.h"
 
 #include <QDateTime>
 #include <QFile>

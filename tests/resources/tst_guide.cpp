@@ -4,19 +4,9 @@
 #include "platform/qazinit.h"
 #include "platform/slidingstackedwidget.h"
 #include "resources/registerresources.h"
-#include "tests/support/literals.h"
 #include "tests/support/modaldriver.h"
 #include "tests/support/temporaryhome.h"
-
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QRegularExpression>
-#include <QScrollBar>
-#include <QTextBrowser>
-#include <QToolButton>
-#include <QtTest>
+#include "tests/support/testing.h"
 
 namespace {
 

@@ -1,9 +1,7 @@
 #include "settings/backup.h"
-#include "tests/support/literals.h"
 #include "tests/support/standarderror.h"
 #include "tests/support/temporaryhome.h"
-
-#include <QtTest>
+#include "tests/support/testing.h"
 
 #include <sys/resource.h>
 #include <sys/stat.h>

@@ -1,7 +1,7 @@
 #include "settings/inifile.h"
-#include "tests/support/literals.h"
 #include "tests/support/standarderror.h"
 #include "tests/support/temporaryhome.h"
+#include "tests/support/testing.h"
 
 #include <QSettings>
 #include <QTest>

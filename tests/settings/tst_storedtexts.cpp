@@ -1,9 +1,6 @@
 #include "settings/colortexts.h"
 #include "settings/rolefonttext.h"
-#include "tests/support/literals.h"
-
-#include <QFontInfo>
-#include <QtTest>
+#include "tests/support/testing.h"
 
 class TestStoredTexts : public QObject
 {

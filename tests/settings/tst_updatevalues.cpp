@@ -1,10 +1,8 @@
 #include "platform/qazsettings.h"
 #include "settings/updatevalues.h"
-#include "tests/support/literals.h"
 #include "tests/support/temporaryhome.h"
+#include "tests/support/testing.h"
 #include "tests/support/wmlistener.h"
-
-#include <QtTest>
 
 class TestUpdateValues : public QObject
 {

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "platform/qazsettings.h"
-#include "tests/support/literals.h"
 #include "tests/support/temporaryhome.h"
+#include "tests/support/testing.h"
 #include "tests/support/wmlistener.h"
 
 /// A page over a theme file of its own in a temporary home, loaded and saved as the dialog does it.

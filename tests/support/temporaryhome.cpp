@@ -1,6 +1,6 @@
 #include "tests/support/temporaryhome.h"
 
-#include "tests/support/literals.h"
+#include "tests/support/testing.h"
 
 #include <QCryptographicHash>
 #include <QDateTime>

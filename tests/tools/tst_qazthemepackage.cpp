@@ -1,10 +1,8 @@
 #include "base/chandle.h"
-#include "tests/support/literals.h"
 #include "tests/support/temporaryhome.h"
+#include "tests/support/testing.h"
 #include "tests/support/wmlistener.h"
 #include "tests/tools/toolrun.h"
-
-#include <QtTest>
 
 #include <archive.h>
 #include <archive_entry.h>

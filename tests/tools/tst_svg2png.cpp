@@ -1,9 +1,6 @@
-#include "tests/support/literals.h"
 #include "tests/support/temporaryhome.h"
+#include "tests/support/testing.h"
 #include "tests/tools/toolrun.h"
-
-#include <QtGui>
-#include <QtTest>
 
 #include <algorithm>
 

@@ -1,7 +1,6 @@
-#include "tests/support/literals.h"
+#include "tests/support/testing.h"
 
 #include <QDomDocument>
-#include <QtTest>
 
 namespace {
 

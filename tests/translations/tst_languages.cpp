@@ -1,8 +1,6 @@
 #include "tests/support/programprocess.h"
-#include "tests/support/literals.h"
 #include "tests/support/temporaryhome.h"
-
-#include <QtTest>
+#include "tests/support/testing.h"
 
 /// The program in each of its languages.
 class TestLanguages : public QObject

@@ -1,13 +1,10 @@
 #include "pages/effects/compositesettings.h"
 #include "platform/qazsettings.h"
 #include "tests/support/fakeprogram.h"
-#include "tests/support/literals.h"
 #include "tests/support/standarderror.h"
 #include "tests/support/temporaryhome.h"
+#include "tests/support/testing.h"
 #include "tests/support/wmlistener.h"
-
-#include <QProcess>
-#include <QtTest>
 
 #include <unistd.h>
 

@@ -1,9 +1,6 @@
 #include "pages/effects/comptonconfig.h"
-#include "tests/support/literals.h"
 #include "tests/support/temporaryhome.h"
-
-#include <QFile>
-#include <QtTest>
+#include "tests/support/testing.h"
 
 namespace {
 

@@ -1,12 +1,6 @@
 #include "pages/effects/effectpage.h"
 #include "tests/support/pageoverfile.h"
-
-#include <QCheckBox>
-#include <QComboBox>
-#include <QGroupBox>
-#include <QLabel>
-#include <QSpinBox>
-#include <QtTest>
+#include "tests/support/testing.h"
 
 namespace {
 

@@ -1,10 +1,6 @@
 #include "pages/screensaver/screensaverpage.h"
 #include "tests/support/pageoverfile.h"
-
-#include <QCheckBox>
-#include <QSignalSpy>
-#include <QSpinBox>
-#include <QtTest>
+#include "tests/support/testing.h"
 
 namespace {
 

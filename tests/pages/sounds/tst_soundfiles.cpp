@@ -2,11 +2,9 @@
 #include "pages/sounds/soundconversion.h"
 #include "pages/sounds/soundplayer.h"
 #include "tests/support/fakeprogram.h"
-#include "tests/support/literals.h"
 #include "tests/support/standarderror.h"
 #include "tests/support/temporaryhome.h"
-
-#include <QtTest>
+#include "tests/support/testing.h"
 
 #include <sys/stat.h>
 

@@ -5,9 +5,7 @@
 #include "tests/support/pageoverfile.h"
 #include "tests/support/samplethemes.h"
 #include "tests/support/standarderror.h"
-
-#include <QtTest>
-#include <QtWidgets>
+#include "tests/support/testing.h"
 
 namespace {
 

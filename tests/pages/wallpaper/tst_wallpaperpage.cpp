@@ -2,9 +2,7 @@
 #include "resources/registerresources.h"
 #include "tests/support/modaldriver.h"
 #include "tests/support/pageoverfile.h"
-
-#include <QtTest>
-#include <QtWidgets>
+#include "tests/support/testing.h"
 
 namespace {
 

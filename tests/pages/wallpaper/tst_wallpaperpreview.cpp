@@ -1,10 +1,7 @@
 #include "pages/wallpaper/keptpreview.h"
 #include "pages/wallpaper/wallpaperpreview.h"
-#include "tests/support/literals.h"
 #include "tests/support/temporaryhome.h"
-
-#include <QtGui>
-#include <QtTest>
+#include "tests/support/testing.h"
 
 #include <functional>
 
