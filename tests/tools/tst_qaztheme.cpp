@@ -114,15 +114,11 @@ private slots:
             {"LockerTTYLock"_s, "true|false|True"_s, "TRUE|1|yes|"_s, "one of true, false"_s},
             {"WallPaperPos"_s, "Center|Tile|Stretch"_s, "center|"_s, "one of Center, Tile, Stretch"_s},
             {"GradWindowMapStyle"_s, "Normal|BottomToTop"_s, "None"_s, "one of Normal, TopToBottom"_s},
-            {"MenuColor2"_s, "#123|#a6caf0|navy|light gray|qvlightray|Qt"_s, "#12|blueish||qvlightgray"_s,
-             "a color"_s},
-            {"TitleFont"_s,
-             "Verdana-10:bold|DejaVu Sans-8:normal:italic|Verdana-9|"
-             "-misc-fixed-medium-r-normal--13-120-75-75-c-70-iso8859-1"_s,
+            {"MenuColor2"_s, "#123|light gray|qvlightray|Qt"_s, "#12|blueish||qvlightgray"_s, "a color"_s},
+            {"TitleFont"_s, "Verdana-9|-misc-fixed-medium-r-normal--13-120-75-75-c-70-iso8859-1"_s,
              "Verdana|Verdana-:bold|Verdana-x:bold|-10:bold|Noto-Sans-10:bold:italic|Verdana-10:fat|"_s,
              "a font"_s},
-            {"WallPaper"_s, "/a/b.png|qaz-default|#a6caf0|a b.png"_s, "|a/b.png|..|#a6"_s,
-             "an absolute path"_s},
+            {"WallPaper"_s, "/a|qaz-default|#a6caf0|a b.png"_s, "|a/b|..|#a6"_s, "an absolute path"_s},
             {"OpenSound"_s, "/a.wav|a.wav|window-new||"_s, "../a.wav|a\nb"_s, "an absolute path"_s},
             {"DecorTheme"_s, "Slate||"_s, "../Slate|..|a\tb"_s, "the name of a theme"_s},
             {"IconTheme"_s, "qaz-tirsk"_s, "|/x"_s, "the name of a theme"_s}};
