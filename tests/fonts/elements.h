@@ -2,8 +2,6 @@
 
 #include "tests/support/testing.h"
 
-#include <QByteArray>
-
 const QString place = ".config/fontconfig/fonts.conf"_s;
 
 /// A fontconfig file with \a children, which the two functions below lay out as the editor does.

@@ -1,9 +1,8 @@
 #pragma once
 
-#include <QDir>
-#include <QProcess>
+#include "tests/support/testing.h"
 
-/// A tool that of the build that has run in the home and ended.
+/// A tool of the build that has run in the home and ended.
 struct ToolRun {
     ToolRun(const QString &tool, const QStringList &arguments)
     {
@@ -24,11 +23,11 @@ struct ToolRun {
 /// Runs qaz-theme.
 inline ToolRun run(const QStringList &arguments)
 {
-    return {QStringLiteral("qaz-theme"), arguments};
+    return {"qaz-theme"_s, arguments};
 }
 
-/// The same with arguments that are separated by blanks.
-inline ToolRun run(const char *arguments)
+/// Runs \a tool with arguments that are separated by blanks.
+inline ToolRun run(const char *arguments, const QString &tool = "qaz-theme"_s)
 {
-    return run(QString::fromUtf8(arguments).split(QLatin1Char(' '), Qt::SkipEmptyParts));
+    return {tool, QString::fromUtf8(arguments).split(u' ')};
 }

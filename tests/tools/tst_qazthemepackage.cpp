@@ -11,12 +11,12 @@ namespace {
 
 const QString themeFile = ".config/qaz/current.themerc"_s;
 
-enum class Kind { File, SymbolicLink, HardLink, Directory, Fifo };
+constexpr unsigned hardLink = 0; // no type of its own
 
 struct Member {
     QByteArray name;
     QByteArray content; // of a link: where it leads
-    Kind kind = Kind::File;
+    unsigned type = AE_IFREG;
 };
 
 /// Writes what a foe might send; the format and the filter are libarchive's names.
@@ -32,13 +32,12 @@ void writeArchive(const QString &path, const QVector<Member> &members, const cha
         const std::unique_ptr<archive_entry, Release<archive_entry_free>> entry(archive_entry_new());
         archive_entry_set_pathname_utf8(entry.get(), member.name.constData());
         archive_entry_set_perm(entry.get(), 0644);
-        constexpr unsigned types[] = {AE_IFREG, AE_IFLNK, AE_IFREG, AE_IFDIR, AE_IFIFO};
-        archive_entry_set_filetype(entry.get(), types[int(member.kind)]);
-        if (member.kind == Kind::SymbolicLink)
+        archive_entry_set_filetype(entry.get(), member.type == hardLink ? AE_IFREG : member.type);
+        if (member.type == AE_IFLNK)
             archive_entry_set_symlink_utf8(entry.get(), member.content.constData());
-        else if (member.kind == Kind::HardLink)
+        else if (member.type == hardLink)
             archive_entry_set_hardlink_utf8(entry.get(), member.content.constData());
-        const bool hasContent = member.kind == Kind::File;
+        const bool hasContent = member.type == AE_IFREG;
         archive_entry_set_size(entry.get(), hasContent ? member.content.size() : 0);
         archive_write_header(writer.get(), entry.get());
         if (hasContent)
@@ -108,7 +107,7 @@ private slots:
         QVERIFY(home.makeDirectory(".local/share/qaz/sounds"_s));
         QVERIFY(QFile::link(home.path("elsewhere"_s), home.path(".local/share/qaz/sounds/b.wav"_s)));
         writeArchive(home.path("a.qaztheme"_s), {{"./theme.themerc", "WallPaper=wallpapers/a.png\n"},
-                                                 {"./wallpapers/", {}, Kind::Directory},
+                                                 {"./wallpapers/", {}, AE_IFDIR},
                                                  {"./wallpapers/a.png", "new"},
                                                  {"sounds/b.wav", "sound"}});
         const ToolRun result = run("unpack a.qaztheme");
@@ -133,16 +132,16 @@ private slots:
                                           {{"themes", "a"}},
                                           {{"theme.themerc", "PagingSpeed=500\n"}},
                                           {{"theme.themerc", "WallPaper=wallpapers/a\n"}},
-                                          {{"theme.themerc", "/etc/passwd", Kind::SymbolicLink}},
-                                          {theme, {"../evil", {}, Kind::Directory}},
-                                          {theme, {"sounds", "/tmp", Kind::SymbolicLink}, {"sounds/a", "x"}},
+                                          {{"theme.themerc", "/etc/passwd", AE_IFLNK}},
+                                          {theme, {"../evil", {}, AE_IFDIR}},
+                                          {theme, {"sounds", "/tmp", AE_IFLNK}, {"sounds/a", "x"}},
                                           {theme, {"sounds/a", "1"}, {"sounds/a", "2"}}};
         for (const char *name :
              {"../evil", "wallpapers/../../evil", "/tmp/evil", "wallpapers/..", "sounds/a/b", "other",
               "other/a", "sounds/.hidden", "wallpapers//a", "wallpapers/a\nb", "./../evil", ""})
             packages.append({theme, {name, "x"}});
-        for (const Kind kind : {Kind::SymbolicLink, Kind::HardLink, Kind::Fifo})
-            packages.append({theme, {"sounds/a", "theme.themerc", kind}});
+        for (const unsigned type : {AE_IFLNK, hardLink, AE_IFIFO})
+            packages.append({theme, {"sounds/a", "theme.themerc", type}});
         WmListener listener;
         for (const QVector<Member> &members : qAsConst(packages)) {
             const TemporaryHome home;

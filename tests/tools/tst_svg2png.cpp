@@ -2,21 +2,12 @@
 #include "tests/support/testing.h"
 #include "tests/tools/toolrun.h"
 
-#include <algorithm>
-
 namespace {
 
 const QByteArray svg
     = "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 4 2'><path fill='#f00' d='M0 0h2v2h-2z'/></svg>";
 
-ToolRun run(const QString &arguments, const QString &file = {}, const QString &image = {})
-{
-    const ScopedEnvironment display("DISPLAY", {});
-    QStringList list = arguments.split(u' ');
-    if (!file.isEmpty())
-        list += {"-i"_s, file, "-o"_s, image};
-    return {"qaz-svg2png"_s, list};
-}
+const QString svg2png = "qaz-svg2png"_s;
 
 } // namespace
 
@@ -32,7 +23,7 @@ private slots:
                                     {"-h $(touch x) \"'\n.svg"_s, "--help;.png"_s, "png"_s}};
         for (const QStringList &row : rows) {
             home.write(row[0], svg);
-            const ToolRun result = run("-w 40 -h 30"_s, row[0], row[1]);
+            const ToolRun result(svg2png, {"-w"_s, "40"_s, "-h"_s, "30"_s, "-i"_s, row[0], "-o"_s, row[1]});
             QVERIFY2(result.status == 0, result.errors.constData());
             QCOMPARE(QString::fromLatin1(QImageReader::imageFormat(home.path(row[1]))), row[2]);
             const QImage image(home.path(row[1]));
@@ -42,7 +33,7 @@ private slots:
         }
         QVERIFY(QImage(home.path("b"_s)).save(home.path("c.jpg"_s), nullptr, 90));
         QCOMPARE(home.read("b.jpg"_s), home.read("c.jpg"_s));
-        const ToolRun help = run("--help"_s);
+        const ToolRun help = run("--help", svg2png);
         QVERIFY(help.status == 0 && help.out.startsWith("Usage: qaz-svg2png") && help.errors.isEmpty());
     }
 
@@ -53,7 +44,7 @@ private slots:
             home.write("a.svg"_s, "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 100 100'>"
                                   "<text y='80' font-size='90'>"
                                       + text + "</text></svg>");
-            run("-w 100 -h 100 -i a.svg -o a.png"_s);
+            run("-w 100 -h 100 -i a.svg -o a.png", svg2png);
             const QImage image = QImage(home.path("a.png"_s)).convertToFormat(QImage::Format_Grayscale8);
             return std::count_if(image.constBits(), image.constBits() + image.sizeInBytes(),
                                  [](uchar gray) { return gray < 128; });
@@ -80,11 +71,14 @@ private slots:
             {"-w 1 -h 1 -x 1 -i a.svg -o old.png", 2},   {"-w 0 -h 1 -i a.svg -o old.png", 2},
             {"-w 32767 -h 32767 -i a.svg -o old.png", 2}};
         for (const auto &[arguments, expected] : rows) {
-            const ToolRun result = run(QString::fromLatin1(arguments));
+            const ToolRun result = run(arguments, svg2png);
             QVERIFY2(result.status == expected && result.errors.contains("qaz-svg2png"), arguments);
             QCOMPARE(home.fingerprint(), before);
         }
     }
+
+private:
+    const ScopedEnvironment m_display{"DISPLAY", {}};
 };
 
 QTEST_GUILESS_MAIN(TestSvg2Png)
