@@ -3,26 +3,22 @@
 #include "freedesktop/xresources.h"
 #include "settings/renderingstore.h"
 #include "tests/support/fakeprogram.h"
+#include "tests/support/programprocess.h"
 #include "tests/support/standarderror.h"
 #include "tests/support/temporaryhome.h"
 #include "tests/support/testing.h"
 
 namespace {
 
-QByteArray run(const char *program, const QStringList &arguments, const QByteArray &input = {})
-{
-    QProcess process;
-    process.start(QLatin1String(program), arguments);
-    process.write(input);
-    process.closeWriteChannel();
-    process.waitForFinished();
-    return process.readAllStandardOutput();
-}
-
 /// The server's resources, one a line with a single blank after the colon.
 QByteArray serverResources()
 {
-    return run("xrdb", {"-query"_s}).replace(":\t", ": ");
+    return output("xrdb"_s, {"-query"_s}).replace(":\t"_s, ": "_s).toLatin1();
+}
+
+void loadServer(const TemporaryHome &home, const QByteArray &resources)
+{
+    output("xrdb"_s, {"-load"_s, "-nocpp"_s, home.write("server"_s, resources)});
 }
 
 } // namespace
@@ -108,7 +104,7 @@ private slots:
             home.write(".Xdefaults"_s, xdefaults);
             home.write(".included"_s, "A.in: 1\n");
             QSettings().setValue("forceFontDPI"_s, forced);
-            run("xrdb", {"-load"_s, "-nocpp"_s}, "Other.one: x\nXft.dpi: 99\n");
+            loadServer(home, "Other.one: x\nXft.dpi: 99\n");
             applyXResources(exportXftSettings);
             QCOMPARE(serverResources(), merged);
         }
@@ -117,7 +113,7 @@ private slots:
     void oddSurroundings()
     {
         const TemporaryHome home;
-        run("xrdb", {"-load"_s, "-nocpp"_s}, "A.a: 1\nXft.dpi: 120\n");
+        loadServer(home, "A.a: 1\nXft.dpi: 120\n");
         {
             const FakePrograms nothing(FakePrograms::Path::Instead);
             applyXResources(exportXftSettings);
@@ -159,9 +155,9 @@ private slots:
         // The merged file stands beside the user's.
         QVERIFY(calls.at(1).join(u' ').startsWith("-merge "_s + home.path(".qaz-"_s)));
         QVERIFY2(!QFile::exists(calls.at(1).value(1)), "the merged file is temporary");
-        const QByteArray property = "_QT_SETTINGS_TIMESTAMP_" + qgetenv("DISPLAY");
-        const QByteArray stamp = run("xprop", {"-root"_s, QString::fromLocal8Bit(property)});
-        QVERIFY2(stamp.startsWith(property + '(' + property + ") = 0x"), stamp.constData());
+        const QString property = "_QT_SETTINGS_TIMESTAMP_"_s + qEnvironmentVariable("DISPLAY");
+        const QString stamp = output("xprop"_s, {"-root"_s, property});
+        QVERIFY2(stamp.startsWith("%1(%1) = 0x"_s.arg(property)), qPrintable(stamp));
     }
 };
 

@@ -1,4 +1,5 @@
 #include "base/chandle.h"
+#include "tests/support/programprocess.h"
 #include "tests/support/temporaryhome.h"
 #include "tests/support/testing.h"
 #include "tests/support/wmlistener.h"
@@ -68,10 +69,8 @@ private slots:
             QVERIFY2(result.status == 0 && result.errors.count('\n') == 1
                          && result.errors.contains("/gone.wav"),
                      result.errors.constData());
-            QProcess tar;
-            tar.start("tar"_s, {"xOzf"_s, home.path("a.qaztheme"_s), "themes"_s});
-            QVERIFY(tar.waitForFinished());
-            QCOMPARE(tar.readAllStandardOutput(), QByteArray("IconTheme=Two\nDecorTheme=\nSoundTheme=\n"));
+            QCOMPARE(output("tar"_s, {"xOzf"_s, home.path("a.qaztheme"_s), "themes"_s}),
+                     "IconTheme=Two\nDecorTheme=\nSoundTheme=\n"_s);
             packed = home.read("a.qaztheme"_s);
         }
         const TemporaryHome home;
