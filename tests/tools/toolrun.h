@@ -2,6 +2,8 @@
 
 #include "tests/support/testing.h"
 
+const QString themeFile = ".config/qaz/current.themerc"_s; // below the home
+
 /// A tool of the build that has run in the home and ended.
 struct ToolRun {
     ToolRun(const QString &tool, const QStringList &arguments)

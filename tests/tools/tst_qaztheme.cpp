@@ -4,12 +4,6 @@
 #include "tests/support/wmlistener.h"
 #include "tests/tools/toolrun.h"
 
-namespace {
-
-const QString themeFile = ".config/qaz/current.themerc"_s;
-
-} // namespace
-
 class TestQazTheme : public QObject
 {
     Q_OBJECT
@@ -160,9 +154,8 @@ private slots:
     {
         const TemporaryHome home;
         const ScopedEnvironment language("LANGUAGE", "de");
-        QCOMPARE(
-            run("list PagerColor2").out.simplified(),
-            QByteArray("PagerColor2 #fbfcfd #fbfcfd Farbe am Ende des Verlaufs: Hintergrund des Pagers"));
+        QVERIFY(
+            run("list PagerColor2").out.contains("  Farbe am Ende des Verlaufs: Hintergrund des Pagers\n"));
     }
 
     void helpSaysWhatEachCommandTakes()
@@ -185,8 +178,8 @@ private slots:
         QCOMPARE(run("get PagingSpeed").errors, QByteArray());
         const ToolRun result = run("set PagingSpeed=5");
         QCOMPARE(home.read(themeFile), QByteArray("PagingSpeed=5\n"));
-        QVERIFY(result.status == 0 && result.errors.contains("nobody was told")
-                && result.errors.count('\n') == 1);
+        QCOMPARE(result.errors, QByteArray("qaz-theme: No X display: nobody was told of the changes\n"));
+        QCOMPARE(result.status, 0);
     }
 
     void failuresAreTold()
@@ -216,9 +209,8 @@ private slots:
                 .replace(home.path(), "HOME"_s);
             return out.replace(QRegularExpression("20[-0-9]{8} [:0-9]{8}"_s), "TIME"_s);
         };
-        const auto theme = "  2  TIME  HOME/.config/qaz/current.themerc  COPY\n"_s;
-        QCOMPARE(printed({"backups"_s}), "  1  TIME  HOME/.config/other  OTHER\n"_s + theme);
-        QCOMPARE(printed({"backups"_s, home.path(themeFile)}), theme);
+        QCOMPARE(printed({"backups"_s}), "  1  TIME  HOME/.config/other  OTHER\n"
+                                         "  2  TIME  HOME/.config/qaz/current.themerc  COPY\n"_s);
         QCOMPARE(printed({"backups"_s, ".config/other"_s, "--json"_s}),
                  "{\n  \"backups\": [{\"number\": 1, \"time\": \"TIME\", "
                  "\"original\": \"HOME/.config/other\", \"copy\": \"OTHER\"}]\n}\n"_s);

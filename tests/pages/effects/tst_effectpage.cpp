@@ -21,7 +21,7 @@ public:
     {
         return page.findChild<QSpinBox *>(key.left(1).toLower() + key.mid(1) + "SpinBox"_s);
     }
-    /// The values of all spin boxes, in order, and "1" for each check box that is checked, "0" for each other.
+    /// The values of all spin boxes, in order, and of the check boxes: 1 where checked, else 0.
     QString values() const
     {
         QString values;
@@ -71,13 +71,13 @@ private slots:
             {"99999", "25 25 30 3000 3000 10 30 3000 3000 20 5000 100 500 100 100 0001"_s},
             {"-3", zeros + "0001"_s},
             {"", zeros + "0000"_s}};
+        // The opaque resize is read from its own key alone.
+        const QStringList boxes = "SmartPlacement OpaqueMove OpaqueResize ThumbSize"_s.split(u' ');
         EffectPageOverFile file("");
         for (const auto &[text, values] : rows) {
             const QByteArray value = '=' + text + '\n';
-            // The opaque resize is read from its own key alone.
-            QByteArray content = "SmartPlacement" + value + "OpaqueMove" + value + "OpaqueResize" + value
-                                 + "ThumbSize" + value;
-            for (const QString &key : numbers)
+            QByteArray content;
+            for (const QString &key : numbers + boxes)
                 content += key.toLatin1() + value;
             file.load(content);
             QCOMPARE(file.values(), values);
