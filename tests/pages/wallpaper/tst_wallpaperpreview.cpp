@@ -14,23 +14,16 @@ const QSize label(252, 191);
 const QSize screen(2520, 1910); // ten times the label
 const QRect canvas(0, 0, 242, 181);
 const QColor fill(Qt::green);
-const Fit fits[] = {Fit::Center, Fit::Tile, Fit::Stretch};
+const QByteArray red = "/* XPM */\nstatic char *x[] = {\"1 1 1 1\", \"a c red\", \"a\"};\n"; // one pixel
 
 /// Each pixel has its own colour, so that a moved or mirrored part is seen.
 QImage numbered(const QSize &size)
 {
     QImage image(size, QImage::Format_RGB32);
-    for (int i = 0; i < image.width() * image.height(); ++i) {
-        const QPoint pixel(i % image.width(), i / image.width());
-        image.setPixel(pixel, qRgb(pixel.x() % 256, pixel.y() % 256, 128));
-    }
+    for (int x = 0; x < size.width(); ++x)
+        for (int y = 0; y < size.height(); ++y)
+            image.setPixel(x, y, qRgb(x % 256, y % 256, 128));
     return image;
-}
-
-/// An image file of one colour and one pixel.
-QByteArray picture(const char *color)
-{
-    return QByteArray("/* XPM */\nstatic char *x[] = {\"1 1 1 1\", \"a c ") + color + "\", \"a\"};\n";
 }
 
 } // namespace
@@ -79,7 +72,7 @@ private slots:
         line.fill(Qt::red);
         QImage translucent(screen, QImage::Format_ARGB32_Premultiplied);
         translucent.fill(qRgba(10, 20, 30, 128));
-        for (Fit fit : fits) {
+        for (const Fit fit : {Fit::Center, Fit::Tile, Fit::Stretch}) {
             const QPoint place = fit == Fit::Center ? QPoint(120, 90) : QPoint(0, 0);
             QCOMPARE(drawPreview(line, {fit, fill, label, screen}).pixelColor(place), QColor(Qt::red));
             QCOMPARE(drawPreview(translucent, {fit, fill, label, screen}).pixel(120, 90) & RGB_MASK,
@@ -91,11 +84,10 @@ private slots:
     void keptPreviewIsUsedWhileNothingChanged()
     {
         const TemporaryHome home;
-        const QString image = home.write("a.xpm"_s, picture("red"));
+        const QString image = home.write("a.xpm"_s, red);
         const QString kept = home.path(".cache/qaz/wallpapers/Tile_#00ff00_a.xpm.png"_s);
         QCOMPARE(previewPath("Tile"_s, fill, image), kept);
-        const QByteArray file = QFile::encodeName(kept),
-                         directory = QFile::encodeName(QFileInfo(kept).path());
+        const QByteArray file = kept.toLatin1(), directory = QFileInfo(kept).path().toLatin1();
         const PreviewLook look = {Fit::Tile, fill, label, screen};
         // Another picture with the same origin: it is seen when the file is used.
         const auto plant = [&] {
@@ -108,17 +100,16 @@ private slots:
         plant();
         struct stat status = {};
         QCOMPARE(::stat(QFile::encodeName(image).constData(), &status), 0);
-        QCOMPARE(QImage(kept).text(),
-                 "Origin: %1 %2 %3 %4 %5 Tile #00ff00 252x191 2520x1910 "_s.arg(
-                     QString::number(status.st_dev), QString::number(status.st_ino),
-                     QString::number(status.st_size), QString::number(status.st_mtim.tv_sec),
-                     QString::number(status.st_mtim.tv_nsec))
-                     + image);
+        QString origin = "Origin:"_s;
+        for (const quint64 part : {quint64(status.st_dev), quint64(status.st_ino), quint64(status.st_size),
+                                   quint64(status.st_mtim.tv_sec), quint64(status.st_mtim.tv_nsec)})
+            origin += u' ' + QString::number(part);
+        QCOMPARE(QImage(kept).text(), origin + " Tile #00ff00 252x191 2520x1910 "_s + image);
         const std::function<bool()> changes[] = {
             [&] { return ::chmod(file.constData(), 0640) == 0; },
             [&] { return ::chmod(directory.constData(), 0750) == 0; },
             [&] { return QFile::rename(kept, kept + u'x') && QFile::link(kept + u'x', kept); },
-            [&] { return home.write("a.xpm"_s, picture("#ff0000")) == image; }};
+            [&] { return home.write("a.xpm"_s, red + ' ') == image; }};
         for (const auto &change : changes) {
             QVERIFY(change());
             QCOMPARE(previewOfFile(image, look, kept).pixelColor(0, 0), QColor(Qt::red));
@@ -133,7 +124,7 @@ private slots:
         const TemporaryHome home;
         const ScopedEnvironment cache("XDG_CACHE_HOME", QFile::encodeName(home.write("file"_s, {})));
         QCOMPARE(previewPath("Center"_s, Qt::blue, "/a/%1 b"_s), "/tmp/Center_#0000ff_%1 b.png"_s);
-        const QString image = home.write("a.xpm"_s, picture("red"));
+        const QString image = home.write("a.xpm"_s, red);
         const PreviewLook look = {Fit::Stretch, fill, label, screen};
         const QString path = home.write("shared/preview.png"_s, "older");
         previewOfFile(image, look, path);
