@@ -181,9 +181,10 @@ bool ConfigDialog::eventFilter(QObject *watched, QEvent *event)
 {
     const int key = event->type() == QEvent::KeyPress ? static_cast<QKeyEvent *>(event)->key() : 0;
     // On Return the box would announce its value as changed, even if it is as before.
-    const bool isReturn = qobject_cast<QAbstractSpinBox *>(watched)
-                          && (key == Qt::Key_Return || key == Qt::Key_Enter);
-    if (!isReturn && (event->type() != QEvent::Wheel || static_cast<QWidget *>(watched)->hasFocus()))
+    auto *spinBox = qobject_cast<QAbstractSpinBox *>(watched);
+    if (spinBox && (key == Qt::Key_Return || key == Qt::Key_Enter))
+        spinBox->interpretText();
+    else if (event->type() != QEvent::Wheel || static_cast<QWidget *>(watched)->hasFocus())
         return QDialog::eventFilter(watched, event);
     // Not accepted, so that whatever is around the widget still scrolls, or presses its default button.
     event->ignore();

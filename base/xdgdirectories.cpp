@@ -56,10 +56,10 @@ QStringList xdgDataDirectories()
 
 QString privateDirectory()
 {
-    const QString runtime = QFile::decodeName(qgetenv("XDG_RUNTIME_DIR"));
+    QString runtime = QFile::decodeName(qgetenv("XDG_RUNTIME_DIR"));
     if (runtime.startsWith(QLatin1Char('/')) && isOwnDirectory(runtime, 077))
         return runtime;
-    const QString own = xdgDirectory("XDG_CACHE_HOME", "/.cache") + QLatin1String("/qaz");
+    QString own = xdgDirectory("XDG_CACHE_HOME", "/.cache") + QLatin1String("/qaz");
     return makeDirectories(own) && isOwnDirectory(own, 022) ? own : QString();
 }
 

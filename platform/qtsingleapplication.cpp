@@ -7,6 +7,7 @@
 #include <QDataStream>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QFileInfo>
 #include <QLocalServer>
 #include <QLocalSocket>
 #include <QThread>
@@ -55,8 +56,14 @@ bool clearAway(int directory, const QByteArray &name)
 
 } // namespace
 
+QtSingleApplication::QtSingleApplication(int &argc, char **argv, bool /*guiEnabled*/)
+    : QtSingleApplication(QFileInfo(QFile::symLinkTarget(QStringLiteral("/proc/self/exe"))).fileName(), argc,
+                          argv)
+{}
+
 QtSingleApplication::QtSingleApplication(const QString &id, int &argc, char **argv)
     : QApplication(argc, argv)
+    , m_id(id)
     , m_name(socketName(id))
     , m_directory(openDirectory())
 {}
@@ -155,4 +162,21 @@ bool QtSingleApplication::sendMessage(const QString &message, int timeout)
             return false;
     }
     return socket.readAll() == acknowledgement;
+}
+
+void QtSingleApplication::setActivationWindow(QWidget *window, bool activateOnMessage)
+{
+    m_activationWindow = window;
+    disconnect(this, &QtSingleApplication::messageReceived, this, &QtSingleApplication::activateWindow);
+    if (activateOnMessage)
+        connect(this, &QtSingleApplication::messageReceived, this, &QtSingleApplication::activateWindow);
+}
+
+void QtSingleApplication::activateWindow()
+{
+    if (!m_activationWindow)
+        return;
+    m_activationWindow->setWindowState(m_activationWindow->windowState() & ~Qt::WindowMinimized);
+    m_activationWindow->raise();
+    m_activationWindow->activateWindow();
 }
