@@ -64,11 +64,11 @@ private slots:
     {
         int status = -1;
         int duration = 0;
-        for (const char *time : {"first", "warm"}) {
+        for (int i = 0; i < 2; ++i) { // the second time with everything in memory
             QElapsedTimer timer;
             timer.start();
             putBack();
-            QVERIFY2(::waitpid(applyInAnotherProcess(), &status, 0) > 0, time);
+            QVERIFY(::waitpid(applyInAnotherProcess(), &status, 0) > 0);
             QCOMPARE(status, 0);
             duration = int(timer.elapsed()) + 1;
         }
@@ -91,13 +91,9 @@ private slots:
             finished += WIFEXITED(status) ? 1 : 0;
             for (const File &file : m_files) {
                 const QByteArray content = m_home.read(file.path);
-                QVERIFY2(
-                    content == file.before || content == file.after,
-                    qPrintable("%1 has %2 bytes and ends with %3"_s.arg(
-                        file.path, QString::number(content.size()), QString::fromUtf8(content.right(300)))));
+                QVERIFY2(content == file.before || content == file.after, content.right(300).constData());
             }
         }
-        qInfo("%d of %d were killed", rounds - finished, rounds);
         QVERIFY(finished < rounds);
     }
 

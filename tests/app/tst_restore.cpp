@@ -53,28 +53,28 @@ private slots:
 
     void settingsAreRemoved_data()
     {
-        QTest::addColumn<QString>("themeFile");
         QTest::addColumn<QString>("depth");   // empty: cancelled
         QTest::addColumn<QString>("answers"); // of the boxes that follow: Ok, Yes, No, Cancel
         QTest::addColumn<QString>("left");    // of the settings, a letter each
         QTest::addColumn<int>("backups");
-        const auto row = [](const char *title, const QString &themeFile, const QString &depth,
-                            const QString &answers, const QString &left, int backups) {
-            QTest::newRow(title) << themeFile << depth << answers << left << backups;
+        const auto row = [](const QString &themeFile, const char *depth, const char *answers,
+                            const char *left, int backups) {
+            QTest::newRow(qPrintable(themeFile)) << QString::fromLatin1(depth) << QString::fromLatin1(answers)
+                                                 << QString::fromLatin1(left) << backups;
         };
-        row("cancelled", theme, {}, {}, "TDXQKO"_s, 0);
-        row("theme only", theme, "Theme only"_s, "Y"_s, "-DX--O"_s, 3);
-        row("all", theme, "All Qaz settings"_s, "N"_s, "-----O"_s, 4);
-        row("no theme file", "missing <b>%1"_s, "Theme only"_s, "ON"_s, "TDX--O"_s, 2);
-        row("a directory as theme file", ".config/qaz/a"_s, "Theme only"_s, "OY"_s, "TDX--O"_s, 2);
-        row("close cancelled", theme, "Theme only"_s, "YC"_s, "-DX--O"_s, 3);
+        row(theme, "", "", "TDXQKO", 0);
+        row(theme, "Theme only", "Y", "-DX--O", 3);
+        row(theme, "All Qaz settings", "N", "-----O", 4);
+        row("missing <b>%1"_s, "Theme only", "ON", "TDX--O", 2);
+        row(".config/qaz/a"_s, "Theme only", "OY", "TDX--O", 2); // a directory
+        row(theme, "Theme only", "YC", "-DX--O", 3);             // closing cancelled
     }
 
     void settingsAreRemoved()
     {
-        QFETCH(QString, themeFile);
         QFETCH(QString, depth);
         QFETCH(QString, answers);
+        const QString themeFile = QLatin1String(QTest::currentDataTag());
         const TemporaryHome home;
         const QByteArray content = "[Desktop Entry]\nX-QAZ-WallPaper=a\n";
         for (const QString &file : settings)
