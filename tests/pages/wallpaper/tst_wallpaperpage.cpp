@@ -7,6 +7,7 @@ namespace {
 
 const QString desktopFile = "Desktops/Desktop1/.directory"_s;
 const QString otherDesktop = "Desktops/Desktop2/.directory"_s;
+const QString ownPictures = ".local/share/wallpapers/1280x1024/"_s; // those made for this screen
 const QByteArray withWallpaper = "[Desktop Entry]\nX-QAZ-WallPaper=a\n";
 const QByteArray svg = "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 10 10'><path fill='#f00' d='M0 "
                        "0h5v10h-5z'/></svg>";
@@ -52,13 +53,6 @@ QByteArray picture(const char *color)
     return QByteArray("/* XPM */\nstatic char *x[] = {\"1 1 1 1\", \"a c ") + color + "\", \"a\"};\n";
 }
 
-/// A file of the user's pictures for this screen, below the home.
-QString ownPicture(const QString &name)
-{
-    const QSize size = QGuiApplication::primaryScreen()->size();
-    return ".local/share/wallpapers/%1x%2/"_s.arg(size.width()).arg(size.height()) + name;
-}
-
 } // namespace
 
 class TestWallpaperPage : public QObject
@@ -69,20 +63,19 @@ private slots:
 
     void valuesAreLoaded()
     {
-        const struct {
-            QByteArray theme, desktop; // the wallpaper of its own
-            QString state;             // text, position, period, and the colour without a text
-        } rows[] = {{"", "", "qaz-default|2|0|#0000ff"_s},
-                    {"WallPaper=/a b.png\nWallPaperPos=Tile\nWallPaperPeriod=15\nDesktopColor=#123456\n", "",
-                     "/a b.png|1|15|#123456"_s},
-                    {"WallPaperPos=stretch\nWallPaperPeriod=often\nDesktopColor=qvlightgray\n", "",
-                     "qaz-default|0|0|#000000"_s},
-                    {"WallPaperPos=Center\nWallPaperPeriod=9999\n", "", "qaz-default|0|3600|#0000ff"_s},
-                    {"WallPaper=#a6caf0\nDesktopColor=qvroyalblue\n", "", "#a6caf0|2|0|#a6caf0"_s},
-                    {"DesktopColor=red\n", "\"#zz\"", "#000000|2|0|#000000"_s},
-                    {"DesktopColor=red\n", "/a", "/a|2|0|#ff0000"_s},
-                    {"WallPaper=/a\nWallPaperPos=Tile\nWallPaperPeriod=15\n", "\"#a6caf0\"",
-                     "#a6caf0|2|0|#a6caf0"_s}};
+        // The theme, the desktop's own wallpaper; text, position, period, and the colour without a text.
+        const std::tuple<QByteArray, QByteArray, QString> rows[] = {
+            {"", "", "qaz-default|2|0|#0000ff"_s},
+            {"WallPaper=/a b.png\nWallPaperPos=Tile\nWallPaperPeriod=15\nDesktopColor=#123456\n", "",
+             "/a b.png|1|15|#123456"_s},
+            {"WallPaperPos=stretch\nWallPaperPeriod=often\nDesktopColor=qvlightgray\n", "",
+             "qaz-default|0|0|#000000"_s},
+            {"WallPaperPos=Center\nWallPaperPeriod=9999\n", "", "qaz-default|0|3600|#0000ff"_s},
+            {"WallPaper=#a6caf0\nDesktopColor=qvroyalblue\n", "", "#a6caf0|2|0|#a6caf0"_s},
+            {"DesktopColor=red\n", "\"#zz\"", "#000000|2|0|#000000"_s},
+            {"DesktopColor=red\n", "/a", "/a|2|0|#ff0000"_s},
+            {"WallPaper=/a\nWallPaperPos=Tile\nWallPaperPeriod=15\n", "\"#a6caf0\"",
+             "#a6caf0|2|0|#a6caf0"_s}};
         for (const auto &[theme, desktop, state] : rows) {
             Page page(theme, desktop);
             QCOMPARE(page.onlyDesktop->isChecked(), !desktop.isEmpty());
@@ -160,7 +153,7 @@ private slots:
     void chosenFileIsTaken()
     {
         Page page("WallPaper=/x\n");
-        page.home.write(ownPicture("any"_s), {});
+        page.home.write(ownPictures + "any"_s, {});
         const QString path = page.home.write("a/blank \"q\" $(x) %1.xpm"_s, picture("red"));
         const QString upperCase = page.home.write("a/PICTURE.SVG"_s, svg);
         QVERIFY(page.home.makeDirectory("Pictures"_s) && page.home.makeDirectory("data/wallpapers"_s));
@@ -194,7 +187,7 @@ private slots:
     {
         Page page("WallPaper=/x\n");
         const QString name = "a/-picture <b>.tar.svg"_s, source = page.home.write(name, svg);
-        const QString relative = ownPicture("-picture <b>.png"_s);
+        const QString relative = ownPictures + "-picture <b>.png"_s;
         const QString target = page.home.path(relative);
         page.choose(source, {QMessageBox::No});
         QVERIFY(!page.home.exists(".local/share/wallpapers"_s));
@@ -213,7 +206,7 @@ private slots:
         page.choose(source, {QMessageBox::Yes});
         QCOMPARE(page.lineEdit->text(), target);
         const QImage converted(target);
-        QCOMPARE(converted.size(), QGuiApplication::primaryScreen()->size());
+        QCOMPARE(converted.size(), QSize(1280, 1024));
         QVERIFY(converted.pixelColor(0, 0) == Qt::red && converted.pixelColor(1000, 0) == Qt::white);
         page.home.write(name, QByteArray(svg).replace("#f00", "#00f"));
         page.choose(source, {QMessageBox::Yes, QMessageBox::Yes});

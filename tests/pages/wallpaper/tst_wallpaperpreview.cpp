@@ -34,21 +34,18 @@ class TestWallpaperPreview : public QObject
 private slots:
     void imageIsPlaced()
     {
-        const struct {
-            Fit fit;
-            QSize size;
-            QRect place; // of the image, or of the first tile, on the canvas
-        } rows[] = {{Fit::Stretch, {2, 2}, canvas},
-                    {Fit::Stretch, screen, canvas},
-                    {Fit::Center, {400, 300}, {101, 75, 40, 30}},
-                    {Fit::Center, screen, {-5, -5, 252, 191}},
-                    {Fit::Center, {4, 500}, {}},
-                    {Fit::Tile, {1000, 700}, {0, 0, 100, 70}},
-                    {Fit::Tile, {4, 500}, {0, 0, 1, 50}},
-                    {Fit::Tile, {500, 4}, {0, 0, 50, 1}},
-                    {Fit::Center, {}, {}},
-                    {Fit::Tile, {}, {}},
-                    {Fit::Stretch, {}, {}}};
+        // The place is that of the image, or of the first tile, on the canvas.
+        const std::tuple<Fit, QSize, QRect> rows[] = {{Fit::Stretch, {2, 2}, canvas},
+                                                      {Fit::Stretch, screen, canvas},
+                                                      {Fit::Center, {400, 300}, {101, 75, 40, 30}},
+                                                      {Fit::Center, screen, {-5, -5, 252, 191}},
+                                                      {Fit::Center, {4, 500}, {}},
+                                                      {Fit::Tile, {1000, 700}, {0, 0, 100, 70}},
+                                                      {Fit::Tile, {4, 500}, {0, 0, 1, 50}},
+                                                      {Fit::Tile, {500, 4}, {0, 0, 50, 1}},
+                                                      {Fit::Center, {}, {}},
+                                                      {Fit::Tile, {}, {}},
+                                                      {Fit::Stretch, {}, {}}};
         for (const auto &[fit, size, place] : rows) {
             const QImage image = numbered(size);
             const QImage scaled = image.scaled(place.size(), Qt::IgnoreAspectRatio, Qt::FastTransformation);
