@@ -9,16 +9,6 @@ namespace {
 const QString sans = "DejaVu Sans"_s;
 const QString mono = "DejaVu Sans Mono"_s;
 
-class TitleItem : public FontUseItem
-{
-public:
-    explicit TitleItem(const QFont &font, bool onlyFixed = false)
-        : FontUseItem(nullptr, "Title"_s, "TitleFont"_s, font, onlyFixed)
-    {
-        restoreDefault();
-    }
-};
-
 } // namespace
 
 class TestFontUseItem : public QObject
@@ -59,7 +49,8 @@ private slots:
         }
         for (const QString &style : {":normal"_s, ":bold"_s, ":normal:italic"_s, ":bold:italic"_s}) {
             const QString text = slim + "-10"_s + style;
-            TitleItem item(storedRoleFont(text, QFont(sans, 7)));
+            FontUseItem item(nullptr, {}, {}, storedRoleFont(text, QFont(sans, 7)));
+            item.restoreDefault();
             QCOMPARE(fontToText(item.font()), text);
             const QFontInfo shown(item.findChild<QLabel *>()->font());
             QVERIFY(shown.bold() == style.contains("bold"_s) && shown.italic() == style.contains("italic"_s));
@@ -76,13 +67,15 @@ private slots:
                                                    {QFont(mono, 9, 58), "9:bold"},
                                                    {named, "9:bold:italic"}};
         for (const auto &[chosen, text] : rows) {
-            TitleItem item(QFont(sans, 10));
+            FontUseItem item(nullptr, {}, {}, {});
+            item.setFont(QFont(sans, 10), false);
             QSignalSpy selected(&item, &FontUseItem::fontSelected);
             item.applyChosenFont(chosen);
             QCOMPARE(fontToText(item.font()), "DejaVu Sans Mono-"_s + QLatin1String(text));
             QCOMPARE(selected.size(), 1);
 
-            TitleItem fixed(chosen, true);
+            FontUseItem fixed(nullptr, {}, {}, chosen, true);
+            fixed.restoreDefault();
             fixed.applyChosenFont(QFont(sans, 20));
             QCOMPARE(fontToText(fixed.font()), "DejaVu Sans Mono-20:normal"_s);
         }
@@ -90,7 +83,8 @@ private slots:
 
     void previewNeverWidensThePage()
     {
-        TitleItem item(QFont(sans, 10));
+        FontUseItem item(nullptr, {}, {}, QFont(sans, 10));
+        item.restoreDefault();
         const QSize before = item.minimumSizeHint();
         const auto *layout = qobject_cast<QBoxLayout *>(item.layout());
         QVERIFY(layout->stretch(0) == 1 && layout->stretch(1) == 0);

@@ -19,8 +19,7 @@ private slots:
             QByteArray after = {}; // null: as before
             QByteArray updates = "";
         } rows[] = {
-            {"get ScreenSaverDelay PagingSpeed Other SoundTheme TaskbarBoldFont", file, 0,
-             "90\n30\n1\n\nVerdana-10:bold\n"},
+            {"get OpaqueMove PagingSpeed Other SoundTheme", file, 0, "TRUE\n30\n1\n\n"},
             {"get Nobodys OpaqueMove", file, 1, "TRUE\n"},
             {"get Own", "Own=\n", 0, "\n"},
             {"get --json OpaqueMove WallPaper", file, 0, // in the order of the pages
@@ -32,23 +31,22 @@ private slots:
             {"set ScreenSaverDelay=90 OpaqueMove=false MenuDelayTime=300", file, 0}, // all are equal
             {"set ArrangeWindowSpeed=0", "", 0, "ArrangeWindowSpeed: 0 -> 0\n", "ArrangeWindowSpeed=0\n",
              "ArrangeWindowSpeed 0"}, // its default differs between load and save
-            {"set MenuDelayTime=1 MenuDelayTime=2", "", 0, "MenuDelayTime: 300 -> 2\n", "MenuDelayTime=2\n",
-             "MenuDelayTime 2"},
+            {"set PagingSpeed=1 PagingSpeed=2", "", 0, "PagingSpeed: 30 -> 2\n", "PagingSpeed=2\n",
+             "PagingSpeed 2"},
             {"set ScreenSaverDelay=300 PagingSpeed=101", file, 2},
             {"set Other=2", file, 2},
             {"set --force Other=2", "", 0, "Other:  -> 2\n", "Other=2\n", "Other 2"},
             {"set --force [x]=2", file, 2},
             {"set -n ScreenSaverDelay=300", file, 0, "ScreenSaverDelay: 90 -> 300\n"},
             {"-q set MenuDelayTime=2", "", 0, "", "MenuDelayTime=2\n", "MenuDelayTime 2"},
-            {"set --json MenuDelayTime=2", "", 0,
-             "{\n  \"MenuDelayTime\": {\"value\": \"2\", \"before\": \"300\"}\n}\n", "MenuDelayTime=2\n",
-             "MenuDelayTime 2"},
+            {"set --json PagingSpeed=2", "", 0,
+             "{\n  \"PagingSpeed\": {\"value\": \"2\", \"before\": \"30\"}\n}\n", "PagingSpeed=2\n",
+             "PagingSpeed 2"},
             {"unset ScreenSaverDelay MenuDelayTime", file, 0, "ScreenSaverDelay: 90 -> 600\n",
              "# mine\nOther=1\nOpaqueMove=TRUE\n[g]\nPagingSpeed=1\n", "ScreenSaverDelay 600"},
             {"unset MenuDelayTime A --force", "MenuDelayTime=300\nA=1\n", 0, "A: 1 -> \n", ""},
             {"unset Other", file, 2},
-            {"diff", "ScreenSaverDelay=90\nOpaqueMove=True\nMenuDelayTime=0300\n", 1,
-             "ScreenSaverDelay: 600 -> 90\n"},
+            {"diff", "PagingSpeed=9\nOpaqueMove=True\nMenuDelayTime=0300\n", 1, "PagingSpeed: 30 -> 9\n"},
             {"diff -q", "MenuDelayTime=0300\n", 0},
             {"apply other.themerc", "Other=2\nMenuDelayTime=5\n", 0,
              "DesktopColor: #3a6ea5 -> navy\nMenuDelayTime: 5 -> 6\n",

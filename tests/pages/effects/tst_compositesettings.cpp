@@ -187,7 +187,6 @@ private slots:
     void comptonFileIsResolvedOnceAndMissingValuesAreWritten()
     {
         Session session(compton, true, {});
-        const ScopedEnvironment configHome("XDG_CONFIG_HOME", "relative"); // counts as unset
         const QString old = session.home.write(".compton.conf"_s, {});
         const CompositeState state = session.load({false, true, true});
         QVERIFY(state.managerOn && !state.transparency && !state.shadow);
