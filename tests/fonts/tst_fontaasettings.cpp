@@ -45,10 +45,8 @@ public:
     /// The sub-pixel order, the anti-aliasing and the hint style of the program's own settings.
     static QString stored()
     {
-        QStringList texts;
-        for (const char *key : {"XftSubPixel", "XftAntialias", "XftHintStyle"})
-            texts += QSettings().value(QLatin1String(key), "-"_s).toString();
-        return texts.join(u' ');
+        const auto text = [](const QString &key) { return QSettings().value(key, "-"_s).toString(); };
+        return text("XftSubPixel"_s) + u' ' + text("XftAntialias"_s) + u' ' + text("XftHintStyle"_s);
     }
 
     const TemporaryHome home;
@@ -112,8 +110,7 @@ private slots:
         file.write(range("pixelsize", "0", "14.04")); // shows as the default's 14, which is meant exactly
         file.dialog->load();
         file.dialog->defaults();
-        QVERIFY(file.save(true));
-        QVERIFY(file.home.read(place).contains("<double>14</double>"));
+        QVERIFY(file.save(true) && file.home.read(place).contains("<double>14</double>"));
     }
 
     void editsAreSaved()

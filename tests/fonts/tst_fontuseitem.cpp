@@ -74,10 +74,9 @@ private slots:
             QCOMPARE(fontToText(item.font()), "DejaVu Sans Mono-"_s + QLatin1String(text));
             QCOMPARE(selected.size(), 1);
 
-            FontUseItem fixed(nullptr, {}, {}, chosen, true);
-            fixed.restoreDefault();
-            fixed.applyChosenFont(QFont(sans, 20));
-            QCOMPARE(fontToText(fixed.font()), "DejaVu Sans Mono-20:normal"_s);
+            item.setFont(chosen, true); // a role for fixed fonts keeps its family
+            item.applyChosenFont(QFont(sans, 20));
+            QCOMPARE(fontToText(item.font()), "DejaVu Sans Mono-20:normal"_s);
         }
     }
 

@@ -163,8 +163,7 @@ private slots:
         QCOMPARE(run("pack whole").status, 0);
         QVERIFY(QFile::remove(home.path(themeFile)));
         const QByteArray whole = home.read("whole"_s);
-        for (int size :
-             {0, 1, 9, 100, whole.size() / 2, whole.size() - 9, whole.size() - 8, whole.size() - 1})
+        for (int size : {0, 1, 100, whole.size() / 2, whole.size() - 9, whole.size() - 8, whole.size() - 1})
             home.write("%1.qaztheme"_s.arg(size), whole.left(size));
         QVector<Member> members{{"theme.themerc", "PagingSpeed=5\n"}};
         for (int i = 0; i < 2000; ++i)
@@ -177,7 +176,7 @@ private slots:
         writeArchive(home.path("zip.qaztheme"_s), {members.first()}, "zip", nullptr);
         const QString before = home.fingerprint();
         const QStringList packages = QDir(home.path()).entryList({"*.qaztheme"_s});
-        QCOMPARE(packages.size(), 12);
+        QCOMPARE(packages.size(), 11);
         for (const QString &name : packages) {
             QVERIFY2(run({"unpack"_s, name}).status == 2, qPrintable(name));
             QCOMPARE(home.fingerprint(), before);
