@@ -14,7 +14,6 @@ public:
     {
         write(elements);
         QCoreApplication::setOrganizationName("qaz"_s);
-        QCoreApplication::setApplicationName("qaz-admin-theme"_s);
         dialog = std::make_unique<FontAASettings>(nullptr);
     }
 

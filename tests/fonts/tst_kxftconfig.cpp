@@ -7,10 +7,7 @@
 #include "tests/support/temporaryhome.h"
 #include "tests/support/testing.h"
 
-#include <QX11Info>
-
 #include <fcntl.h>
-#include <unistd.h>
 
 namespace {
 
@@ -82,7 +79,6 @@ private slots:
 
     void settingsAreReadAndWritten()
     {
-        QCOMPARE(QX11Info::appDpiY(), 96);
         const HomeWithFile home("  <dir>/a</dir>\n" + element("rgba", "const", "bgr")
                                 + element("hintstyle", "const", "hintslight")
                                 + element("antialias", "bool", "FALSE") + "  <!-- mine -->\n");
@@ -189,7 +185,8 @@ private slots:
         const QByteArray before = home.read(place);
         Config config;
         config.setSubPixelType(SubPixelOrder::Bgr);
-        const QString lock = home.write(place + ".LCK"_s, QByteArray::number(::getpid()));
+        const QString lock = home.write(place + ".LCK"_s,
+                                        QByteArray::number(QCoreApplication::applicationPid()));
         QString error;
         QVERIFY(!config.KXftConfig::apply(&error));
         QCOMPARE(error, "Another program has locked it"_s);
@@ -213,10 +210,11 @@ private slots:
     void lockOfAKilledProgramGoes()
     {
         // Whose it is (null: the lock is a directory) and its age in seconds.
-        const QPair<QByteArray, int> locks[] = {{"999999999\n", 5},                    // has ended
-                                                {QByteArray::number(::getpid()), 700}, // given out again
-                                                {"", 70},
-                                                {{}, 3600}};
+        const QPair<QByteArray, int> locks[] = {
+            {"999999999\n", 5},                                            // has ended
+            {QByteArray::number(QCoreApplication::applicationPid()), 700}, // given out again
+            {"", 70},
+            {{}, 3600}};
         for (const auto &[owner, age] : locks) {
             const TemporaryHome home;
             home.write(place, "<fontconfig/>\n");

@@ -8,8 +8,6 @@
 #include "tests/support/testing.h"
 #include "tests/support/wmlistener.h"
 
-#include <unistd.h>
-
 namespace {
 
 const QString kompmgrFile = ".config/qaz/kompmgrrc"_s;
@@ -70,8 +68,8 @@ private:
 };
 
 // Another run of this test on the same machine must not pass for this one's managers.
-const QString ownManager = "qaz-kompmgr-%1"_s.arg(::getpid());
-const QString compton = "compton-%1"_s.arg(::getpid());
+const QString ownManager = "qaz-kompmgr-%1"_s.arg(QCoreApplication::applicationPid());
+const QString compton = "compton-%1"_s.arg(QCoreApplication::applicationPid());
 const QString off = "QAZWM_UPDATE_VAL UseComposite false"_s;
 const QString on = "QAZWM_UPDATE_VAL UseComposite true"_s;
 
