@@ -74,7 +74,6 @@ private slots:
         for (const auto &role : roles)
             theme += QByteArray(role[0]) + "=DejaVu Sans-" + QByteArray::number(size++) + ":bold\n";
         Editor editor(theme);
-        QVERIFY(editor.page.loaded);
         QCOMPARE(editor.save(), QString());
         QCOMPARE(editor.page.layout()->contentsMargins(), QMargins());
         QString texts = QString::number(editor.dpi()->maximum());

@@ -64,8 +64,7 @@ private slots:
                                            + QFile::encodeName(home.path(place)) + '\n');
         QCOMPARE(home.mode(".config/fontconfig"_s), 0700u);
         QCOMPARE(summary(config), "none 0 1 1 0-0 0-0"_s);
-        QVERIFY(config.apply());
-        QVERIFY(!home.exists(place)); // nothing had changed
+        QVERIFY(config.apply() && !home.exists(place)); // nothing had changed
 
         config.setHintStyle(HintStyle::None);
         QVERIFY(config.changed() && config.apply() && !config.changed());
@@ -175,8 +174,7 @@ private slots:
 
         // The merge has read the file again: the next change needs none.
         config.setSubPixelType(SubPixelOrder::Rgb);
-        QVERIFY(config.apply());
-        QVERIFY(!standardError.take().contains("rewritten"));
+        QVERIFY(config.apply() && !standardError.take().contains("rewritten"));
     }
 
     void heldLockIsRespected()

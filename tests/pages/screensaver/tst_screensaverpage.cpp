@@ -55,7 +55,6 @@ private slots:
     void everyEditIsSavedInOrder()
     {
         PageOverFile<ScreensaverPage> file("# mine\nLockerBellLevel=7\nOther=1\n");
-        QVERIFY(file.page.loaded);
         QSignalSpy changed(&file.page, &ScreensaverPage::changedSignal);
         int value = 15;
         for (const char *name : spinBoxes) {
