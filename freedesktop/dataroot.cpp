@@ -10,7 +10,7 @@ QString dataRoot()
         return QDir::cleanPath(QFile::decodeName(named));
     // Asked of the kernel: the application object, which knows it too, may not exist yet.
     const QString executable = QFile::symLinkTarget(QStringLiteral("/proc/self/exe"));
-    const QString installed = QDir::cleanPath(executable + QLatin1String("/../../share/qaz"));
+    QString installed = QDir::cleanPath(executable + QLatin1String("/../../share/qaz"));
 #ifdef QAZ_SOURCE_DATA_DIR
     if (!QFile::exists(installed))
         return QStringLiteral(QAZ_SOURCE_DATA_DIR);
