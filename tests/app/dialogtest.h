@@ -7,12 +7,6 @@
 #include "tests/support/temporaryhome.h"
 #include "tests/support/testing.h"
 
-#include <QDialogButtonBox>
-#include <QListWidget>
-#include <QPushButton>
-#include <QSpinBox>
-#include <QtTest>
-
 /// What tests of the dialog start from: a home of their own, and the window in it.
 class DialogTest : public QObject
 {

@@ -4,11 +4,7 @@
 #include "tests/support/temporaryhome.h"
 #include "tests/support/testing.h"
 
-#include <QFile>
-#include <QTest>
 #include <QX11Info>
-
-#include <memory>
 
 #include <X11/Xcursor/Xcursor.h>
 #include <X11/extensions/Xfixes.h>

@@ -1,10 +1,8 @@
 #include "platform/findfileinpath.h"
 #include "platform/findinps.h"
-#include "tests/support/environment.h"
 #include "tests/support/temporaryhome.h"
 #include "tests/support/testing.h"
 
-#include <climits>
 #include <csignal>
 
 #include <spawn.h>

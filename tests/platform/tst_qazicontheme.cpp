@@ -2,8 +2,6 @@
 #include "tests/support/temporaryhome.h"
 #include "tests/support/testing.h"
 
-#include <QTest>
-
 namespace {
 
 QByteArray index(const QByteArray &inherits)

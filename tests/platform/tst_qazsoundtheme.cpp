@@ -1,5 +1,4 @@
 #include "platform/qazsoundtheme.h"
-#include "tests/support/environment.h"
 #include "tests/support/temporaryhome.h"
 #include "tests/support/testing.h"
 
@@ -124,8 +123,8 @@ private slots:
     void refusesBrokenThemes()
     {
         const SoundFiles files;
-        const QString pipe = QFileInfo(files.write("user/pipe/x.wav")).path() + QLatin1String("/index.theme");
-        QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+        const QString pipe = QFileInfo(files.write("user/pipe/x.wav")).path() + "/index.theme"_s;
+        QCOMPARE(::mkfifo(qPrintable(pipe), 0600), 0);
         files.write("user/directory/index.theme/x.wav");
         for (const char *name : {"pipe", "directory", "missing", "", "..", "../sounds/a"})
             QVERIFY2(!QazSoundTheme(name).load(), name);

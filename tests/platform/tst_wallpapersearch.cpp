@@ -4,10 +4,6 @@
 #include "tests/support/temporaryhome.h"
 #include "tests/support/testing.h"
 
-#include <QDateTime>
-#include <QFile>
-#include <QTest>
-
 namespace {
 
 const char command[] = "qaz-svg2png -w %d -h %d -i \"%s\" -o \"%s\"";

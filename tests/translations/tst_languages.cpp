@@ -18,7 +18,7 @@ private slots:
         for (const auto &[locale, languages, line] : rows) {
             const ScopedEnvironment all("LC_ALL", locale);
             const ScopedEnvironment preferred("LANGUAGE", languages);
-            EditorProcess editor({"--help"_s});
+            EditorProcess editor({languages.isEmpty() ? "--help"_s : "-h"_s, "further"_s});
             QCOMPARE(editor.exitCode(), 1);
             QCOMPARE(editor.process().readAllStandardOutput(), line);
         }
