@@ -7,16 +7,6 @@
 #include "tests/support/temporaryhome.h"
 #include "tests/support/testing.h"
 
-namespace {
-
-/// What a client reads of the session's settings; empty without a settings manager.
-QString settings()
-{
-    return output("dump_xsettings"_s, {});
-}
-
-} // namespace
-
 /// The editor, Openbox, the bridge and the real tools together: what is applied is seen.
 class TestSession : public QObject
 {
@@ -24,11 +14,13 @@ class TestSession : public QObject
 private slots:
     void initTestCase()
     {
-        m_home.write(".config/qaz/current.themerc"_s,
-                     "WallPaper=#204060\nScreenSaverDelay=300\n"
-                     "TitlebarActiveColor=#112233\nTitlebarActiveColor2=#112233\n"
-                     "EnableSound=true\n"
-                         + sounds());
+        QByteArray theme = "WallPaper=#204060\nScreenSaverDelay=300\nTitlebarActiveColor=#112233\n"
+                           "TitlebarActiveColor2=#112233\nEnableSound=true\n";
+        for (const char *event : {"Open", "Close", "RestoreUp", "RestoreDown", "Minimize", "Maximize",
+                                  "SystemStart", "SystemExit", "Paging"}) // each has a sound called after it
+            theme += QByteArray(event) + "Sound="
+                     + QFile::encodeName(m_home.write("sounds/"_s + QLatin1String(event), "sound")) + '\n';
+        m_home.write(".config/qaz/current.themerc"_s, theme);
         for (const char *name : {"1", "2"})
             m_home.write("Desktops/Desktop%1/.directory"_s.arg(QLatin1String(name)), "[Desktop Entry]\n");
         m_programs.add("aplay"_s);
@@ -96,14 +88,14 @@ private slots:
         QTRY_VERIFY(BridgeProcess::isServing());
         announce("WallPaper", "#010203"_s);
         QTRY_COMPARE(pixel().name(), "#010203"_s);
-        output("xdotool"_s, {"set_desktop"_s, "1"_s});
+        goToDesktop("1");
         QTRY_COMPARE(pixel().name(), "#a6caf0"_s);
         m_home.write("Desktops/Desktop2/.directory"_s,
                      "[Desktop Entry]\nX-QAZ-WallPaper=" + QFile::encodeName(picture("b.png"_s, Qt::red))
                          + '\n');
         announce("WallPaperLocal", "x"_s);
         QTRY_COMPARE(pixel(), QColor(Qt::red));
-        output("xdotool"_s, {"set_desktop"_s, "0"_s});
+        goToDesktop("0");
         QTRY_COMPARE(pixel().name(), "#010203"_s);
     }
 
@@ -134,9 +126,6 @@ private slots:
         QTRY_COMPARE(heard(before), "SystemStart"_s);
         QWidget window;
         window.setGeometry(100, 100, 200, 200);
-        const auto goToDesktop = [](const char *desktop) {
-            output("xdotool"_s, {"set_desktop"_s, QLatin1String(desktop)});
-        };
         const std::pair<std::function<void()>, QString> events[] = {
             {[&] { window.show(); }, "SystemStart Open"_s},
             {[&] { window.showMaximized(); }, "Open Maximize"_s},
@@ -162,12 +151,11 @@ private slots:
         m_programs.add("aplay"_s, "exec sleep 3600");
         BridgeProcess bridge;
         QTRY_COMPARE(heard(before), "SystemStart"_s);
-        std::vector<std::unique_ptr<QWidget>> windows;
-        for (int i = 0; i < 4; ++i) {
-            windows.push_back(std::make_unique<QWidget>());
-            windows.back()->setGeometry(100, 100, 200, 200);
-            windows.back()->show();
-            QVERIFY(QTest::qWaitForWindowExposed(windows.back().get()));
+        QWidget windows[4];
+        for (QWidget &window : windows) {
+            window.setGeometry(100, 100, 200, 200);
+            window.show();
+            QVERIFY(QTest::qWaitForWindowExposed(&window));
         }
         announce("WallPaper", "#0a0b0c"_s);
         QTRY_COMPARE(pixel().name(), "#0a0b0c"_s);
@@ -193,15 +181,11 @@ private slots:
     }
 
 private:
-    /// Every event has a sound that is called after it.
-    QByteArray sounds() const
+    /// What a client reads of the session's settings; empty without a settings manager.
+    static QString settings() { return output("dump_xsettings"_s, {}); }
+    static void goToDesktop(const char *number)
     {
-        QByteArray lines;
-        for (const char *event : {"Open", "Close", "RestoreUp", "RestoreDown", "Minimize", "Maximize",
-                                  "SystemStart", "SystemExit", "Paging"})
-            lines += QByteArray(event) + "Sound="
-                     + QFile::encodeName(m_home.write("sounds/"_s + QLatin1String(event), "sound")) + '\n';
-        return lines;
+        output("xdotool"_s, {"set_desktop"_s, QLatin1String(number)});
     }
     QString heard(int before = 0) const
     {
