@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QByteArray>
+#include "tests/support/testing.h"
 
 /// Sets (or, with a null value, unsets) an environment variable until the end of the scope.
 class ScopedEnvironment
@@ -13,15 +13,11 @@ public:
         set(value);
     }
     ~ScopedEnvironment() { set(m_before); }
-    ScopedEnvironment(const ScopedEnvironment &) = delete;
-    ScopedEnvironment &operator=(const ScopedEnvironment &) = delete;
+    Q_DISABLE_COPY(ScopedEnvironment)
 
 private:
-    void set(const QByteArray &value) const
-    {
-        value.isNull() ? qunsetenv(m_name.constData()) : qputenv(m_name.constData(), value);
-    }
+    void set(const QByteArray &value) const { value.isNull() ? qunsetenv(m_name) : qputenv(m_name, value); }
 
-    QByteArray m_name;
+    const char *m_name;
     QByteArray m_before; // null: unset
 };

@@ -1,40 +1,65 @@
 #pragma once
 
-#include <QMessageBox>
-#include <QObject>
-#include <QStringList>
-#include <QTimer>
+#include "tests/support/testing.h"
 
 #include <functional>
 
-class QDialog;
-
 /// Answers modal dialogs while a test's call is blocked in them. Steps run in the order they were queued, one for each
 /// modal dialog that comes up; dialogs that nobody expected are rejected and reported by isDone().
-class ModalDriver : public QObject
+class ModalDriver
 {
-    Q_OBJECT
 public:
-    explicit ModalDriver(QObject *parent = nullptr);
+    ModalDriver()
+    {
+        QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this] { look(); });
+        m_timer.start(5);
+    }
 
     /// The next modal dialog is handed to \a step, which must end it (accept, reject, click a button).
-    void then(const std::function<void(QDialog *)> &step);
+    void then(const std::function<void(QDialog *)> &step) { m_steps.append(step); }
     /// The next modal dialog is a message box; its button \a answer is clicked, its texts are recorded.
-    void thenAnswer(QMessageBox::StandardButton answer);
+    void thenAnswer(QMessageBox::StandardButton answer)
+    {
+        then([answer](QDialog *dialog) {
+            auto *box = qobject_cast<QMessageBox *>(dialog);
+            QAbstractButton *button = box ? box->button(answer) : nullptr;
+            button ? button->click() : dialog->reject();
+        });
+    }
     /// The next modal dialog is rejected, as by Escape.
-    void thenReject();
+    void thenReject() { then(&QDialog::reject); }
 
     /// "title|text" of each message box, and "title|class" of each other dialog, in order.
     QStringList seen() const { return m_seen; }
     /// Every step ran and no unexpected dialog came up.
-    bool isDone() const { return m_steps.isEmpty() && m_unexpected == 0; }
+    bool isDone() const { return m_steps.isEmpty() && !m_wasSurprised; }
 
 private:
-    void look();
+    void look()
+    {
+        auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+        if (!dialog || !dialog->isVisible())
+            m_current = nullptr;
+        if (!dialog || !dialog->isVisible() || dialog == m_current)
+            return;
+        m_current = dialog;
+        auto *box = qobject_cast<QMessageBox *>(dialog);
+        m_seen.append(dialog->windowTitle() + u'|'
+                      + (box ? box->text() : QString::fromLatin1(dialog->metaObject()->className())));
+        if (m_steps.isEmpty()) {
+            m_wasSurprised = true;
+            dialog->reject();
+            return;
+        }
+        m_steps.takeFirst()(dialog);
+        // The same stack address may serve the next dialog.
+        if (QApplication::activeModalWidget() != dialog || !dialog->isVisible())
+            m_current = nullptr;
+    }
 
     QTimer m_timer;
     QList<std::function<void(QDialog *)>> m_steps;
     QStringList m_seen;
     QDialog *m_current = nullptr;
-    int m_unexpected = 0;
+    bool m_wasSurprised = false;
 };

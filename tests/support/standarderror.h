@@ -1,8 +1,6 @@
 #pragma once
 
-#include <QTemporaryFile>
-
-#include <cstdio>
+#include "tests/support/testing.h"
 
 #include <unistd.h>
 
@@ -22,8 +20,7 @@ public:
         ::dup2(m_before, STDERR_FILENO);
         ::close(m_before);
     }
-    StandardError(const StandardError &) = delete;
-    StandardError &operator=(const StandardError &) = delete;
+    Q_DISABLE_COPY(StandardError)
 
     /// What was written since the last call.
     QByteArray take()
