@@ -1,8 +1,13 @@
 #include "platform/findinps.h"
 
+#include "base/descriptor.h"
+
 #include <filesystem>
-#include <fstream>
 #include <string>
+
+#include <fcntl.h>
+#include <linux/limits.h>
+#include <unistd.h>
 
 namespace {
 
@@ -10,12 +15,12 @@ namespace fs = std::filesystem;
 
 constexpr char deletedMark[] = " (deleted)"; // behind a program whose file was replaced, as by an upgrade
 
-/// A file of the kernel's up to its first NUL; empty when it can't be read.
+/// A file of the kernel's up to its first NUL, without streams: there may be thousands. Empty when it can't be read.
 std::string textOf(const fs::path &file)
 {
-    std::string text;
-    std::getline(std::ifstream(file), text, '\0');
-    return text;
+    char text[PATH_MAX + 1] = {};
+    const Descriptor opened(::open(file.c_str(), O_RDONLY | O_CLOEXEC));
+    return ::read(opened.get(), text, PATH_MAX) > 0 ? text : "";
 }
 
 bool isNamed(const fs::path &process, const std::string &name)
