@@ -59,7 +59,7 @@ int applyRepeatedly(int count)
 /// What strace saw in one phase.
 struct Writes {
     int replacements = 0; // files put in place
-    int others = 0;       // everything else that changes a file or directory, but for temporary ones
+    int others = 0; // everything else that changes a file or directory, but for temporary ones and locks
 };
 
 Writes writesIn(const QString &record, const char *begin, const char *end)
@@ -68,14 +68,18 @@ Writes writesIn(const QString &record, const char *begin, const char *end)
     static const QRegularExpression writes(QStringLiteral(
         "^\\d+ +(?:open.*O_(?:WRONLY|RDWR|CREAT)|creat|mkdir|unlink|rmdir|link|symlink|truncate|chmod|"
         "fchmodat|chown|utime)"));
+    static const QRegularExpression passing(
+        QStringLiteral("\"(?:/dev/[^\"]*|[^\"]*/\\.qaz-\\w{6}|[^\"]*\\.lock|%1/[^\"]*)\"[^\"]*$|O_TMPFILE")
+            .arg(QRegularExpression::escape(QDir::tempPath())));
     const int from = record.indexOf(QLatin1String(begin));
     Writes seen;
     for (const QString &line :
          record.mid(from, record.indexOf(QLatin1String(end), from) - from).split(QLatin1Char('\n'))) {
+        if (line.contains(passing))
+            continue;
         if (line.contains(replaces))
             ++seen.replacements;
-        else if (line.contains(writes) && !line.contains(QLatin1String("/dev/"))
-                 && !line.contains(QDir::tempPath()))
+        else if (line.contains(writes))
             ++seen.others;
     }
     return seen;
