@@ -49,11 +49,13 @@ function(qaz_configure_target name)
 endfunction()
 
 # qaz_add_library(<name> ALIAS Qaz::Name SOURCES ... DEPENDS ...)
+# Static unless BUILD_SHARED_LIBS is on, from the same objects: then a changed source costs one short link.
 function(qaz_add_library name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "ALIAS" "SOURCES;DEPENDS")
-    add_library(${name} STATIC ${arg_SOURCES})
+    add_library(${name} ${arg_SOURCES})
     add_library(${arg_ALIAS} ALIAS ${name})
     target_link_libraries(${name} PUBLIC Qt5::Widgets ${arg_DEPENDS})
+    set_target_properties(${name} PROPERTIES DEFINE_SYMBOL "")
     qaz_configure_target(${name})
 endfunction()
 
