@@ -91,7 +91,7 @@ std::optional<FontsItem> readFontsItem(const FontsElement &element)
                 return FontsItem{property.kind, *value, {}};
         } else if (isRange && mayBeRange) {
             for (const int lower : {0, 1}) {
-                if (const auto range = readRange(property, children[lower], children[1 - lower]))
+                if (auto range = readRange(property, children[lower], children[1 - lower]))
                     return range;
             }
         }
