@@ -26,8 +26,7 @@ constexpr char usage[]
 enum ExitStatus { Success = 0, Failure = 1, WrongUsage = 2 };
 
 struct Options {
-    int width = 0;
-    int height = 0;
+    QSize size;
     QString in;
     QString out;
 };
@@ -35,15 +34,15 @@ struct Options {
 /// Every option takes the argument after it, whatever that begins with.
 bool parse(int argc, char **argv, Options *options)
 {
-    for (int i = 1; i < argc; i += 2) {
-        const QByteArray option = argv[i];
-        if (i + 1 == argc)
-            return false;
-        const char *value = argv[i + 1];
+    if (argc % 2 == 0)
+        return false;
+    for (char **argument = argv + 1; *argument; argument += 2) {
+        const QByteArray option = argument[0];
+        const char *value = argument[1];
         if (option == "-w")
-            options->width = QByteArray(value).toInt();
+            options->size.setWidth(QByteArray(value).toInt());
         else if (option == "-h")
-            options->height = QByteArray(value).toInt();
+            options->size.setHeight(QByteArray(value).toInt());
         else if (option == "-i")
             options->in = QFile::decodeName(value);
         else if (option == "-o")
@@ -54,10 +53,10 @@ bool parse(int argc, char **argv, Options *options)
     return !options->in.isEmpty() && !options->out.isEmpty();
 }
 
-bool isPossible(int width, int height)
+bool isPossible(const QSize &size)
 {
-    return width > 0 && height > 0 && width <= largestExtent && height <= largestExtent
-           && qint64(width) * height <= largestPicture;
+    return !size.isEmpty() && size == size.boundedTo({largestExtent, largestExtent})
+           && qint64(size.width()) * size.height() <= largestPicture;
 }
 
 QByteArray formatOf(const QString &path)
@@ -69,30 +68,22 @@ QByteArray formatOf(const QString &path)
 bool render(const Options &options, QByteArray *encoded, QString *error)
 {
     const FileContent file = readRegularFile(options.in);
-    if (file.state != FileState::Regular) {
-        *error = file.state == FileState::Missing ? QStringLiteral("No such file") : file.error;
-        return false;
-    }
-    const QImage picture = drawSvg(file.content, {options.width, options.height}, Qt::white);
-    if (picture.isNull()) {
-        *error = QStringLiteral("Not an SVG image");
-        return false;
-    }
+    if (file.state != FileState::Regular)
+        return failed(error, file.state == FileState::Missing ? QStringLiteral("No such file") : file.error);
+    const QImage picture = drawSvg(file.content, options.size, Qt::white);
+    if (picture.isNull())
+        return failed(error, QStringLiteral("Not an SVG image"));
     QBuffer buffer(encoded);
     QImageWriter writer(&buffer, formatOf(options.out));
     if (writer.format().startsWith("jp"))
         writer.setQuality(jpegQuality);
-    if (!buffer.open(QIODevice::WriteOnly) || !writer.write(picture)) {
-        *error = writer.errorString();
-        return false;
-    }
-    return true;
+    return writer.write(picture) || failed(error, writer.errorString());
 }
 
-ExitStatus fail(const QString &text)
+ExitStatus fail(const QString &text, ExitStatus status = Failure)
 {
     printDiagnosticAs("qaz-svg2png", text);
-    return Failure;
+    return status;
 }
 
 } // namespace
@@ -108,10 +99,8 @@ int main(int argc, char **argv)
         std::fputs(usage, stderr);
         return WrongUsage;
     }
-    if (!isPossible(options.width, options.height)) {
-        fail(QStringLiteral("The size must be 1x1 or more, and at most 256 megapixels"));
-        return WrongUsage;
-    }
+    if (!isPossible(options.size))
+        return fail(QStringLiteral("The size must be 1x1 or more, and at most 256 megapixels"), WrongUsage);
 
     // Text needs the font database of an application object, which needs no X display like this. Qt must not
     // see the arguments: it would take some for its own.

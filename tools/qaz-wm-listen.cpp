@@ -4,27 +4,21 @@
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
-#include <QElapsedTimer>
+#include <QRegularExpression>
+#include <QSocketNotifier>
+#include <QTimer>
 
 #include <cstdio>
+#include <memory>
 
 #include <X11/Xlib.h>
-#include <poll.h>
 
 namespace {
 
 struct Options {
-    int count = 0;      // 0: no end
-    int timeoutMs = -1; // below 0: no end
+    int count;     // none: no end
+    int timeoutMs; // none: no end
 };
-
-/// A number from the command line; -1 when \a text is none.
-int positiveNumber(const QString &text)
-{
-    bool isNumber = false;
-    const int number = text.toInt(&isNumber);
-    return isNumber && number > 0 ? number : -1;
-}
 
 bool parseOptions(const QCoreApplication &application, Options *options)
 {
@@ -40,11 +34,9 @@ bool parseOptions(const QCoreApplication &application, Options *options)
         QStringLiteral("MS"));
     parser.addOptions({count, timeout});
     parser.process(application);
-    if (parser.isSet(count))
-        options->count = positiveNumber(parser.value(count));
-    if (parser.isSet(timeout))
-        options->timeoutMs = positiveNumber(parser.value(timeout));
-    const bool isValid = options->count >= 0 && (!parser.isSet(timeout) || options->timeoutMs > 0)
+    *options = {parser.value(count).toInt(), parser.value(timeout).toInt()};
+    const bool isValid = parser.isSet(count) == (options->count > 0)
+                         && parser.isSet(timeout) == (options->timeoutMs > 0)
                          && parser.positionalArguments().isEmpty();
     if (!isValid)
         std::fputs(
@@ -56,68 +48,51 @@ bool parseOptions(const QCoreApplication &application, Options *options)
 /// \a command without what would drive a terminal: control characters other than the newline read \xNN.
 QByteArray printable(const QByteArray &command)
 {
-    QByteArray text;
-    int following = 0; // bytes that a UTF-8 character still has
-    for (int i = 0; i < command.size(); ++i) {
-        const auto byte = uchar(command.at(i));
-        const bool isSecond = following > 0 && (byte & 0xC0) == 0x80;
-        const bool isC1 = byte == 0xC2 && i + 1 < command.size() && (uchar(command.at(i + 1)) & 0xE0) == 0x80;
-        const bool isControl = (byte < 0x20 && byte != '\n') || byte == 0x7F || isC1
-                               || ((byte & 0xE0) == 0x80 && !isSecond);
-        following = isSecond              ? following - 1
-                    : isC1 || byte < 0xC2 ? 0
-                    : byte < 0xE0         ? 1
-                    : byte < 0xF0         ? 2
-                                          : 3;
-        text += isControl ? "\\x" + QByteArray::number(byte, 16).rightJustified(2, '0').toUpper()
-                          : command.mid(i, 1);
+    // On bytes: ASCII's; the first byte of one of UTF-8's; a following byte in their range that follows nothing.
+    static const QRegularExpression control(
+        QStringLiteral("[\\x00-\\x09\\x0B-\\x1F\\x7F]|\\xC2(?=[\\x80-\\x9F])|(?<![\\xC3-\\xFF])"
+                       "(?<![\\xE0-\\xFF][\\x80-\\xBF])(?<![\\xF0-\\xFF][\\x80-\\xBF]{2})[\\x80-\\x9F]"));
+    QString text = QString::fromLatin1(command);
+    for (auto match = control.match(text); match.hasMatch(); match = control.match(text)) {
+        const QByteArray code = match.captured().toLatin1().toHex().toUpper();
+        text.replace(match.capturedStart(), match.capturedLength(),
+                     QLatin1String("\\x") + QLatin1String(code));
     }
-    return text;
+    return text.toLatin1();
 }
 
 void print(QByteArray command)
 {
     if (command.endsWith('\n'))
         command.chop(1);
-    command = printable(command);
-    std::fwrite(command.constData(), 1, std::size_t(command.size()), stdout);
-    std::fputc('\n', stdout);
+    std::puts(printable(command).constData());
     std::fflush(stdout);
-}
-
-/// Waits until the server has sent something. False when the time is up.
-bool waitForEvent(Display *display, const QElapsedTimer &timer, int timeoutMs)
-{
-    pollfd connection = {ConnectionNumber(display), POLLIN, 0};
-    while (XPending(display) == 0) {
-        const qint64 left = timeoutMs < 0 ? -1 : timeoutMs - timer.elapsed();
-        if (timeoutMs >= 0 && left <= 0)
-            return false;
-        poll(&connection, 1, int(left));
-    }
-    return true;
 }
 
 int listen(Display *display, const Options &options)
 {
     XSelectInput(display, DefaultRootWindow(display), SubstructureNotifyMask);
-    XSync(display, False);
-
     CommandReceiver receiver(display);
-    QElapsedTimer timer;
-    timer.start();
-    for (int printed = 0; options.count == 0 || printed < options.count;) {
-        if (!waitForEvent(display, timer, options.timeoutMs))
-            return options.count == 0 ? 0 : 1;
-        XEvent event;
-        XNextEvent(display, &event);
-        const QByteArray command = receiver.take(event);
-        if (command.isNull())
-            continue;
-        print(command);
-        ++printed;
-    }
-    return 0;
+    int printed = 0;
+    const auto readEvents = [&] {
+        while (XPending(display) > 0) {
+            XEvent event;
+            XNextEvent(display, &event);
+            const QByteArray command = receiver.take(event);
+            if (command.isNull())
+                continue;
+            print(command);
+            if (++printed == options.count)
+                return QCoreApplication::quit();
+        }
+    };
+    QSocketNotifier notifier(ConnectionNumber(display), QSocketNotifier::Read);
+    QObject::connect(&notifier, &QSocketNotifier::activated, readEvents);
+    QTimer::singleShot(0, &notifier, readEvents); // also sends what is to be listened to
+    if (options.timeoutMs)
+        QTimer::singleShot(options.timeoutMs, &notifier,
+                           [&options] { QCoreApplication::exit(options.count ? 1 : 0); });
+    return QCoreApplication::exec();
 }
 
 } // namespace
@@ -125,15 +100,13 @@ int listen(Display *display, const Options &options)
 int main(int argc, char *argv[])
 {
     const QCoreApplication application(argc, argv);
-    Options options;
+    Options options = {};
     if (!parseOptions(application, &options))
         return 2;
-    Display *display = XOpenDisplay(nullptr);
+    const std::unique_ptr<Display, int (*)(Display *)> display(XOpenDisplay(nullptr), XCloseDisplay);
     if (!display) {
         std::fprintf(stderr, "qaz-wm-listen: Can't open display '%s'\n", XDisplayName(nullptr));
         return 2;
     }
-    const int status = listen(display, options);
-    XCloseDisplay(display);
-    return status;
+    return listen(display.get(), options);
 }

@@ -74,21 +74,6 @@ private slots:
             QVERIFY(receiver.take(3, bytes == 0, full).isNull());
         QVERIFY2(finish(3).isNull(), "too long a command is dropped");
     }
-
-    void theListenerPrintsWhatDrivesNoTerminal()
-    {
-        QProcess listener;
-        listener.start(QStringLiteral(QAZ_BINARY_DIR "/bin/qaz-wm-listen"),
-                       {"--count"_s, "1"_s, "--timeout"_s, "60000"_s});
-        XWindowAttributes root = {};
-        QTRY_VERIFY(XGetWindowAttributes(QX11Info::display(), QX11Info::appRootWindow(), &root)
-                    && root.all_event_masks & SubstructureNotifyMask);
-        SendCommandToWM(QX11Info::display(), "a\x1b]0;x\a\tb\n\x7f\xc2\x9b\x9b"
-                                             "c \xc3\xb6\xe2\x82\x9b\n");
-        QVERIFY(listener.waitForFinished());
-        QCOMPARE(listener.readAllStandardOutput(),
-                 "a\\x1B]0;x\\x07\\x09b\n\\x7F\\xC2\\x9B\\x9Bc \xc3\xb6\xe2\x82\x9b\n");
-    }
 };
 
 QTEST_MAIN(TestSendCommandToWm)

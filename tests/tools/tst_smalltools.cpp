@@ -1,0 +1,160 @@
+#include "platform/sendcommandtowm.h"
+#include "tests/support/temporaryhome.h"
+#include "tests/support/testing.h"
+#include "tests/tools/toolrun.h"
+
+#include <X11/Xlib.h>
+
+namespace {
+
+const QByteArray svg
+    = "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 4 2'><path fill='#f00' d='M0 0h2v2h-2z'/></svg>";
+
+const QString svg2png = "qaz-svg2png"_s, listen = "qaz-wm-listen"_s, renderIcons = "render-icons"_s;
+
+} // namespace
+
+/// qaz-svg2png, qaz-wm-listen and render-icons.
+class TestSmallTools : public QObject
+{
+    Q_OBJECT
+private slots:
+    void imageIsRendered()
+    {
+        const TemporaryHome home;
+        const ScopedEnvironment display("DISPLAY", {});
+        const QStringList rows[] = {{"a.svg"_s, "b.jpg"_s, "jpeg"_s},
+                                    {"a"_s, "b"_s, "png"_s},
+                                    {"-h $(touch x) \"'\n.svg"_s, "--help;.png"_s, "png"_s}};
+        for (const QStringList &row : rows) {
+            home.write(row[0], svg);
+            const ToolRun result(svg2png, {"-w"_s, "40"_s, "-h"_s, "30"_s, "-i"_s, row[0], "-o"_s, row[1]});
+            QVERIFY2(result.status == 0, result.errors.constData());
+            QCOMPARE(QString::fromLatin1(QImageReader::imageFormat(home.path(row[1]))), row[2]);
+            const QImage image(home.path(row[1]));
+            QCOMPARE(image.size(), QSize(40, 30));
+            QVERIFY(qRed(image.pixel(5, 15)) > 250 && qGreen(image.pixel(5, 15)) < 5);
+            QCOMPARE(image.pixelColor(35, 15), QColor(Qt::white));
+        }
+        QVERIFY(QImage(home.path("b"_s)).save(home.path("c.jpg"_s), nullptr, 90));
+        QCOMPARE(home.read("b.jpg"_s), home.read("c.jpg"_s));
+        QCOMPARE(run("-w 32767 -h 1 -i a.svg -o b", svg2png).status, 0);
+    }
+
+    void textIsRenderedWithoutADisplay()
+    {
+        const TemporaryHome home;
+        const ScopedEnvironment display("DISPLAY", {});
+        const auto inkOf = [&home](const QByteArray &text) {
+            home.write("a.svg"_s, "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 100 100'>"
+                                  "<text y='80' font-size='90'>"
+                                      + text + "</text></svg>");
+            run("-w 100 -h 100 -i a.svg -o a.png", svg2png);
+            const QImage image = QImage(home.path("a.png"_s)).convertToFormat(QImage::Format_Grayscale8);
+            return std::count_if(image.constBits(), image.constBits() + image.sizeInBytes(),
+                                 [](uchar gray) { return gray < 128; });
+        };
+        // Boxes in place of letters would all be the same.
+        const auto dot = inkOf(".");
+        QVERIFY(dot > 20);
+        QVERIFY(inkOf("W") > 3 * dot);
+    }
+
+    void iconsAreDrawn()
+    {
+        const TemporaryHome home;
+        const ScopedEnvironment display("DISPLAY", {});
+        home.write("a.b.svg"_s, svg);
+        QCOMPARE(run("4 new/x a.b.svg a.b.svg", renderIcons).status, 0);
+        QImage expected(4, 4, QImage::Format_ARGB32);
+        expected.fill(Qt::transparent);
+        for (int y = 0; y < 4; ++y)
+            expected.setPixel(0, y, 0xffff0000), expected.setPixel(1, y, 0xffff0000);
+        QCOMPARE(QImage(home.path("new/x/a.b.png"_s)).convertToFormat(expected.format()), expected);
+        QCOMPARE(home.names("new/x"_s), "a.b.png"_s);
+    }
+
+    void whatIsWrongIsToldAndChangesNothing()
+    {
+        const TemporaryHome home;
+        home.write("a.svg"_s, svg);
+        home.write("cut.svg"_s, svg.chopped(10));
+        home.write("old.png"_s, "old");
+        QVERIFY(home.makeDirectory("directory"_s));
+        home.makeFifo("fifo"_s);
+        const QString before = home.fingerprint();
+        const QByteArray usage
+            = "Usage: qaz-svg2png -w WIDTH -h HEIGHT -i IN -o OUT\n"
+              "Renders the SVG image IN over all of a white picture of WIDTH x HEIGHT pixels and writes\n"
+              "it to OUT, in the format of its ending (PNG without a known one).\n";
+        const QByteArray size = "qaz-svg2png: The size must be 1x1 or more, and at most 256 megapixels\n";
+        const QByteArray numbers
+            = "qaz-wm-listen: --count and --timeout take a number above 0; there are no other arguments\n";
+        const QByteArray icons = "usage: render-icons SIZE DIRECTORY SVG...\n";
+        const std::tuple<QString, const char *, int, QByteArray> rows[] = {
+            {svg2png, "-w 1 -h 1 -i missing -o old.png", 1,
+             "qaz-svg2png: Can't render missing: No such file\n"},
+            {svg2png, "-w 1 -h 1 -i cut.svg -o old.png", 1,
+             "qaz-svg2png: Can't render cut.svg: Not an SVG image\n"},
+            {svg2png, "-w 1 -h 1 -i fifo -o old.png", 1,
+             "qaz-svg2png: Can't render fifo: Not a regular file\n"},
+            {svg2png, "-w 1 -h 1 -i a.svg -o directory", 1,
+             "qaz-svg2png: Can't write directory: Is a directory\n"},
+            {svg2png, "-w 1 -h 1 -i a.svg -o a.svg/b", 1,
+             "qaz-svg2png: Can't write a.svg/b: Can't create directory a.svg\n"},
+            {svg2png, "-w 1 -h 1 -i a.svg -o", 2, usage},
+            {svg2png, "-w 1 -h 1 -x 1 -i a.svg -o old.png", 2, usage},
+            {svg2png, "-w 1 -h 1 -i a.svg", 2, usage},
+            {svg2png, "-w 1 -h 1 -o old.png", 2, usage},
+            {svg2png, "-x", 2, usage},
+            {svg2png, "--help", 0, usage},
+            {svg2png, "-w 0 -h 1 -i a.svg -o old.png", 2, size},
+            {svg2png, "-w 1 -i a.svg -o old.png", 2, size},
+            {svg2png, "-w 32768 -h 1 -i a.svg -o old.png", 2, size},
+            {svg2png, "-w 1 -h 32768 -i a.svg -o old.png", 2, size},
+            {svg2png, "-w 32767 -h 32767 -i a.svg -o old.png", 2, size},
+            {listen, "--count 0", 2, numbers},
+            {listen, "--timeout x", 2, numbers},
+            {listen, "a", 2, numbers},
+            {listen, "--timeout 1", 0, ""},
+            {listen, "--count 1 --timeout 1", 1, ""},
+            {renderIcons, "0 directory a.svg", 2, icons},
+            {renderIcons, "1 a.svg/b a.svg", 2, icons},
+            {renderIcons, "1 directory cut.svg", 1,
+             "render-icons: can't draw cut.svg as directory/cut.png\n"},
+            {renderIcons, "1 /proc a.svg", 1, "render-icons: can't draw a.svg as /proc/a.png\n"}};
+        for (const auto &[tool, arguments, status, text] : rows) {
+            const ToolRun result = run(arguments, tool);
+            QVERIFY2(result.status == status, arguments);
+            QCOMPARE(status == 0 ? result.out : result.errors.right(text.size()), text);
+            QCOMPARE(home.fingerprint(), before);
+        }
+        QVERIFY(run("--help", listen)
+                    .out.endsWith("  --count <N>     End after N commands.\n"
+                                  "  --timeout <MS>  End with status 1 when they did not come within MS\n"
+                                  "                  milliseconds.\n"));
+        const ScopedEnvironment display("DISPLAY", {});
+        QCOMPARE(run("--count 1", listen).errors, QByteArray("qaz-wm-listen: Can't open display ''\n"));
+    }
+
+    void theListenerPrintsWhatDrivesNoTerminal()
+    {
+        const std::unique_ptr<Display, int (*)(Display *)> display(XOpenDisplay(nullptr), XCloseDisplay);
+        QProcess listener;
+        listener.start(QStringLiteral(QAZ_BINARY_DIR "/bin/") + listen, {"--count"_s, "2"_s});
+        XWindowAttributes root = {};
+        QTRY_VERIFY(XGetWindowAttributes(display.get(), DefaultRootWindow(display.get()), &root)
+                    && root.all_event_masks & SubstructureNotifyMask);
+        for (const char *command : {"a\x1b]0;x\a\tb\n\x7f\xc2\x9b\x9b"
+                                    "c \xc3\xb6\xe2\x82\x9b\x9b\xf0\x9f\x82\x80\x80\n\n",
+                                    "2", "3"})
+            SendCommandToWM(display.get(), command);
+        QVERIFY(listener.waitForFinished());
+        QCOMPARE(listener.readAllStandardOutput(), "a\\x1B]0;x\\x07\\x09b\n\\x7F\\xC2\\x9B\\x9Bc "
+                                                   "\xc3\xb6\xe2\x82\x9b\\x9B\xf0\x9f\x82\x80\\x80\n\n2\n");
+        QCOMPARE(listener.exitCode(), 0);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestSmallTools)
+#include "tst_smalltools.moc"
