@@ -18,7 +18,7 @@
 #include <QPushButton>
 #include <QScrollArea>
 #include <QShortcut>
-#include <QTemporaryFile>
+#include <QTemporaryDir>
 #include <QVBoxLayout>
 #include <QX11Info>
 
@@ -46,14 +46,13 @@ ConfigDialog::ConfigDialog(const QString &fileName, QWidget *parent, Qt::WindowF
     restoreSize();
 
     const QString title = tr("Qaz Theme Editor");
-    setWindowTitle(title);
     setWindowIcon(contentsWidget->item(rowOf(&typeOf<ThemePage>))->icon());
     setWindowIconText(title);
     QString name = QFileInfo(themeFile).fileName();
     name.replace(QLatin1String("[*]"),
                  QLatin1String("[*][*]")); // the place mark of the modified sign, as a name
-    if (fileOpen() && !name.isEmpty())
-        setWindowTitle(title + QLatin1String(" - ") + name + QLatin1String("[*]"));
+    setWindowTitle(name.isEmpty() ? title : title + QLatin1String(" - ") + name + QLatin1String("[*]"));
+    fileOpen();
     connectPages();
     connect(m_watcher, &ThemeFileWatcher::changedByOthers, this, &ConfigDialog::followThemeFile);
 }
@@ -101,19 +100,15 @@ void ConfigDialog::connectPages()
 
 void ConfigDialog::changePage(QListWidgetItem *current, QListWidgetItem *previous)
 {
-    const QListWidgetItem *item = current ? current : previous;
-    if (!item)
-        return;
-    const int row = contentsWidget->row(item);
+    const int row = contentsWidget->row(current ? current : previous);
     if (qazInTabletMode()) {
         while (!slideFinished)
             QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents
                                             | QEventLoop::WaitForMoreEvents);
         slideFinished = false;
-        const QRect place = pagesWidget->geometry();
-        const bool isWide = place.right() - place.left() > place.bottom() - place.top();
-        pagesWidget->slideInIdx(row, isWide ? SlidingStackedWidget::BottomToTop
-                                            : SlidingStackedWidget::LeftToRight);
+        pagesWidget->slideInIdx(row, pagesWidget->width() > pagesWidget->height()
+                                         ? SlidingStackedWidget::BottomToTop
+                                         : SlidingStackedWidget::LeftToRight);
     } else {
         pagesWidget->setCurrentIndex(row);
     }
@@ -139,12 +134,12 @@ void ConfigDialog::followThemeFile()
         return m_watcher->lookAgain();
     m_watcher->accept();
     // A page may set values while it loads. Those must not replace what the other program has just written.
-    QTemporaryFile copy;
+    const QTemporaryDir directory;
+    const QString copy = directory.filePath(QFileInfo(themeFile).fileName());
     const FileContent file = readRegularFile(themeFile);
-    if (file.state == FileState::Unreadable || !copy.open() || copy.write(file.content) != file.content.size()
-        || !copy.flush())
+    if (QString reason; file.state == FileState::Unreadable || !replaceFile(copy, file.content, &reason))
         return;
-    QazSettings store(copy.fileName());
+    QazSettings store(copy);
     store.sync(true);
     for (const PageEntry &entry : pageEntries) {
         QWidget *page = pagesWidget->widget(rowOf(entry.type));
@@ -183,11 +178,12 @@ int ConfigDialog::requestToSave(bool canCancel)
 {
     if (!m_buttonBox->button(QDialogButtonBox::Ok)->isEnabled())
         return QMessageBox::No;
-    const int answer = QMessageBox::question(this, tr("Save ?"), tr("Save changes?"), int(QMessageBox::Yes),
-                                             int(QMessageBox::No), canCancel ? int(QMessageBox::Cancel) : 0);
+    const int answer = QMessageBox::question(this, tr("Save ?"), tr("Save changes?"),
+                                             QMessageBox::Yes | QMessageBox::No
+                                                 | (canCancel ? QMessageBox::Cancel : QMessageBox::NoButton));
     if (answer == QMessageBox::Yes)
         fileSave();
-    return answer == QMessageBox::Yes || answer == QMessageBox::Cancel ? answer : int(QMessageBox::No);
+    return answer;
 }
 
 void ConfigDialog::helpSlot()

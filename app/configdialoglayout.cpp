@@ -21,9 +21,6 @@
 
 namespace {
 
-/// Width of the widest label of the page list, with a margin.
-int listItemWidth = 0;
-
 constexpr int narrowestLabel = 64;
 constexpr int iconExtent = 64;
 constexpr int defaultWidth = 800;
@@ -64,7 +61,7 @@ void ConfigDialog::fillContents()
     QFont font = contentsWidget->font();
     font.setWeight(QFont::Bold);
     contentsWidget->setFont(font);
-    listItemWidth = narrowestLabel;
+    int listItemWidth = narrowestLabel;
     const QFontMetrics metrics(font);
     for (const PageEntry &entry : pageEntries) {
         auto *item = new QListWidgetItem(iconNamed(QLatin1String(entry.iconName)), tr(entry.text),
@@ -179,7 +176,8 @@ void ConfigDialog::guardControls()
 
 bool ConfigDialog::eventFilter(QObject *watched, QEvent *event)
 {
-    const int key = event->type() == QEvent::KeyPress ? static_cast<QKeyEvent *>(event)->key() : 0;
+    const int key = event->type() == QEvent::KeyPress ? static_cast<QKeyEvent *>(event)->key()
+                                                      : Qt::Key_unknown;
     // On Return the box would announce its value as changed, even if it is as before.
     auto *spinBox = qobject_cast<QAbstractSpinBox *>(watched);
     if (spinBox && (key == Qt::Key_Return || key == Qt::Key_Enter))

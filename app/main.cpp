@@ -9,7 +9,6 @@
 #include <QOpenGLContext>
 
 #include <cstdio>
-#include <cstring>
 #include <utility>
 
 namespace {
@@ -56,17 +55,13 @@ MyApplication *createApplication(int &argc, char **argv)
     return new MyApplication(id, argc, argv);
 }
 
-bool asksForHelp(int argc, char **argv)
-{
-    return argc > 1 && (std::strcmp(argv[1], "--help") == 0 || std::strcmp(argv[1], "-h") == 0);
-}
-
 /// Everything after the check for a running instance; returns the exit status.
 int runEditor(int argc, char **argv)
 {
     registerResources();
     qazInit(version, title);
-    if (asksForHelp(argc, argv)) {
+    if (const QString first = MyApplication::arguments().value(1);
+        first == QLatin1String("--help") || first == QLatin1String("-h")) {
         // Only a catalogue has the whole line: the call's comment is its source.
         std::puts(
             qPrintable(QObject::tr("Qaz", "Usage: qaz-admin-theme themefile - open and edit theme file\n")));

@@ -69,7 +69,7 @@ void ConfigDialog::restoreSlot()
         this, tr("Restore"),
         tr("Are you sure?\nIf yes then select restore type and press Yes\n\nRestore type:"),
         {onlyTheme, tr("All Qaz settings")}, 0, false, &accepted);
-    if (!accepted || choice.isEmpty())
+    if (!accepted)
         return;
     removeDesktopWallpapers();
     const QString home = directoryPath(DirectoryKind::Home);

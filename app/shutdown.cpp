@@ -3,6 +3,7 @@
 #include "app/configdialog.h"
 #include "app/myapplication.h"
 
+#include <QDeadlineTimer>
 #include <QFile>
 #include <QSocketNotifier>
 #include <QThread>
@@ -12,7 +13,7 @@
 #include <cstdlib>
 
 #include <X11/Xlib.h>
-#include <fcntl.h>
+#include <sys/eventfd.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -21,7 +22,7 @@ ConfigDialog *dlg = nullptr;
 
 namespace {
 
-int terminationPipe[2] = {-1, -1};
+int terminationEvent = -1;
 
 /// Sends \a signal to the programs that the process \a parent started, and to theirs.
 void signalChildren(qint64 parent, int signal)
@@ -41,10 +42,10 @@ void signalChildren(qint64 parent, int signal)
 /// killed.
 void endChildren()
 {
-    constexpr int patienceMs = 300, pauseMs = 10;
+    const QDeadlineTimer patience(300);
     signalChildren(::getpid(), SIGTERM);
-    for (int waited = 0; waited < patienceMs && ::waitpid(-1, nullptr, WNOHANG) >= 0; waited += pauseMs)
-        QThread::msleep(pauseMs);
+    while (!patience.hasExpired() && ::waitpid(-1, nullptr, WNOHANG) >= 0)
+        QThread::msleep(10);
     signalChildren(::getpid(), SIGKILL);
 }
 
@@ -66,10 +67,9 @@ void handleTermination()
 {
     // Quitting is not safe in a signal handler: the handler wakes the event loop, which then quits, also
     // the nested one of a modal dialog.
-    if (::pipe2(terminationPipe, O_CLOEXEC | O_NONBLOCK) == 0) {
-        auto *notifier = new QSocketNotifier(terminationPipe[0], QSocketNotifier::Read, myApp);
-        QObject::connect(notifier, &QSocketNotifier::activated, myApp, &QCoreApplication::quit);
-    }
+    terminationEvent = ::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK);
+    auto *notifier = new QSocketNotifier(terminationEvent, QSocketNotifier::Read, myApp);
+    QObject::connect(notifier, &QSocketNotifier::activated, myApp, &QCoreApplication::quit);
     std::signal(SIGTERM, TrapSignal);
 }
 
@@ -82,12 +82,9 @@ void handleLostDisplay()
 
 void TrapSignal(int sig)
 {
-    if (sig != SIGTERM || !myApp)
-        return;
     const int before = errno;
-    const char byte = 0;
-    // A full pipe has woken the loop already.
-    [[maybe_unused]] const ssize_t written = ::write(terminationPipe[1], &byte, 1);
+    if (sig == SIGTERM)
+        ::eventfd_write(terminationEvent, 1);
     errno = before;
 }
 

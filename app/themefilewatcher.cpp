@@ -48,11 +48,7 @@ void ThemeFileWatcher::lookAgain()
 void ThemeFileWatcher::watch()
 {
     const QString target = linkTarget(m_path);
-    for (const QString &path : {target, QFileInfo(target).path(), QFileInfo(m_path).path()}) {
-        if (QFileInfo::exists(path) && !m_watcher.files().contains(path)
-            && !m_watcher.directories().contains(path))
-            m_watcher.addPath(path);
-    }
+    m_watcher.addPaths({target, QFileInfo(target).path(), QFileInfo(m_path).path()});
 }
 
 void ThemeFileWatcher::look()

@@ -27,6 +27,28 @@ class TestConfigDialog : public DialogTest
     Q_OBJECT
 
 private slots:
+    void fontsDecideTheDefaultSize()
+    {
+        const auto restore = qScopeGuard([font = qApp->font()] { QApplication::setFont(font); });
+        for (const int points : {3, 9, 14}) {
+            QApplication::setFont(QFont("Sans"_s, points));
+            m_dialog.reset();
+            QFile::remove(m_home->path(ownSettings));
+            open();
+            QVERIFY(m_list->font().bold());
+            const QFontMetrics metrics = m_list->fontMetrics();
+            int widest = 64;
+            for (int row = 0; row < m_list->count(); ++row)
+                widest = qMax(widest, metrics.horizontalAdvance(m_list->item(row)->text()));
+            QCOMPARE(m_list->gridSize(), QSize(widest + widest / 4, metrics.height() + 74));
+            QCOMPARE(m_list->width(), m_list->gridSize().width() + 20);
+            const auto *area = find<QScrollArea>("pageArea");
+            onEachPage([area](const QWidget *) {
+                QTRY_COMPARE(area->verticalScrollBar()->maximum() + area->horizontalScrollBar()->maximum(), 0);
+            });
+        }
+    }
+
     void sizesAreKept()
     {
         const QSize room = qApp->primaryScreen()->availableSize() - QSize(10, 40);
@@ -58,7 +80,7 @@ private slots:
         const std::pair<const char *, int> steps[] = {
             {"Alt+4", 3}, {"Ctrl+PgDown", 4}, {"Ctrl+PgDown", 5}, {"Ctrl+PgDown", 5},
             {"Alt+1", 0}, {"Ctrl+PgUp", 0},   {"Alt+6", 5},       {"Ctrl+PgUp", 4},
-            {"Alt+2", 1}, {"Alt+3", 2},       {"Alt+5", 4}};
+            {"Alt+2", 1}, {"Alt+3", 2},       {"Alt+5", 4},       {"Alt+7", 4}};
         for (const auto &[key, row] : steps) {
             // From whatever control has the focus there.
             m_stack->currentWidget()->setFocus();
@@ -90,6 +112,7 @@ private slots:
             }
         });
         showPage("Screensaver");
+        delay()->setKeyboardTracking(false);
         delay()->selectAll();
         QTest::keyClicks(delay(), "8"_s);
         QTest::keyClick(delay(), Qt::Key_Return);
@@ -116,18 +139,45 @@ private slots:
         m_home->write("new"_s, "TaskbarShowDelay=300\n");
         QCOMPARE(std::rename(qPrintable(m_home->path("new"_s)), qPrintable(m_home->path("t"_s))), 0);
         QTRY_COMPARE(taskbarDelay->value(), 300);
-        QVERIFY(QFile::remove(m_home->path("t"_s)));
+        m_home->write("t"_s, "TaskbarShowDelay=350\n");
+        QTRY_COMPARE(taskbarDelay->value(), 350);
+        QSignalSpy others(find<ThemeFileWatcher>(), &ThemeFileWatcher::changedByOthers);
+        QVERIFY(QFile::remove(m_home->path("t"_s)) && m_home->makeDirectory("t"_s)); // which holds no values
+        QVERIFY(others.wait());
+        QCOMPARE(taskbarDelay->value(), 350);
+        QVERIFY(QDir().rmdir(m_home->path("t"_s)));
         QTRY_COMPARE(taskbarDelay->value(), 500);
         QCOMPARE(listener.take(), QStringList());
 
         delay()->setValue(7);
-        QSignalSpy others(find<ThemeFileWatcher>(), &ThemeFileWatcher::changedByOthers);
         m_home->write("t"_s, "TaskbarShowDelay=400\nOther=1\n");
         QVERIFY(others.wait());
         QCOMPARE(taskbarDelay->value(), 500);
         button(QDialogButtonBox::Apply)->click();
         QVERIFY(m_home->read("t"_s).contains("ScreenSaverDelay=420\n"));
         QVERIFY(m_home->read("t"_s).startsWith("TaskbarShowDelay=500\nOther=1\n"));
+    }
+
+    void othersChangesAreToldOnce()
+    {
+        const QString path = m_home->write("t"_s, "before");
+        ThemeFileWatcher watcher(path), witness(path);
+        QSignalSpy told(&watcher, &ThemeFileWatcher::changedByOthers);
+        QSignalSpy seen(&witness, &ThemeFileWatcher::changedByOthers);
+        const auto writeAs = [&](bool isOwn) {
+            const auto write = [this] { m_home->write("t"_s, m_home->read("t"_s) + '.'); };
+            isOwn ? watcher.runOwnChange(write) : write();
+        };
+        const std::pair<QVector<bool>, int> rows[] = {
+            {{true}, 0}, {{false}, 1}, {{false, true}, 2}, {{true}, 3}};
+        for (const auto &[areOwn, count] : rows) {
+            std::for_each(areOwn.cbegin(), areOwn.cend(), writeAs);
+            for (int i = 0; i < 3; ++i) { // longer than the other one takes
+                QVERIFY(seen.wait());
+                witness.lookAgain();
+            }
+            QCOMPARE(told.count(), count);
+        }
     }
 
     void theWheelChangesNothingUnfocused()
@@ -183,6 +233,7 @@ private slots:
             QVERIFY(m_dialog->rect().contains(QRect(each->mapTo(m_dialog.get(), QPoint()), each->size())));
         const auto *area = find<QScrollArea>("pageArea");
         onEachPage([area](const QWidget *page) {
+            QCOMPARE(area->widget()->minimumSizeHint(), page->minimumSizeHint());
             QTRY_VERIFY(area->widget()->height() >= page->minimumSizeHint().height());
             QCOMPARE(area->horizontalScrollBar()->maximum(), 0);
         });
