@@ -89,12 +89,9 @@ void ConfigDialog::createButtons()
     m_buttonBox->setObjectName(QStringLiteral("buttonBox"));
     m_buttonBox->setStandardButtons(QDialogButtonBox::Ok | QDialogButtonBox::Close | QDialogButtonBox::Help
                                     | QDialogButtonBox::Apply);
-    QPushButton *ok = m_buttonBox->button(QDialogButtonBox::Ok);
-    ok->setDefault(true);
-    ok->setEnabled(false);
     QPushButton *apply = m_buttonBox->button(QDialogButtonBox::Apply);
     apply->setText(tr("Apply")); // which Qt's catalogues don't call as desktops do
-    apply->setEnabled(false);
+    setEdited(false);
     m_buttonBox->button(QDialogButtonBox::Help)->setShortcut(QKeySequence(QKeySequence::HelpContents));
     QPushButton *restore = m_buttonBox->addButton(tr("Restore..."), QDialogButtonBox::ResetRole);
     restore->setObjectName(QStringLiteral("restoreButton"));

@@ -1,22 +1,12 @@
 #include "base/keyfiletext.h"
 
 #include <algorithm>
-#include <cstring>
-#include <string_view>
 
 namespace {
 
-constexpr char signature[] = "\xEF\xBB\xBF"; // of UTF-8
-
-bool isBlank(char c)
-{
-    return c == ' ' || c == '\t';
-}
-
-bool isLineEnd(char c)
-{
-    return c == '\n' || c == '\r';
-}
+constexpr std::string_view signature("\xEF\xBB\xBF"); // of UTF-8
+constexpr std::string_view blanks(" \t");
+constexpr std::string_view lineEnds("\r\n");
 
 } // namespace
 
@@ -24,81 +14,87 @@ KeyFileText::KeyFileText(const QByteArray &content, const KeyFileFormat &format)
     : m_content(content)
     , m_format(format)
 {
-    const int start = content.startsWith(signature) ? int(std::strlen(signature)) : 0;
+    const int start = content.startsWith(signature.data()) ? int(signature.size()) : 0;
     m_groups.push_back({{start, start}, {start, start}});
-    for (int begin = start; begin < content.size();) {
-        Range text = {begin, begin};
-        while (text.begin < content.size() && isBlank(content[text.begin]))
-            ++text.begin;
-        text.end = lineTextEnd(text.begin);
-        int next = text.end;
-        while (next < content.size() && !isLineEnd(content[next]))
-            ++next;
-        if (next < content.size())
-            next += content[next] == '\r' && next + 1 < content.size() && content[next + 1] == '\n' ? 2 : 1;
-        readLine(text, {begin, next});
-        begin = next;
+    for (int begin = start, next = start; begin < content.size(); begin = next) {
+        const std::string_view line = from(begin);
+        const int textBegin = begin + int(std::min(line.find_first_not_of(blanks), line.size()));
+        const int textEnd = lineTextEnd(textBegin);
+        next = firstOf(lineEnds, textEnd);
+        const std::string_view lineBreak = from(next).substr(0, 2);
+        next += int((lineBreak == "\r\n" ? lineBreak : lineBreak.substr(0, 1)).size());
+        readLine({textBegin, textEnd}, {begin, next});
     }
+}
+
+/// What stands at \a begin and behind it.
+std::string_view KeyFileText::from(int begin) const
+{
+    return std::string_view(m_content.constData(), std::size_t(m_content.size())).substr(std::size_t(begin));
+}
+
+std::string_view KeyFileText::view(const Range &range) const
+{
+    return from(range.begin).substr(0, std::size_t(range.end - range.begin));
+}
+
+/// The place of the first of \a characters at \a begin or behind it; the end without one.
+int KeyFileText::firstOf(std::string_view characters, int begin) const
+{
+    return begin + int(std::min(from(begin).find_first_of(characters), from(begin).size()));
+}
+
+bool KeyFileText::isComment(int begin) const
+{
+    return from(begin).substr(0, 1).find_first_of(m_format.comments) == 0;
 }
 
 /// Where the text that starts at \a begin ends: at a line end or, where the format has such, at a comment.
 int KeyFileText::lineTextEnd(int begin) const
 {
-    const int size = m_content.size();
-    const char *data = m_content.constData();
-    const bool continues = m_format.continuesLines && begin < size
-                           && !std::strchr(m_format.comments, data[begin]);
-    bool inQuotes = false;
-    int i = begin;
-    for (; i < size && (inQuotes || !isLineEnd(data[i])); ++i) {
-        if (!continues)
-            continue;
-        if (data[i] == ';' && !inQuotes)
-            break;
-        if (data[i] == '"')
+    if (!m_format.continuesLines || isComment(begin))
+        return firstOf(lineEnds, begin);
+    for (bool inQuotes = false;;) {
+        begin = firstOf(inQuotes ? "\"\\" : "\"\\;\r\n", begin);
+        const std::string_view sign = from(begin).substr(0, 3);
+        if (sign.substr(0, 1) == "\"") {
             inQuotes = !inQuotes;
-        if (data[i] != '\\' || i + 1 == size)
-            continue;
-        ++i;
-        if (i + 1 < size && isLineEnd(data[i]) && isLineEnd(data[i + 1]) && data[i] != data[i + 1])
-            ++i;
+            ++begin;
+        } else if (sign.substr(0, 1) != "\\") {
+            return begin;
+        } else {
+            const bool isLineBreak = sign == "\\\r\n" || sign == "\\\n\r";
+            begin += int((isLineBreak ? sign : sign.substr(0, 2)).size());
+        }
     }
-    return std::min(i, size);
 }
 
 /// Notes what stands in \a text, a line without the blanks in front, whose whole range is \a line.
-void KeyFileText::readLine(Range text, Range line)
+void KeyFileText::readLine(const Range &text, const Range &line)
 {
     const auto trimmed = [this](int begin, int end) {
-        while (begin < end && isBlank(m_content[begin]))
-            ++begin;
-        while (end > begin && isBlank(m_content[end - 1]))
-            --end;
-        return Range{begin, end};
+        const std::string_view part = view({begin, end});
+        const int first = begin + int(std::min(part.find_first_not_of(blanks), part.size()));
+        return Range{first, std::max(first, begin + int(part.find_last_not_of(blanks) + 1))};
     };
-    const char *data = m_content.constData();
-    if (text.begin == text.end || (data[text.begin] && std::strchr(m_format.comments, data[text.begin])))
+    if (isComment(text.begin))
         return;
-    const auto placeOf = [data, text](char c) {
-        return int(std::find(data + text.begin, data + text.end, c) - data);
-    };
-    if (data[text.begin] == '[') {
-        const int close = placeOf(']');
-        if (close < text.end || m_format.opensUnclosedGroup)
-            m_groups.push_back({trimmed(text.begin + 1, close), line});
-        return;
-    }
-    const int equals = placeOf('=');
-    if (equals > text.begin && equals < text.end)
+    const std::string_view said = view(text);
+    if (said.substr(0, 1) == "[") {
+        const std::size_t close = said.find(']');
+        if (close != said.npos || m_format.opensUnclosedGroup)
+            m_groups.push_back(
+                {trimmed(text.begin + 1, text.begin + int(std::min(close, said.size()))), line});
+    } else if (const std::size_t equals = said.find('='); equals != 0 && equals != said.npos) {
+        const int place = text.begin + int(equals);
         m_entries.push_back(
-            {int(m_groups.size()) - 1, trimmed(text.begin, equals), trimmed(equals + 1, text.end), line});
+            {int(m_groups.size()) - 1, trimmed(text.begin, place), trimmed(place + 1, text.end), line});
+    }
 }
 
 bool KeyFileText::isAt(const Range &range, const QByteArray &text) const
 {
-    return range.end - range.begin == text.size()
-           && std::memcmp(m_content.constData() + range.begin, text.constData(), std::size_t(text.size()))
-                  == 0;
+    return view(range) == std::string_view(text.constData(), std::size_t(text.size()));
 }
 
 bool KeyFileText::isNamed(int group, const QByteArray &name) const
@@ -164,22 +160,21 @@ KeyFileText::Edit KeyFileText::insertion(const QByteArray &group, const QByteArr
         at = m_content.size();
 
     QByteArray text = isNew ? '[' + group + ']' + lineBreak() + lines : lines;
-    if (at > m_groups.front().line.end && !isLineEnd(m_content[at - 1]))
-        text.prepend(lineBreak());
-    else if (at > 0 && m_content[at - 1] == '\r' && lineBreak() == "\r\n")
+    const QByteArray before = part({m_groups.front().line.end, at});
+    if (before.endsWith('\r') && lineBreak() == "\r\n")
         text.prepend('\n'); // a file cut off inside its last line end gets the rest of it
+    else if (!before.isEmpty() && !before.endsWith('\r') && !before.endsWith('\n'))
+        text.prepend(lineBreak());
     return {{at, at}, text};
 }
 
-/// The line break that the file uses.
+/// The line break that the file uses: its first one, of which a file may be cut off inside.
 QByteArray KeyFileText::lineBreak() const
 {
-    const int newline = m_content.indexOf('\n');
-    const int carriageReturn = m_content.indexOf('\r');
-    if (carriageReturn < 0 || (newline >= 0 && carriageReturn != newline - 1))
+    const std::string_view first = from(firstOf(lineEnds, 0)).substr(0, 2);
+    if (first.substr(0, 1) != "\r")
         return QByteArrayLiteral("\n");
-    return newline < 0 && carriageReturn < m_content.size() - 1 ? QByteArrayLiteral("\r")
-                                                                : QByteArrayLiteral("\r\n");
+    return first == "\r" || first == "\r\n" ? QByteArrayLiteral("\r\n") : QByteArrayLiteral("\r");
 }
 
 QByteArray KeyFileText::edited(std::vector<Edit> edits) const
@@ -191,12 +186,10 @@ QByteArray KeyFileText::edited(std::vector<Edit> edits) const
     QByteArray result;
     int copied = 0;
     for (const Edit &edit : edits) {
-        result.append(m_content.constData() + copied, edit.range.begin - copied);
-        result.append(edit.text);
+        result += part({copied, edit.range.begin}) + edit.text;
         copied = edit.range.end;
     }
-    result.append(m_content.constData() + copied, m_content.size() - copied);
-    return result;
+    return result + part({copied, m_content.size()});
 }
 
 QByteArrayList listItems(QByteArray value, const QByteArray &separators)

@@ -5,6 +5,7 @@
 #include <QMap>
 
 #include <optional>
+#include <string_view>
 #include <vector>
 
 /// In what key files differ.
@@ -32,7 +33,7 @@ public:
     };
     /// "Key=Value"; key and value without the blanks around them.
     struct Entry {
-        int group; ///< its place in groups()
+        int group; ///< 0: none
         Range key;
         Range value;
         Range line; ///< with its line break
@@ -41,8 +42,7 @@ public:
     explicit KeyFileText(const QByteArray &content = {}, const KeyFileFormat &format = {});
 
     const QByteArray &content() const { return m_content; }
-    /// In the order of the file; the first one is the empty group.
-    const std::vector<Group> &groups() const { return m_groups; }
+    /// In the order of the file.
     const std::vector<Entry> &entries() const { return m_entries; }
     QByteArray part(const Range &range) const { return m_content.mid(range.begin, range.end - range.begin); }
     QByteArray groupName(const Entry &entry) const { return part(m_groups[std::size_t(entry.group)].name); }
@@ -63,8 +63,12 @@ private:
         QByteArray text;
     };
 
+    std::string_view from(int begin) const;
+    std::string_view view(const Range &range) const;
+    int firstOf(std::string_view characters, int begin) const;
+    bool isComment(int begin) const;
     int lineTextEnd(int begin) const;
-    void readLine(Range text, Range line);
+    void readLine(const Range &text, const Range &line);
     bool isAt(const Range &range, const QByteArray &text) const;
     bool isNamed(int group, const QByteArray &name) const;
     const Entry *find(const QByteArray &group, const QByteArray &key) const;

@@ -96,7 +96,7 @@ inline constexpr ThemeKey themeKeys[] = {
     colorKey("TooltipColor",            "#ffffe1", QT_TRANSLATE_NOOP("ThemePage", "Tooltip"), QT_TRANSLATE_NOOP("ThemeKeys", "background of tool tips")),
     colorKey("TooltipStringColor",      "black",   QT_TRANSLATE_NOOP("ThemePage", "Tooltip string"), QT_TRANSLATE_NOOP("ThemeKeys", "text of tool tips")),
     // The defaults of the two sizes are those of a screen of usual or unknown resolution.
-    {"DesktopIconSize",          KeyKind::Word,   "48",                    "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Desktop icon size"), 16, 256, "16,22,32,48,64,96,128,256"},
+    {"DesktopIconSize",          KeyKind::Word,   "48",                    "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Desktop icon size"), 0, 0, "16,22,32,48,64,96,128,256"},
     {"TaskbarHeight",            KeyKind::Number, "49",                    "ThemePage",  QT_TRANSLATE_NOOP("ThemePage", "Taskbar height"), 21, 280},
 
     fontKey("DefaultFont",       "Verdana-10:normal",  QT_TRANSLATE_NOOP("KFonts", "General")),
