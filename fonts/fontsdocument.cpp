@@ -43,7 +43,7 @@ bool FontsDocument::understand(const QByteArray &content, QString *error)
         return false;
     if (readFontsXml(m_text, &m_xml, error))
         return true;
-    if (m_xml.rootOpenEnd > 0)
+    if (m_xml.hasRoot)
         return false;
     m_text += m_text.endsWith(QLatin1Char('\n')) ? QString() : newLine();
     m_text += QLatin1String(emptyRoot);
@@ -53,8 +53,8 @@ bool FontsDocument::understand(const QByteArray &content, QString *error)
 bool FontsDocument::decode(const QByteArray &content, QString *error)
 {
     static const QRegularExpression declared(
-        QStringLiteral("^<\\?xml\\s[^>]*?encoding\\s*=\\s*[\"']([^\"']*)[\"']"));
-    const auto match = declared.match(QString::fromLatin1(content.left(200)));
+        QStringLiteral("^<\\?xml\\s.*?encoding\\s*=\\s*[\"']([^\"']*)[\"']"));
+    const auto match = declared.match(QString::fromLatin1(content.left(content.indexOf('>'))));
     const QByteArray name = match.hasMatch() ? match.captured(1).toLatin1() : QByteArray("UTF-8");
     m_codec = QTextCodec::codecForUtfText(content, QTextCodec::codecForName(name));
     if (!m_codec) {
@@ -108,7 +108,7 @@ QByteArray FontsDocument::withItems(const QVector<FontsItem> &items) const
             continue;
         if (last) {
             edits.append(replacement(*last, item));
-        } else if (const Child *place = placeOf(item, items)) {
+        } else if (const auto place = placeOf(item, items); place != children().end()) {
             const QString indentation = lineIndentation(place->start);
             edits.append({place->start, place->start, laidOut(item, indentation) + newLine() + indentation});
         } else {
@@ -131,8 +131,8 @@ void FontsDocument::addPrologEdits(QVector<Edit> *edits) const
         edits->append({0, int(qstrlen(quotedDeclaration)), QLatin1String(declaration)});
     else if (!m_text.startsWith(QLatin1String("<?xml")))
         edits->append({0, 0, QLatin1String(declaration) + newLine()});
-    const int start = m_text.indexOf(QLatin1String(bareDoctype));
-    if (start >= 0 && start < m_xml.rootOpenEnd)
+    const int start = m_text.leftRef(m_xml.rootOpenEnd).indexOf(QLatin1String(bareDoctype));
+    if (start >= 0)
         edits->append({start, start + int(qstrlen(bareDoctype)), QLatin1String(doctype)});
 }
 
@@ -158,38 +158,36 @@ FontsDocument::Edit FontsDocument::removal(const Child &child) const
     if (!child.remarks.isEmpty())
         return {child.start, child.end, child.remarks.join(newLine() + indentation)};
     // With the line break before it when it has its lines for itself.
-    const int start = child.start - indentation.size();
-    const int lineEnd = m_text.indexOf(QLatin1Char('\n'), child.end);
-    const bool isAlone = start > 0 && m_text.at(start - 1) == QLatin1Char('\n') && lineEnd >= 0
-                         && m_text.midRef(child.end, lineEnd - child.end).trimmed().isEmpty();
-    const int lineBreakSize = start > 1 && m_text.at(start - 2) == QLatin1Char('\r') ? 2 : 1;
-    return {isAlone ? start - lineBreakSize : child.start, child.end, {}};
+    QStringRef before = m_text.leftRef(child.start - indentation.size());
+    const QStringRef after = m_text.midRef(child.end,
+                                           m_text.indexOf(QLatin1Char('\n'), child.end) - child.end);
+    if (!before.endsWith(QLatin1Char('\n')) || !after.trimmed().isEmpty())
+        return {child.start, child.end, {}};
+    before.chop(before.endsWith(QLatin1String("\r\n")) ? 2 : 1);
+    return {before.size(), child.end, {}};
 }
 
 FontsDocument::Edit FontsDocument::addition(const QString &elements) const
 {
-    if (m_xml.rootClose < 0)
+    if (!m_xml.rootClose)
         return {m_xml.rootOpenEnd - 2, m_xml.rootOpenEnd,
                 QLatin1Char('>') + elements + newLine() + QLatin1String("</fontconfig>")};
-    int position = m_xml.rootClose;
-    while (position > m_xml.rootOpenEnd && m_text.at(position - 1).isSpace())
-        --position;
-    const bool endsLine = m_text.midRef(position, m_xml.rootClose - position).contains(QLatin1Char('\n'));
-    return {position, position, endsLine ? elements : elements + newLine()};
+    const QString blanks = blanksBefore(*m_xml.rootClose);
+    const int position = *m_xml.rootClose - blanks.size();
+    return {position, position, blanks.contains(QLatin1Char('\n')) ? elements : elements + newLine()};
 }
 
-const Child *FontsDocument::placeOf(const FontsItem &item, const QVector<FontsItem> &items) const
+QVector<Child>::const_iterator FontsDocument::placeOf(const FontsItem &item,
+                                                      const QVector<FontsItem> &items) const
 {
     if (item.kind != FontsItem::Kind::AntiAliasing)
-        return nullptr;
+        return children().end();
     // The rules apply in their order: behind a range, the new one would take it out of force.
-    for (const Child &child : children()) {
-        for (const FontsItem &range : items) {
-            if (range.isRange() && !range.isEmpty() && isOf(child, range.kind))
-                return &child;
-        }
-    }
-    return nullptr;
+    return std::find_if(children().begin(), children().end(), [&items](const Child &child) {
+        return std::any_of(items.begin(), items.end(), [&child](const FontsItem &range) {
+            return range.isRange() && !range.isEmpty() && isOf(child, range.kind);
+        });
+    });
 }
 
 QString FontsDocument::laidOut(const FontsItem &item, const QString &indentation) const
@@ -199,14 +197,18 @@ QString FontsDocument::laidOut(const FontsItem &item, const QString &indentation
         .replace(QLatin1Char('\n'), newLine() + indentation);
 }
 
+QString FontsDocument::blanksBefore(int position) const
+{
+    const QStringRef before = m_text.leftRef(position);
+    const auto isBlank = [](QChar character) { return character.isSpace(); };
+    const auto text = std::find_if_not(before.rbegin(), before.rend(), isBlank);
+    return before.right(int(std::distance(before.rbegin(), text))).toString();
+}
+
 QString FontsDocument::lineIndentation(int position) const
 {
-    int start = position;
-    while (start > 0
-           && (m_text.at(start - 1) == QLatin1Char(' ') || m_text.at(start - 1) == QLatin1Char('\t')))
-        --start;
-    return start > 0 && m_text.at(start - 1) == QLatin1Char('\n') ? m_text.mid(start, position - start)
-                                                                  : QString();
+    const QString blanks = blanksBefore(position);
+    return blanks.contains(QLatin1Char('\n')) ? blanks.section(QLatin1Char('\n'), -1) : QString();
 }
 
 QString FontsDocument::indentationStep() const
@@ -221,8 +223,8 @@ QString FontsDocument::indentationStep() const
 
 QString FontsDocument::newLine() const
 {
-    const int end = m_text.indexOf(QLatin1Char('\n'));
-    return end > 0 && m_text.at(end - 1) == QLatin1Char('\r') ? QStringLiteral("\r\n") : QStringLiteral("\n");
+    const bool isDos = m_text.leftRef(m_text.indexOf(QLatin1Char('\n'))).endsWith(QLatin1Char('\r'));
+    return isDos ? QStringLiteral("\r\n") : QStringLiteral("\n");
 }
 
 bool FontsDocument::holdsOnlySettings() const

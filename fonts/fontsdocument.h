@@ -42,9 +42,11 @@ private:
     Edit replacement(const FontsXml::Child &child, const FontsItem &item) const;
     Edit removal(const FontsXml::Child &child) const;
     Edit addition(const QString &elements) const;
-    /// The child of the root in front of which a new \a item goes; null: behind the last one.
-    const FontsXml::Child *placeOf(const FontsItem &item, const QVector<FontsItem> &items) const;
+    /// The child of the root in front of which a new \a item goes; the end: behind the last one.
+    QVector<FontsXml::Child>::const_iterator placeOf(const FontsItem &item,
+                                                     const QVector<FontsItem> &items) const;
     QString laidOut(const FontsItem &item, const QString &indentation) const;
+    QString blanksBefore(int position) const;
     QString lineIndentation(int position) const;
     QString indentationStep() const;
     QString newLine() const;

@@ -26,16 +26,15 @@ private:
     void readToken(QXmlStreamReader::TokenType token);
     void startElement();
     void endElement();
-    /// The token as it stands in the text; what an entity stands for has no place there.
-    QString tokenText() const { return m_start < m_end ? m_text.mid(m_start, m_end - m_start) : QString(); }
+    int start() const { return m_end - m_token.size(); }
 
     const QString &m_text;
     FontsXml *m_xml;
     QXmlStreamReader m_reader;
     std::vector<FontsElement> m_open; // the elements around the place, from the child of the root on
     int m_depth = 0;
-    int m_start = 0; // of the token
-    int m_end = 0;   // behind it
+    QStringRef m_token; // as it stands in the text; empty in what an entity stands for
+    int m_end = 0;      // behind it
 };
 
 bool Reader::read(QString *error)
@@ -52,8 +51,9 @@ void Reader::readToken(QXmlStreamReader::TokenType token)
 {
     // The reader looks a character ahead to find the end of a text; the next tag begins there.
     if (token != QXmlStreamReader::Characters || m_reader.isCDATA()) {
-        m_start = m_text.indexOf(QLatin1Char('<'), m_end);
+        const int start = m_text.indexOf(QLatin1Char('<'), m_end);
         m_end = int(m_reader.characterOffset());
+        m_token = m_text.leftRef(m_end).mid(start);
     }
     if (token == QXmlStreamReader::StartElement)
         return startElement();
@@ -69,8 +69,8 @@ void Reader::readToken(QXmlStreamReader::TokenType token)
         return;
     }
     FontsXml::Child &child = m_xml->children.last();
-    if (isRemark && m_start < m_end)
-        child.remarks.append(tokenText());
+    if (isRemark && !m_token.isEmpty())
+        child.remarks.append(m_token.toString());
     if (isText) {
         m_open.back().text += m_reader.text();
         child.essence += m_reader.text();
@@ -87,6 +87,7 @@ void Reader::startElement()
         if (m_reader.qualifiedName() != QLatin1String("fontconfig"))
             m_reader.raiseError(QStringLiteral("the root element is '%1', not 'fontconfig'")
                                     .arg(m_reader.qualifiedName().toString()));
+        m_xml->hasRoot = true;
         m_xml->rootOpenEnd = m_end;
         m_xml->holdsMore = m_xml->holdsMore || !attributes.isEmpty();
         return;
@@ -97,22 +98,24 @@ void Reader::startElement()
         element.attributes.insert(attribute.qualifiedName().toUtf8(), attribute.value().toUtf8());
     if (m_open.empty()) {
         FontsXml::Child child;
-        child.start = m_start;
-        child.startTag = attributes.size() > 1 ? tokenText() : QString();
+        child.start = start();
+        if (attributes.size() > 1)
+            child.startTag = m_token.toString();
         m_xml->children.append(child);
     }
-    m_xml->children.last().essence += tokenText();
+    m_xml->children.last().essence += m_token;
     m_open.push_back(std::move(element));
 }
 
 void Reader::endElement()
 {
     if (--m_depth == 0) {
-        m_xml->rootClose = m_end == m_xml->rootOpenEnd ? -1 : m_start;
+        if (m_end != m_xml->rootOpenEnd)
+            m_xml->rootClose = start();
         return;
     }
     FontsXml::Child &child = m_xml->children.last();
-    child.essence += tokenText();
+    child.essence += m_token;
     FontsElement element = std::move(m_open.back());
     m_open.pop_back();
     if (!m_open.empty()) {
@@ -121,7 +124,7 @@ void Reader::endElement()
     }
     child.end = m_end;
     // What comes out of an entity can't be changed in the text.
-    if (child.start < child.end)
+    if (child.start != child.end)
         child.item = readFontsItem(element);
 }
 

@@ -19,8 +19,9 @@ struct FontsXml {
 
     QVector<Child> children;
     bool holdsMore = false; ///< remarks, text or attributes beside the children
-    int rootOpenEnd = 0;    ///< behind the root's start tag; 0: there is no root
-    int rootClose = -1;     ///< the root's end tag; -1: the root is an empty-element tag
+    bool hasRoot = false;
+    int rootOpenEnd = 0;          ///< behind the root's start tag
+    std::optional<int> rootClose; ///< the root's end tag; none: the root is an empty-element tag
 };
 
 /// Reads \a text. Returns false when it is not well-formed or its root is no fontconfig element; \a error says why.
