@@ -28,8 +28,7 @@ double readAndWrite(int round)
 {
     QElapsedTimer timer;
     timer.start();
-    KXftConfig config(KXftConfig::SubPixelType | KXftConfig::ExcludedRange | KXftConfig::AntiAlias
-                      | KXftConfig::HintingStyle);
+    KXftConfig config;
     QString error;
     config.reset();
     config.setHintStyle(round % 2 ? HintStyle::Full : HintStyle::Slight);

@@ -6,12 +6,10 @@
 #include "settings/renderingstore.h"
 #include "ui_fontaasettingsform.h"
 
-#include <QPainter>
 #include <QPushButton>
 #include <QShortcut>
 #include <QSignalBlocker>
 
-#include <optional>
 #include <type_traits>
 
 #include <ft2build.h>
@@ -20,36 +18,26 @@
 
 namespace {
 
-constexpr int required = KXftConfig::SubPixelType | KXftConfig::ExcludedRange | KXftConfig::AntiAlias
-                         | KXftConfig::HintingStyle;
-
 /// A picture of one pixel that shows where its red, green and blue stripes lie.
 QPixmap subPixelSwatch(SubPixelOrder order)
 {
-    constexpr int extent = 12;
-    constexpr int stripe = extent / 3;
-    const QColor colors[] = {0xe01b24, 0x26a269, 0x1a5fb4};
-    const bool isVertical = order == SubPixelOrder::VerticalRgb || order == SubPixelOrder::VerticalBgr;
+    const QRgb redToBlue[] = {0xe01b24, 0x26a269, 0x1a5fb4};
+    const QRgb blueToRed[] = {0x1a5fb4, 0x26a269, 0xe01b24};
     const bool beginsWithRed = order == SubPixelOrder::Rgb || order == SubPixelOrder::VerticalRgb;
-    QPixmap swatch(extent, extent);
-    QPainter painter(&swatch);
-    for (int i = 0; i < 3; ++i)
-        painter.fillRect(isVertical ? QRect(0, i * stripe, extent, stripe)
-                                    : QRect(i * stripe, 0, stripe, extent),
-                         colors[beginsWithRed ? i : 2 - i]);
-    return swatch;
+    const bool isVertical = order == SubPixelOrder::VerticalRgb || order == SubPixelOrder::VerticalBgr;
+    const int stripes = std::size(redToBlue);
+    const QImage pixel(reinterpret_cast<const uchar *>(beginsWithRed ? redToBlue : blueToRed),
+                       isVertical ? 1 : stripes, isVertical ? stripes : 1, QImage::Format_RGB32);
+    return QPixmap::fromImage(pixel.scaled(12, 12));
 }
 
-/// Whether the FreeType library can filter for the sub-pixels of a display; yes while it can't be asked.
+/// Whether the FreeType library can filter for the sub-pixels of a display; yes when it can't be asked.
 bool isLcdFilteringSupported()
 {
-    static std::optional<bool> answer;
     FT_Library handle = nullptr;
-    if (!answer && FT_Init_FreeType(&handle) == 0) {
-        const std::unique_ptr<std::remove_pointer_t<FT_Library>, Release<FT_Done_FreeType>> library(handle);
-        answer = FT_Library_SetLcdFilter(handle, FT_LCD_FILTER_DEFAULT) != FT_Err_Unimplemented_Feature;
-    }
-    return answer.value_or(true);
+    FT_Init_FreeType(&handle);
+    const std::unique_ptr<std::remove_pointer_t<FT_Library>, Release<FT_Done_FreeType>> library(handle);
+    return FT_Library_SetLcdFilter(handle, FT_LCD_FILTER_DEFAULT) != FT_Err_Unimplemented_Feature;
 }
 
 } // namespace
@@ -76,12 +64,9 @@ FontAASettings::FontAASettings(QWidget *parent)
 
     connect(m_ui->excludeRangeCheckBox, &QCheckBox::toggled, this, &FontAASettings::rangeChanged);
     connect(m_ui->useSubPixelCheckBox, &QCheckBox::toggled, this, &FontAASettings::changed);
-    for (QDoubleSpinBox *spinBox : {m_ui->excludeFromSpinBox, m_ui->excludeToSpinBox}) {
-        spinBox->setDecimals(1);
-        spinBox->setMaximum(48);
+    for (const QDoubleSpinBox *spinBox : {m_ui->excludeFromSpinBox, m_ui->excludeToSpinBox})
         connect(spinBox, qOverload<double>(&QDoubleSpinBox::valueChanged), this,
                 &FontAASettings::rangeChanged);
-    }
     for (QComboBox *combo : {m_ui->subPixelTypeCombo, m_ui->hintStyleCombo})
         connect(combo, &QComboBox::textActivated, this, &FontAASettings::changed);
     load();
@@ -96,9 +81,9 @@ bool FontAASettings::load()
         QSignalBlocker(m_ui->excludeRangeCheckBox), QSignalBlocker(m_ui->excludeFromSpinBox),
         QSignalBlocker(m_ui->excludeToSpinBox), QSignalBlocker(m_ui->useSubPixelCheckBox)};
 
-    KXftConfig config(required);
+    KXftConfig config;
     config.reset();
-    showRange(showsPixels() ? config.excludePixelRange() : config.excludeRange());
+    showRange(config.excludePixelRange());
 
     const SubPixelOrder order = config.subPixelType();
     m_ui->useSubPixelCheckBox->setChecked(order != SubPixelOrder::None);
@@ -118,17 +103,14 @@ bool FontAASettings::load()
 
 bool FontAASettings::save(bool useAntiAliasing, QString *error)
 {
-    KXftConfig config(required);
+    KXftConfig config;
     config.reset();
     const SubPixelOrder order = m_ui->useSubPixelCheckBox->isChecked() ? SubPixelOrder(
                                     m_ui->subPixelTypeCombo->currentIndex() + int(SubPixelOrder::Rgb))
                                                                        : SubPixelOrder::None;
     const HintStyle style = HintStyle(m_ui->hintStyleCombo->currentIndex() + int(HintStyle::None));
     config.setAntiAliasing(useAntiAliasing);
-    if (showsPixels())
-        config.setExcludePixelRange(m_range);
-    else
-        config.setExcludeRange(m_range);
+    config.setExcludePixelRange(m_range);
     config.setSubPixelType(order);
     config.setHintStyle(style);
     const bool fileChanged = config.changed();
@@ -179,17 +161,11 @@ void FontAASettings::rangeChanged()
 
 void FontAASettings::showRange(const ExcludeRange &range)
 {
-    const ExcludeRange shown = range.isZero() ? ExcludeRange{0, showsPixels() ? 14.0 : 10.0} : range;
+    const ExcludeRange shown = range.isZero() ? ExcludeRange{0, 14} : range;
     m_ui->excludeRangeCheckBox->setChecked(!range.isZero());
     m_ui->excludeFromSpinBox->setValue(shown.from);
     m_ui->excludeToSpinBox->setValue(shown.to);
     m_range = range;
-}
-
-bool FontAASettings::showsPixels() const
-{
-    const QString suffix = m_ui->excludeFromSpinBox->suffix();
-    return suffix.contains(QLatin1String("pix")) || suffix.contains(QLatin1String("px"));
 }
 
 void FontAASettings::enableWidgets()

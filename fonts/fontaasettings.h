@@ -38,12 +38,11 @@ public slots:
 private:
     void rangeChanged();
     void showRange(const ExcludeRange &range);
-    bool showsPixels() const;
     void enableWidgets();
 
     std::unique_ptr<Ui::FontAASettingsForm> m_ui;
     bool m_changesMade = false;
-    /// In the unit shown. The spin boxes show fewer digits and smaller sizes than a file may hold: what was not edited
+    /// In pixels. The spin boxes show fewer digits and smaller sizes than a file may hold: what was not edited
     /// stays.
     ExcludeRange m_range;
 };

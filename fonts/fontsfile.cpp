@@ -4,31 +4,34 @@
 #include "base/xdgdirectories.h"
 #include "settings/backup.h"
 
+#include <QDeadlineTimer>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
-#include <QThread>
 
 #include <cerrno>
+#include <chrono>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
+#include <thread>
 
 #include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
 
+using namespace std::chrono_literals;
+
 constexpr qint64 sizeLimit = 16 * 1024 * 1024;
-constexpr int lockTimeoutMs = 2000;
-constexpr int lockPauseMs = 10;
-// In seconds. A small file is written in less; the number of a process may have been given out again.
-constexpr std::time_t orphanedLockAge = 1;
-constexpr std::time_t anonymousLockAge = 60;
-constexpr std::time_t livingLockAge = 600;
+constexpr std::chrono::milliseconds lockTimeout = 2s;
+constexpr std::chrono::milliseconds lockPause = 10ms;
+// A small file is written in less; the number of a process may have been given out again.
+constexpr std::chrono::seconds orphanedLockAge = 1s;
+constexpr std::chrono::seconds anonymousLockAge = 1min;
+constexpr std::chrono::seconds livingLockAge = 10min;
 
 /// Removes the lock \a path when it is older than its writer can live.
 void removeStaleLock(const QByteArray &path)
@@ -36,11 +39,11 @@ void removeStaleLock(const QByteArray &path)
     struct stat status = {};
     if (::lstat(path.constData(), &status) != 0)
         return;
-    const auto age = std::abs(std::time(nullptr) - status.st_mtime); // a clock may have been set back
-    const bool namesOwner = S_ISREG(status.st_mode) && status.st_size > 0;
-    const pid_t owner = pid_t(readRegularFile(QFile::decodeName(path), 100).content.trimmed().toInt());
-    const bool isAlive = owner > 0 && (::kill(owner, 0) == 0 || errno == EPERM);
-    if (age > (!namesOwner ? anonymousLockAge : isAlive ? livingLockAge : orphanedLockAge))
+    // A clock may have been set back.
+    const std::chrono::seconds age(std::abs(std::time(nullptr) - status.st_mtime));
+    const auto owner = pid_t(readRegularFile(QFile::decodeName(path)).content.trimmed().toUInt());
+    const bool isAlive = ::kill(owner, 0) == 0 || errno == EPERM;
+    if (age > (owner == 0 ? anonymousLockAge : isAlive ? livingLockAge : orphanedLockAge))
         std::remove(path.constData());
 }
 
@@ -90,25 +93,18 @@ void removeUserFontconfigFiles()
     }
 }
 
-QString chooseFontsFile(const QStringList &configFiles, bool system)
+QString chooseFontsFile(const QStringList &configFiles)
 {
     const QString home = QDir::cleanPath(homeDirectory()) + QLatin1Char('/');
     QStringList candidates;
     for (const QString &file : configFiles) {
-        const QFileInfo info(QDir::cleanPath(file));
-        const QString path = info.filePath();
-        if (info.isFile() && (system || path.startsWith(home)))
+        const QString path = QDir::cleanPath(file);
+        if (QFileInfo(path).isFile() && path.startsWith(home))
             candidates.append(path);
-        if (system && info.isDir() && path.contains(QRegularExpression(QStringLiteral("/conf\\.d?$"))))
-            return path + QLatin1String("/29-qaz-rendering.conf");
     }
-    const QRegularExpression wanted(system ? QStringLiteral("/local\\.conf$")
-                                           : QStringLiteral("/\\.?fonts\\.conf$"));
-    candidates = candidates.filter(wanted) + candidates;
+    candidates = candidates.filter(QRegularExpression(QStringLiteral("/\\.?fonts\\.conf$"))) + candidates;
     if (!candidates.isEmpty())
         return candidates.first();
-    if (system)
-        return QStringLiteral("/etc/fonts/local.conf");
     makeDirectories(QFileInfo(userFontsFile()).path());
     return userFontsFile();
 }
@@ -137,16 +133,15 @@ FontsFileLock::FontsFileLock(const QString &path)
         m_error = QStringLiteral("No file can be made in its directory");
         return;
     }
-    QElapsedTimer timer;
-    timer.start();
+    const QDeadlineTimer deadline(lockTimeout);
     // Whoever holds it is about to write a small file: waiting saves the user from doing it all again.
     while (!FcAtomicLock(m_atomic.get())) {
-        if (timer.hasExpired(lockTimeoutMs)) {
+        if (deadline.hasExpired()) {
             m_error = QStringLiteral("Another program has locked it");
             return;
         }
         removeStaleLock(m_target + ".LCK");
-        QThread::msleep(lockPauseMs);
+        std::this_thread::sleep_for(lockPause);
     }
 }
 
@@ -159,7 +154,7 @@ FontsFileLock::~FontsFileLock()
 bool FontsFileLock::replace(const QByteArray &content, const std::function<bool()> &isCurrent, QString *error)
 {
     // A rename would replace a write-protected file as well; its protection is the user's word.
-    if (::access(m_target.constData(), F_OK) == 0 && ::access(m_target.constData(), W_OK) != 0) {
+    if (::access(m_target.constData(), W_OK) != 0 && errno != ENOENT) {
         *error = systemErrorText(errno);
         return false;
     }

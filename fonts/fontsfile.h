@@ -25,9 +25,9 @@ QString userFontsFile();
 /// backups first; one line on standard error names the copy.
 void removeUserFontconfigFiles();
 
-/// Which of \a configFiles (see fontconfigFiles()) the rendering settings belong into; the default place when
-/// there is none yet. The directory of the user's default place is created with mode 0700.
-QString chooseFontsFile(const QStringList &configFiles, bool system);
+/// Which of \a configFiles (see fontconfigFiles()) the user's rendering settings belong into; userFontsFile(), whose
+/// directory is created with mode 0700, when there is none yet.
+QString chooseFontsFile(const QStringList &configFiles);
 
 /// Reads a fontconfig file. One that is too big for a configuration and a link to nothing are Unreadable.
 FileContent readFontsFile(const QString &path);

@@ -5,26 +5,28 @@
 #include "fonts/fontsfile.h"
 #include "settings/backup.h"
 
-#include <QElapsedTimer>
-#include <QThread>
+#include <QDeadlineTimer>
 #include <QVariant>
 #include <QX11Info>
 
+#include <chrono>
 #include <memory>
+#include <thread>
 #include <utility>
 
 namespace {
 
 using Kind = FontsItem::Kind;
 
-constexpr int mergeTimeMs = 2000; // for programs that rewrite the file under our hands
-constexpr int rereadPauseMs = 10;
+using namespace std::chrono_literals;
+
+constexpr std::chrono::milliseconds mergeTime = 2s; // for programs that rewrite the file under our hands
+constexpr std::chrono::milliseconds rereadPause = 10ms;
 
 bool systemAntiAliasing()
 {
     const std::unique_ptr<FcPattern, Release<FcPatternDestroy>> pattern(FcPatternCreate());
     FcConfigSubstitute(nullptr, pattern.get(), FcMatchPattern);
-    FcDefaultSubstitute(pattern.get());
     FcBool isOn = FcTrue;
     FcPatternGetBool(pattern.get(), FC_ANTIALIAS, 0, &isOn);
     return isOn;
@@ -37,13 +39,11 @@ bool truthOf(const FontsItem &item, bool fallback)
 
 } // namespace
 
-KXftConfig::KXftConfig(int required, bool system)
-    : m_required(required)
-    , m_file(chooseFontsFile(fontconfigFiles(), system))
+KXftConfig::KXftConfig()
+    : m_file(chooseFontsFile(fontconfigFiles()))
     , m_refusal(QStringLiteral("It was not read"))
 {
-    printDiagnostic(QStringLiteral("%1 fontconfig file to use: %2")
-                        .arg(system ? QStringLiteral("system") : QStringLiteral("user"), m_file));
+    printDiagnostic(QStringLiteral("user fontconfig file to use: %1").arg(m_file));
 }
 
 bool KXftConfig::reset()
@@ -53,8 +53,7 @@ bool KXftConfig::reset()
         printDiagnostic(QStringLiteral("Can't use %1: %2").arg(m_file, m_refusal));
         return false;
     }
-    if (!(m_required & ExcludedRange)
-        || !bringIntoAgreement(&m_settings.points, &m_settings.pixels, QX11Info::appDpiY()))
+    if (!bringIntoAgreement(&m_settings.points, &m_settings.pixels, QX11Info::appDpiY()))
         return true;
     m_madeChanges = true;
     QString error; // told already; whoever edits something tries again
@@ -105,9 +104,8 @@ bool KXftConfig::apply(QString *error)
 
 bool KXftConfig::writeOrMerge(FontsFileLock *lock, QString *error)
 {
-    QElapsedTimer timer;
-    timer.start();
-    for (bool isTold = false; !timer.hasExpired(mergeTimeMs);) {
+    const QDeadlineTimer deadline(mergeTime);
+    for (bool isTold = false; !deadline.hasExpired();) {
         if (wasRewritten()) {
             if (!std::exchange(isTold, true))
                 printDiagnostic(QStringLiteral("font config file was rewritten since we last read!"));
@@ -117,7 +115,7 @@ bool KXftConfig::writeOrMerge(FontsFileLock *lock, QString *error)
             m_madeChanges = true;
         }
         if (!m_refusal.isEmpty()) // half of it is written, perhaps
-            QThread::msleep(rereadPauseMs);
+            std::this_thread::sleep_for(rereadPause);
         else if (write(lock, error))
             return true;
         else if (!error->isEmpty())
@@ -145,45 +143,24 @@ bool KXftConfig::write(FontsFileLock *lock, QString *error)
 
 QVector<FontsItem> KXftConfig::items() const
 {
-    const Settings &settings = m_settings;
-    QVector<FontsItem> items;
-    if (m_required & SubPixelType)
-        items.append({Kind::SubPixel, settings.subPixelType == SubPixelOrder::None
-                                          ? QString()
-                                          : FontRendering::fileName(settings.subPixelType)});
-    if (m_required & HintingStyle) {
-        items.append({Kind::Hinting, QVariant(settings.hinting).toString()});
-        items.append({Kind::HintStyle, settings.hintStyle == HintStyle::NotSet
-                                           ? QString()
-                                           : FontRendering::fileName(settings.hintStyle)});
-    }
-    if (m_required & AntiAlias)
-        items.append({Kind::AntiAliasing, QVariant(settings.antiAliasing).toString()});
-    if (m_required & ExcludedRange) {
-        items.append({Kind::ExcludePoints, {}, settings.points});
-        items.append({Kind::ExcludePixels, {}, settings.pixels});
-    }
-    return items;
-}
-
-void KXftConfig::setRanges(const ExcludeRange &points, const ExcludeRange &pixels)
-{
-    m_settings.points = points;
-    m_settings.pixels = pixels;
-    bringIntoAgreement(&m_settings.points, &m_settings.pixels, QX11Info::appDpiY());
-    m_madeChanges = true;
-}
-
-void KXftConfig::setExcludeRange(const ExcludeRange &points)
-{
-    if (!m_settings.points.equals(points))
-        setRanges(points, {});
+    const SubPixelOrder order = m_settings.subPixelType;
+    const HintStyle style = m_settings.hintStyle;
+    return {{Kind::SubPixel, order == SubPixelOrder::None ? QString() : FontRendering::fileName(order)},
+            {Kind::Hinting, QVariant(m_settings.hinting).toString()},
+            {Kind::HintStyle, style == HintStyle::NotSet ? QString() : FontRendering::fileName(style)},
+            {Kind::AntiAliasing, QVariant(m_settings.antiAliasing).toString()},
+            {Kind::ExcludePoints, {}, m_settings.points},
+            {Kind::ExcludePixels, {}, m_settings.pixels}};
 }
 
 void KXftConfig::setExcludePixelRange(const ExcludeRange &pixels)
 {
-    if (!m_settings.pixels.equals(pixels))
-        setRanges({}, pixels);
+    if (m_settings.pixels.equals(pixels))
+        return;
+    m_settings.points = {};
+    m_settings.pixels = pixels;
+    bringIntoAgreement(&m_settings.points, &m_settings.pixels, QX11Info::appDpiY());
+    m_madeChanges = true;
 }
 
 void KXftConfig::setHintStyle(HintStyle style)

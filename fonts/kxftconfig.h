@@ -8,11 +8,8 @@ class FontsFileLock;
 class KXftConfig
 {
 public:
-    /// Which settings an instance handles; the others are not written.
-    enum RequiredData { SubPixelType = 0x02, ExcludedRange = 0x04, AntiAlias = 0x08, HintingStyle = 0x10 };
-
-    /// Chooses the user's file, or the \a system's. It is read by reset().
-    explicit KXftConfig(int required, bool system = false);
+    /// Chooses the user's file. It is read by reset().
+    KXftConfig();
 
     /// Forgets every change and reads the file. A range of sizes to exclude is brought into agreement in both units,
     /// which writes the file. Returns false when the file can't be read and understood, and when it is missing and
@@ -26,13 +23,9 @@ public:
     SubPixelOrder subPixelType() const { return m_settings.subPixelType; }
     void setSubPixelType(SubPixelOrder type) { set(&m_settings.subPixelType, type); }
 
-    /// In points.
-    ExcludeRange excludeRange() const { return m_settings.points; }
-    /// Sets both ranges: pixels are computed from \a points.
-    void setExcludeRange(const ExcludeRange &points);
-
+    /// In pixels.
     ExcludeRange excludePixelRange() const { return m_settings.pixels; }
-    /// Sets both ranges: points are computed from \a pixels.
+    /// Sets the range in points, too, computed from \a pixels.
     void setExcludePixelRange(const ExcludeRange &pixels);
 
     HintStyle hintStyle() const { return m_settings.hintStyle; }
@@ -68,14 +61,12 @@ private:
 
     void read();
     bool wasRewritten() const;
-    void setRanges(const ExcludeRange &points, const ExcludeRange &pixels);
     bool write(FontsFileLock *lock, QString *error);
     bool writeOrMerge(FontsFileLock *lock, QString *error);
     QVector<FontsItem> items() const;
 
     Settings m_settings;
     FontsDocument m_document;
-    int m_required;
     QString m_file;
     bool m_madeChanges = false;
     QByteArray m_content; // of the file when it was read
