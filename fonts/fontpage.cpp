@@ -20,9 +20,8 @@ bool FontPage::loadValues(QazSettings *settings)
     return true;
 }
 
-bool FontPage::saveValues(QazSettings *settings)
+void FontPage::saveValues(QazSettings *settings)
 {
     if (saveSettings(settings))
         sendToWindowManager(xftSettingsCommand(ownSettingsFile()));
-    return true;
 }

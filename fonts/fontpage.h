@@ -18,5 +18,5 @@ public slots:
     /// Fills the page from \a settings, which is not kept.
     bool loadValues(QazSettings *settings);
     /// Saves the page, and tells the window manager about rendering choices that changed.
-    bool saveValues(QazSettings *settings);
+    void saveValues(QazSettings *settings);
 };

@@ -49,14 +49,11 @@ class KFontRequesterPrivate : public QObject
 public:
     KFontRequesterPrivate(KFontRequester *requester, bool onlyFixed);
     void select(const QFont &font);
-    void displaySampleText();
-    void setToolTips();
 
     KFontRequester *const q;
     bool fixedOnly;
     QLabel *const sampleLabel;
     QPushButton *const button;
-    QString title;
     QFont selectedFont;
 };
 
@@ -72,45 +69,20 @@ KFontRequesterPrivate::KFontRequesterPrivate(KFontRequester *requester, bool onl
     sampleLabel->setTextFormat(Qt::PlainText); // family names are anybody's text
     sampleLabel->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
     button->setObjectName(QStringLiteral("chooseButton"));
+    button->setToolTip(KFontRequester::tr("Click to select a font"));
     layout->addWidget(sampleLabel, 1);
     // Aligned, its fixed height does not bind the preview's.
     layout->addWidget(button, 0, Qt::AlignVCenter);
     q->setFocusProxy(button);
-    displaySampleText();
-    setToolTips();
 }
 
 void KFontRequesterPrivate::select(const QFont &font)
 {
     selectedFont = font;
-    displaySampleText();
-    emit q->fontSelected(selectedFont);
-}
-
-void KFontRequesterPrivate::displaySampleText()
-{
-    sampleLabel->setFont(selectedFont);
-    const int size = selectedFont.pointSize() == -1 ? selectedFont.pixelSize() : selectedFont.pointSize();
+    sampleLabel->setFont(font);
     sampleLabel->setText(
-        KFontRequester::tr("%1 %2").arg(familyDisplayName(selectedFont.family()), QString::number(size)));
-}
-
-void KFontRequesterPrivate::setToolTips()
-{
-    button->setToolTip(KFontRequester::tr("Click to select a font"));
-    if (title.isEmpty()) {
-        sampleLabel->setToolTip(KFontRequester::tr("Preview of the selected font"));
-        sampleLabel->setWhatsThis(
-            KFontRequester::tr("This is a preview of the selected font. You can change it by "
-                               "clicking the \"...\" button."));
-        button->setAccessibleName(KFontRequester::tr("Select a font"));
-        return;
-    }
-    sampleLabel->setToolTip(KFontRequester::tr("Preview of the \"%1\" font").arg(title));
-    sampleLabel->setWhatsThis(KFontRequester::tr("This is a preview of the \"%1\" font. You can change it by "
-                                                 "clicking the \"...\" button.")
-                                  .arg(title));
-    button->setAccessibleName(KFontRequester::tr("Select the \"%1\" font").arg(title));
+        KFontRequester::tr("%1 %2").arg(familyDisplayName(font.family()), QString::number(font.pointSize())));
+    emit q->fontSelected(font);
 }
 
 KFontRequester::KFontRequester(QWidget *parent, bool onlyFixed)
@@ -140,8 +112,11 @@ void KFontRequester::setFont(const QFont &font, bool onlyFixed)
 
 void KFontRequester::setTitle(const QString &title)
 {
-    d->title = title;
-    d->setToolTips();
+    d->sampleLabel->setToolTip(tr("Preview of the \"%1\" font").arg(title));
+    d->sampleLabel->setWhatsThis(
+        tr("This is a preview of the \"%1\" font. You can change it by clicking the \"...\" button.")
+            .arg(title));
+    d->button->setAccessibleName(tr("Select the \"%1\" font").arg(title));
 }
 
 void KFontRequester::_k_buttonClicked()

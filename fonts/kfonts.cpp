@@ -12,7 +12,6 @@
 #include "settings/rolefonttext.h"
 
 #include <QComboBox>
-#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <QFontDialog>
@@ -58,9 +57,8 @@ void writeDpiToResourceFile(int dpi)
     const QByteArray value = QByteArray::number(dpi);
     setXrdbParameterInFile(QFile::encodeName(file).constData(), "Xft.dpi:", " ",
                            dpi != 0 ? value.constData() : nullptr, false);
-    const QFileInfo info(file);
-    const bool isEmpty = info.isFile() && info.size() == 0;
-    if (isEmpty && storedRendering(RenderingKey::madeXresources).toBool() && QFile::remove(file))
+    if (QFileInfo(file).size() == 0 && storedRendering(RenderingKey::madeXresources).toBool()
+        && QFile::remove(file))
         storeRendering({{isOurs, false}});
 }
 
@@ -172,8 +170,7 @@ void KFonts::loadSettings(QazSettings *settings)
                      : isEnabled                                      ? AaEnabled
                                                                       : AaDisabled);
     aaModeAtLoad = aaMode;
-    const int forced = storedRendering(RenderingKey::forceFontDpi).toInt();
-    dpiAtLoad = forced == 0 ? 0 : forcedDpi(forced, xftDpiResource());
+    dpiAtLoad = forcedDpi(storedRendering(RenderingKey::forceFontDpi).toInt(), xftDpiResource());
     m_dpiSpinBox->setValue(dpiAtLoad);
     emit changed(false);
 }
@@ -199,8 +196,6 @@ bool KFonts::saveSettings(QazSettings *settings)
         removeDpiFromServer();
     if (dpi != dpiAtLoad)
         writeDpiToResourceFile(dpi);
-    // A click on Apply must not start a second save in here.
-    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 
     QString error;
     const bool fileChanged = !systemDecides && m_aaSettings->save(aaMode == AaEnabled, &error);

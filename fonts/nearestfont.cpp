@@ -45,19 +45,20 @@ QString matchedFamily(const QString &family)
     FcResult result = FcResultNoMatch;
     const FcPatternPtr match(FcFontMatch(nullptr, pattern.get(), &result));
     FcChar8 *matched = nullptr; // belongs to the match
-    if (!match || FcPatternGetString(match.get(), FC_FAMILY, 0, &matched) != FcResultMatch)
-        return family;
-    return QString::fromUtf8(reinterpret_cast<const char *>(matched));
+    if (match)
+        FcPatternGetString(match.get(), FC_FAMILY, 0, &matched);
+    return matched ? QString::fromUtf8(reinterpret_cast<const char *>(matched)) : family;
 }
 
 QString substituteFamily()
 {
     QString family = QFontDatabase::systemFont(QFontDatabase::GeneralFont).family();
-    if (isInstalled(family))
-        return family;
-    QString matched = matchedFamily(family);
-    printDiagnostic(QStringLiteral("fontconfig %1->%2").arg(family, matched));
-    return matched;
+    if (!isInstalled(family)) {
+        const QString matched = matchedFamily(family);
+        printDiagnostic(QStringLiteral("fontconfig %1->%2").arg(family, matched));
+        family = matched;
+    }
+    return family;
 }
 
 /// The style of the face of \a family that comes nearest to \a wanted.
@@ -72,10 +73,9 @@ QString nearestStyle(QFontDatabase &database, const QString &family, const QFont
     QFont plain(family, lookupSize, face.weight());
     plain.setStyle(face.style());
     const QString normalWidth = QFontInfo(plain).styleName();
-    if (!database.styles(family).contains(normalWidth))
-        return style;
     const QFont candidate = database.font(family, normalWidth, lookupSize);
-    const bool fits = candidate.weight() == face.weight() && candidate.style() == face.style();
+    const bool fits = database.styles(family).contains(normalWidth) && candidate.weight() == face.weight()
+                      && candidate.style() == face.style();
     return fits ? normalWidth : style;
 }
 

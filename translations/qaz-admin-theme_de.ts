@@ -597,18 +597,6 @@ Länge: %5 s</translation>
         <translation>Klicken, um eine Schrift zu wählen</translation>
     </message>
     <message>
-        <source>Preview of the selected font</source>
-        <translation>Vorschau der gewählten Schrift</translation>
-    </message>
-    <message>
-        <source>This is a preview of the selected font. You can change it by clicking the &quot;...&quot; button.</source>
-        <translation>Eine Vorschau der gewählten Schrift. Mit der Schaltfläche „…“ wählen Sie eine andere.</translation>
-    </message>
-    <message>
-        <source>Select a font</source>
-        <translation>Schrift wählen</translation>
-    </message>
-    <message>
         <source>Preview of the &quot;%1&quot; font</source>
         <translation>Vorschau der Schrift „%1“</translation>
     </message>

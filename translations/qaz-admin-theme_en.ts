@@ -597,18 +597,6 @@ Length: %5 s</translation>
         <translation>Click to select a font</translation>
     </message>
     <message>
-        <source>Preview of the selected font</source>
-        <translation>Preview of the selected font</translation>
-    </message>
-    <message>
-        <source>This is a preview of the selected font. You can change it by clicking the &quot;...&quot; button.</source>
-        <translation>This is a preview of the selected font. You can change it by clicking the &quot;...&quot; button.</translation>
-    </message>
-    <message>
-        <source>Select a font</source>
-        <translation>Select a font</translation>
-    </message>
-    <message>
         <source>Preview of the &quot;%1&quot; font</source>
         <translation>Preview of the &quot;%1&quot; font</translation>
     </message>

@@ -597,18 +597,6 @@ Duración: %5 s</translation>
         <translation>Pulsar para elegir una fuente</translation>
     </message>
     <message>
-        <source>Preview of the selected font</source>
-        <translation>Vista previa de la fuente elegida</translation>
-    </message>
-    <message>
-        <source>This is a preview of the selected font. You can change it by clicking the &quot;...&quot; button.</source>
-        <translation>Vista previa de la fuente elegida. Puede cambiarla con el botón «…».</translation>
-    </message>
-    <message>
-        <source>Select a font</source>
-        <translation>Elegir una fuente</translation>
-    </message>
-    <message>
         <source>Preview of the &quot;%1&quot; font</source>
         <translation>Vista previa de la fuente «%1»</translation>
     </message>

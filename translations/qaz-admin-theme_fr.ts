@@ -597,18 +597,6 @@ Durée : %5 s</translation>
         <translation>Cliquer pour choisir une police</translation>
     </message>
     <message>
-        <source>Preview of the selected font</source>
-        <translation>Aperçu de la police choisie</translation>
-    </message>
-    <message>
-        <source>This is a preview of the selected font. You can change it by clicking the &quot;...&quot; button.</source>
-        <translation>Aperçu de la police choisie. Le bouton « … » permet d’en changer.</translation>
-    </message>
-    <message>
-        <source>Select a font</source>
-        <translation>Choisir une police</translation>
-    </message>
-    <message>
         <source>Preview of the &quot;%1&quot; font</source>
         <translation>Aperçu de la police « %1 »</translation>
     </message>

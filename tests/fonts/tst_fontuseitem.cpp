@@ -2,14 +2,25 @@
 
 #include "fonts/nearestfont.h"
 #include "settings/rolefonttext.h"
+#include "tests/support/standarderror.h"
+#include "tests/support/temporaryhome.h"
 #include "tests/support/testing.h"
+
+#include <fontconfig/fontconfig.h>
 
 namespace {
 
 const QString sans = "DejaVu Sans"_s;
 const QString mono = "DejaVu Sans Mono"_s;
+QString generalFamily = "Sans Serif"_s;
 
 } // namespace
+
+/// In place of the toolkit's own.
+QFont QFontDatabase::systemFont(SystemFont)
+{
+    return QFont(generalFamily);
+}
 
 class TestFontUseItem : public QObject
 {
@@ -31,9 +42,27 @@ private slots:
             QCOMPARE(fontToText(nearest), fontToText(font));
             QVERIFY2(!QFontInfo(nearest).styleName().contains("Condensed"_s), qPrintable(nearest.toString()));
         }
+        QFont named(sans, 10);
+        named.setStyleName("Bold"_s);
+        QCOMPARE(nearestInstalledFont(named).styleName(), "Bold"_s);
+    }
+
+    void missingFamilyGivesWayToTheGeneralOne()
+    {
+        const TemporaryHome home;
+        home.write(
+            ".config/fontconfig/fonts.conf"_s,
+            "<fontconfig><match><test name='family'><string>Any</string></test><edit name='family' "
+            "mode='assign' binding='strong'><string>DejaVu Sans Mono</string></edit></match></fontconfig>");
+        FcInitReinitialize();
+        const QScopedValueRollback general(generalFamily, "Any"_s);
+        StandardError standardError;
         const QFont substitute = nearestInstalledFont(QFont("No such family"_s, 13));
-        QVERIFY2(QFontDatabase().families().contains(substitute.family()) && substitute.pointSize() == 13,
-                 qPrintable(substitute.toString()));
+        QCOMPARE(substitute.family() + QString::number(substitute.pointSize()), mono + "13"_s);
+        QCOMPARE(standardError.take(), QByteArray("qaz-admin-theme: fontconfig Any->DejaVu Sans Mono\n"));
+        generalFamily = sans; // is installed
+        QCOMPARE(nearestInstalledFont(QFont("No such family"_s, 13)).family(), sans);
+        QCOMPARE(standardError.take(), QByteArray());
     }
 
     void missingFacesAreMadeUp()
@@ -82,15 +111,23 @@ private slots:
 
     void previewNeverWidensThePage()
     {
-        FontUseItem item(nullptr, {}, {}, QFont(sans, 10));
+        FontUseItem item(nullptr, {}, {}, QFont(mono, 30));
         item.restoreDefault();
-        const QSize before = item.minimumSizeHint();
-        const auto *layout = qobject_cast<QBoxLayout *>(item.layout());
-        QVERIFY(layout->stretch(0) == 1 && layout->stretch(1) == 0);
-        item.setFont(QFont(mono, 200), false);
-        QCOMPARE(item.findChild<QLabel *>()->text(), "DejaVu Sans Mono 200"_s);
-        QCOMPARE(item.minimumSizeHint().width(), before.width());
-        QVERIFY(item.minimumSizeHint().height() <= 2 * before.height() && item.sizeHint().height() > 200);
+        auto *preview = item.findChild<QLabel *>();
+        QCOMPARE(preview->text(), "DejaVu Sans Mono 30"_s);
+        const QFontMetrics ordinary(QGuiApplication::font());
+        QCOMPARE(preview->minimumSizeHint(), QSize(10 * ordinary.averageCharWidth(), 2 * ordinary.height()));
+        // It is drawn as a label with a shorter text would be.
+        QLabel elided(&item);
+        elided.setFont(preview->font());
+        elided.setFrameStyle(preview->frameStyle());
+        elided.setIndent(ordinary.horizontalAdvance(u'x') / 2);
+        item.resize(200, 60);
+        const QPixmap picture = preview->grab();
+        elided.resize(picture.size());
+        elided.setText(elided.fontMetrics().elidedText(preview->text(), Qt::ElideRight,
+                                                       elided.contentsRect().width() - 2 * elided.indent()));
+        QCOMPARE(picture.toImage(), elided.grab().toImage());
     }
 };
 
