@@ -13,20 +13,20 @@
 
 namespace {
 
-const QString originKey = QStringLiteral(
-    "Origin"); // the text chunk of the file that holds what it was made from
+// The text chunk of the file that holds what it was made from.
+const QString originKey = QStringLiteral("Origin");
 
 QString sizeText(const QSize &size)
 {
     return QStringLiteral("%1x%2").arg(size.width()).arg(size.height());
 }
 
-/// Empty for what is no image for sure: what is no regular file, and the kernel's own files, which state no size.
+/// Empty for what is no image for sure: what does not exist, and the kernel's own files, which state no size.
 QString originOf(const QString &image, const PreviewLook &look)
 {
     struct stat status = {};
-    if (::stat(QFile::encodeName(image).constData(), &status) != 0 || !S_ISREG(status.st_mode)
-        || status.st_size == 0)
+    ::stat(QFile::encodeName(image).constData(), &status);
+    if (status.st_size == 0)
         return {};
     const QStringList parts = {QString::number(status.st_dev),
                                QString::number(status.st_ino),
@@ -44,8 +44,8 @@ QString originOf(const QString &image, const PreviewLook &look)
 bool isUsersAlone(const QString &path, mode_t type)
 {
     struct stat status = {};
-    return ::lstat(QFile::encodeName(path).constData(), &status) == 0 && (status.st_mode & S_IFMT) == type
-           && status.st_uid == ::geteuid() && (status.st_mode & 077) == 0;
+    ::lstat(QFile::encodeName(path).constData(), &status);
+    return (status.st_mode & (S_IFMT | 077)) == type && status.st_uid == ::geteuid();
 }
 
 /// Null when \a path holds no preview of that origin.
@@ -62,15 +62,13 @@ void keepPreview(const QString &path, QImage preview, const QString &origin)
 {
     const QByteArray name = QFile::encodeName(path);
     struct stat status = {};
-    const bool exists = ::lstat(name.constData(), &status) == 0;
-    if (exists && (!S_ISREG(status.st_mode) || status.st_uid != ::geteuid()))
+    if (::lstat(name.constData(), &status) == 0 && (!S_ISREG(status.st_mode) || status.st_uid != ::geteuid()))
         return;
     preview.setText(originKey, origin);
     QByteArray png;
     QBuffer buffer(&png);
     QString error;
-    if (exists)
-        ::chmod(name.constData(), 0600); // a replaced file keeps its bits
+    ::chmod(name.constData(), 0600); // a replaced file keeps its bits
     if (buffer.open(QIODevice::WriteOnly) && preview.save(&buffer, "PNG"))
         static_cast<void>(replaceFile(path, png, &error, 0600));
 }

@@ -20,7 +20,6 @@
 #include <QDirModel>
 #include <QFileInfo>
 #include <QScreen>
-#include <QTimer>
 #include <QUrl>
 
 namespace {
@@ -110,14 +109,12 @@ void WallpaperPage::connectWidgets()
     connect(checkBox, &QCheckBox::stateChanged, this, &WallpaperPage::slotCurrDesktop, unique);
 }
 
-bool WallpaperPage::saveValues(QazSettings *settings)
+void WallpaperPage::saveValues(QazSettings *settings)
 {
     const QString text = m_ui->wallpaperLineEdit->text();
     const QString wallpaper = text.isEmpty() ? m_color.name() : text;
-    if (m_ui->wallpaperForCurrDesktopCheckBox->isChecked()) {
-        setCurrentDesktopWallpaper(wallpaper);
-        return true;
-    }
+    if (m_ui->wallpaperForCurrDesktopCheckBox->isChecked())
+        return setCurrentDesktopWallpaper(wallpaper);
     // No desktop keeps a wallpaper of its own over the new one of all.
     removeDesktopWallpapers();
     const auto fit = Fit(m_ui->wallpaperPositionCombo->currentIndex());
@@ -127,7 +124,6 @@ bool WallpaperPage::saveValues(QazSettings *settings)
                       wordFromFit(fit));
     updateIntValue(settings, QLatin1String(periodKey.name), QLatin1String(periodKey.defaultText),
                    m_ui->SlideShowSpinBox->value());
-    return true;
 }
 
 void WallpaperPage::selectWallpaperFile()
@@ -137,16 +133,15 @@ void WallpaperPage::selectWallpaperFile()
         selectionStart(m_ui->wallpaperLineEdit->text(), screenSize()),
         tr("Images (*.png *.xpm *.jpg *.jpeg *.svg *.svgz *.PNG *.XPM *.JPG *.JPEG *.SVG *.SVGZ)"));
     dialog.setSidebarUrls(sidebarPlaces(dialog.sidebarUrls()));
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
-        return;
-    takeFile(dialog.selectedFiles().constFirst());
+    if (dialog.exec() == QDialog::Accepted)
+        takeFile(dialog.selectedFiles().value(0));
 }
 
 /// Takes a file that the user has chosen or dropped.
 void WallpaperPage::takeFile(const QString &chosen)
 {
     const QString file = isSvg(chosen) ? convertedFile(chosen) : chosen;
-    if (file.isEmpty() || !QFileInfo::exists(file))
+    if (!QFileInfo::exists(file))
         return;
     if (file == m_ui->wallpaperLineEdit->text())
         slotWallpaperType(); // its content may be a new one
@@ -163,7 +158,10 @@ std::function<void()> WallpaperPage::taking(const QMimeData *data)
     if (file.isEmpty())
         return {};
     // When the drag has ended: a question would keep the program that it came from waiting.
-    return [this, file] { QTimer::singleShot(0, this, [this, file] { takeFile(file); }); };
+    return [this, file] {
+        QMetaObject::invokeMethod(
+            this, [this, file] { takeFile(file); }, Qt::QueuedConnection);
+    };
 }
 
 /// The PNG made of the SVG \a file; empty when the user declines.

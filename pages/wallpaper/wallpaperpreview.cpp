@@ -2,6 +2,7 @@
 
 #include <QPainter>
 
+#include <algorithm>
 #include <limits>
 
 namespace {
@@ -20,8 +21,7 @@ QSize scaledSize(const QSize &image, const QSize &label, const QSize &screen)
 
 QImage fastScaled(const QImage &image, const QSize &size)
 {
-    const auto fits = [](const QSize &s) { return s.width() <= painterLimit && s.height() <= painterLimit; };
-    if (fits(image.size()) && fits(size))
+    if (std::max({image.width(), image.height(), size.width(), size.height()}) <= painterLimit)
         return image.scaled(size, Qt::IgnoreAspectRatio, Qt::FastTransformation);
     QImage result(size, QImage::Format_RGB32);
     for (int y = 0; y < result.height(); ++y) {
@@ -47,15 +47,10 @@ QImage drawPreview(const QImage &image, const PreviewLook &look)
         return canvas;
     QPainter painter(&canvas);
     painter.setCompositionMode(QPainter::CompositionMode_Source);
-    QSize size = scaledSize(image.size(), look.label, look.screen);
+    const QSize size = scaledSize(image.size(), look.label, look.screen);
     if (look.fit == Fit::Tile) {
-        // A pattern of a few pixels scales to nothing, and steps of nothing would never reach the end.
-        size = size.expandedTo(QSize(1, 1));
-        const QImage tile = fastScaled(image, size);
-        for (int x = 0; x < canvas.width(); x += size.width()) {
-            for (int y = 0; y < canvas.height(); y += size.height())
-                painter.drawImage(x, y, tile);
-        }
+        // A pattern of a few pixels scales to nothing.
+        painter.fillRect(canvas.rect(), fastScaled(image, size.expandedTo(QSize(1, 1))));
     } else if (!size.isEmpty()) {
         painter.drawImage((canvas.width() - size.width()) / 2, (canvas.height() - size.height()) / 2,
                           fastScaled(image, size));

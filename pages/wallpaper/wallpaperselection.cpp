@@ -17,30 +17,30 @@ namespace {
 
 const QLatin1String systemWallpapers("/usr/share/wallpapers");
 
-QString directoryName(int width, QChar separator, int height)
+QString directoryName(const QSize &size, QChar separator = QLatin1Char('x'))
 {
-    return QLatin1Char('/') + QString::number(width) + separator + QString::number(height);
+    return QLatin1Char('/') + QString::number(size.width()) + separator + QString::number(size.height());
 }
 
 } // namespace
 
 QString selectionStart(const QString &text, const QSize &screenSize)
 {
-    int standard[2] = {}, ratio[2] = {};
-    WallpaperSizeForScreen(screenSize.width(), screenSize.height(), &standard[0], &standard[1], &ratio[0],
-                           &ratio[1]);
+    QSize standard, ratio;
+    WallpaperSizeForScreen(screenSize.width(), screenSize.height(), &standard.rwidth(), &standard.rheight(),
+                           &ratio.rwidth(), &ratio.rheight());
     const QString own = directoryPath(DirectoryKind::Wallpapers);
-    const QString screen = directoryName(screenSize.width(), QLatin1Char('x'), screenSize.height());
+    const QString screen = directoryName(screenSize);
     const QString places[] = {// best first
                               text,
                               own + screen,
                               systemWallpapers + screen,
-                              systemWallpapers + directoryName(standard[0], QLatin1Char('x'), standard[1]),
-                              systemWallpapers + directoryName(ratio[0], QLatin1Char(':'), ratio[1]),
+                              systemWallpapers + directoryName(standard),
+                              systemWallpapers + directoryName(ratio, QLatin1Char(':')),
                               systemWallpapers,
                               own};
     for (const QString &place : places) {
-        if (!place.isEmpty() && QFileInfo::exists(place))
+        if (QFileInfo::exists(place))
             return place;
     }
     return QDir::homePath();
@@ -62,8 +62,7 @@ QList<QUrl> sidebarPlaces(QList<QUrl> places)
 QString conversionTarget(const QString &path, const QSize &screenSize)
 {
     const QString own = directoryPath(DirectoryKind::Wallpapers);
-    return (own.isEmpty() ? QDir::homePath() : own)
-           + directoryName(screenSize.width(), QLatin1Char('x'), screenSize.height()) + QLatin1Char('/')
+    return (own.isEmpty() ? QDir::homePath() : own) + directoryName(screenSize) + QLatin1Char('/')
            + QFileInfo(path).baseName() + QLatin1String(".png");
 }
 

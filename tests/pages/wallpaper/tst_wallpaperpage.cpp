@@ -121,6 +121,8 @@ private slots:
         QCOMPARE(page.content(), stored);
         page.onlyDesktop->click();
         QVERIFY(page.position->isEnabled() && page.period->isEnabled());
+        page.load(stored);
+        QVERIFY(page.position->currentIndex() == 2 && page.period->value() == 0);
     }
 
     void textsDrawTheirPreview()
@@ -134,6 +136,8 @@ private slots:
         QCOMPARE(completer->currentCompletion(), red);
         QVERIFY(page.lineEdit->isClearButtonEnabled());
         QTest::keyClick(page.position, Qt::Key_Up);
+        page.home.write("#abcdef"_s, picture("red"));
+        QDir::setCurrent(page.home.path());
         const QString colors[][2] = {{red, "#ff0000"_s},          {"my paper"_s, "#00ff00"_s},
                                      {"no paper"_s, "#102030"_s}, {"#zz"_s, "#102030"_s},
                                      {"#abcdef"_s, "#abcdef"_s},  {QString(), "#abcdef"_s}};
@@ -161,6 +165,8 @@ private slots:
         const auto look = [&](QDialog *dialog) {
             auto *files = qobject_cast<QFileDialog *>(dialog);
             starts << files->directory().path() << QUrl::toStringList(files->sidebarUrls()).join(u' ');
+            QCOMPARE(files->nameFilters().join(u'|'), "Images (*.png *.xpm *.jpg *.jpeg *.svg *.svgz *.PNG "
+                                                      "*.XPM *.JPG *.JPEG *.SVG *.SVGZ)"_s);
             files->reject();
         };
         page.driver.then(look);

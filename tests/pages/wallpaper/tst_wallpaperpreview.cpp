@@ -76,6 +76,12 @@ private slots:
                      QRgb(fit == Fit::Stretch ? translucent.pixel(0, 0) & RGB_MASK : 0x0a141e));
             QCOMPARE(drawPreview(line, {fit, fill, {0, 0}, {0, 0}}).size(), QSize(1, 1));
         }
+        const QImage wide = numbered({40000, 20});
+        QImage expected(canvas.size(), wide.format());
+        for (int x = 0; x < canvas.width(); ++x)
+            for (int y = 0; y < canvas.height(); ++y)
+                expected.setPixel(x, y, wide.pixel(x * wide.width() / 242, y * wide.height() / 181));
+        QCOMPARE(drawPreview(wide, {Fit::Stretch, fill, label, screen}), expected);
     }
 
     void keptPreviewIsUsedWhileNothingChanged()
