@@ -95,24 +95,15 @@ bool updateCompton(const QString &path, const CompositeState &state)
     }
     if (stored->transparency == state.transparency && stored->shadow == state.shadow)
         return false;
-    if (QString error; !updateComptonFile(path, {state.transparency, state.shadow}, &error))
+    if (QString error; !updateComptonFile(path, state.transparency, state.shadow, &error))
         printDiagnostic(QStringLiteral("Can't write %1: %2").arg(path, error));
     return true;
-}
-
-/// Makes an empty file at \a path, but never empties one that exists.
-bool createFile(const QString &path)
-{
-    const QFileInfo info(path);
-    if (info.exists() && !info.isFile())
-        return false;
-    return QFile(path).open(QIODevice::WriteOnly | QIODevice::Append);
 }
 
 void copySystemFile(const QString &from, const QString &to)
 {
     const FileContent file = readRegularFile(from);
-    if (file.state != FileState::Regular || !QFileInfo(QFileInfo(to).path()).isDir())
+    if (!QFileInfo(QFileInfo(to).path()).isDir())
         return;
     const auto fill = [&file](const QByteArray &content) {
         return content.isEmpty() ? file.content : content;
@@ -186,7 +177,7 @@ QString resolveComptonConfig(const ComptonPlaces &places)
     QString path = places.home + QLatin1String("/.config") + file;
     if (QFileInfo::exists(places.systemFile))
         copySystemFile(places.systemFile, path);
-    else if (!createFile(path))
+    else if (!QFileInfo(path).isFile() && !QFile(path).open(QIODevice::NewOnly))
         printDiagnostic(QStringLiteral("Can't create %1").arg(path));
     return path;
 }

@@ -8,10 +8,8 @@
 
 #include <QFileInfo>
 #include <QMap>
-#include <QScopeGuard>
 
 #include <algorithm>
-#include <clocale>
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
@@ -26,13 +24,6 @@ constexpr char shadowName[] = "shadow";
 // The files in use are a few kilobytes long.
 constexpr int sizeLimit = 1024 * 1024;
 
-/// Numbers have a decimal point in these files, whatever the user's language, as long as the result lives.
-[[nodiscard]] auto decimalPoint()
-{
-    static const locale_t locale = ::newlocale(LC_NUMERIC_MASK, "C", locale_t(nullptr));
-    return qScopeGuard([before = ::uselocale(locale)] { ::uselocale(before); });
-}
-
 /// libconfig's tree of a text.
 class Tree
 {
@@ -44,7 +35,6 @@ public:
 
     bool read(const QByteArray &text)
     {
-        const auto point = decimalPoint();
         return !text.contains('\0') && ::config_read_string(&m_config, text.constData()) == CONFIG_TRUE;
     }
 
@@ -53,38 +43,26 @@ public:
         int value = 0;
         if (::config_lookup_bool(&m_config, name, &value) != CONFIG_TRUE)
             return {};
-        return value != 0;
+        return bool(value);
     }
 
     void setBoolean(const char *name, bool value)
     {
         config_setting_t *root = config_root_setting(&m_config);
-        config_setting_t *setting = ::config_lookup(&m_config, name);
-        if (setting && config_setting_type(setting) != CONFIG_TYPE_BOOL) {
-            ::config_setting_remove(root, name);
-            setting = nullptr;
-        }
-        if (!setting)
-            setting = ::config_setting_add(root, name, CONFIG_TYPE_BOOL);
-        if (setting)
-            ::config_setting_set_bool(setting, value ? CONFIG_TRUE : CONFIG_FALSE);
+        ::config_setting_remove(root, name); // its type may be another one
+        ::config_setting_set_bool(::config_setting_add(root, name, CONFIG_TYPE_BOOL), value);
     }
 
-    /// The whole configuration as libconfig writes it; nothing when memory runs out.
-    std::optional<QByteArray> text() const
+    /// The whole configuration as libconfig writes it.
+    QByteArray text() const
     {
         char *buffer = nullptr;
         std::size_t size = 0;
-        std::unique_ptr<FILE, Release<std::fclose>> stream(::open_memstream(&buffer, &size));
-        if (!stream)
-            return {};
-        {
-            const auto point = decimalPoint();
-            ::config_write(&m_config, stream.get());
-        }
-        stream.reset(); // fills in buffer and size
+        std::FILE *stream = ::open_memstream(&buffer, &size);
+        ::config_write(&m_config, stream);
+        std::fclose(stream); // fills in buffer and size
         const std::unique_ptr<char, Release<std::free>> owned(buffer);
-        return QByteArray(owned.get(), int(size));
+        return QByteArray(buffer, int(size));
     }
 
 private:
@@ -143,15 +121,11 @@ std::optional<ComptonValues> readComptonFile(const QString &path)
     return ComptonValues{tree.boolean(transparencyName), tree.boolean(shadowName)};
 }
 
-bool updateComptonFile(const QString &path, const ComptonValues &values, QString *error)
+bool updateComptonFile(const QString &path, bool transparency, bool shadow, QString *error)
 {
-    QMap<QByteArray, bool> updates;
-    if (values.transparency)
-        updates.insert(transparencyName, *values.transparency);
-    if (values.shadow)
-        updates.insert(shadowName, *values.shadow);
     const auto edit = [&](const QByteArray &text) {
-        std::optional<QByteArray> result = updated(text, path, updates);
+        std::optional<QByteArray> result = updated(text, path,
+                                                   {{transparencyName, transparency}, {shadowName, shadow}});
         if (!result)
             *error = QStringLiteral("No configuration");
         return result;

@@ -15,7 +15,7 @@ struct ComptonValues {
 /// is larger than any configuration can sensibly be.
 std::optional<ComptonValues> readComptonFile(const QString &path);
 
-/// Sets those of \a values that are given, whatever stood in their place, after a backup. The file belongs to the
-/// user: every other byte stays. A setting that stands in an included file isn't changed there: then the texts of the
-/// included files take the places of the includes. On failure the old file stands whole and \a error says why.
-[[nodiscard]] bool updateComptonFile(const QString &path, const ComptonValues &values, QString *error);
+/// Sets both values, whatever stood in their place, after a backup. The file belongs to the user: every other byte
+/// stays. A setting that stands in an included file isn't changed there: then the texts of the included files take the
+/// places of the includes. On failure the old file stands whole and \a error says why.
+[[nodiscard]] bool updateComptonFile(const QString &path, bool transparency, bool shadow, QString *error);

@@ -49,7 +49,7 @@ void updateFrom(QazSettings *settings, const QString &key, const QString &defaul
 
 void updateFrom(QazSettings *settings, const QString &key, const QString &defaultText, const QComboBox *box)
 {
-    updateStringValue(settings, key, defaultText, mapStyles().at(qMax(0, box->currentIndex())));
+    updateStringValue(settings, key, defaultText, mapStyles().at(box->currentIndex()));
 }
 
 } // namespace
@@ -72,6 +72,7 @@ EffectPage::EffectPage(QWidget *parent)
         label->setToolTip(label->buddy()->toolTip());
     // Menu transparency is loaded and saved, but no window manager of today draws it.
     m_ui->pseudoTransparencyButtonGroup->hide();
+    connectEdits();
 }
 
 EffectPage::~EffectPage() = default;
@@ -79,21 +80,17 @@ EffectPage::~EffectPage() = default;
 bool EffectPage::loadValues(QazSettings *settings)
 {
     const WaitCursor waitCursor;
-    {
-        // A repeated load finds the connections made: what it sets is no edit.
-        const QSignalBlocker blocker(this);
-        for (const EffectSetting &setting : effectSettings) {
-            if (setting.isLoaded)
-                loadSetting(settings, setting);
-        }
-        m_ui->pagingGroupBox->setChecked(m_ui->pagingBeltSizeSpinBox->value() != 0);
-        m_ui->thumbCheckBox->setChecked(storedText(settings, thumbnailKey).toInt() != 0);
-        const CompositeState state = loadComposite(settings, compositeState(), &comptonConfigPath);
-        m_ui->compositeGroupBox->setChecked(state.managerOn);
-        m_ui->transparencyCheckBox->setChecked(state.transparency);
-        m_ui->shadowCheckBox->setChecked(state.shadow);
+    const QSignalBlocker blocker(this); // what it sets is no edit
+    for (const EffectSetting &setting : effectSettings) {
+        if (setting.isLoaded)
+            loadSetting(settings, setting);
     }
-    connectEdits();
+    m_ui->pagingGroupBox->setChecked(m_ui->pagingBeltSizeSpinBox->value() != 0);
+    m_ui->thumbCheckBox->setChecked(storedText(settings, thumbnailKey).toInt() != 0);
+    const CompositeState state = loadComposite(settings, compositeState(), &comptonConfigPath);
+    m_ui->compositeGroupBox->setChecked(state.managerOn);
+    m_ui->transparencyCheckBox->setChecked(state.transparency);
+    m_ui->shadowCheckBox->setChecked(state.shadow);
     if (m_ui->gradWindowMapStyleComboBox->currentIndex() == 0)
         m_ui->gradWindowMapSpeedSpinBox->setEnabled(false);
     loaded = true;
@@ -149,18 +146,14 @@ CompositeState EffectPage::compositeState() const
 
 void EffectPage::connectEdits()
 {
-    // Loading may run again, so the connections are unique.
-    constexpr Qt::ConnectionType unique = Qt::UniqueConnection;
     for (const QSpinBox *box : findChildren<QSpinBox *>())
-        connect(box, qOverload<int>(&QSpinBox::valueChanged), this, &EffectPage::changedSignal, unique);
-    const QComboBox *style = m_ui->gradWindowMapStyleComboBox;
-    connect(style, &QComboBox::editTextChanged, this, &EffectPage::changedSignal, unique);
-    connect(style, qOverload<int>(&QComboBox::activated), this, &EffectPage::changedSignal, unique);
-    connect(style, qOverload<int>(&QComboBox::activated), this, &EffectPage::mapAnimationSlot, unique);
+        connect(box, qOverload<int>(&QSpinBox::valueChanged), this, &EffectPage::changedSignal);
     for (const QCheckBox *box : findChildren<QCheckBox *>())
-        connect(box, box == m_ui->smartPlacementCheckBox ? &QCheckBox::toggled : &QCheckBox::clicked, this,
-                &EffectPage::changedSignal, unique);
-    connect(m_ui->compositeGroupBox, &QGroupBox::clicked, this, &EffectPage::changedSignal, unique);
-    connect(m_ui->pagingGroupBox, &QGroupBox::toggled, this, &EffectPage::changedSignal, unique);
-    connect(m_ui->pagingGroupBox, &QGroupBox::toggled, this, &EffectPage::pagingBeltSlot, unique);
+        connect(box, &QCheckBox::clicked, this, &EffectPage::changedSignal);
+    const QComboBox *style = m_ui->gradWindowMapStyleComboBox;
+    connect(style, qOverload<int>(&QComboBox::activated), this, &EffectPage::changedSignal);
+    connect(style, qOverload<int>(&QComboBox::activated), this, &EffectPage::mapAnimationSlot);
+    connect(m_ui->compositeGroupBox, &QGroupBox::clicked, this, &EffectPage::changedSignal);
+    connect(m_ui->pagingGroupBox, &QGroupBox::toggled, this, &EffectPage::changedSignal);
+    connect(m_ui->pagingGroupBox, &QGroupBox::toggled, this, &EffectPage::pagingBeltSlot);
 }

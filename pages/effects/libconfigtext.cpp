@@ -4,220 +4,116 @@
 
 #include <QDir>
 #include <QFile>
-
-#include <cstring>
+#include <QRegularExpression>
+#include <QVector>
 
 namespace {
 
 constexpr int includeDepthLimit = 10; // libconfig's own
 
-struct Token {
-    enum Kind { End, Word, String, Sign };
+// Patterns for bytes that are read as Latin-1: so a position in the text is one in the bytes.
+const QLatin1String comment(R"x(#[^\n]*+|//[^\n]*+|/\*(?s:.*?)(?:\*/|\z))x");
+const QLatin1String string(R"x("(?:[^"\\]++|\\(?s:.))*+")x");
+const QLatin1String signOrWord(R"x([=:;,{}()\[\]]|(?:(?!#|//|/\*)[^\s=:;,{}()\[\]"])++)x");
+const QLatin1String includeLine(R"x((?m:^)[ \t]*+\K@include[ \t]+"((?:[^"\\\n]|\\.)*+)")x");
 
-    Kind kind = End;
-    int begin = 0;
-    int end = 0;
+struct Token {
+    QString text; ///< of a value in brackets only the first one
+    int begin;
+    int end;
+
+    bool isString() const { return text.startsWith(QLatin1Char('"')); }
 };
 
-bool isBlank(char c)
+/// The names, signs and values at the root of a text that libconfig has read before. A value in brackets is one token, and
+/// so are adjacent strings.
+QVector<Token> rootTokens(const QByteArray &text)
 {
-    return c == ' ' || c == '\t' || c == '\n' || c == '\r' || c == '\f';
+    static const QRegularExpression pattern(QStringLiteral("%1|(%2|%3)").arg(comment, string, signOrWord));
+    QVector<Token> tokens;
+    int depth = 0;
+    for (auto matches = pattern.globalMatch(QString::fromLatin1(text)); matches.hasNext();) {
+        const QRegularExpressionMatch match = matches.next();
+        const Token token{match.captured(1), match.capturedStart(1), match.capturedEnd(1)};
+        if (token.text.isEmpty())
+            continue; // a comment
+        if (depth > 0 || (token.isString() && tokens.last().isString()))
+            tokens.last().end = token.end;
+        else
+            tokens.append(token);
+        if (QLatin1String("{([").contains(token.text))
+            ++depth;
+        else if (QLatin1String("})]").contains(token.text))
+            --depth;
+    }
+    return tokens;
 }
 
-bool isSign(char c)
-{
-    return std::strchr("=:;,{}()[]\"", c) != nullptr;
-}
-
-/// Splits a configuration into tokens without judging it: libconfig has read the text before.
-class Scanner
+/// Puts a configuration and its included files together.
+class Includes
 {
 public:
-    explicit Scanner(const QByteArray &text)
-        : m_text(text)
+    Includes(const QString &directory, int sizeLimit)
+        : m_directory(directory)
+        , m_bytesLeft(sizeLimit)
     {}
 
-    Token next()
+    std::optional<QByteArray> expand(const QByteArray &text, int depthLeft)
     {
-        skipBlanksAndComments();
-        Token token{Token::End, m_position, m_position};
-        if (m_position >= m_text.size())
-            return token;
-        const char first = m_text.at(m_position++);
-        if (first == '"') {
-            token.kind = Token::String;
-            skipString();
-        } else if (isSign(first)) {
-            token.kind = Token::Sign;
-        } else {
-            token.kind = Token::Word;
-            while (m_position < m_text.size() && !isBlank(m_text.at(m_position))
-                   && !isSign(m_text.at(m_position)) && !startsComment())
-                ++m_position;
+        // Comments and strings may hold such a line, too.
+        static const QRegularExpression pattern(QStringLiteral("%1|%2|%3").arg(comment, string, includeLine));
+        QByteArray result;
+        int copied = 0;
+        for (auto matches = pattern.globalMatch(QString::fromLatin1(text)); matches.hasNext();) {
+            const QRegularExpressionMatch match = matches.next();
+            if (match.lastCapturedIndex() == 0)
+                continue;
+            const std::optional<QByteArray> included = read(match.captured(1), depthLeft);
+            if (!included)
+                return {};
+            result += text.mid(copied, match.capturedStart() - copied) + *included;
+            if (!included->endsWith('\n')) // it may end in a comment
+                result += '\n';
+            copied = match.capturedEnd();
         }
-        token.end = m_position;
-        return token;
-    }
-
-    QByteArray textOf(const Token &token) const { return m_text.mid(token.begin, token.end - token.begin); }
-    char signOf(const Token &token) const
-    {
-        return token.kind == Token::Sign ? m_text.at(token.begin) : '\0';
+        return result + text.mid(copied);
     }
 
 private:
-    bool startsWith(const char *start) const
+    std::optional<QByteArray> read(QString quoted, int depthLeft)
     {
-        return std::strncmp(m_text.constData() + m_position, start, std::strlen(start)) == 0;
-    }
-    bool startsComment() const { return startsWith("#") || startsWith("//") || startsWith("/*"); }
-
-    void skipBlanksAndComments()
-    {
-        while (m_position < m_text.size()) {
-            if (isBlank(m_text.at(m_position)))
-                ++m_position;
-            else if (startsWith("/*"))
-                skipBehind("*/", 2);
-            else if (startsComment())
-                skipBehind("\n", 1);
-            else
-                return;
-        }
-    }
-
-    void skipBehind(const char *end, int from)
-    {
-        const int found = m_text.indexOf(end, m_position + from);
-        m_position = found < 0 ? m_text.size() : found + int(std::strlen(end));
-    }
-
-    void skipString()
-    {
-        while (m_position < m_text.size() && m_text.at(m_position) != '"')
-            m_position += m_text.at(m_position) == '\\' ? 2 : 1;
-        m_position = qMin(m_position + 1, m_text.size());
-    }
-
-    const QByteArray m_text;
-    int m_position = 0;
-};
-
-struct Range {
-    int begin;
-    int end;
-};
-
-int nesting(char sign)
-{
-    if (sign == '\0')
-        return 0;
-    return std::strchr("{([", sign) ? 1 : std::strchr("})]", sign) ? -1 : 0;
-}
-
-/// The value that starts at \a token, up to its closing bracket; adjacent strings are one value.
-Range valueRange(Scanner &scanner, Token *token)
-{
-    Range range{token->begin, token->end};
-    const bool isString = token->kind == Token::String;
-    int depth = nesting(scanner.signOf(*token));
-    for (*token = scanner.next(); token->kind != Token::End; *token = scanner.next()) {
-        if (depth == 0 && !(isString && token->kind == Token::String))
-            break;
-        depth += nesting(scanner.signOf(*token));
-        range.end = token->end;
-    }
-    return range;
-}
-
-/// Where the value of the root's setting \a name stands.
-std::optional<Range> findRootValue(const QByteArray &text, const QByteArray &name)
-{
-    Scanner scanner(text);
-    for (Token token = scanner.next(); token.kind != Token::End;) {
-        const bool isWanted = token.kind == Token::Word && scanner.textOf(token) == name;
-        token = scanner.next();
-        const char sign = scanner.signOf(token);
-        if (sign != '=' && sign != ':')
-            continue;
-        token = scanner.next();
-        const Range range = valueRange(scanner, &token);
-        if (isWanted)
-            return range;
-    }
-    return {};
-}
-
-/// The quoted text with its escapes resolved, as far as file names use them.
-QString includedName(const QByteArray &quoted)
-{
-    QByteArray name;
-    for (int i = 1; i < quoted.size() - 1; ++i) {
-        if (quoted.at(i) == '\\')
-            ++i;
-        name += quoted.at(i);
-    }
-    return QFile::decodeName(name);
-}
-
-bool standsFirstInLine(const QByteArray &text, int position)
-{
-    while (position > 0 && (text.at(position - 1) == ' ' || text.at(position - 1) == '\t'))
-        --position;
-    return position == 0 || text.at(position - 1) == '\n';
-}
-
-std::optional<QByteArray> expand(const QByteArray &text, const QDir &directory, int sizeLimit, int depth);
-
-std::optional<QByteArray> expandFile(const QString &path, const QDir &directory, int sizeLimit, int depth)
-{
-    if (depth > includeDepthLimit)
-        return {};
-    const FileContent file = readRegularFile(path, sizeLimit);
-    if (file.state != FileState::Regular)
-        return {};
-    return expand(file.content, directory, sizeLimit, depth);
-}
-
-std::optional<QByteArray> expand(const QByteArray &text, const QDir &directory, int sizeLimit, int depth)
-{
-    QByteArray result;
-    int copied = 0;
-    Scanner scanner(text);
-    for (Token token = scanner.next(); token.kind != Token::End;) {
-        const Token word = token;
-        token = scanner.next();
-        if (token.kind != Token::String || scanner.textOf(word) != "@include"
-            || !standsFirstInLine(text, word.begin))
-            continue;
-        const auto included = expandFile(directory.absoluteFilePath(includedName(scanner.textOf(token))),
-                                         directory, sizeLimit - result.size(), depth + 1);
-        if (!included)
+        static const QRegularExpression escape(QStringLiteral(R"(\\(.))"));
+        const QString name = QFile::decodeName(quoted.replace(escape, QStringLiteral("\\1")).toLatin1());
+        const FileContent file = readRegularFile(m_directory.absoluteFilePath(name), m_bytesLeft);
+        if (file.state != FileState::Regular || depthLeft == 0)
             return {};
-        result += text.mid(copied, word.begin - copied) + *included;
-        if (!included->endsWith('\n')) // it may end in a comment
-            result += '\n';
-        copied = token.end;
+        m_bytesLeft -= file.content.size();
+        return expand(file.content, depthLeft - 1);
     }
-    result += text.mid(copied);
-    if (result.size() > sizeLimit)
-        return {};
-    return result;
-}
+
+    const QDir m_directory;
+    int m_bytesLeft;
+};
 
 } // namespace
 
 std::optional<QByteArray> withIncludes(const QByteArray &text, const QString &directory, int sizeLimit)
 {
-    return expand(text, QDir(directory), sizeLimit, 0);
+    return Includes(directory, sizeLimit).expand(text, includeDepthLimit);
 }
 
 QByteArray withRootBoolean(const QByteArray &text, const QByteArray &name, bool value)
 {
     const QByteArray valueText = value ? "true" : "false";
     QByteArray result = text;
-    if (const std::optional<Range> range = findRootValue(text, name))
-        return result.replace(range->begin, range->end - range->begin, valueText);
+    QString setting;
+    QString sign;
+    for (const Token &token : rootTokens(text)) {
+        if (setting == QLatin1String(name) && (sign == QLatin1Char('=') || sign == QLatin1Char(':')))
+            return result.replace(token.begin, token.end - token.begin, valueText);
+        setting = sign;
+        sign = token.text;
+    }
     const QByteArray lineEnd = text.contains("\r\n") ? "\r\n" : "\n";
     if (!result.isEmpty() && !result.endsWith('\n'))
         result += lineEnd;

@@ -73,11 +73,13 @@ const QString compton = "compton-%1"_s.arg(QCoreApplication::applicationPid());
 const QString off = "QAZWM_UPDATE_VAL UseComposite false"_s;
 const QString on = "QAZWM_UPDATE_VAL UseComposite true"_s;
 
-/// Sets both values in the file.
-bool update(const QString &path, bool transparency, bool shadow)
+constexpr int million = 1024 * 1024;
+
+/// Sets both values in the file; returns what went wrong.
+QString update(const QString &path, bool transparency, bool shadow)
 {
     QString error;
-    return updateComptonFile(path, {transparency, shadow}, &error);
+    return updateComptonFile(path, transparency, shadow, &error) ? QString() : error;
 }
 
 /// The transparency and the shadow of the file: "true -" for a missing shadow.
@@ -125,7 +127,9 @@ private slots:
                  QByteArray("qaz-admin-wm: can't find CompositeManager='no-%s-compton' in PATH\n"));
         QVERIFY(!state.managerOn && !state.transparency && state.shadow);
         QCOMPARE(session.themeLines(), QByteArray("UseComposite=false\n"));
-        session.save(state);
+        session.home.write("t"_s, "CompositeManager=no-%s-compton\nUseComposite=true\n");
+        session.save({true, true, true}); // which of the files would be edited is not known
+        QCOMPARE(session.themeLines(), QByteArray("UseComposite=true\n"));
         QVERIFY(session.comptonConfigPath.isEmpty() && !session.home.exists(comptonFile));
 
         // A save to a theme that still says on tells the window manager; kompmgrrc is overwritten, but kept.
@@ -159,14 +163,23 @@ private slots:
     {
         const std::tuple<QByteArray, CompositeState, QStringList, const char *> rows[] = {
             {"true", {true, false, true}, {off, on}, "true"}, {"true", {true, false, false}, {}, "true"},
-            {"false", {true, true, true}, {on}, "true"},      {"true", {false, true, true}, {off}, "false"},
+            {"false", {true, true, false}, {on}, "true"},     {"true", {false, true, true}, {off}, "false"},
             {"True", {true, true, true}, {}, "True"},         {"", {true, true, true}, {on}, "true"}};
+        const auto own = [](const CompositeState &state) {
+            return QByteArray("; mine\n[kompmgr]\nOther=\"a, b\"\n")
+                   + (state.shadow ? "Compmode=CompClientShadows\n" : "")
+                   + (state.transparency ? "IgnoreTransparency=false\n" : "") + "\n[more]\nkey=1\n";
+        };
+        const auto theirs = [](const CompositeState &state) {
+            return QByteArray("# mine\nshadow = ") + (state.shadow ? "true" : "false")
+                   + ";\nenable-transparency = " + (state.transparency ? "true" : "false") + ";\n";
+        };
         for (const auto &[use, state, commands, usedThen] : rows) {
             for (const QString &manager : {ownManager, compton}) {
                 const QByteArray line = use.isEmpty() ? QByteArray() : "UseComposite=" + use + '\n';
                 Session session(manager, true, line);
-                session.home.write(kompmgrFile, "; mine\n[kompmgr]\nOther=\"a, b\"\n\n[more]\nkey=1\n");
-                session.home.write(comptonFile, "# mine\nshadow = false;\nenable-transparency = false;\n");
+                session.home.write(kompmgrFile, own({}));
+                session.home.write(comptonFile, theirs({}));
                 session.load();
                 session.writeTheme(line);
                 WmListener windowManager;
@@ -174,10 +187,10 @@ private slots:
                 QCOMPARE(windowManager.take(), commands);
                 QCOMPARE(session.themeLines(), QByteArray("UseComposite=") + usedThen + '\n');
                 QCOMPARE(session.home.backups().size(), state.transparency || state.shadow ? 1 : 0);
-                const CompositeState reloaded = session.load();
-                QVERIFY(reloaded.transparency == state.transparency && reloaded.shadow == state.shadow);
-                QVERIFY(session.home.read(kompmgrFile).contains("Other=\"a, b\""));
-                QVERIFY(session.home.read(comptonFile).startsWith("# mine\n"));
+                QCOMPARE(session.home.read(kompmgrFile),
+                         own(manager == ownManager ? state : CompositeState{}));
+                QCOMPARE(session.home.read(comptonFile),
+                         theirs(manager == compton ? state : CompositeState{}));
             }
         }
     }
@@ -203,8 +216,10 @@ private slots:
         StandardError messages;
         const CompositeState state = session.load({false, true, true});
         QVERIFY(state.transparency && state.shadow);
-        session.writeTheme("UseComposite=false\n");
-        session.save({});
+        session.writeTheme("UseComposite=true\n");
+        WmListener windowManager;
+        session.save({true, false, false});
+        QCOMPARE(windowManager.take(), QStringList());
         const QByteArray message = "qaz-admin-theme: Can't read " + QFile::encodeName(path) + '\n';
         QCOMPARE(messages.take(), message + message);
         QVERIFY(QFileInfo::exists(path) && !QFileInfo(path).isFile());
@@ -222,6 +237,7 @@ private slots:
             {"xdg"_s, {".config/x"_s, "etc"_s}, inConfig, "etc"},
             {"xdg"_s, {inConfig}, inConfig, ".config/compton.conf"}, // not emptied
             {"xdg"_s, {".config/x"_s}, inConfig, ""},
+            {"xdg"_s, {inConfig + "/x"_s}, inConfig, nullptr}, // no file
             {".config"_s, {"etc"_s}, inConfig, nullptr},
             {".config"_s, {}, inConfig, nullptr}};
         for (const auto &[configHome, files, resolved, content] : rows) {
@@ -232,7 +248,10 @@ private slots:
             QCOMPARE(resolveComptonConfig({home.path(configHome), home.path(), home.path("etc"_s)}),
                      home.path(resolved));
             QCOMPARE(home.read(resolved), QByteArray(content));
-            QCOMPARE(messages.take().isEmpty(), !files.isEmpty());
+            QCOMPARE(messages.take(),
+                     content || files == QStringList{"etc"_s}
+                         ? QByteArray()
+                         : "qaz-admin-theme: Can't create " + QFile::encodeName(home.path(resolved)) + '\n');
         }
     }
 
@@ -262,11 +281,11 @@ private slots:
             const TemporaryHome home;
             const QString path = home.path("link"_s);
             QVERIFY(QFile::link(home.write(comptonFile, before), path));
-            QVERIFY(update(path, true, false));
+            QCOMPARE(update(path, true, false), QString());
             QCOMPARE(home.read(comptonFile), after);
             QCOMPARE(stored(path), QByteArray("true false"));
             const QString whole = home.fingerprint();
-            QVERIFY(update(path, true, false));
+            QCOMPARE(update(path, true, false), QString());
             QCOMPARE(home.fingerprint(), whole);
         }
     }
@@ -282,16 +301,31 @@ private slots:
         const QByteArray after = "  @include \"" + QByteArray(absolute).replace('\\', "\\\\") + "\"\n";
         const QString path = home.write(comptonFile, before + after);
         QCOMPARE(stored(path), QByteArray("- true"));
-        QVERIFY(update(path, false, true));
+        QCOMPARE(update(path, false, true), QString());
         QCOMPARE(home.read(comptonFile), before + after + "enable-transparency = false;\n");
 
         // A value of an included file is set in the file itself.
         home.write(".config/a.conf"_s, included);
-        QVERIFY(update(path, true, false));
+        QCOMPARE(update(path, true, false), QString());
         QCOMPARE(home.read(comptonFile),
                  QByteArray("# mine\nshadow = false; # theirs\nratio=1.23456789012;other = 0xFF;\n\n"
                             "# @include \"missing\"\n  b = 2;\n\nenable-transparency = true;\n"));
         QCOMPARE(home.read(".config/a.conf"_s), included);
+    }
+
+    void includesAreLimited()
+    {
+        const TemporaryHome home;
+        home.write("11"_s, {});
+        for (int i = 0; i < 11; ++i)
+            home.write(QString::number(i), "@include \"" + QByteArray::number(i + 1) + "\"\n");
+        QCOMPARE(stored(home.path("1"_s)) + ' ' + stored(home.path("0"_s)), QByteArray("- - unreadable"));
+        home.write("half"_s, QByteArray(million / 2, ' '));
+        home.write("byte"_s, "\n");
+        const QByteArray twice = "@include \"half\"\n@include \"half\"\n";
+        QCOMPARE(stored(home.write("whole"_s, twice)), QByteArray("- -"));
+        QCOMPARE(stored(home.write("more"_s, twice + "@include \"byte\"\n")), QByteArray("unreadable"));
+        QCOMPARE(stored(home.write("large"_s, QByteArray(million, ' '))), QByteArray("- -"));
     }
 
     void whatIsNoConfigurationIsLeftAlone()
@@ -301,7 +335,7 @@ private slots:
                                        QByteArray("shadow = true;\0", 15),
                                        "a = 1; a = 2;",
                                        "a = " + QByteArray(200000, '('),
-                                       "a = \"" + QByteArray(2 * 1024 * 1024, 'x') + "\";\n",
+                                       "a = \"" + QByteArray(million - 5, 'x') + '"',
                                        "@include \"missing.conf\"\n",
                                        "@include \".\"\n",
                                        "@include \"/dev/zero\"\n",
@@ -310,7 +344,9 @@ private slots:
             const TemporaryHome home;
             const QString path = home.write(comptonFile, content);
             const QString before = home.fingerprint();
-            QVERIFY2(stored(path) == "unreadable" && !update(path, true, true), content.left(40).constData());
+            QVERIFY2(stored(path) == "unreadable", content.left(40).constData());
+            QCOMPARE(update(path, true, true),
+                     content.size() > million ? "File too large"_s : "No configuration"_s);
             QCOMPARE(home.fingerprint(), before);
         }
     }
