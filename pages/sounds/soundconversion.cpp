@@ -58,29 +58,27 @@ bool offerConversion(QWidget *page, const QazSoundTheme &theme, const QStringLis
     const auto tell = [&](QMessageBox::Icon icon, const QString &text, QMessageBox::StandardButtons buttons) {
         return showMessage(page, icon, SoundPage::tr("Attention"), text, buttons);
     };
+    const QString question = SoundPage::tr("Not all files in theme '%1' are in wav format\n"
+                                           "Would you like to convert them to wav now?");
+    const QString unsafe = unsafeForConversion(directory);
     if (std::none_of(files.begin(), files.end(), isOgg)) {
         tell(QMessageBox::Information,
              SoundPage::tr("Not all files in theme '%1' are in wav format\nYou should convert them to wav.")
                  .arg(name),
              QMessageBox::Ok);
-        return false;
-    }
-    if (const QString file = unsafeForConversion(directory); !file.isEmpty()) {
+    } else if (!unsafe.isEmpty()) {
         tell(QMessageBox::Warning,
              SoundPage::tr("Not all files in theme '%1' are in wav format\n"
                            "They can't be converted: '%2' has to be renamed first.\n"
                            "Blanks, quotation marks, backslashes and control characters are not safe.")
-                 .arg(name, file),
+                 .arg(name, unsafe),
              QMessageBox::Ok);
-        return false;
+    } else if (tell(QMessageBox::Question, question.arg(name), QMessageBox::Yes | QMessageBox::No)
+               == QMessageBox::Yes) {
+        convertToWav(directory);
+        return true;
     }
-    const QString question = SoundPage::tr("Not all files in theme '%1' are in wav format\n"
-                                           "Would you like to convert them to wav now?");
-    if (tell(QMessageBox::Question, question.arg(name), QMessageBox::Yes | QMessageBox::No)
-        != QMessageBox::Yes)
-        return false;
-    convertToWav(directory);
-    return true;
+    return false;
 }
 
 QString conversionCommand(const QString &directory)

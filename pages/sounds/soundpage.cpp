@@ -105,7 +105,7 @@ bool SoundPage::loadValues(QazSettings *settings)
     m_ui->wmSoundsGroupBox->setChecked(countsAsTrue(storedText(settings, enableKey)));
     for (QTreeWidgetItem *item : rows())
         item->setText(FileColumn, settings->value(item->text(KeyColumn), QString()).toString());
-    m_ui->soundListView->setCurrentItem(m_ui->soundListView->itemAt(0, 0));
+    m_ui->soundListView->setCurrentItem(rows().first());
     soundEnabled(m_ui->wmSoundsGroupBox->isChecked());
     loaded = true;
     return true;
@@ -117,8 +117,7 @@ void SoundPage::fillThemes(const QazSettings *settings)
     combo->clear();
     combo->addItem(tr("No theme"));
     List<char> names;
-    if (!QazSoundTheme::getThemesNames(&names))
-        return;
+    QazSoundTheme::getThemesNames(&names);
     for (int i = 0; i < names.count(); ++i)
         combo->addItem(QString::fromLocal8Bit(names.at(i)));
     combo->setCurrentIndex(qMax(0, combo->findText(storedText(settings, soundThemeKey))));

@@ -79,8 +79,11 @@ private slots:
     void leavesALongConversionAlone()
     {
         FakePrograms programs(FakePrograms::Path::Instead);
-        convertToWav("/a"_s); // nothing to run it
+        constexpr int hour = 3600000;
+        convertToWav("/a"_s, hour); // nothing to run it
         QVERIFY(!QGuiApplication::overrideCursor());
+        programs.add("qaz-su"_s);
+        convertToWav("/a"_s, hour);
 
         QFile go(programs.directory() + "/go"_s);
         QCOMPARE(::mkfifo(QFile::encodeName(go.fileName()).constData(), 0600), 0);

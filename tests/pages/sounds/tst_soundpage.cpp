@@ -92,7 +92,7 @@ private slots:
         over.group->setChecked(false);
         QCOMPARE(over.changed.count(), 2);
         over.load(content); // a repeated load is no edit
-        QCOMPARE(over.themes->currentText(), "oga"_s);
+        QCOMPARE(over.themes->currentText() + QString::number(over.themes->count()), "oga7"_s);
         QCOMPARE(over.assignments(), "2=/not there.wav 3=window-close 13=built.wav"_s);
         QCOMPARE(over.save(), QString());
         QCOMPARE(over.content(), content);
@@ -100,11 +100,6 @@ private slots:
         QVERIFY(over.page.loaded && !QGuiApplication::overrideCursor());
         QVERIFY(over.list->isColumnHidden(2) && over.list->columnWidth(0) > 100);
         QVERIFY(over.find<QWidget>("mixerButton")->isHidden());
-        for (const char *name : {"selectSoundButton", "removeSoundButton", "playButton", "stopButton"}) {
-            const auto *button = over.find<QToolButton>(name);
-            QVERIFY2(!button->icon().isNull() && button->iconSize() == QSize(32, 32), name);
-            QVERIFY2(button->autoRaise() && button->focusPolicy() == Qt::StrongFocus, name);
-        }
     }
 
     void savesEveryEvent()
@@ -313,8 +308,10 @@ private slots:
     void soundFilesAreDroppedAndPasted()
     {
         const int header = -1, below = 40; // in place of a row
+        const QString au = "data/sounds/au/menu-popup.au"_s;
         const std::tuple<QString, int, QString> rows[] = {{"own a.WAV"_s, 2, "2=HOME/own a.WAV"_s},
                                                           {builtIn, 13, "13=x-qaz-wm-chimes.wav"_s},
+                                                          {au, 1, "1=HOME/"_s + au},
                                                           {"t"_s, 2, {}},
                                                           {builtIn, header, {}},
                                                           {builtIn, below, {}}};
