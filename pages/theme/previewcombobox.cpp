@@ -21,10 +21,9 @@ public:
     {
         painter->drawPixmap(rect, pixmap(rect.size(), mode, state));
     }
-    QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State /*state*/) override
+    QPixmap pixmap(const QSize &size, QIcon::Mode /*mode*/, QIcon::State /*state*/) override
     {
-        // A selection does not tint a swatch.
-        return outlined(m_icon.pixmap(size, mode == QIcon::Disabled ? mode : QIcon::Normal), m_frame);
+        return outlined(m_icon.pixmap(size), m_frame); // a selection does not tint a swatch
     }
     QIconEngine *clone() const override { return new OutlinedIconEngine(*this); }
 

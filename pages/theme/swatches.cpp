@@ -16,10 +16,10 @@ QPixmap sharpPixmap(int width, int height, const QColor &color, qreal ratio)
 
 QPixmap outlined(QPixmap pixmap, const QColor &color)
 {
-    const QSize size = pixmap.size() / pixmap.devicePixelRatio();
+    const QRect whole(QPoint(), pixmap.size() / pixmap.devicePixelRatio());
     QPainter painter(&pixmap);
-    painter.setPen(color);
-    painter.drawRect(0, 0, size.width() - 1, size.height() - 1);
+    painter.setClipRegion(QRegion(whole) - whole.adjusted(1, 1, -1, -1));
+    painter.fillRect(whole, color);
     return pixmap;
 }
 
@@ -30,13 +30,12 @@ QPixmap colorButtonPixmap(const QColor &color, const QColor &frame, int height, 
 
 QPixmap ellipsisPixmap(const QColor &color, int edge, qreal ratio)
 {
-    constexpr int dots = 3;
     QPixmap pixmap = sharpPixmap(edge, edge, Qt::transparent, ratio);
     QPainter painter(&pixmap);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(color);
-    for (int dot = 0; dot < dots; ++dot)
-        painter.drawEllipse(QPointF(edge * (dot + 0.5) / dots, edge / 2.0), edge / 10.0, edge / 10.0);
+    for (const int sixths : {1, 3, 5})
+        painter.drawEllipse(QPointF(edge * sixths / 6.0, edge / 2.0), edge / 10.0, edge / 10.0);
     return pixmap;
 }

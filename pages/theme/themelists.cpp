@@ -126,46 +126,36 @@ QString iconPath(const QazIconTheme &theme, const char *name, const char *contex
     return path;
 }
 
-/// An XPM without the rows below \a rowLimit: no preview shows them, and decoding thousands takes seconds. What
-/// isn't an XPM of more rows is returned as it is.
+/// An XPM without the rows below \a rowLimit: no preview shows them, and decoding thousands takes seconds.
 QByteArray withoutHiddenRows(const QByteArray &xpm)
 {
-    const int begin = xpm.indexOf('"') + 1;
-    const int end = xpm.indexOf('"', begin);
-    QByteArrayList values = xpm.mid(begin, end - begin).simplified().split(' '); // width, height, colours
-    if (values.value(1).toInt() <= rowLimit)
+    // Every other part is a string: the values (width, height, colours), then one for each colour and each row.
+    QByteArrayList parts = xpm.split('"');
+    QByteArrayList values = parts.value(1).simplified().split(' ');
+    if (values.size() < 3)
         return xpm;
-    int position = end;
-    // Each colour and each row is a string of its own, between two quotes.
-    for (qint64 quotes = 2 * (values.value(2).toLongLong() + rowLimit); quotes > 0 && position >= 0; --quotes)
-        position = xpm.indexOf('"', position + 1);
-    if (position < 0)
-        return xpm;
-    values[1] = QByteArray::number(rowLimit);
-    return xpm.left(begin) + values.join(' ') + xpm.mid(end, position + 1 - end);
+    values[1] = QByteArray::number(qMin(values.at(1).toInt(), rowLimit));
+    parts[1] = values.join(' ');
+    const int strings = 1 + values.at(2).toUShort() + rowLimit;
+    return parts.mid(0, 2 * strings + 1).join('"');
 }
 
 QImage loadXpm(const QByteArray &path)
 {
-    const FileContent file = readRegularFile(QFile::decodeName(path));
-    if (file.state != FileState::Regular)
-        return {};
-    const QImage image = QImage::fromData(withoutHiddenRows(file.content), "XPM");
-    return image.isNull() ? QImage::fromData(file.content) : image;
+    const QByteArray content = readRegularFile(QFile::decodeName(path)).content;
+    const QImage image = QImage::fromData(withoutHiddenRows(content), "XPM");
+    return image.isNull() ? QImage::fromData(content) : image;
 }
 
 /// All images of the decoration theme in \a directory; none when a single one is missing, or it is no theme.
 std::optional<DecorImages> loadDecorImages(const QByteArray &directory)
 {
-    const DirectoryListing listing(directory);
-    if (!listing.files.contains("default.theme"))
+    if (!DirectoryListing(directory).files.contains("default.theme"))
         return {};
     DecorImages images;
     for (const DecorImage &row : decorFiles) {
-        QImage &image = images.*row.image;
-        if (listing.files.contains(row.file))
-            image = loadXpm(directory + '/' + row.file);
-        if (image.isNull())
+        images.*row.image = loadXpm(directory + '/' + row.file);
+        if ((images.*row.image).isNull())
             return {};
     }
     return images;

@@ -18,6 +18,7 @@
 #include <QInputDialog>
 #include <QPainter>
 #include <QPushButton>
+#include <QSignalBlocker>
 
 namespace {
 
@@ -86,6 +87,7 @@ ThemePage::~ThemePage() = default;
 bool ThemePage::loadValues(QazSettings *settings)
 {
     const WaitCursor waitCursor;
+    const QSignalBlocker blocker(m_ui->elementComboBox); // until the entries have their colours
     for (QComboBox *combo : findChildren<QComboBox *>()) {
         combo->clear();
         combo->setIconSize(QSize(combo->iconSize().width(), int(qazDpiScaled(comboIconHeight))));
@@ -164,12 +166,10 @@ void ThemePage::loadSizes(const QazSettings *settings)
 
 void ThemePage::colorElementSelected(int ind)
 {
-    if (ind < 0)
-        return;
     const QStringList colors = m_ui->elementComboBox->itemData(ind, storedRole).toStringList();
     const bool hasEnd = colors.size() > 1;
-    showColor(m_ui->color1Button, colors.value(0));
-    showColor(m_ui->color2Button, colors.value(hasEnd ? 1 : 0));
+    showColor(m_ui->color1Button, colors.first());
+    showColor(m_ui->color2Button, colors.last());
     const ColorElement element = colorElements()[std::size_t(ind)];
     m_ui->elementComboBox->setWhatsThis(meaning(*element.front()));
     m_ui->color1Button->setWhatsThis(meaning(*element.front()));
@@ -203,15 +203,14 @@ void ThemePage::selectColor2()
 void ThemePage::selectColor(int which)
 {
     const QStringList colors = m_ui->elementComboBox->currentData(storedRole).toStringList();
-    if (which < colors.size())
-        setColor(which, QColorDialog::getColor(colors.at(which), this, QString()));
+    setColor(which, QColorDialog::getColor(colors.at(which), this, QString()));
 }
 
 void ThemePage::setColor(int which, const QColor &color)
 {
     const int index = m_ui->elementComboBox->currentIndex();
     QStringList colors = m_ui->elementComboBox->currentData(storedRole).toStringList();
-    if (!color.isValid() || which >= colors.size() || color.name() == colors.at(which))
+    if (!color.isValid() || color.name() == colors.at(which))
         return;
     colors[which] = color.name();
     setEntryColors(index, colors);
@@ -286,9 +285,8 @@ void ThemePage::saveCursorTheme()
 void ThemePage::saveSizes(QazSettings *settings)
 {
     const double dpi = screenDpi();
-    for (int index = 0; index < m_ui->sizeComboBox->count(); ++index) {
-        const SizeElement &element = sizeElements[index];
+    int index = 0;
+    for (const SizeElement &element : sizeElements)
         updateStringValue(settings, QLatin1String(element.key->name), defaultSize(element, dpi),
-                          m_ui->sizeComboBox->itemData(index, storedRole).toString());
-    }
+                          m_ui->sizeComboBox->itemData(index++, storedRole).toString());
 }

@@ -22,8 +22,8 @@ Display *applicationDisplay()
 bool serverHasExtension(const char *name)
 {
     Display *display = applicationDisplay();
-    int ignored = 0;
-    return display && XQueryExtension(display, name, &ignored, &ignored, &ignored);
+    int opcode, event, error;
+    return display && XQueryExtension(display, name, &opcode, &event, &error);
 }
 
 double screenDpi()

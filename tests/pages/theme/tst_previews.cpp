@@ -1,5 +1,9 @@
 #include "pages/theme/previews.h"
-#include "tests/support/testing.h"
+#include "pages/theme/swatches.h"
+#include "pages/theme/themelists.h"
+#include "tests/support/samplethemes.h"
+#include "tests/support/standarderror.h"
+#include "tests/support/temporaryhome.h"
 
 namespace {
 
@@ -7,6 +11,12 @@ const QSize canvasSize(110, 32);
 const QColor glass(255, 0, 0, 51);
 
 using Parts = QVector<std::pair<QRect, QColor>>;
+
+/// A home whose themes are the only ones.
+struct Home : TemporaryHome {
+    const ScopedEnvironment data{"QAZ_DATA_DIR", QFile::encodeName(path("data"_s))};
+    const ScopedEnvironment cursors{"XCURSOR_PATH", "~/.icons"};
+};
 
 /// A picture of coloured rectangles, each over those before.
 QImage picture(const QSize &size, const Parts &parts)
@@ -23,6 +33,24 @@ QImage picture(const QSize &size, const Parts &parts)
 QImage filled(int width, int height, const QColor &color)
 {
     return picture({width, height}, {{{0, 0, width, height}, color}});
+}
+
+QString names(const QVector<ThemeEntry> &entries)
+{
+    QStringList names;
+    for (const ThemeEntry &entry : entries)
+        names.append(entry.name);
+    return names.join(u'|');
+}
+
+/// The preview as a box draws it, if its list paints the same.
+QImage shown(const ThemeEntry &entry)
+{
+    QImage painted = picture(canvasSize, {});
+    QPainter painter(&painted);
+    entry.preview.paint(&painter, painted.rect());
+    const QImage shown = entry.preview.pixmap(1000).toImage().convertToFormat(painted.format());
+    return shown == painted ? shown : QImage();
 }
 
 } // namespace
@@ -65,6 +93,102 @@ private slots:
         const QImage red = filled(1, 1, Qt::red);
         QCOMPARE(decorPreview(canvasSize, {red, red, red, red, red, red, red, red, red}),
                  picture(canvasSize, {{{0, 0, 110, 1}, Qt::red}, {{1, 1, 108, 1}, Qt::red}}));
+    }
+
+    void swatchesAreSharp()
+    {
+        QImage swatch = colorButtonPixmap(Qt::red, Qt::blue, 4, 2).toImage();
+        QCOMPARE(swatch.devicePixelRatio(), 2);
+        swatch.setDevicePixelRatio(1);
+        QCOMPARE(swatch.convertToFormat(QImage::Format_ARGB32_Premultiplied),
+                 picture({24, 8}, {{{0, 0, 24, 8}, Qt::blue}, {{2, 2, 20, 4}, Qt::red}}));
+        const QImage dots = ellipsisPixmap(Qt::black, 16, 1).toImage();
+        QString alphas;
+        for (int i = 0; i < 256; ++i)
+            alphas += QString::number(dots.pixelColor(i % 16, i / 16).alpha() / 26);
+        QCOMPARE(alphas.remove(QRegularExpression("^0{96}|0{96}$"_s)), "0142000330002410"
+                                                                       "0799003993009970"
+                                                                       "0799003993009970"
+                                                                       "0142000330002410"_s);
+    }
+
+    void wholeCursorThemesAreListed()
+    {
+        const Home home;
+        makeCursorTheme(home, ".icons/b"_s, Qt::red);
+        makeCursorTheme(home, ".icons/B"_s, Qt::blue);
+        makeCursorTheme(home, ".icons/B"_s, Qt::green, {"watch"_s});
+        makeCursorTheme(home, ".icons/B"_s, Qt::red, {"xterm"_s}, 16);
+        makeCursorTheme(home, ".icons/half"_s, Qt::red, {"left_ptr"_s});
+        makeCursorTheme(home, ".icons/garbage"_s, Qt::red);
+        home.write(".icons/garbage/cursors/watch"_s, "Xcur\0\0\0garbage");
+        makeCursorTheme(home, ".icons/pipe"_s, Qt::red, {"left_ptr"_s, "watch"_s});
+        home.makeFifo(".icons/pipe/cursors/xterm"_s);
+        const QVector<ThemeEntry> entries = cursorThemeEntries(canvasSize);
+        QCOMPARE(names(entries), "B|b"_s);
+        QCOMPARE(shown(entries[0]), picture(canvasSize, {{{0, 4, 24, 24}, Qt::blue},
+                                                         {{36, 4, 24, 24}, Qt::green},
+                                                         {{72, 8, 16, 16}, Qt::red}}));
+    }
+
+    void wholeIconThemesAreListed()
+    {
+        const Home home;
+        const auto save = [&home](const QString &path, const QImage &image) {
+            QVERIFY(image.save(home.path(".icons/"_s + path)));
+        };
+        for (const QString &theme : {"Round"_s, "large"_s, "larger"_s, "default"_s, "no %1 clock"_s})
+            makeIconTheme(home, ".icons/"_s + theme, Qt::red);
+        home.write(".icons/hicolor/index.theme"_s, "[Icon Theme]\nDirectories=p\n[p]\nSize=32\n");
+        save("Round/p/user-trash.png"_s, filled(20, 32, Qt::blue));
+        QVERIFY(QFile::remove(home.path(".icons/Round/p/user-desktop.png"_s)));
+        home.write(".icons/Round/p/user-desktop.svg"_s,
+                   "<svg xmlns='http://www.w3.org/2000/svg' width='8' height='8'>"
+                   "<rect width='8' height='8' fill='#00ff00'/></svg>");
+        QImage large(4096, 4097, QImage::Format_Mono);
+        large.setColorTable({qRgb(0, 0, 255), qRgb(0, 0, 255)});
+        save("large/p/user-home.png"_s, large.copy(0, 0, 4096, 4096));
+        save("larger/p/user-home.png"_s, large);
+        QVERIFY(QFile::remove(home.path(".icons/no %1 clock/a/preferences-system-time.png"_s)));
+        home.write(".icons/preferences-system-time.png"_s, "outside all themes");
+        StandardError errors;
+        const QVector<ThemeEntry> entries = iconThemeEntries(canvasSize);
+        QCOMPARE(errors.take(), QByteArray("qaz-admin-theme: theme no %1 clock is not full "
+                                           "(no preferences-system-time in apps)\n"));
+        QCOMPARE(names(entries), "Round|large|larger"_s);
+        const Parts red = {{{36, 0, 32, 32}, Qt::red}, {{72, 0, 32, 32}, Qt::red}};
+        QCOMPARE(shown(entries[0]), picture(canvasSize, {{{0, 0, 32, 32}, Qt::red},
+                                                         {{36, 0, 20, 32}, Qt::blue},
+                                                         {{72, 0, 32, 32}, Qt::green}}));
+        QCOMPARE(shown(entries[1]), picture(canvasSize, Parts{{{0, 0, 110, 32}, Qt::blue}} + red));
+        QCOMPARE(shown(entries[2]), picture(canvasSize, red));
+    }
+
+    void wholeDecorationThemesAreListed()
+    {
+        const Home home;
+        const auto theme = [&home](const QString &file) { return home.path("data/themes/"_s + file); };
+        for (const QString &name :
+             {"eight"_s, "bad"_s, "nameless"_s, ".hidden"_s, "tall"_s, "Wood"_s, "none"_s})
+            makeDecorTheme(home, "data/themes/"_s + name, Qt::red);
+        QVERIFY(QFile::remove(theme("eight/closeA.xpm"_s)));
+        home.write("data/themes/bad/frameAL.xpm"_s, "/* XPM */ 10000 10000");
+        QVERIFY(QFile::remove(theme("nameless/default.theme"_s)));
+        // Not even as many rows as it states are read.
+        home.write("data/themes/tall/titleAT.xpm"_s,
+                   "/* XPM */\nstatic char *t[] = {\"1 9000 1 1\", \"a c blue\""
+                       + QByteArray(", \"a\"").repeated(2048) + "};\n");
+        QVERIFY(filled(9, 5, Qt::green).save(theme("Wood/titleAT.xpm"_s), "PNG"));
+        const QVector<ThemeEntry> entries = decorThemeEntries(canvasSize);
+        QCOMPARE(names(entries), "Wood|none|tall"_s);
+        const Parts frame = {{{0, 0, 110, 8}, Qt::red}};
+        const Parts buttons = {{{91, 8, 8, 4}, Qt::red}, {{101, 8, 4, 4}, Qt::red}};
+        const auto withTitle = [&](int height, const QColor &color) {
+            return picture(canvasSize, frame + Parts{{{4, 8, 105, height}, color}} + buttons);
+        };
+        QCOMPARE(shown(entries[0]), withTitle(5, Qt::green));
+        QCOMPARE(shown(entries[1]), withTitle(8, Qt::red));
+        QCOMPARE(shown(entries[2]), withTitle(24, Qt::blue));
     }
 };
 

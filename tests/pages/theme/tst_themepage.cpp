@@ -1,31 +1,37 @@
+#include "pages/theme/swatches.h"
 #include "pages/theme/themepage.h"
 #include "pages/theme/themesettings.h"
 #include "tests/support/modaldriver.h"
 #include "tests/support/pageoverfile.h"
 #include "tests/support/samplethemes.h"
-#include "tests/support/standarderror.h"
 
 namespace {
 
-// What is shown, the key, and the defaults: of the colour and of a gradient's end.
-const QString elementEntries
-    = "Button active ButtonActiveColor,#c0c0c0|Button ButtonColor,#c0c0c0|"
-      "Button string active ButtonStringActiveColor,black|Button string ButtonStringColor,black|"
-      "Clock string ClockStringColor,black|Desktop active DesktopActiveColor,#000080|"
-      "Desktop DesktopColor,#3a6ea5,#3a6ea5|Dialog DialogColor,#c0c0c0|"
-      "Dialog string DialogStringColor,black|Frame active FrameActiveColor,#c0c0c0|"
-      "Frame FrameColor,#c0c0c0|Icon background IconBackColor,#c0c0c0|"
-      "Icon foreground IconForeColor,#000080|Icon string active IconStringActiveColor,white|"
-      "Icon string IconStringColor,white|Menu active MenuActiveColor,#000080|"
-      "Menu MenuColor,#a4a3be,#fbfcfd|Menu string active MenuStringActiveColor,white|"
-      "Menu string MenuStringColor,black|Pager miniatire active MiniatureActiveColor,red|"
-      "Pager miniature MiniatureColor,black|Pager active PagerActiveColor,#606060|"
-      "Pager PagerColor,#a4a3be,#fbfcfd|Start menu logo StartMenuLogoColor,#501414|"
-      "Switcher active SwitcherActiveColor,#000080|Switcher SwitcherColor,#c0c0c0|"
-      "Switcher string SwitcherStringColor,black|Taskbar TaskbarColor,#c0c0c0|"
-      "Title string active TitleStringActiveColor,white|Title string TitleStringColor,white|"
-      "Titlebar active TitlebarActiveColor,#000080,#a6caf0|Titlebar TitlebarColor,#606060,#c0c0c0|"
-      "Tooltip TooltipColor,#ffffe1|Tooltip string TooltipStringColor,black"_s;
+/// The edit field of the box, or all of it.
+QImage grab(QComboBox *box, bool isWhole)
+{
+    QStyleOptionComboBox option;
+    option.initFrom(box);
+    option.editable = false;
+    const QRect field = box->style()->subControlRect(QStyle::CC_ComboBox, &option,
+                                                     QStyle::SC_ComboBoxEditField);
+    return box->grab(isWhole ? box->rect() : field).toImage().convertToFormat(QImage::Format_RGB32);
+}
+
+/// Whether the box looks like the kit's own with one entry, in a colour.
+bool looksLike(QComboBox *box, const QIcon &icon, const QString &text, QPalette::ColorRole color)
+{
+    QComboBox kits;
+    kits.setStyle(box->style());
+    kits.setIconSize(box->iconSize());
+    kits.addItem(icon, text);
+    QPalette palette;
+    for (const QPalette::ColorRole role : {QPalette::Text, QPalette::ButtonText, QPalette::WindowText})
+        palette.setColor(role, palette.color(color));
+    kits.setPalette(palette);
+    kits.resize(box->size());
+    return grab(box, !icon.isNull()) == grab(&kits, !icon.isNull());
+}
 
 /// A page on a theme file, in a home with themes of each kind.
 struct Page : PageOverFile<ThemePage> {
@@ -35,7 +41,6 @@ struct Page : PageOverFile<ThemePage> {
         makeCursorTheme(home, ".icons/B"_s, Qt::blue);
         makeIconTheme(home, ".icons/square"_s, Qt::red);
         makeIconTheme(home, ".icons/Round"_s, Qt::blue);
-        home.write(".icons/hicolor/index.theme"_s, "[Icon Theme]\nDirectories=p\n[p]\nSize=32\n");
         makeDecorTheme(home, "data/themes/glass"_s, Qt::red);
         makeDecorTheme(home, "data/themes/No theme"_s, Qt::green);
         makeDecorTheme(home, "data/themes/Wood"_s, Qt::blue);
@@ -51,9 +56,17 @@ struct Page : PageOverFile<ThemePage> {
             texts.append(combo(name)->itemText(i));
         return texts.join(u'|');
     }
-    QColor pixel(const char *name, int index, int x, int y) const
+    /// Whether the element in view has a picture from one colour to the other.
+    bool isGradient(const QColor &from, const QColor &to) const
     {
-        return combo(name)->itemIcon(index).pixmap(110, 32).toImage().pixelColor(x, y);
+        QImage swatch(110, 32, QImage::Format_ARGB32_Premultiplied);
+        QLinearGradient gradient(0, 0, 110, 0);
+        gradient.setColorAt(0, from);
+        gradient.setColorAt(1, to);
+        swatch.fill(Qt::transparent);
+        QPainter(&swatch).fillRect(swatch.rect(), gradient);
+        const QIcon icon = elements->itemIcon(elements->currentIndex());
+        return icon.pixmap(1000).toImage().convertToFormat(swatch.format()) == swatch;
     }
     void choose(const char *name, int index) const
     {
@@ -62,7 +75,6 @@ struct Page : PageOverFile<ThemePage> {
     }
     /// The element in view, as its entry's data.
     QString element() const { return elements->currentData().toString(); }
-    void remove(const QString &path) const { QVERIFY(QFile::remove(home.path(path))); }
 
     const ScopedEnvironment data{"QAZ_DATA_DIR", home.path("data"_s).toLocal8Bit()};
     const ScopedEnvironment cursors{"XCURSOR_PATH", "~/.icons"};
@@ -91,42 +103,38 @@ private slots:
         test.elements->setCurrentText("Menu"_s);
         QCOMPARE(test.page.minimumSizeHint(), pageSize); // nothing moves
         QCOMPARE(test.element(), "MenuColor,nonsense,red"_s);
-        QCOMPARE(test.pixel("elementComboBox", test.elements->currentIndex(), 109, 16), QColor(Qt::white));
+        QVERIFY(test.isGradient(Qt::white, Qt::white));
         QVERIFY(test.end->isVisible() && test.end->isEnabled());
         const QString meaning = "Color: background of menus"_s;
         QCOMPARE(test.elements->whatsThis() + test.main->whatsThis(), meaning + meaning);
         QCOMPARE(test.end->whatsThis(), "Color at the end of the gradient: background of menus"_s);
-        // The swatch has a frame of the text's colour.
-        QImage swatch(48, 16, QImage::Format_RGB32);
-        swatch.fill(test.end->palette().color(QPalette::ButtonText));
-        QPainter(&swatch).fillRect(1, 1, 46, 14, Qt::red);
-        QCOMPARE(test.end->icon().pixmap(1000).toImage().convertToFormat(QImage::Format_RGB32), swatch);
-        QCOMPARE(test.end->iconSize(), swatch.size());
-        const QImage dots = test.size->icon().pixmap(1000).toImage();
-        QString middle;
-        for (int x = 0; x < dots.width(); ++x)
-            middle += QString::number(dots.pixelColor(x, 8).alpha() / 26);
-        QCOMPARE(middle, "0799003993009970"_s);
-        // So has the entry's in the box, though not its own.
+        const QColor textColor = QApplication::palette().color(QPalette::ButtonText);
+        QCOMPARE(test.end->icon().pixmap(1000), colorButtonPixmap(Qt::red, textColor, 16, 1));
+        QCOMPARE(test.size->icon().pixmap(1000), ellipsisPixmap(textColor, 16, 1));
+        // An entry's picture has a frame in the box and in its list, though not its own.
         test.elements->setCurrentText("Taskbar"_s);
-        QCOMPARE(test.pixel("elementComboBox", test.elements->currentIndex(), 0, 0),
-                 QColor(0xc0, 0xc0, 0xc0));
-        const QImage box
-            = test.elements->grab(QRect(3, 15, 6, 1)).toImage().convertToFormat(QImage::Format_Grayscale8);
-        QVERIFY(*std::min_element(box.constBits(), box.constBits() + 6) < 140);
+        QVERIFY(test.isGradient(QColor(0xc0, 0xc0, 0xc0), QColor(0xc0, 0xc0, 0xc0)));
+        test.elements->showPopup();
+        const QAbstractItemView *view = test.elements->view();
+        const QRect entry = view->visualRect(view->currentIndex());
+        const QImage pictures[] = {test.elements->grab(QRect(3, 15, 6, 1)).toImage(),
+                                   view->viewport()->grab({0, entry.center().y(), 12, 1}).toImage()};
+        for (const QImage &picture : pictures) {
+            const QImage gray = picture.convertToFormat(QImage::Format_Grayscale8);
+            const uchar darkest = *std::min_element(gray.constBits(), gray.constBits() + gray.width());
+            QVERIFY2(darkest > 60 && darkest < 140, QByteArray::number(darkest).constData());
+        }
         QVERIFY(test.elements->view()->sizeHintForColumn(0) > 110); // the swatch and the name
         QCOMPARE(test.texts("sizeComboBox"), "48,   Desktop icon size|77,   Taskbar height"_s);
-        QCOMPARE(test.combo("sizeComboBox")->itemData(1).toString(), "TaskbarHeight"_s);
     }
 
     void everyColorIsShownAndSaved()
     {
         Page test("");
-        QStringList entries, expected;
+        QStringList expected;
         for (int i = 0; i < test.elements->count(); ++i) {
             test.elements->setCurrentIndex(i);
             const QString data = test.element();
-            entries.append(test.elements->currentText() + u' ' + data);
             for (QPushButton *button : {test.main, test.end}) {
                 if (!button->isVisible())
                     continue;
@@ -136,7 +144,6 @@ private slots:
                 expected += data.section(u',', 0, 0) + (button == test.end ? "2 "_s : " "_s) + color;
             }
         }
-        QCOMPARE(entries.join(u'|'), elementEntries);
         QCOMPARE(expected.size(), 39);
         QCOMPARE(test.changed.count(), 39);
         QCOMPARE(test.save(), expected.join(u'|'));
@@ -148,20 +155,27 @@ private slots:
         Page test("TitlebarColor=rgb(1,2,3)\nTitlebarColor2=red\n");
         test.elements->setCurrentText("Titlebar"_s);
         ModalDriver driver;
-        driver.then([](QDialog *dialog) {
-            auto *colors = qobject_cast<QColorDialog *>(dialog);
-            const QColor offered = colors->currentColor();
-            colors->setCurrentColor(Qt::green);
-            colors->accept();
-            QCOMPARE(offered, QColor(Qt::red));
-        });
-        test.end->click();
+        QStringList offered;
+        const auto choose = [&](QPushButton *button, const QColor &color) {
+            driver.then([&, color](QDialog *dialog) {
+                auto *colors = qobject_cast<QColorDialog *>(dialog);
+                offered += colors->currentColor().name();
+                colors->setCurrentColor(color);
+                colors->accept();
+            });
+            button->click();
+        };
+        choose(test.end, Qt::green);
         QCOMPARE(test.element(), "TitlebarColor,rgb(1,2,3),#00ff00"_s);
         QCOMPARE(test.end->palette().color(QPalette::Window), QColor(Qt::green));
         driver.thenReject();
         test.main->click();
-        QVERIFY(driver.isDone());
         QCOMPARE(test.save(), "TitlebarColor2 #00ff00"_s);
+        choose(test.main, Qt::yellow);
+        choose(test.main, Qt::yellow); // no edit
+        QVERIFY(driver.isDone());
+        QCOMPARE(offered.join(u' '), "#ff0000 #000000 #ffff00"_s);
+        QCOMPARE(test.element(), "TitlebarColor,#ffff00,#00ff00"_s);
         const std::tuple<QWidget *, QColor, const char *> drops[] = {
             {test.main, Qt::red, "TitlebarColor,#ff0000,#00ff00"},
             {test.end, Qt::blue, "TitlebarColor,#ff0000,#0000ff"},
@@ -176,15 +190,13 @@ private slots:
             QVERIFY(target->acceptDrops());
             QCOMPARE(test.element(), QLatin1String(entry));
         }
-        const int index = test.elements->currentIndex();
-        QVERIFY(test.pixel("elementComboBox", index, 0, 16).green() > 250);
-        QVERIFY(test.pixel("elementComboBox", index, 109, 16).blue() > 250);
-        QCOMPARE(test.changed.count(), 4);
+        QVERIFY(test.isGradient(Qt::green, Qt::blue));
+        QCOMPARE(test.changed.count(), 5);
     }
 
     void editsSizes()
     {
-        Page test("DesktopIconSize=50\nTaskbarHeight=60\n");
+        Page test("DesktopIconSize=50\nTaskbarHeight=60,9\n");
         QStringList seen;
         const std::pair<int, int> choices[] = {{0, 22}, {0, 64}, {1, 60}, {1, 280}}; // the first is rejected
         for (const auto &choice : choices) {
@@ -192,7 +204,8 @@ private slots:
             ModalDriver driver;
             driver.then([&](QDialog *dialog) {
                 auto *input = qobject_cast<QInputDialog *>(dialog);
-                for (const int number : {input->intMinimum(), input->intMaximum(), input->intValue()})
+                for (const int number :
+                     {input->intMinimum(), input->intMaximum(), input->intStep(), input->intValue()})
                     seen += QString::number(number);
                 seen << input->textValue() << input->comboBoxItems().join(u' ') << input->labelText();
                 input->setIntValue(choice.second);
@@ -205,10 +218,10 @@ private slots:
         }
         // 50, the stored size of icons, is not among the choices.
         const QString icons
-            = "0|99|0|16|16 22 32 48 64 96 128 256|Desktop icon size|Select size|QInputDialog|"_s;
-        const QString taskbar = "|21|280|60|||Taskbar height|Select size|QInputDialog|"_s;
+            = "0|99|1|0|16|16 22 32 48 64 96 128 256|Desktop icon size|Select size|QInputDialog|"_s;
+        const QString taskbar = "|21|280|1|60|||Taskbar height|Select size|QInputDialog|"_s;
         QCOMPARE(seen.join(u'|'), icons + "50,   Desktop icon size|"_s + icons + "64,   Desktop icon size"_s
-                                      + taskbar + "60,   Taskbar height"_s + taskbar
+                                      + taskbar + "60,9,   Taskbar height"_s + taskbar
                                       + "280,   Taskbar height"_s);
         QCOMPARE(test.changed.count(), 2);
         QCOMPARE(test.save(), "DesktopIconSize 64|TaskbarHeight 280"_s);
@@ -224,64 +237,32 @@ private slots:
                      QLatin1String(both));
     }
 
-    void listsWholeThemesWithPreviews()
-    {
-        Page test("");
-        makeCursorTheme(test.home, ".icons/half"_s, Qt::red, {"left_ptr"_s});
-        makeCursorTheme(test.home, ".icons/garbage"_s, Qt::red);
-        test.home.write(".icons/garbage/cursors/watch"_s, "Xcur\0\0\0garbage");
-        makeCursorTheme(test.home, ".icons/pipe"_s, Qt::red, {"left_ptr"_s, "watch"_s});
-        test.home.makeFifo(".icons/pipe/cursors/xterm"_s);
-        makeIconTheme(test.home, ".icons/no %1 clock"_s, Qt::red);
-        test.remove(".icons/no %1 clock/a/preferences-system-time.png"_s);
-        test.home.write(".icons/preferences-system-time.png"_s, "outside all themes");
-        makeIconTheme(test.home, ".icons/unreadable icons"_s, Qt::red);
-        test.home.write(".icons/unreadable icons/p/user-home.png"_s, "\x89PNG\r\n");
-        for (const QString &decor : {"eight"_s, "bad"_s, "nameless"_s, ".hidden"_s, "tall"_s})
-            makeDecorTheme(test.home, "data/themes/"_s + decor, Qt::red);
-        test.remove("data/themes/eight/closeA.xpm"_s);
-        test.home.write("data/themes/bad/frameAL.xpm"_s, "/* XPM */ 10000 10000");
-        test.remove("data/themes/nameless/default.theme"_s);
-        test.home.write("data/themes/tall/titleAT.xpm"_s,
-                        "/* XPM */\nstatic char *t[] = {\"1 9000 1 1\", \"a c blue\""
-                            + QByteArray(", \"a\"").repeated(9000) + "};\n");
-        StandardError errors;
-        test.load(test.content());
-        const QByteArray told = "theme no %1 clock is not full (no preferences-system-time in apps)\n";
-        QCOMPARE(errors.take(), "qaz-admin-theme: " + told);
-        QCOMPARE(test.texts("cursorThemeCombo"), "B|b"_s);
-        QCOMPARE(test.texts("iconThemeCombo"), "Round|square|unreadable icons"_s);
-        QCOMPARE(test.texts("decorThemeCombo"), "No theme|No theme|Wood|glass|tall"_s);
-        const std::tuple<const char *, int, int, int, QColor> pixels[] = {
-            {"iconThemeCombo", 2, 0, 16, Qt::transparent}, {"iconThemeCombo", 2, 36, 16, Qt::red},
-            {"cursorThemeCombo", 0, 72, 16, Qt::blue},     {"decorThemeCombo", 0, 50, 16, Qt::transparent},
-            {"decorThemeCombo", 2, 50, 9, Qt::blue},       {"decorThemeCombo", 4, 50, 31, Qt::blue}};
-        for (const auto &[name, index, x, y, color] : pixels)
-            QCOMPARE(test.pixel(name, index, x, y), color);
-        // Loading again doubles nothing.
-        QCOMPARE(test.elements->count(), 34);
-        QCOMPARE(test.combo("sizeComboBox")->count(), 2);
-    }
-
     void unselectedBoxesShowAPlaceholder()
     {
+        const std::unique_ptr<QStyle> windows(QStyleFactory::create("Windows"_s));
         Page test("IconTheme=gone\n");
-        const int plainHeight = test.combo("sizeComboBox")->height();
-        for (const char *name : {"cursorThemeCombo", "iconThemeCombo"}) {
-            QComboBox *box = test.combo(name);
-            QCOMPARE(box->placeholderText() + box->currentText(), "Default"_s);
-            QCOMPARE(box->height(), plainHeight);
-            const QImage shown = box->grab().toImage();
-            box->setPlaceholderText(QString());
-            QVERIFY2(shown != box->grab().toImage(), name);
-            test.choose(name, 0);
-            QTRY_VERIFY2(box->height() > plainHeight, name);
-        }
-        // A theme in use that is not listed is told by its name, as it stands.
-        test.home.write(".icons/default/index.theme"_s, "[Icon Theme]\nInherits=<b>x\n");
-        test.load(test.content());
+        QComboBox *icons = test.combo("iconThemeCombo");
         QComboBox *cursors = test.combo("cursorThemeCombo");
-        QCOMPARE(cursors->placeholderText() + cursors->currentText(), "<b>x"_s);
+        QCOMPARE(icons->placeholderText() + cursors->placeholderText(), "DefaultDefault"_s);
+        // A theme in use that is not listed is told by its name, as it stands.
+        const QString name = "<b>a-theme-with-a-name-that-is-longer-than-the-box"_s;
+        test.home.write(".icons/default/index.theme"_s, "[Icon Theme]\nInherits=" + name.toLatin1());
+        test.load(test.content());
+        QCOMPARE(cursors->placeholderText() + cursors->currentText(), name);
+        const int plainHeight = test.combo("sizeComboBox")->height();
+        for (QComboBox *box : {cursors, icons}) {
+            QCOMPARE(box->height(), plainHeight);
+            for (QStyle *style : {box->style(), windows.get()}) {
+                box->setStyle(style);
+                const int width = grab(box, false).width() - 2;
+                const QString text = box->fontMetrics().elidedText(box->placeholderText(), Qt::ElideRight,
+                                                                   width);
+                QVERIFY(looksLike(box, {}, text, QPalette::PlaceholderText));
+            }
+            box->setCurrentIndex(0);
+            QTRY_VERIFY(box->height() > plainHeight);
+            QVERIFY(looksLike(box, box->itemIcon(0), box->itemText(0), QPalette::Text));
+        }
     }
 
     void untouchedPage()
@@ -305,6 +286,11 @@ private slots:
             test.choose("elementComboBox", 5); // only to look at it
             test.choose("sizeComboBox", 1);
             QCOMPARE(test.changed.count(), 0);
+            test.load(stored); // doubles nothing
+            QCOMPARE(test.elements->count() + test.combo("sizeComboBox")->count(), 36);
+            QCOMPARE(test.texts("cursorThemeCombo") + u'|' + test.texts("iconThemeCombo") + u'|'
+                         + test.texts("decorThemeCombo"),
+                     "B|b|Round|square|No theme|No theme|Wood|glass"_s);
             QCOMPARE(test.save(), saved);
             if (saved.isEmpty())
                 QCOMPARE(test.content(), stored);
@@ -323,9 +309,14 @@ private slots:
         test.choose("cursorThemeCombo", 1);
         ModalDriver driver;
         driver.thenAnswer(QMessageBox::Ok);
-        QCOMPARE(test.save(), "CursorTheme b|DecorTheme "_s);
-        QCOMPARE(driver.seen(),
-                 QStringList{"Warning|New cursor theme will be applied to newly started apps"_s});
+        test.home.makeDirectory(".Xresources"_s);
+        QCOMPARE(test.save(), "DecorTheme "_s);
+        QDir().rmdir(test.home.path(".Xresources"_s));
+        driver.thenAnswer(QMessageBox::Ok);
+        QCOMPARE(test.save(), "CursorTheme b"_s);
+        QCOMPARE(driver.seen().join(u'|'),
+                 "Error|The cursor theme 'b' can't be set.|"
+                 "Warning|New cursor theme will be applied to newly started apps"_s);
         QCOMPARE(test.home.read(".Xresources"_s), QByteArray("Xcursor.theme: b\n"));
         QCOMPARE(test.save(), QString()); // the cursor theme is set once
         QCOMPARE(test.content(), QByteArray("IconTheme=Round\nDecorTheme=\n"));
