@@ -17,6 +17,9 @@ struct ToolRun {
         errors = process.readAllStandardError();
     }
 
+    /// Everything printed, errors last; paths begin with HOME.
+    QByteArray text() const { return QByteArray(out + errors).replace(qgetenv("HOME"), "HOME"); }
+
     int status = -1; // which no program has that ended by itself
     QByteArray out;
     QByteArray errors;

@@ -89,14 +89,14 @@ bool parseArguments(const QStringList &texts, Arguments *arguments, QString *err
 {
     bool optionsEnded = false;
     QString file;
-    for (int i = 0; i < texts.size(); ++i) {
-        const QString &text = texts.at(i);
+    for (QStringList rest = texts; !rest.isEmpty();) {
+        const QString text = rest.takeFirst();
         if (!optionsEnded && text == QLatin1String("--")) {
             optionsEnded = true;
         } else if (!optionsEnded && text == QLatin1String("-f")) {
-            if (++i == texts.size())
+            if (rest.isEmpty())
                 return failed(error, QStringLiteral("-f needs a file"));
-            file = texts.at(i);
+            file = rest.takeFirst();
         } else if (!optionsEnded && text.startsWith(QLatin1Char('-')) && text.size() > 1) {
             const Flag *flag = findRow(flags, text);
             if (!flag)

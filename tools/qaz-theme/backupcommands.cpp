@@ -7,7 +7,6 @@
 #include <QFileInfo>
 
 #include <algorithm>
-#include <optional>
 
 namespace {
 
@@ -26,26 +25,22 @@ QVector<Backup> newestFirst()
 /// When the copy was made, from its name, in local time.
 QString timeOf(const Backup &backup)
 {
-    QDateTime time = QDateTime::fromString(QFileInfo(backup.copy).fileName().left(19),
-                                           QStringLiteral("yyyyMMdd'T'HHmmss.zzz"));
+    QDateTime time = QDateTime::fromString(QFileInfo(backup.copy).fileName().section(QLatin1Char('.'), 0, 0),
+                                           QStringLiteral("yyyyMMdd'T'HHmmss"));
     time.setTimeSpec(Qt::UTC);
     return time.toLocalTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
 }
 
-/// The copy with that number in the list, the copy itself, or the newest one of a file.
-std::optional<Backup> chosenCopy(const QString &text)
+/// The copy with that number in the list, the copy itself, or the newest one of a file; an empty one for no such copy.
+Backup chosenCopy(const QString &text)
 {
     const QVector<Backup> copies = newestFirst();
-    bool isNumber = false;
-    const int number = text.toInt(&isNumber);
-    if (isNumber && number >= 1 && number <= copies.size())
-        return copies.at(number - 1);
     const QString path = absolute(text);
-    for (const Backup &copy : copies) {
-        if (copy.copy == path || copy.original == path)
-            return copy;
-    }
-    return std::nullopt;
+    const Backup numbered = copies.value(text.toInt() - 1);
+    const auto *named = std::find_if(copies.begin(), copies.end(), [&path](const Backup &each) {
+        return each.copy == path || each.original == path;
+    });
+    return numbered.copy.isEmpty() && named != copies.end() ? *named : numbered;
 }
 
 } // namespace
@@ -72,26 +67,21 @@ Status listBackups(const Arguments &arguments)
     }
     JsonObject all;
     all.add(QStringLiteral("backups"), objects);
-    print(arguments.json, all, lines);
-    return Success;
+    return print(arguments.json, all, lines);
 }
 
 Status restore(const Arguments &arguments)
 {
     const QString text = arguments.operands.constFirst();
-    const std::optional<Backup> backup = chosenCopy(text);
-    if (!backup)
+    const Backup backup = chosenCopy(text);
+    if (backup.copy.isEmpty())
         return complainOf({QStringLiteral("There is no copy '%1'; see qaz-theme backups").arg(text)});
-    const bool isThemeFile = backup->original == absolute(arguments.themeFile);
-    const ThemeChanges changes = isThemeFile ? differences(arguments.themeFile, backup->copy)
-                                             : ThemeChanges();
+    const bool isThemeFile = backup.original == absolute(arguments.themeFile);
+    const ThemeChanges changes = isThemeFile ? differences(arguments.themeFile, backup.copy) : ThemeChanges();
     QString error;
-    if (!arguments.dryRun && !restoreCopy(*backup, &error)) {
-        complain(QStringLiteral("Can't restore %1: %2").arg(backup->original, error));
-        return Failure;
-    }
+    if (!arguments.dryRun && !restoreCopy(backup, &error))
+        return fail(QStringLiteral("Can't restore %1: %2").arg(backup.original, error));
     if (!arguments.quiet && !arguments.json)
-        printLine(QStringLiteral("%1: restored from %2").arg(backup->original, backup->copy));
-    tell(changes, arguments);
-    return Success;
+        printLine(QStringLiteral("%1: restored from %2").arg(backup.original, backup.copy));
+    return tell(changes, arguments);
 }

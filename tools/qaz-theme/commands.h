@@ -23,11 +23,14 @@ Status restore(const Arguments &arguments);
 /// Whether the theme file at \a path can be read, or is missing and need not exist; complains otherwise.
 bool isReadable(const QString &path, bool mustExist = false);
 
-/// Prints each of \a errors; Misuse when there is one.
+/// Prints each of \a errors, of which there is one.
 Status complainOf(const QStringList &errors);
 
+/// Prints why a file can't be read or written.
+Status fail(const QString &reason);
+
 /// Prints \a changes as the arguments say and announces those of them that are changes.
-void tell(const ThemeChanges &changes, const Arguments &arguments);
+Status tell(const ThemeChanges &changes, const Arguments &arguments);
 
 /// Stores, prints and announces what \a values, which fit, change; with -n only prints it.
 Status storeValues(const ThemeValues &values, const Arguments &arguments);

@@ -1,6 +1,6 @@
 // Reads and changes the desktop's settings from the command line, by the editor's rules.
 
-#include "tools/qaz-theme/arguments.h"
+#include "tools/qaz-theme/commands.h"
 #include "tools/qaz-theme/output.h"
 
 #include <QCoreApplication>
@@ -27,18 +27,11 @@ int main(int argc, char **argv)
     takeTextsForUtf8InTheCLocale();
     Arguments arguments;
     QString error;
-    if (!parseArguments(QCoreApplication::arguments().mid(1), &arguments, &error)) {
-        complain(QStringLiteral("%1; see qaz-theme --help").arg(error));
-        return Misuse;
-    }
-    if (arguments.version) {
-        printLine(QStringLiteral("qaz-theme " QAZ_VERSION));
-        return Success;
-    }
-    if (arguments.help) {
-        for (const QString &line : helpText(arguments.command).split(QLatin1Char('\n')))
-            printLine(line);
-        return Success;
-    }
+    if (!parseArguments(QCoreApplication::arguments().mid(1), &arguments, &error))
+        return complainOf({QStringLiteral("%1; see qaz-theme --help").arg(error)});
+    if (arguments.version)
+        return print(false, {}, {QStringLiteral("qaz-theme " QAZ_VERSION)});
+    if (arguments.help)
+        return print(false, {}, helpText(arguments.command).split(QLatin1Char('\n')));
     return arguments.command->run(arguments);
 }

@@ -24,7 +24,7 @@ QString onOneLine(const QString &text)
         if (character == QLatin1Char('\n'))
             line += QLatin1String("\\n");
         else if (character.category() == QChar::Other_Control)
-            line += QStringLiteral("\\x%1").arg(character.unicode(), 2, 16, QLatin1Char('0'));
+            line += QLatin1String("\\x") + QLatin1String(QByteArray(1, character.toLatin1()).toHex());
         else
             line += character;
     }
@@ -66,12 +66,13 @@ void printLine(const QString &text)
     std::puts(onOneLine(text).toLocal8Bit().constData());
 }
 
-void print(bool json, const JsonObject &object, const QStringList &lines)
+Status print(bool json, const JsonObject &object, const QStringList &lines)
 {
     if (json)
         std::puts(object.lines().constData());
     else
         std::for_each(lines.begin(), lines.end(), printLine);
+    return Success;
 }
 
 void complain(const QString &text)

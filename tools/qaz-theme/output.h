@@ -1,5 +1,7 @@
 #pragma once
 
+#include "tools/qaz-theme/arguments.h"
+
 #include <QByteArrayList>
 #include <QJsonValue>
 #include <QStringList>
@@ -25,8 +27,8 @@ private:
 /// Prints one line in the local encoding; control characters of \a text are printed as `\n` or `\xNN`.
 void printLine(const QString &text);
 
-/// Prints \a object, one member a line, for \a json, and else the \a lines.
-void print(bool json, const JsonObject &object, const QStringList &lines);
+/// Prints \a object, one member a line, for \a json, and else the \a lines. Success.
+Status print(bool json, const JsonObject &object, const QStringList &lines);
 
 /// Prints one line "qaz-theme: TEXT" to standard error.
 void complain(const QString &text);

@@ -13,10 +13,8 @@ Status pack(const Arguments &arguments)
         return Failure;
     QStringList missing;
     QString error;
-    if (!arguments.dryRun && !packTheme(arguments.themeFile, path, &missing, &error)) {
-        complain(QStringLiteral("Can't pack %1: %2").arg(path, error));
-        return Failure;
-    }
+    if (!arguments.dryRun && !packTheme(arguments.themeFile, path, &missing, &error))
+        return fail(QStringLiteral("Can't pack %1: %2").arg(path, error));
     for (const QString &file : qAsConst(missing))
         complain(QStringLiteral("%1 is not there and was not packed").arg(file));
     JsonObject object;
@@ -42,14 +40,10 @@ Status unpack(const Arguments &arguments)
     if (!arguments.dryRun) {
         if (!changesBy(theme.values(), arguments.themeFile).isEmpty())
             backUp(arguments.themeFile, &error);
-        if (!error.isEmpty() || !theme.place(&error)) {
-            complain(QStringLiteral("Can't unpack %1: %2").arg(path, error));
-            return Failure;
-        }
+        if (!error.isEmpty() || !theme.place(&error))
+            return fail(QStringLiteral("Can't unpack %1: %2").arg(path, error));
     }
-    if (!arguments.quiet && !arguments.json) {
-        for (const QString &target : targets)
-            printLine(target);
-    }
+    if (!arguments.quiet && !arguments.json)
+        print(false, {}, targets);
     return storeValues(theme.values(), arguments);
 }

@@ -95,26 +95,30 @@ Status complainOf(const QStringList &errors)
 {
     for (const QString &error : errors)
         complain(error);
-    return errors.isEmpty() ? Success : Misuse;
+    return Misuse;
 }
 
-void tell(const ThemeChanges &changes, const Arguments &arguments)
+Status fail(const QString &reason)
+{
+    complain(reason);
+    return Failure;
+}
+
+Status tell(const ThemeChanges &changes, const Arguments &arguments)
 {
     printChanges(changes, arguments);
     if (!arguments.dryRun && !announce(changes) && !arguments.quiet)
         complain(QStringLiteral("No X display: nobody was told of the changes"));
+    return Success;
 }
 
 Status storeValues(const ThemeValues &values, const Arguments &arguments)
 {
     const ThemeChanges changes = changesBy(values, arguments.themeFile);
     QString error;
-    if (!arguments.dryRun && !changes.isEmpty() && !writeChanges(changes, arguments.themeFile, &error)) {
-        complain(error);
-        return Failure;
-    }
-    tell(changes, arguments);
-    return Success;
+    if (!arguments.dryRun && !changes.isEmpty() && !writeChanges(changes, arguments.themeFile, &error))
+        return fail(error);
+    return tell(changes, arguments);
 }
 
 Status getValues(const Arguments &arguments)
@@ -174,12 +178,9 @@ Status unsetKeys(const Arguments &arguments)
     const ThemeChanges changes = changesWithout(arguments.operands, arguments.themeFile);
     QString error;
     if (!arguments.dryRun && !changes.isEmpty()
-        && !removeKeys(arguments.operands, arguments.themeFile, &error)) {
-        complain(QStringLiteral("Can't write %1: %2").arg(arguments.themeFile, error));
-        return Failure;
-    }
-    tell(changes, arguments);
-    return Success;
+        && !removeKeys(arguments.operands, arguments.themeFile, &error))
+        return fail(QStringLiteral("Can't write %1: %2").arg(arguments.themeFile, error));
+    return tell(changes, arguments);
 }
 
 Status listKeys(const Arguments &arguments)
@@ -207,8 +208,7 @@ Status listKeys(const Arguments &arguments)
                          .arg(shown(defaultText), -20)
                          .arg(meaning(*key)));
     }
-    print(arguments.json, object, lines);
-    return Success;
+    return print(arguments.json, object, lines);
 }
 
 Status diffFiles(const Arguments &arguments)
@@ -252,7 +252,5 @@ Status complete(const Arguments &arguments)
     } else if (const ThemeKey *key = findThemeKey(arguments.operands.value(1))) {
         words = closedSet(*key);
     }
-    for (const QString &word : qAsConst(words))
-        printLine(word);
-    return Success;
+    return print(false, {}, words);
 }
