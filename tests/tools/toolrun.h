@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tests/support/testing.h"
+#include "tests/support/programprocess.h"
 
 const QString themeFile = ".config/qaz/current.themerc"_s; // below the home
 
@@ -15,11 +15,22 @@ struct ToolRun {
             status = process.exitCode();
         out = process.readAllStandardOutput();
         errors = process.readAllStandardError();
+        command = tool + u' ' + arguments.join(u' ');
     }
 
-    /// Everything printed, errors last; paths begin with HOME.
-    QByteArray text() const { return QByteArray(out + errors).replace(qgetenv("HOME"), "HOME"); }
+    QStringList lines() const { return QString::fromUtf8(out.trimmed()).split(u'\n'); }
+    /// The call as a user sees it: "! " before lines on standard error, then a status that is not 0.
+    QByteArray transcript() const
+    {
+        QByteArray text = "$ " + command.toUtf8() + '\n' + out;
+        for (const QByteArray &line : errors.isEmpty() ? QByteArrayList() : errors.chopped(1).split('\n'))
+            text += "! " + line + '\n';
+        if (status != 0)
+            text += "status " + QByteArray::number(status) + '\n';
+        return text.replace(qgetenv("HOME"), "HOME");
+    }
 
+    QString command;
     int status = -1; // which no program has that ended by itself
     QByteArray out;
     QByteArray errors;
@@ -35,4 +46,13 @@ inline ToolRun run(const QStringList &arguments)
 inline ToolRun run(const char *arguments, const QString &tool = "qaz-theme"_s)
 {
     return {tool, QString::fromUtf8(arguments).split(u' ')};
+}
+
+/// Compares with a file beside the tests, which was read by eye.
+inline void compareWithFile(const QByteArray &text, const QString &name)
+{
+    const QString expected = QStringLiteral(QAZ_SOURCE_DIR "/tests/tools/") + name;
+    QFile actual(QStringLiteral(QAZ_BINARY_DIR "/") + name);
+    QVERIFY(actual.open(QIODevice::WriteOnly) && actual.write(text) == text.size() && actual.flush());
+    QCOMPARE(output("diff"_s, {"-u"_s, expected, actual.fileName()}), QString());
 }
