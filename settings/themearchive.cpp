@@ -11,7 +11,7 @@
 #include <QStringList>
 
 #include <algorithm>
-#include <cerrno>
+#include <cstdio>
 #include <memory>
 
 #include <archive.h>
@@ -21,7 +21,6 @@ namespace {
 
 constexpr int mostFiles = 2000;
 constexpr qint64 mostBytes = 256 * 1024 * 1024;
-constexpr std::size_t blockSize = 64 * 1024;
 
 using ReaderPtr = std::unique_ptr<archive, Release<archive_read_free>>;
 using WriterPtr = std::unique_ptr<archive, Release<archive_write_free>>;
@@ -32,13 +31,13 @@ QString reasonOf(archive *handle)
     return QString::fromLocal8Bit(archive_error_string(handle));
 }
 
-bool writeFile(archive *writer, const ArchiveFile &file, QString *error)
+/// Writes a file of at most \a left bytes, which its size is taken from.
+bool writeFile(archive *writer, const ArchiveFile &file, qint64 *left, QString *error)
 {
-    const FileContent content = readRegularFile(file.path, mostBytes);
+    const FileContent content = readRegularFile(file.path, *left);
     if (content.state != FileState::Regular)
-        return failed(error, QStringLiteral("%1: %2").arg(file.path, content.state == FileState::Missing
-                                                                         ? systemErrorText(ENOENT)
-                                                                         : content.error));
+        return failed(error, QStringLiteral("%1: %2").arg(file.path, content.error));
+    *left -= content.content.size();
     const EntryPtr entry(archive_entry_new());
     archive_entry_set_pathname_utf8(entry.get(), file.name.toUtf8().constData());
     archive_entry_set_size(entry.get(), content.content.size());
@@ -52,30 +51,27 @@ bool writeFile(archive *writer, const ArchiveFile &file, QString *error)
     return written || failed(error, reasonOf(writer));
 }
 
-/// An archive opened for reading with gzip, as a tar or as the bytes that the gzip holds.
-ReaderPtr openArchive(const QString &path, int (*supportFormat)(archive *), QString *error)
+/// An archive opened for reading with gzip, as a tar or as the bytes that the gzip holds. One that can't be opened has no
+/// header to be read.
+ReaderPtr openArchive(const QString &path, int (*supportFormat)(archive *))
 {
     ReaderPtr reader(archive_read_new());
     archive_read_support_filter_gzip(reader.get());
     supportFormat(reader.get());
-    if (archive_read_open_filename(reader.get(), QFile::encodeName(path).constData(), blockSize)
-        != ARCHIVE_OK) {
-        *error = reasonOf(reader.get());
-        reader.reset();
-    }
+    archive_read_open_filename(reader.get(), QFile::encodeName(path).constData(), BUFSIZ);
     return reader;
 }
 
 /// Reads the bytes that \a reader has come to, of at most \a left, which they are taken from; into \a file if there is one.
 bool readData(archive *reader, QFile *file, qint64 *left, QString *error)
 {
-    QByteArray block(int(blockSize), '\0');
-    la_ssize_t got = 0;
-    while ((got = archive_read_data(reader, block.data(), blockSize)) > 0) {
+    char block[BUFSIZ];
+    la_ssize_t got{};
+    while ((got = archive_read_data(reader, block, sizeof block)) > 0) {
         *left -= got;
         if (*left < 0)
             return failed(error, QStringLiteral("it unpacks to more than 256 MB"));
-        if (file && file->write(block.constData(), got) != got)
+        if (file && file->write(block, got) != got)
             return failed(error, file->errorString());
     }
     return got == 0 || failed(error, reasonOf(reader));
@@ -85,10 +81,8 @@ bool readData(archive *reader, QFile *file, qint64 *left, QString *error)
 /// who reads the tar alone misses what is cut off there.
 bool isWholeGzip(const QString &path, QString *error)
 {
-    const ReaderPtr reader = openArchive(path, archive_read_support_format_raw, error);
+    const ReaderPtr reader = openArchive(path, archive_read_support_format_raw);
     archive_entry *entry = nullptr;
-    if (!reader)
-        return false;
     if (archive_read_next_header(reader.get(), &entry) != ARCHIVE_OK)
         return failed(error, reasonOf(reader.get()));
     if (archive_filter_code(reader.get(), 0) != ARCHIVE_FILTER_GZIP)
@@ -107,7 +101,6 @@ QString trustedName(archive_entry *entry, const QStringList &directories)
     const QString fileName = name.section(QLatin1Char('/'), -1);
     const QString directory = name.chopped(fileName.size());
     const bool isPlain = !fileName.isEmpty() && !fileName.startsWith(QLatin1Char('.'))
-                         && fileName.toUtf8().size() < 256
                          && std::none_of(fileName.begin(), fileName.end(), [](QChar character) {
                                 return character.category() == QChar::Other_Control;
                             });
@@ -127,9 +120,9 @@ bool unpackTo(const QString &path, archive *reader, qint64 *left, QString *error
 {
     QFile file(path);
     // Only new: a name that stands twice, or differs in what this file system takes for equal, is refused.
-    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly))
+    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered))
         return failed(error, QStringLiteral("%1: %2").arg(QFileInfo(path).fileName(), file.errorString()));
-    return readData(reader, &file, left, error) && (file.flush() || failed(error, file.errorString()));
+    return readData(reader, &file, left, error);
 }
 
 } // namespace
@@ -141,12 +134,9 @@ bool writeArchive(const QString &path, const QVector<ArchiveFile> &files, QStrin
     archive_write_set_format_pax_restricted(writer.get());
     if (archive_write_open_filename(writer.get(), QFile::encodeName(path).constData()) != ARCHIVE_OK)
         return failed(error, reasonOf(writer.get()));
-    qint64 size = 0;
+    qint64 left = mostBytes;
     for (const ArchiveFile &file : files) {
-        size += QFileInfo(file.path).size();
-        if (size > mostBytes)
-            return failed(error, QStringLiteral("its files are larger than 256 MB"));
-        if (!writeFile(writer.get(), file, error))
+        if (!writeFile(writer.get(), file, &left, error))
             return false;
     }
     return archive_write_close(writer.get()) == ARCHIVE_OK || failed(error, reasonOf(writer.get()));
@@ -159,9 +149,7 @@ bool readArchive(const QString &path, const QString &directory, const QStringLis
         return false;
     for (const QString &name : directories)
         QDir(directory).mkdir(name);
-    const ReaderPtr reader = openArchive(path, archive_read_support_format_tar, error);
-    if (!reader)
-        return false;
+    const ReaderPtr reader = openArchive(path, archive_read_support_format_tar);
     qint64 left = mostBytes;
     archive_entry *entry = nullptr;
     int entries = 0;

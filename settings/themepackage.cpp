@@ -82,7 +82,7 @@ private:
     {
         if (findThemeKey(value.key)->kind != KeyKind::File || value.key == QLatin1String("CompositeManager"))
             return;
-        const bool isWallpaper = value.key == QLatin1String(themeKey("WallPaper").name);
+        const bool isWallpaper = value.key == QLatin1String("WallPaper");
         const QString &directory = isWallpaper ? wallpaperDirectory : soundDirectory;
         if (!value.value.startsWith(QLatin1Char('/'))) {
             const QString own = isWallpaper ? ownWallpaper(value.value) : QString();

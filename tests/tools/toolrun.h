@@ -43,9 +43,18 @@ inline ToolRun run(const QStringList &arguments)
 }
 
 /// Runs \a tool with arguments that are separated by blanks.
-inline ToolRun run(const char *arguments, const QString &tool = "qaz-theme"_s)
+inline ToolRun run(const QString &arguments, const QString &tool = "qaz-theme"_s)
 {
-    return {tool, QString::fromUtf8(arguments).split(u' ')};
+    return {tool, arguments.split(u' ')};
+}
+
+/// Runs \a tool once for each of the lines of \a calls.
+inline QByteArray transcriptOf(const QString &calls, const QString &tool = "qaz-theme"_s)
+{
+    QByteArray text;
+    for (const QString &arguments : calls.split(u'\n'))
+        text += run(arguments, tool).transcript();
+    return text;
 }
 
 /// Compares with a file beside the tests, which was read by eye.
@@ -54,5 +63,6 @@ inline void compareWithFile(const QByteArray &text, const QString &name)
     const QString expected = QStringLiteral(QAZ_SOURCE_DIR "/tests/tools/") + name;
     QFile actual(QStringLiteral(QAZ_BINARY_DIR "/") + name);
     QVERIFY(actual.open(QIODevice::WriteOnly) && actual.write(text) == text.size() && actual.flush());
-    QCOMPARE(output("diff"_s, {"-u"_s, expected, actual.fileName()}), QString());
+    const QString difference = output("diff"_s, {"-u"_s, expected, actual.fileName()});
+    QVERIFY2(difference.isEmpty(), qPrintable(difference));
 }

@@ -11,47 +11,29 @@ private slots:
     void commandsReadAndChangeTheFile()
     {
         const QByteArray file = "# mine\nScreenSaverDelay=90\nOther=1\nOpaqueMove=TRUE\n[g]\nPagingSpeed=1\n";
-        const std::pair<QByteArray, QList<const char *>> files[] = {
+        const std::pair<QByteArray, QString> files[] = {
             {file,
-             {"get OpaqueMove PagingSpeed Other SoundTheme", "get Nobodys OpaqueMove",
-              "get --json Other OpaqueMove WallPaper", "get -f other.themerc MenuDelayTime",
-              "set ScreenSaverDelay=0300 PagingSpeed=31",
-              "set ScreenSaverDelay=90 OpaqueMove=false MenuDelayTime=300",
-              "set ScreenSaverDelay=300 PagingSpeed=101 Other=2 WallPaper=a/b", "set a=1 Other",
-              "set --force [x]=2 =2 A=a\nb", "set -n ScreenSaverDelay=300",
-              "unset ScreenSaverDelay MenuDelayTime", "unset -n ScreenSaverDelay", "unset Other PagingSpeed",
-              "unset --force [x]"}},
+             "get OpaqueMove PagingSpeed Other SoundTheme|get Nobodys OpaqueMove|"
+             "get --json Other OpaqueMove WallPaper|get -f other.themerc MenuDelayTime|set "
+             "ScreenSaverDelay=0300 PagingSpeed=31|"
+             "set ScreenSaverDelay=90 OpaqueMove=false MenuDelayTime=300|"
+             "set ScreenSaverDelay=300 PagingSpeed=101 Other=2 WallPaper=a/b|set a=1 Other|"
+             "set --force [x]=2 =2 A=a\nb|set -n ScreenSaverDelay=300|unset ScreenSaverDelay MenuDelayTime|"
+             "unset -n ScreenSaverDelay|unset Other PagingSpeed|unset --force [x]"_s},
             {"",
-             {"set ArrangeWindowSpeed=0",
-              "set PagingSpeed=1 PagingSpeed=2",
-              "set --force Other=2",
-              "set --json PagingSpeed=2",
-              "-q set MenuDelayTime=2",
-              "-q",
-              "put A=1",
-              "get -x WallPaper",
-              "get",
-              "apply a b",
-              "get -f",
-              "restore 1",
-              "apply gone",
-              "diff gone",
-              "diff other.themerc .",
-              "diff other.themerc bad.themerc",
-              "-f . apply other.themerc",
-              "-f other.themerc/a set PagingSpeed=5",
-              "complete values OpaqueMove",
-              "complete values PagingSpeed",
-              "list DecorTheme",
-              "list --json nobodys"}},
-            {"PagingSpeed=9\nOpaqueMove=True\nMenuDelayTime=0300\n", {"diff", "list paging*speed"}},
-            {"MenuDelayTime=0300\nA=1\n",
-             {"diff -q", "unset MenuDelayTime A --force", "apply other.themerc", "apply bad.themerc",
-              "diff other.themerc", "list -q DELAYTIME"}},
-            {"-x=a\x01\nOwn=\nWallPaperPos=Tile\n", {"get -- -x", "get Own", "list --json wallpaperpos"}}};
+             "set ArrangeWindowSpeed=0|set PagingSpeed=1 PagingSpeed=2|set --force Other=2|set --json "
+             "PagingSpeed=2|"
+             "-q set MenuDelayTime=2|-q|put A=1|get -x WallPaper|get|apply a b|get -f|restore 1|apply gone|"
+             "diff gone|diff other.themerc .|diff other.themerc bad.themerc|-f . apply other.themerc|"
+             "-f other.themerc/a set PagingSpeed=5|complete values OpaqueMove|complete values PagingSpeed|"
+             "list DecorTheme|list --json nobodys"_s},
+            {"PagingSpeed=9\nOpaqueMove=True\nMenuDelayTime=0300\n", "diff|list paging*speed"_s},
+            {"MenuDelayTime=0300\nA=1\n", "diff -q|unset MenuDelayTime A --force|apply other.themerc|"
+                                          "apply bad.themerc|diff other.themerc|list -q DELAYTIME"_s},
+            {"-x=a\x01\nOwn=\nWallPaperPos=Tile\n", "get -- -x|get Own|list --json wallpaperpos"_s}};
         QByteArray transcript;
-        for (const auto &[before, commands] : files) {
-            for (const char *arguments : commands) {
+        for (const auto &[before, calls] : files) {
+            for (const QString &arguments : calls.split(u'|')) {
                 const TemporaryHome home;
                 home.write(themeFile, before);
                 home.write("other.themerc"_s, "MenuDelayTime=6\nForeign=1\nDesktopColor=navy\n");
@@ -101,15 +83,15 @@ private slots:
     void everyKeyTakesItsDefault()
     {
         const TemporaryHome home;
-        compareWithFile(run("list --json").out, "keys.json"_s);
-        const QStringList keys = run("complete keys").lines();
+        compareWithFile(run("list --json"_s).out, "keys.json"_s);
+        const QStringList keys = run("complete keys"_s).lines();
         const QStringList values = QString::fromUtf8(run(QStringList{"get"_s} + keys).out).split(u'\n');
         QStringList assignments{"set"_s};
         for (int i = 0; i < keys.size(); ++i)
             assignments.append(keys.at(i) + u'=' + values.at(i));
         const ToolRun result = run(assignments);
         QVERIFY2(result.status == 0, result.errors.constData());
-        QCOMPARE(run("diff").status, 0);
+        QCOMPARE(run("diff"_s).status, 0);
     }
 
     void meaningsAreInTheUsersLanguage()
@@ -117,20 +99,20 @@ private slots:
         const TemporaryHome home;
         const ScopedEnvironment language("LANGUAGE", "de");
         QVERIFY(
-            run("list PagerColor2").out.contains("  Farbe am Ende des Verlaufs: Hintergrund des Pagers\n"));
+            run("list PagerColor2"_s).out.contains("  Farbe am Ende des Verlaufs: Hintergrund des Pagers\n"));
     }
 
     void helpSaysWhatEachCommandTakes()
     {
         const TemporaryHome home;
-        QByteArray help = run("-h").out;
-        for (const QString &command : run("complete commands").lines()) {
+        QByteArray help = run("-h"_s).out;
+        for (const QString &command : run("complete commands"_s).lines()) {
             help += run({command, "--help"_s}).out;
             help.truncate(help.lastIndexOf("Options:\n"));
         }
         compareWithFile(help, "help.txt"_s);
         QVERIFY(QRegularExpression("^qaz-theme \\d+\\.\\d+\\.\\d+-\\d+\n$"_s)
-                    .match(QString::fromUtf8(run("--version").out))
+                    .match(QString::fromUtf8(run("--version"_s).out))
                     .hasMatch());
     }
 
@@ -138,11 +120,9 @@ private slots:
     {
         const TemporaryHome home;
         const ScopedEnvironment display("DISPLAY", {});
-        QByteArray transcript;
-        for (const char *arguments : {"get PagingSpeed", "set -n PagingSpeed=5", "set PagingSpeed=5",
-                                      "set PagingSpeed=5", "set -q PagingSpeed=6", "unset PagingSpeed"})
-            transcript += run(arguments).transcript();
-        compareWithFile(transcript, "nodisplay.txt"_s);
+        compareWithFile(transcriptOf("get PagingSpeed\nset -n PagingSpeed=5\nset PagingSpeed=5\n"
+                                     "set PagingSpeed=5\nset -q PagingSpeed=6\nunset PagingSpeed"_s),
+                        "nodisplay.txt"_s);
     }
 
     void failuresAreTold()
@@ -150,11 +130,9 @@ private slots:
         const TemporaryHome home;
         QVERIFY(home.makeDirectory(themeFile));
         home.write("a"_s, "PagingSpeed=5\n");
-        QByteArray transcript;
-        for (const char *arguments : {"get PagingSpeed", "set PagingSpeed=5", "unset PagingSpeed", "list",
-                                      "diff", "diff a a", "apply a", "pack b", "unpack a"})
-            transcript += run(arguments).transcript();
-        compareWithFile(transcript, "failures.txt"_s);
+        compareWithFile(transcriptOf("get PagingSpeed\nset PagingSpeed=5\nunset PagingSpeed\nlist\ndiff\n"
+                                     "diff a a\napply a\npack b\nunpack a"_s),
+                        "failures.txt"_s);
     }
 
     void copiesAreListedAndPutBack()
@@ -170,15 +148,16 @@ private slots:
                                              + "20261231T230000.000Z-b\t" + place + "/b\n");
         WmListener listener;
         QByteArray transcript;
-        for (const char *arguments :
-             {"backups", "backups .config/qaz/current.themerc --json", "restore 3", "restore 0", "restore x",
-              "restore -n 2", "restore 2", "restore 2 --json", "restore -q .config/qaz/current.themerc",
-              "restore .local/state/qaz/backup/20261231T230000.000Z-b"}) {
+        const QString calls
+            = "backups|backups .config/qaz/current.themerc --json|restore 3|restore 0|restore x|"
+              "restore -n 2|restore 2|restore 2 --json|restore -q .config/qaz/current.themerc|"
+              "restore .local/state/qaz/backup/20261231T230000.000Z-b"_s;
+        for (const QString &arguments : calls.split(u'|')) {
             transcript += run(arguments).transcript();
             transcript += home.read(themeFile).replace('\n', '|') + home.read("b"_s) + '\n';
         }
         QVERIFY(QFile::remove(home.path("b"_s)) && home.makeDirectory("b"_s));
-        transcript += run("restore b").transcript() + "told: " + listener.takeUpdates().toUtf8() + '\n';
+        transcript += run("restore b"_s).transcript() + "told: " + listener.takeUpdates().toUtf8() + '\n';
         compareWithFile(transcript, "backups.txt"_s);
     }
 
@@ -194,7 +173,7 @@ private slots:
         QCOMPARE(QDir(home.path(".config"_s)).entryList(QDir::AllEntries | QDir::Hidden).size(),
                  3); // with ..
         QVERIFY(!home.exists(".config/qaz/c"_s));
-        QCOMPARE(run("backups").out.count('\n'), 2);
+        QCOMPARE(run("backups"_s).out.count('\n'), 2);
     }
 };
 

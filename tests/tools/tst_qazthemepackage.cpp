@@ -56,19 +56,30 @@ private slots:
         {
             const TemporaryHome home;
             home.write("Pictures/Bä rg.png"_s, "picture");
-            home.write("one/a.wav"_s, "one");
-            home.write("two/a.wav"_s, "two");
-            home.write(themeFile,
-                       QByteArray("# mine\nWallPaper=~/Pictures/Bä rg.png\nOther=1\nOpenSound=~/one/a.wav\n"
-                                  "CloseSound=~/two/a.wav\nPagingSound=~/one/a.wav\nIconTheme=Two\n"
-                                  "ErrorDialogSound=x-qaz-wm-error.wav\nMenuPopupSound=/gone.wav\n")
-                           .replace('~', home.path().toUtf8()));
-            const ToolRun result = run("pack a.qaztheme");
-            QVERIFY2(result.status == 0 && result.errors.count('\n') == 1
-                         && result.errors.contains("/gone.wav"),
-                     result.errors.constData());
+            for (const char *name : {"one/a.wav", "two/a.wav", "three/a.wav", "four/.a.wav"})
+                home.write(QLatin1String(name), QByteArray(name).left(3));
+            home.write(".local/share/wallpapers/own.png"_s, "own");
+            QFile sound(home.path("one/a.wav"_s));
+            QVERIFY(sound.open(QIODevice::ReadWrite)
+                    && sound.setFileTime(QDateTime::fromSecsSinceEpoch(1e9), QFile::FileModificationTime));
+            const auto writeTheme = [&home](QByteArray text) {
+                home.write(themeFile, text.replace('~', home.path().toUtf8()));
+            };
+            writeTheme("WallPaper=own.png\nOpenSound=own.png\n");
+            QCOMPARE(run("pack b.qaztheme"_s).transcript(),
+                     QByteArray("$ qaz-theme pack b.qaztheme\nHOME/b.qaztheme\n"));
+            const QString list = output("tar"_s, {"tzf"_s, home.path("b.qaztheme"_s)});
+            QCOMPARE(list, "theme.themerc\nthemes\nwallpapers/own.png\n"_s);
+            writeTheme("# mine\nWallPaper=~/Pictures/Bä rg.png\nOther=1\nOpenSound=~/one/a.wav\n"
+                       "CloseSound=~/two/a.wav\nRestoreUpSound=~/three/a.wav\nPagingSound=~/one/a.wav\n"
+                       "MinimizeSound=~/four/.a.wav\nIconTheme=Two\nErrorDialogSound=x-qaz-wm-error.wav\n"
+                       "MenuPopupSound=/gone.wav\nCompositeManager=/bin/true\n");
+            compareWithFile(transcriptOf("pack -n a.qaztheme\npack --json a.qaztheme\npack -q a.qaztheme"_s),
+                            "pack.txt"_s);
             QCOMPARE(output("tar"_s, {"xOzf"_s, home.path("a.qaztheme"_s), "themes"_s}),
                      "IconTheme=Two\nDecorTheme=\nSoundTheme=\n"_s);
+            QVERIFY(output("tar"_s, {"--full-time"_s, "--utc"_s, "-tvzf"_s, home.path("a.qaztheme"_s)})
+                        .contains("\n-rw-r--r-- 0/0               3 2001-09-09 01:46:40 sounds/a.wav\n"_s));
             packed = home.read("a.qaztheme"_s);
         }
         const TemporaryHome home;
@@ -76,17 +87,16 @@ private slots:
         home.write(themeFile, "Own=2\nIconTheme=Two\n");
         const QString before = home.fingerprint();
         WmListener listener;
-        QCOMPARE(run("unpack -n a.qaztheme").status, 0);
+        const ScopedEnvironment locale("LC_ALL", "C"); // in which the names are UTF-8 all the same
+        QByteArray transcript = run("unpack -n a.qaztheme"_s).transcript();
         QCOMPARE(home.fingerprint(), before);
-        const ToolRun result = run("unpack a.qaztheme");
-        QVERIFY2(result.status == 0, result.errors.constData());
-        QCOMPARE(listener.takeUpdates().replace(home.path(".local/share"_s), "~"_s),
-                 "WallPaper ~/wallpapers/Bä rg.png|MenuPopupSound /gone.wav|OpenSound ~/qaz/sounds/a.wav|"
-                 "CloseSound ~/qaz/sounds/2-a.wav|ErrorDialogSound x-qaz-wm-error.wav|"
-                 "PagingSound ~/qaz/sounds/a.wav"_s);
-        QCOMPARE(home.read(".local/share/wallpapers/Bä rg.png"_s), QByteArray("picture"));
-        QCOMPARE(home.read(".local/share/qaz/sounds/a.wav"_s), QByteArray("one"));
-        QCOMPARE(home.read(".local/share/qaz/sounds/2-a.wav"_s), QByteArray("two"));
+        transcript += transcriptOf("unpack a.qaztheme\nunpack -q a.qaztheme"_s);
+        transcript += listener.takeUpdates().replace(home.path(), "HOME"_s).replace(u'|', u'\n').toUtf8()
+                      + '\n';
+        for (const char *name : {"wallpapers/Bä rg.png", "qaz/sounds/a.wav", "qaz/sounds/2-a.wav",
+                                 "qaz/sounds/3-a.wav", "qaz/sounds/_a.wav"})
+            transcript += name + (": " + home.read(".local/share/"_s + QString::fromUtf8(name))) + '\n';
+        compareWithFile(transcript, "unpack.txt"_s);
         QVERIFY(home.read(themeFile).startsWith("Own=2\nIconTheme=Two\n")
                 && !home.read(themeFile).contains("Other"));
         QCOMPARE(QDir(home.path(".local/share"_s)).entryList(QDir::AllEntries | QDir::Hidden).join(u' '),
@@ -101,22 +111,36 @@ private slots:
         home.write("elsewhere"_s, "untouched");
         QVERIFY(home.makeDirectory(".local/share/qaz/sounds"_s));
         QVERIFY(QFile::link(home.path("elsewhere"_s), home.path(".local/share/qaz/sounds/b.wav"_s)));
-        writeArchive(home.path("a.qaztheme"_s), {{"./theme.themerc", "WallPaper=wallpapers/a.png\n"},
+        writeArchive(home.path("a.qaztheme"_s), {{"./", {}, AE_IFDIR},
+                                                 {"./theme.themerc", "WallPaper=wallpapers/a.png\n"},
                                                  {"./wallpapers/", {}, AE_IFDIR},
                                                  {"./wallpapers/a.png", "new"},
                                                  {"sounds/b.wav", "sound"}});
-        const ToolRun result = run("unpack a.qaztheme");
+        const ToolRun result = run("unpack a.qaztheme"_s);
         QVERIFY2(result.status == 0, result.errors.constData());
         QCOMPARE(home.read(target) + ' ' + home.read("elsewhere"_s), QByteArray("new untouched"));
         QVERIFY(!QFileInfo(home.path(".local/share/qaz/sounds/b.wav"_s)).isSymLink());
         QCOMPARE(home.backups(), QByteArrayList({"old", "untouched"}));
         const QString before = home.fingerprint();
-        QCOMPARE(run("unpack a.qaztheme").out, QByteArray());
+        QCOMPARE(run("unpack a.qaztheme"_s).out, QByteArray());
         QCOMPARE(home.fingerprint(), before);
+        // A link that leads nowhere, a directory in the place of a file, a file in the place of a directory.
+        QVERIFY(QFile::remove(home.path(target)) && QFile::link("/nowhere"_s, home.path(target)));
+        QCOMPARE(run("unpack a.qaztheme"_s).status, 0);
+        QVERIFY(QFile::remove(home.path(target)) && home.makeDirectory(target));
+        QVERIFY(QFile::rename(home.path(".local/share/qaz/sounds"_s), home.path("sounds"_s)));
+        writeArchive(home.path("s.qaztheme"_s), {{"theme.themerc", ""}, {"sounds/b.wav", "sound"}});
+        home.write(".local/share/qaz/sounds"_s, "file");
+        QFile large(home.write("large.wav"_s, {}));
+        QVERIFY(large.resize(256 * 1024 * 1024 + 1));
+        home.write("l.themerc"_s, "OpenSound=" + home.path("large.wav"_s).toUtf8());
+        compareWithFile(transcriptOf("unpack a.qaztheme\nunpack s.qaztheme\npack -f l.themerc l.qaztheme"_s),
+                        "refused.txt"_s);
+        QVERIFY(large.remove());
         // A package is a file of the user's, too.
         home.write("b.qaztheme"_s, "precious");
-        QCOMPARE(run("pack b.qaztheme").status, 0);
-        QCOMPARE(home.backups(), QByteArrayList({"old", "precious", "untouched"}));
+        QCOMPARE(run("pack b.qaztheme"_s).status, 0);
+        QCOMPARE(home.backups(), QByteArrayList({"", "old", "precious", "untouched"}));
     }
 
     void nothingIsTrusted()
@@ -142,7 +166,7 @@ private slots:
             QVERIFY(home.makeDirectory(".local/share"_s));
             writeArchive(home.path("a.qaztheme"_s), members);
             const QString before = home.fingerprint();
-            const ToolRun result = run("unpack a.qaztheme");
+            const ToolRun result = run("unpack a.qaztheme"_s);
             QVERIFY2(result.status == 2 && result.errors.count('\n') == 1,
                      members.isEmpty() ? "nothing" : members.last().name.constData());
             QCOMPARE(home.fingerprint(), before);
@@ -158,7 +182,7 @@ private slots:
         QVERIFY(home.makeDirectory(".local/share"_s));
         home.write(themeFile, "WallPaper=" + home.write("a.png"_s, QByteArray(3000, 'x')).toUtf8()
                                   + "\nPagingSpeed=5\n");
-        QCOMPARE(run("pack whole").status, 0);
+        QCOMPARE(run("pack whole"_s).status, 0);
         QVERIFY(QFile::remove(home.path(themeFile)));
         const QByteArray whole = home.read("whole"_s);
         for (int size : {0, 1, 100, whole.size() / 2, whole.size() - 9, whole.size() - 8, whole.size() - 1})
@@ -181,8 +205,8 @@ private slots:
         }
         members.removeLast();
         writeArchive(home.path("many.qaztheme"_s), members);
-        QCOMPARE(run("unpack many.qaztheme").status, 0);
-        QCOMPARE(run("unpack whole").status, 0);
+        QCOMPARE(run("unpack many.qaztheme"_s).status, 0);
+        QCOMPARE(run("unpack whole"_s).status, 0);
     }
 };
 

@@ -6,17 +6,20 @@
 #include <QCoreApplication>
 #include <QTextCodec>
 
+#include <clocale>
 #include <cstring>
 
 #include <langinfo.h>
 
 namespace {
 
-/// Scripts often run in the C locale, whose encoding knows no letter of a theme file but the plain ones.
+/// Scripts often run in the C locale, whose encoding knows no letter of a theme file or an archive but the plain ones.
 void takeTextsForUtf8InTheCLocale()
 {
-    if (std::strcmp(::nl_langinfo(CODESET), "ANSI_X3.4-1968") == 0)
-        QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+    if (std::strcmp(::nl_langinfo(CODESET), "ANSI_X3.4-1968") != 0)
+        return;
+    std::setlocale(LC_CTYPE, "C.UTF-8");
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
 }
 
 } // namespace
