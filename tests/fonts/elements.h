@@ -4,23 +4,28 @@
 
 const QString place = ".config/fontconfig/fonts.conf"_s;
 
-/// A fontconfig file with \a children, which the two functions below lay out as the editor does.
+/// A fontconfig file as the editor lays it out: "rgba=bgr antialias=true size=3-7 <dir>/a</dir>".
 inline QByteArray fontsFile(const QByteArray &children)
 {
-    return "<?xml version=\"1.0\"?>\n<fontconfig>\n" + children + "</fontconfig>\n";
-}
-
-inline QByteArray element(const char *name, const char *tag, const char *value)
-{
-    return QByteArray("  <match target=\"font\">\n    <edit mode=\"assign\" name=\"") + name + "\">\n      <"
-           + tag + '>' + value + "</" + tag + ">\n    </edit>\n  </match>\n";
-}
-
-inline QByteArray range(const char *name, const char *from, const char *to)
-{
-    const QByteArray test = QByteArray("    <test qual=\"any\" name=\"") + name + "\" compare=\"";
-    return "  <match target=\"font\">\n" + test + "more_eq\">\n      <double>" + from
-           + "</double>\n    </test>\n" + test + "less_eq\">\n      <double>" + to
-           + "</double>\n    </test>\n    <edit mode=\"assign\" name=\"antialias\">\n"
-             "      <bool>false</bool>\n    </edit>\n  </match>\n";
+    QByteArray text = "<?xml version=\"1.0\"?>\n<fontconfig>\n";
+    for (const QByteArray &child : children.split(' ')) {
+        const int sign = child.indexOf('=');
+        QByteArray name = child.left(sign), value = child.mid(sign + 1), tests;
+        if (sign < 0) {
+            text += child.isEmpty() ? "" : "  " + child + '\n';
+            continue;
+        }
+        if (const QByteArrayList bounds = value.split('-'); bounds.size() == 2) {
+            const QByteArray test = "    <test qual=\"any\" name=\"" + name + "\" compare=\"";
+            const QByteArray end = "</double>\n    </test>\n";
+            tests = test + "more_eq\">\n      <double>" + bounds[0] + end + test
+                    + "less_eq\">\n      <double>" + bounds[1] + end;
+            name = "antialias";
+            value = "false";
+        }
+        const QByteArray tag = value.toLower() == "true" || value.toLower() == "false" ? "bool>" : "const>";
+        text += "  <match target=\"font\">\n" + tests + "    <edit mode=\"assign\" name=\"" + name
+                + "\">\n      <" + tag + value + "</" + tag + "\n    </edit>\n  </match>\n";
+    }
+    return text + "</fontconfig>\n";
 }

@@ -91,29 +91,27 @@ private slots:
 
     void fileIsShown()
     {
-        DialogOverFile file(range("pixelsize", "8", "15") + element("rgba", "const", "vbgr")
-                            + element("hintstyle", "const", "hintslight")
-                            + element("antialias", "bool", "false"));
+        DialogOverFile file("pixelsize=8-15 rgba=vbgr hintstyle=hintslight antialias=false");
         QCOMPARE(file.shown(), "true true 8 15 Vertical BGR Slight"_s);
         QVERIFY(!file.dialog->load());
         QCOMPARE(DialogOverFile::stored(), "- - -"_s);
 
-        file.write(element("antialias", "bool", "true"));
+        file.write("antialias=true");
         QVERIFY(file.dialog->load());
         QCOMPARE(file.shown(), "false false (0) (14) (Vertical BGR) Medium"_s);
         QVERIFY(!file.ok()->isEnabled()); // what was read is no edit
         canFilter = false;
-        file.write(element("rgba", "const", "bgr"));
+        file.write("rgba=bgr");
         file.dialog->load();
         QCOMPARE(file.shown(), "false (false) (0) (14) (BGR) Medium"_s);
         canFilter = true;
 
-        file.write(element("rgba", "const", "vbgr"));
+        file.write("rgba=vbgr");
         file.dialog->load();
         file.dialog->defaults();
         QCOMPARE(file.shown(), "true false 0 14 (Vertical BGR) Medium"_s);
 
-        file.write(range("pixelsize", "0", "14.04")); // shows as the default's 14, which is meant exactly
+        file.write("pixelsize=0-14.04"); // shows as the default's 14, which is meant exactly
         file.dialog->load();
         file.dialog->defaults();
         QVERIFY(file.save(true) && file.home.read(place).contains("<double>14</double>"));
@@ -129,27 +127,21 @@ private slots:
         QTest::keyClick(file.find<QComboBox>("subPixelTypeCombo"), Qt::Key_Down);
         QTest::keyClick(file.find<QComboBox>("hintStyleCombo"), Qt::Key_End);
         QVERIFY(file.save(true));
-        const QByteArray others = element("hinting", "bool", "true")
-                                  + element("hintstyle", "const", "hintfull");
-        QCOMPARE(file.home.read(place),
-                 fontsFile(element("rgba", "const", "bgr") + others + element("antialias", "bool", "true")
-                           + range("size", "0", "7") + range("pixelsize", "0", "9.5")));
+        QCOMPARE(file.home.read(place), fontsFile("rgba=bgr hinting=true hintstyle=hintfull antialias=true "
+                                                  "size=0-7 pixelsize=0-9.5"));
         QCOMPARE(DialogOverFile::stored(), "bgr true hintfull"_s);
         QVERIFY(!file.save(true)); // nothing new
 
         file.find<QCheckBox>("useSubPixelCheckBox")->click();
         file.find<QCheckBox>("excludeRangeCheckBox")->click();
         QVERIFY(file.save(false));
-        QCOMPARE(file.home.read(place), fontsFile(others + element("antialias", "bool", "false")));
+        QCOMPARE(file.home.read(place), fontsFile("hinting=true hintstyle=hintfull antialias=false"));
         QCOMPARE(DialogOverFile::stored(), "none false hintfull"_s);
     }
 
     void rangeThatWasNotEditedStays()
     {
-        const QByteArray elements = range("pixelsize", "8.35", "60")
-                                    + element("hintstyle", "const", "hintfull")
-                                    + element("antialias", "bool", "true");
-        DialogOverFile file(elements);
+        DialogOverFile file("pixelsize=8.35-60 hintstyle=hintfull antialias=true");
         auto *fromBox = file.find<QDoubleSpinBox>("excludeFromSpinBox");
         auto *toBox = file.find<QDoubleSpinBox>("excludeToSpinBox");
         QCOMPARE(toBox->value(), 48.0);
@@ -163,12 +155,13 @@ private slots:
         toBox->selectAll();
         QTest::keyClicks(toBox, "48"_s); // what is shown already, but now on purpose
         QVERIFY(file.save(true));
-        QVERIFY(file.home.read(place).contains(range("pixelsize", "8.3", "48")));
+        QCOMPARE(file.home.read(place), fontsFile("pixelsize=8.3-48 hintstyle=hintfull antialias=true "
+                                                  "hinting=true size=6-36"));
     }
 
     void rejectedDialogShowsTheFileAgain()
     {
-        DialogOverFile file(element("hintstyle", "const", "hintslight"));
+        DialogOverFile file("hintstyle=hintslight");
         ModalDriver driver;
         driver.then([&file](QDialog *dialog) {
             file.find<QCheckBox>("excludeRangeCheckBox")->click();

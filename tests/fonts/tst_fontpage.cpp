@@ -12,7 +12,7 @@ namespace {
 const QString messageBox
     = "Font Settings Changed|<p>Some changes such as anti-aliasing or DPI will only affect newly started "
       "applications.</p>"_s;
-const QString place = ".config/fontconfig/fonts.conf"_s;
+const QString place = ".config/fontconfig/fonts.conf"_s, toolkitsFile = ".config/Trolltech.conf"_s;
 const QFont mono("DejaVu Sans Mono"_s, 12, QFont::Bold);
 
 constexpr const char *roles[] = {"DefaultFont",      "TitleFont",  "StartMenuFont", "CascadeMenuFont",
@@ -29,6 +29,7 @@ public:
         load(theme);
     }
     void loadAgain() { load(content()); }
+    QString stored(const char *key) const { return QSettings().value(QLatin1String(key)).toString(); }
     /// Saves; a message box must come up. Its texts.
     QString saveAndAnswer()
     {
@@ -78,27 +79,16 @@ private slots:
         }
         QCOMPARE(shown, stored);
         QCOMPARE(editor.save().toUtf8(), saved.join('|'));
+        QCOMPARE(editor.home.read(toolkitsFile),
+                 "[Qt]\nfont=\"" + editor.role("DefaultFont")->font().toString().toUtf8() + "\"\n");
         const QString files = editor.home.fingerprint();
         QCOMPARE(editor.save(), QString());
         QCOMPARE(editor.home.fingerprint(), files);
     }
 
-    void generalFontBecomesTheToolkitsDefault()
-    {
-        const QString file = ".config/Trolltech.conf"_s;
-        Editor editor("DefaultFont=DejaVu Sans-10:normal\n");
-        editor.role("TitleFont")->applyChosenFont(mono);
-        editor.save();
-        QVERIFY2(!editor.home.exists(file), editor.home.read(file).constData());
-        editor.role("DefaultFont")->applyChosenFont(mono);
-        editor.save();
-        QCOMPARE(editor.home.read(file),
-                 "[Qt]\nfont=\"" + editor.role("DefaultFont")->font().toString().toUtf8() + "\"\n");
-    }
-
     void editsAreAnnounced()
     {
-        Editor editor;
+        Editor editor("DefaultFont=DejaVu Sans-10:normal\n");
         QSignalSpy changed(&editor.page, &FontPage::changedSignal);
         QSignalSpy edited(&editor.page, &KFonts::changed);
         editor.role("IconFont")->applyChosenFont(mono);
@@ -118,7 +108,9 @@ private slots:
         QCOMPARE(edited.last().value(0).toBool(), false);
 
         editor.chooseAntiAliasing(0);
+        editor.role("TitleFont")->applyChosenFont(mono);
         QCOMPARE(editor.saveAndAnswer(), messageBox);
+        QVERIFY(!editor.home.exists(toolkitsFile));
         editor.find<QCheckBox>("useSubPixelCheckBox")->click();
         QCOMPARE(editor.saveAndAnswer(), messageBox); // of the file alone
         QCOMPARE(edited.last().value(0).toBool(), false);
@@ -134,28 +126,22 @@ private slots:
 
     void dpiSnaps()
     {
-        const Editor editor;
-        QCOMPARE(editor.dpi()->text(), "Disabled"_s);
-        // One row after the other: each depends on where the last snap went.
-        const QPair<int, int> steps[] = {{50, 70}, {40, 0}, {69, 70}, {70, 70}, {1, 0}, {120, 120},
-                                         {1, 70},  {60, 0}, {70, 70}, {1, 70},  {0, 0}, {1, 0}};
-        for (const auto &[entered, shown] : steps) {
+        const Editor editor, other;
+        QList<int> shown;
+        // Each depends on where the last snap went, on any page.
+        for (const int entered : {50, 40, 69, 70, 1, 120, 1, 60, 70, 1, 0, 1, 30}) {
             editor.dpi()->setValue(entered);
-            QCOMPARE(editor.dpi()->value(), shown);
+            shown += editor.dpi()->value();
         }
-        editor.dpi()->stepUp();
-        QCOMPARE(editor.dpi()->text(), "70dpi"_s);
-        editor.dpi()->stepDown();
-        // The remembered value is shared: a second page goes on where the first one ended.
-        editor.dpi()->setValue(30);
-        const Editor other;
         other.dpi()->setValue(30);
-        QCOMPARE(other.dpi()->value(), 0);
+        QCOMPARE(shown << other.dpi()->value(),
+                 (QList<int>{70, 0, 70, 70, 0, 120, 70, 0, 70, 70, 0, 0, 70, 0}));
     }
 
-    void typedDpiIsForced()
+    void dpiIsForcedAndNoLongerForced()
     {
-        Editor editor({}, ".Xresources"_s, "A.a: 1\n");
+        const QString file = ".Xresources"_s, xrdb = "xrdb"_s;
+        Editor editor({}, file, "A.a: 1\n");
         editor.save();
         QSignalSpy changed(&editor.page, &KFonts::changed);
         auto *line = editor.dpi()->findChild<QLineEdit *>();
@@ -163,10 +149,31 @@ private slots:
         QTest::keyClicks(line, "120"_s);
         QVERIFY2(changed.value(0).value(0).toBool(), "typing is an edit before the field is left");
         QCOMPARE(editor.saveAndAnswer(), messageBox);
-        QCOMPARE(editor.home.read(".Xresources"_s), QByteArray("A.a: 1\nXft.dpi: 120\n"));
-        QCOMPARE(QSettings().value("forceFontDPI"_s).toInt(), 120);
+        QCOMPARE(editor.home.read(file), QByteArray("A.a: 1\nXft.dpi: 120\n"));
+        QCOMPARE(editor.stored("forceFontDPI"), "120"_s);
         QCOMPARE(editor.commands, "XftSettings 120 unknown rgb hintmedium"_s);
         QCOMPARE(editor.save(), QString());
+
+        QProcess::execute(xrdb, {"-merge"_s, editor.home.write("server"_s, "Xft.dpi: 119.9\n")});
+        editor.loadAgain();
+        QCOMPARE(editor.dpi()->value(), 119);
+        FakePrograms programs;
+        programs.add(xrdb, "[ \"$1\" = -merge ] || cat >>\"$HOME/removed\"");
+        ModalDriver driver;
+        // The resources are merged last, after the message; merging without a DPI removes once more.
+        driver.then([&](QDialog *box) {
+            QVERIFY(qobject_cast<QMessageBox *>(box)->textFormat() != Qt::PlainText); // it has markup
+            box->accept();
+            QCOMPARE(programs.calls(xrdb).size(), 1);
+        });
+        editor.dpi()->setValue(0);
+        editor.save();
+        QVERIFY(driver.isDone());
+        QCOMPARE(editor.home.read(file), QByteArray("A.a: 1\n"));
+        QCOMPARE(programs.calls(xrdb).size(), 3);
+        QCOMPARE(editor.home.read("removed"_s), QByteArray("Xft.dpi\nXft.dpi\n"));
+        editor.save();
+        QCOMPARE(programs.calls(xrdb).size(), 5); // removed by the merge alone
     }
 
     void fileMadeForTheDpiGoesWithIt()
@@ -186,51 +193,8 @@ private slots:
             editor.loadAgain();
             editor.dpi()->setValue(0); // nothing to remove, nothing made
             QCOMPARE(editor.saveAndAnswer(), messageBox);
-            QCOMPARE(QSettings().value("madeXresources"_s), isOurs ? QVariant("false"_s) : QVariant());
+            QCOMPARE(editor.stored("madeXresources"), isOurs ? "false"_s : QString());
         }
-    }
-
-    void dpiIsNoLongerForced()
-    {
-        Editor editor({}, ".Xresources"_s, "Xft.dpi: 119.9\nA.a: 1\n");
-        const QString xrdb = "xrdb"_s;
-        QProcess::execute(xrdb, {"-merge"_s, editor.home.path(".Xresources"_s)});
-        QSettings().setValue("forceFontDPI"_s, 120);
-        editor.loadAgain();
-        QCOMPARE(editor.dpi()->text(), "119dpi"_s);
-        FakePrograms programs;
-        programs.add(xrdb, "[ \"$1\" = -merge ] || cat >>\"$HOME/removed\"");
-        ModalDriver driver;
-        // The resources are merged last, after the message; merging without a DPI removes once more.
-        driver.then([&](QDialog *box) {
-            QVERIFY(qobject_cast<QMessageBox *>(box)->textFormat() != Qt::PlainText); // it has markup
-            box->accept();
-            QCOMPARE(programs.calls(xrdb).size(), 1);
-        });
-        editor.dpi()->setValue(0);
-        editor.save();
-        QVERIFY(driver.isDone());
-        QCOMPARE(editor.home.read(".Xresources"_s), QByteArray("A.a: 1\n"));
-        QCOMPARE(programs.calls(xrdb).size(), 3);
-        QCOMPARE(editor.home.read("removed"_s), QByteArray("Xft.dpi\nXft.dpi\n"));
-        editor.save();
-        QCOMPARE(programs.calls(xrdb).size(), 5); // removed by the merge alone
-    }
-
-    void systemSettingsRemoveTheUsersFiles()
-    {
-        const QByteArray content = "<fontconfig><!-- mine --></fontconfig>\n";
-        Editor editor({}, place, content);
-        editor.home.write(".fonts.conf"_s, content);
-        QCOMPARE(editor.antiAliasing()->currentText(), "System Settings"_s);
-        StandardError standardError;
-        QCOMPARE(editor.save().count("XftSettings"_s), 0);
-        QVERIFY(!editor.home.exists(".fonts.conf"_s) && !editor.home.exists(place));
-        QCOMPARE(editor.home.backups().count(content), 2);
-        QCOMPARE(
-            standardError.take().count("qaz-admin-theme: Removed " + QFile::encodeName(editor.home.path())),
-            2);
-        QCOMPARE(QSettings().value("dontChangeAASettings"_s).toString(), "true"_s);
     }
 
     void failureIsToldAndStaysEdited()
@@ -242,7 +206,7 @@ private slots:
         for (int attempt = 0; attempt < 2; ++attempt) {
             QCOMPARE(editor.saveAndAnswer(), "Error|The font settings could not be saved in the "
                                              "file '%1': Is a directory"_s.arg(editor.home.path(place)));
-            QVERIFY(!QSettings().contains("XftAntialias"_s));
+            QCOMPARE(editor.stored("XftAntialias"), QString());
             QTRY_VERIFY(changed.last().value(0).toBool());
         }
         QVERIFY(QDir().rmdir(editor.home.path(place)));
@@ -265,6 +229,16 @@ private slots:
             QCOMPARE(editor.antiAliasing()->currentIndex(), mode);
             QCOMPARE(editor.find<QPushButton>("configureButton")->isEnabled(), mode == 0);
         }
+        const QByteArray mine = "<fontconfig><!-- mine --></fontconfig>\n";
+        const QString files[] = {editor.home.write(".fonts.conf"_s, mine), editor.home.write(place, mine)};
+        StandardError standardError;
+        QCOMPARE(editor.save(), QString());
+        const QByteArray told = standardError.take();
+        for (const QString &file : files)
+            QVERIFY2(!QFile::exists(file) && told.contains("Removed " + QFile::encodeName(file)),
+                     told.constData());
+        QCOMPARE(editor.home.backups().count(mine), 2);
+        QCOMPARE(editor.stored("dontChangeAASettings"), "true"_s);
     }
 
     void fontsAreChosen()

@@ -59,8 +59,6 @@ private slots:
         int value = 15;
         for (const char *name : spinBoxes) {
             auto *box = file.find<QSpinBox>(name);
-            // The limits and the meaning of 0 stand in the What's This text.
-            QVERIFY2(box->whatsThis().contains(" 0 to %1. 0 "_s.arg(box->maximum())), name);
             box->selectAll();
             QTest::keyClicks(box, QString::number(value++));
         }

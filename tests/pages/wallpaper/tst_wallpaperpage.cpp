@@ -134,7 +134,6 @@ private slots:
         QCompleter *completer = page.lineEdit->completer();
         completer->setCompletionPrefix(red.chopped(5));
         QCOMPARE(completer->currentCompletion(), red);
-        QVERIFY(page.lineEdit->isClearButtonEnabled());
         QTest::keyClick(page.position, Qt::Key_Up);
         page.home.write("#abcdef"_s, picture("red"));
         QDir::setCurrent(page.home.path());
@@ -265,7 +264,6 @@ private slots:
             QTest::keyClick(page.lineEdit, Qt::Key_V, Qt::ControlModifier);
             QTRY_COMPARE(page.lineEdit->text(), taken);
         }
-        QVERIFY(page.page.acceptDrops());
     }
 };
 
