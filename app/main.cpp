@@ -67,6 +67,7 @@ int runEditor(int argc, char **argv)
             qPrintable(QObject::tr("Qaz", "Usage: qaz-admin-theme themefile - open and edit theme file\n")));
         return 1;
     }
+    loadFontconfig();
     dlg = new ConfigDialog(chooseThemeFile(argc, argv), nullptr, windowFlags);
     dlg->show();
     handleTermination();

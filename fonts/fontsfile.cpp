@@ -77,6 +77,16 @@ void guardFontconfig()
     }
 }
 
+void loadFontconfig()
+{
+    const std::unique_ptr<FcConfig, Release<FcConfigDestroy>> config(FcConfigCreate());
+    if (!FcConfigParseAndLoad(config.get(), nullptr, FcTrue))
+        return;
+    const std::unique_ptr<FcStrList, Release<FcStrListDone>> caches(FcConfigGetCacheDirs(config.get()));
+    if (FcStrListNext(caches.get()))
+        FcConfigSetCurrent(config.get());
+}
+
 QString userFontsFile()
 {
     return xdgDirectory("XDG_CONFIG_HOME", "/.config") + QLatin1String("/fontconfig/fonts.conf");

@@ -274,6 +274,17 @@ private slots:
         QCOMPARE(FcConfigEnableHome(FcTrue), FcFalse);
     }
 
+    void theUsersFontconfigFileIsLoaded()
+    {
+        const TemporaryHome home;
+        const QString own = home.write(place, "<fontconfig/>\n");
+        loadFontconfig();
+        QVERIFY(fontconfigFiles().contains(own));
+        const QStringList loaded = fontconfigFiles();
+        QVERIFY(FcInitReinitialize());
+        QCOMPARE(fontconfigFiles(), loaded);
+    }
+
     void fileIsChosenAmongFontconfigsOwn()
     {
         const TemporaryHome home;
