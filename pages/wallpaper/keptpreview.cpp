@@ -7,6 +7,7 @@
 #include <QBuffer>
 #include <QFile>
 #include <QFileInfo>
+#include <QImageWriter>
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -69,7 +70,9 @@ void keepPreview(const QString &path, QImage preview, const QString &origin)
     QBuffer buffer(&png);
     QString error;
     ::chmod(name.constData(), 0600); // a replaced file keeps its bits
-    if (buffer.open(QIODevice::WriteOnly) && preview.save(&buffer, "PNG"))
+    QImageWriter writer(&buffer, "PNG");
+    writer.setCompression(0); // which takes long, and makes every start read longer
+    if (writer.write(preview))
         static_cast<void>(replaceFile(path, png, &error, 0600));
 }
 
