@@ -44,15 +44,21 @@ bool namesSpecialFile(const QByteArray &svg)
     return false;
 }
 
+/// Photographs are megabytes that nobody needs to search.
+bool opensSpecialFile(const QImageReader &reader, const QByteArray &content)
+{
+    return reader.format().startsWith("svg") && namesSpecialFile(content);
+}
+
 } // namespace
 
 QImage loadImage(const QString &path, qint64 pixelLimit)
 {
     FileContent file = readRegularFile(path);
-    if (namesSpecialFile(file.content))
-        return {};
     QBuffer buffer(&file.content);
     QImageReader reader(&buffer);
+    if (opensSpecialFile(reader, file.content))
+        return {};
     const QSize stated = reader.size();
     if (file.content.isEmpty() || pixelCount(stated) > pixelLimit)
         return {};
@@ -73,7 +79,8 @@ QSize imageSize(const QString &path)
 {
     FileContent file = readRegularFile(path);
     QBuffer buffer(&file.content);
-    return namesSpecialFile(file.content) ? QSize() : QImageReader(&buffer).size();
+    const QImageReader reader(&buffer);
+    return opensSpecialFile(reader, file.content) ? QSize() : reader.size();
 }
 
 QImage drawSvg(const QByteArray &svg, const QSize &size, const QColor &background, Qt::AspectRatioMode mode)
