@@ -42,8 +42,10 @@ void removeStaleLock(const QByteArray &path)
     // A clock may have been set back.
     const std::chrono::seconds age(std::abs(std::time(nullptr) - status.st_mtime));
     const auto owner = pid_t(readRegularFile(QFile::decodeName(path)).content.trimmed().toUInt());
-    const bool isAlive = ::kill(owner, 0) == 0 || errno == EPERM;
-    if (age > (owner == 0 ? anonymousLockAge : isAlive ? livingLockAge : orphanedLockAge))
+    const auto lifetime = owner == 0                                ? anonymousLockAge
+                          : ::kill(owner, 0) == 0 || errno == EPERM ? livingLockAge
+                                                                    : orphanedLockAge;
+    if (age > lifetime)
         std::remove(path.constData());
 }
 

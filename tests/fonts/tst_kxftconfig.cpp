@@ -114,7 +114,10 @@ private slots:
     {
         const HomeWithFile home("<!--mine--> size=1-2 pixelsize=8-15");
         const QByteArray before = home.read(place);
+        StandardError standardError;
         Config config;
+        QVERIFY(
+            standardError.take().contains("Saved a copy of " + QFile::encodeName(home.path(place)) + " as "));
         QCOMPARE(home.backups(), QByteArrayList{before});
         QVERIFY(!config.changed());
         const QByteArray content = home.read(place);
