@@ -5,10 +5,10 @@
 #include "app/pagetable.h"
 #include "platform/slidingstackedwidget.h"
 #include "settings/inifile.h"
+#include "settings/renderingstore.h"
 
 #include <QAbstractSpinBox>
 #include <QComboBox>
-#include <QCoreApplication>
 #include <QDialogButtonBox>
 #include <QIcon>
 #include <QKeyEvent>
@@ -41,14 +41,9 @@ QIcon iconNamed(const QString &name)
     return icon.isNull() ? QIcon(QStringLiteral(":/fallback/%1.svg").arg(name)) : icon;
 }
 
-QString ownSettings()
-{
-    return iniFile(QCoreApplication::organizationName(), QCoreApplication::applicationName());
-}
-
 int storedExtent(const char *key, int defaultExtent)
 {
-    const int extent = iniValue(ownSettings(), QLatin1String(key), defaultExtent).toInt();
+    const int extent = iniValue(ownSettingsFile(), QLatin1String(key)).toInt();
     return extent > 0 && extent <= largestExtent ? extent : defaultExtent;
 }
 
@@ -156,7 +151,8 @@ void ConfigDialog::storeSize() const
     // A small screen's limits are not the user's wish.
     const int wide = width() == m_firstSize.width() ? m_wantedSize.width() : width();
     const int high = height() == m_firstSize.height() ? m_wantedSize.height() : height();
-    writeIniValues(ownSettings(), {}, {{QStringLiteral("width"), wide}, {QStringLiteral("height"), high}});
+    writeIniValues(ownSettingsFile(), {},
+                   {{QStringLiteral("width"), wide}, {QStringLiteral("height"), high}});
 }
 
 void ConfigDialog::guardControls()

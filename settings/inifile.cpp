@@ -14,7 +14,7 @@ constexpr KeyFileFormat iniFormat{";", true, true};
 
 QByteArray escapedCharacter(ushort code)
 {
-    constexpr char letters[] = "0......abtnvfr"; // of the codes 0 to 13
+    constexpr char letters[] = ".......abtnvfr"; // of the codes 0 to 13
     if (code == '"' || code == '\\')
         return QByteArray("\\") + char(code);
     if (code < sizeof letters - 1 && letters[code] != '.')
@@ -31,10 +31,10 @@ QByteArray escapedValue(const QVariant &value)
     bool afterNumber = false;
     for (const QChar character : qAsConst(text)) {
         const ushort code = character.unicode();
-        const bool isDigit = code < 0x80 && QByteArrayLiteral("0123456789abcdefABCDEF").contains(char(code));
+        const bool isDigit = QByteArrayLiteral("0123456789abcdefABCDEF").contains(character.toLatin1());
         const QByteArray escaped = afterNumber && isDigit ? "\\x" + QByteArray::number(code, 16)
                                                           : escapedCharacter(code);
-        afterNumber = escaped.startsWith("\\x") || escaped == "\\0";
+        afterNumber = escaped.startsWith("\\x");
         result += escaped;
     }
     const bool needsQuotes = result.contains(';') || result.contains(',') || result.contains('=')

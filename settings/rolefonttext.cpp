@@ -9,7 +9,7 @@ QString fontToText(const QFont &font)
     const bool isResolved = resolved.pointSize() > 0;
     QString text = (isResolved ? resolved.family() : font.family()) + QLatin1Char('-')
                    + QString::number(isResolved ? resolved.pointSize() : font.pointSize());
-    text += resolved.weight() < 51 ? QLatin1String(":normal") : QLatin1String(":bold");
+    text += resolved.bold() ? QLatin1String(":bold") : QLatin1String(":normal");
     if (resolved.italic())
         text += QLatin1String(":italic");
     return text;
@@ -17,12 +17,11 @@ QString fontToText(const QFont &font)
 
 QFont textToFont(const QString &text)
 {
-    const QString familyAndSize = text.section(QLatin1Char(':'), 0, 0);
-    const QString family = familyAndSize.section(QLatin1Char('-'), 0, 0);
-    const int size = familyAndSize.section(QLatin1Char('-'), 1, 1).toInt();
-    const bool bold = text.section(QLatin1Char(':'), 1, 1) == QLatin1String("bold");
-    const bool italic = text.section(QLatin1Char(':'), 2, 2) == QLatin1String("italic");
-    return QFont(family, size, bold ? QFont::Bold : QFont::Normal, italic);
+    const QStringList parts = text.split(QLatin1Char(':'));
+    const QStringList familyAndSize = parts.first().split(QLatin1Char('-'));
+    const bool isBold = parts.value(1) == QLatin1String("bold");
+    return QFont(familyAndSize.first(), familyAndSize.value(1).toInt(), isBold ? QFont::Bold : QFont::Normal,
+                 parts.value(2) == QLatin1String("italic"));
 }
 
 bool isFontText(const QString &text)
@@ -44,11 +43,7 @@ QFont storedRoleFont(const QString &stored, const QFont &defaultFont)
 
 QString familyDisplayName(const QString &family)
 {
-    const int open = family.indexOf(QLatin1Char('['));
-    if (open < 0)
-        return family.trimmed();
-    const int close = family.indexOf(QLatin1Char(']'), open);
-    const QString name = family.left(open).trimmed();
-    const QString foundry = family.mid(open + 1, close < 0 ? -1 : close - open - 1).trimmed();
+    const QString name = family.section(QLatin1Char('['), 0, 0).trimmed();
+    const QString foundry = family.section(QLatin1Char('['), 1).section(QLatin1Char(']'), 0, 0).trimmed();
     return foundry.isEmpty() ? name : name + QLatin1Char('[') + foundry + QLatin1Char(']');
 }

@@ -7,6 +7,12 @@
 class Description
 {
 public:
+    Description()
+    {
+        addPlain<QGridLayout, QFormLayout, QHBoxLayout, QVBoxLayout, QStackedLayout, QLabel, QSpinBox,
+                 QDoubleSpinBox, QCheckBox, QComboBox, QPushButton, QToolButton, QGroupBox, QTabWidget,
+                 QLineEdit, QListWidget, QTreeWidget, QScrollArea, QFrame, QWidget>();
+    }
     /// Tells the widgets of \a window in the order of the Tab key.
     void add(QWidget *window)
     {
@@ -24,6 +30,11 @@ public:
     QString text() const { return m_lines.join(u'\n').replace(QRegularExpression(" +\n"_s), "\n"_s) + u'\n'; }
 
 private:
+    template<typename... Classes>
+    void addPlain()
+    {
+        (m_plain.push_back(std::make_unique<Classes>()), ...);
+    }
     void addWidget(const QWidget *widget)
     {
         m_lines.append(described(widget));
@@ -80,13 +91,9 @@ private:
         QString place;
         QDebug out(&place);
         int row = 0, column = 0, rows = 0, columns = 0;
-        QFormLayout::ItemRole role = {};
         if (auto *grid = qobject_cast<QGridLayout *>(layout)) {
             grid->getItemPosition(i, &row, &column, &rows, &columns);
             out << row << column << rows << columns;
-        } else if (auto *form = qobject_cast<QFormLayout *>(layout)) {
-            form->getItemPosition(i, &row, &role);
-            out << row << role;
         } else if (auto *box = qobject_cast<QBoxLayout *>(layout)) {
             out << box->stretch(i);
         }
@@ -126,12 +133,5 @@ private:
     const QStringList m_leftOut = {"geometry"_s,   "minimumSize"_s, "maximumSize"_s, "gridSize"_s,
                                    "windowIcon"_s, "palette"_s,     "pixmap"_s,      "cursor"_s,
                                    "font"_s,       "objectName"_s};
-    const std::unique_ptr<QObject> m_plain[20] = {
-        std::make_unique<QGridLayout>(), std::make_unique<QFormLayout>(),    std::make_unique<QHBoxLayout>(),
-        std::make_unique<QVBoxLayout>(), std::make_unique<QStackedLayout>(), std::make_unique<QLabel>(),
-        std::make_unique<QSpinBox>(),    std::make_unique<QDoubleSpinBox>(), std::make_unique<QCheckBox>(),
-        std::make_unique<QComboBox>(),   std::make_unique<QPushButton>(),    std::make_unique<QToolButton>(),
-        std::make_unique<QGroupBox>(),   std::make_unique<QTabWidget>(),     std::make_unique<QLineEdit>(),
-        std::make_unique<QListWidget>(), std::make_unique<QTreeWidget>(),    std::make_unique<QScrollArea>(),
-        std::make_unique<QFrame>(),      std::make_unique<QWidget>()};
+    std::vector<std::unique_ptr<QObject>> m_plain; // without anything set, the general classes last
 };

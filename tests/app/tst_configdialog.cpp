@@ -44,7 +44,8 @@ private slots:
             QCOMPARE(m_list->width(), m_list->gridSize().width() + 20);
             const auto *area = find<QScrollArea>("pageArea");
             onEachPage([area](const QWidget *) {
-                QTRY_COMPARE(area->verticalScrollBar()->maximum() + area->horizontalScrollBar()->maximum(), 0);
+                QTRY_COMPARE(area->verticalScrollBar()->maximum() + area->horizontalScrollBar()->maximum(),
+                             0);
             });
         }
     }
@@ -102,13 +103,6 @@ private slots:
                 QTest::keyClick(box, Qt::Key_Enter, Qt::KeypadModifier);
                 QVERIFY2(m_dialog->isVisible() && !m_dialog->isWindowModified(),
                          qPrintable(box->objectName()));
-            }
-        });
-        m_dialog->changedSlot();
-        onEachPage([this](const QWidget *page) {
-            for (auto *pageButton : page->findChildren<QPushButton *>()) {
-                pageButton->setFocus();
-                QVERIFY2(button(QDialogButtonBox::Ok)->isDefault(), qPrintable(pageButton->objectName()));
             }
         });
         showPage("Screensaver");
@@ -187,25 +181,11 @@ private slots:
             QWheelEvent event({5, 5}, widget->mapToGlobal({5, 5}), {}, {0, -120}, {}, {}, {}, false);
             QCoreApplication::sendEvent(widget, &event);
         };
-        int turned = 0;
-        onEachPage([&](const QWidget *page) {
-            m_list->setFocus();
-            for (auto *widget : page->findChildren<QWidget *>()) {
-                const char *property = qobject_cast<QSpinBox *>(widget)    ? "value"
-                                       : qobject_cast<QComboBox *>(widget) ? "currentIndex"
-                                                                           : nullptr;
-                if (!property)
-                    continue;
-                const QVariant before = widget->property(property);
-                turnWheel(widget);
-                QVERIFY2(widget->property(property) == before && widget->focusPolicy() == Qt::StrongFocus,
-                         qPrintable(widget->objectName()));
-                ++turned;
-            }
-        });
-        QVERIFY(turned > 20);
-        verifyEdited(false);
         showPage("Screensaver");
+        m_list->setFocus();
+        turnWheel(delay());
+        turnWheel(find<QComboBox>("wallpaperPositionCombo"));
+        verifyEdited(false);
         delay()->setFocus();
         turnWheel(delay());
         QCOMPARE(delay()->value(), 9);

@@ -37,7 +37,7 @@ private slots:
         QMap<QString, QVariant> values{
             {"true"_s, true}, {"number"_s, -120}, {"fraction"_s, 10.5}, {"empty"_s, QString()}};
         for (const char *text : {"Sans Serif,10", " a ", " a", "a;b", "b=c", "\"q\" \\", "@Point(1 2)",
-                                 "%1 #x", "\x01\x31\x66\a\b\t\n\v\f\r\x1f\x61z\x7f", "äa€1字g😀"})
+                                 "%1 #x", "\x01\x31\x66\a\b\t\n\v\f\r\x0e\x1f\x61z\x7f", "äa€1字g😀"})
             values.insert("key%1"_s.arg(values.size()), QString::fromUtf8(text));
         for (auto value = values.cbegin(); value != values.cend(); ++value)
             theirs.setValue("Group/"_s + value.key(), *value);
