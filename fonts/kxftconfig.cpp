@@ -69,16 +69,17 @@ void KXftConfig::read()
     m_content = file.content;
     m_refusal = file.error;
     QString error;
-    if (!m_document.setContent(file.content, &error))
+    FontsDocument &document = m_document.emplace();
+    if (!document.setContent(file.content, &error))
         m_refusal = error;
     else if (file.state == FileState::Missing && !canMakeFile(m_file))
         m_refusal = QStringLiteral("It does not exist and can't be made");
-    m_settings = {FontRendering::subPixelOrder(m_document.item(Kind::SubPixel).text),
-                  m_document.item(Kind::ExcludePoints).range,
-                  m_document.item(Kind::ExcludePixels).range,
-                  FontRendering::hintStyle(m_document.item(Kind::HintStyle).text),
-                  truthOf(m_document.item(Kind::Hinting), true),
-                  truthOf(m_document.item(Kind::AntiAliasing), systemAntiAliasing())};
+    m_settings = {FontRendering::subPixelOrder(document.item(Kind::SubPixel).text),
+                  document.item(Kind::ExcludePoints).range,
+                  document.item(Kind::ExcludePixels).range,
+                  FontRendering::hintStyle(document.item(Kind::HintStyle).text),
+                  truthOf(document.item(Kind::Hinting), true),
+                  truthOf(document.item(Kind::AntiAliasing), systemAntiAliasing())};
 }
 
 bool KXftConfig::wasRewritten() const
@@ -128,16 +129,20 @@ bool KXftConfig::writeOrMerge(FontsFileLock *lock, QString *error)
 /// False with an empty \a error when another program came in between.
 bool KXftConfig::write(FontsFileLock *lock, QString *error)
 {
-    const QByteArray content = m_document.withItems(items());
+    if (!m_document && !m_document.emplace().setContent(m_content, error))
+        return false;
+    const QByteArray content = m_document->withItems(items());
     // A rewrite that changes nothing can lose nothing, and would only drive the older copies out.
-    if (m_content != content && !m_document.holdsOnlySettings()) {
+    if (m_content != content && !m_document->holdsOnlySettings()) {
         if (const QString copy = backUp(m_file); !copy.isEmpty())
             printDiagnostic(QStringLiteral("Saved a copy of %1 as %2").arg(m_file, copy));
     }
     const auto isCurrent = [this] { return !wasRewritten(); };
     if (!lock->replace(content, isCurrent, error) || readFontsFile(m_file).content != content)
         return false;
-    read();
+    m_content = content;
+    m_document.reset();
+    m_madeChanges = false;
     return true;
 }
 

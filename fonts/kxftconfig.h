@@ -66,7 +66,7 @@ private:
     QVector<FontsItem> items() const;
 
     Settings m_settings;
-    FontsDocument m_document;
+    std::optional<FontsDocument> m_document; // of m_content; none yet after a write: reading takes its time
     QString m_file;
     bool m_madeChanges = false;
     QByteArray m_content; // of the file when it was read
