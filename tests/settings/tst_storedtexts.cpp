@@ -1,32 +1,11 @@
 #include "settings/colortexts.h"
 #include "settings/rolefonttext.h"
-#include "settings/themekeys.h"
-#include "tests/support/temporaryhome.h"
 #include "tests/support/testing.h"
 
 class TestStoredTexts : public QObject
 {
     Q_OBJECT
 private slots:
-    void theKeysAreThoseOfTheFile()
-    {
-        const TemporaryHome home;
-        QTranslator german; // the meanings are found in a catalogue
-        QVERIFY(german.load(QAZ_BINARY_DIR "/share/qaz/translations/qaz-admin-theme_de.qm"_s));
-        QCoreApplication::installTranslator(&german);
-        QString text;
-        for (const ThemeKey &key : themeKeys) {
-            QVERIFY2(fits(key, QLatin1String(key.defaultText)), key.name);
-            text += QStringList({QLatin1String(key.name), QLatin1String(key.defaultText), allowedValues(key),
-                                 meaning(key)})
-                        .join(" | "_s)
-                    + (key.isNewWhenMissing ? " | new when missing\n"_s : "\n"_s);
-        }
-        home.write(QAZ_BINARY_DIR "/themekeys.txt"_s, text.toUtf8()); // to be compared and taken over
-        QCOMPARE(text.split(u'\n'),
-                 QString::fromUtf8(home.read(QAZ_SOURCE_DIR "/tests/settings/themekeys.txt"_s)).split(u'\n'));
-    }
-
     void oldColorNamesAreTranslated()
     {
         // Stored, the colour of an element, the colour of the desktop behind a wallpaper (- none).
