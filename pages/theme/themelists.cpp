@@ -129,10 +129,10 @@ QString iconPath(const QazIconTheme &theme, const char *name, const char *contex
 /// An XPM without the rows below \a rowLimit: no preview shows them, and decoding thousands takes seconds.
 QByteArray withoutHiddenRows(const QByteArray &xpm)
 {
-    // Every other part is a string: the values (width, height, colours), then one for each colour and each row.
+    // Every other part is a string: four values (width, height, colours), then one for each colour and each row.
     QByteArrayList parts = xpm.split('"');
     QByteArrayList values = parts.value(1).simplified().split(' ');
-    if (values.size() < 3)
+    if (values.size() < 4)
         return xpm;
     values[1] = QByteArray::number(qMin(values.at(1).toInt(), rowLimit));
     parts[1] = values.join(' ');

@@ -1,77 +1,67 @@
 #include "pages/effects/compositesettings.h"
 
 #include "pages/effects/comptonconfig.h"
-#include "platform/qazsettings.h"
+#include "pages/effects/effectpage.h"
 #include "tests/support/fakeprogram.h"
+#include "tests/support/pageoverfile.h"
 #include "tests/support/standarderror.h"
-#include "tests/support/temporaryhome.h"
-#include "tests/support/testing.h"
-#include "tests/support/wmlistener.h"
 
 namespace {
 
-const QString kompmgrFile = ".config/qaz/kompmgrrc"_s;
 const QString comptonFile = ".config/compton.conf"_s;
-
-/// A session whose manager is installed in PATH under a name that no other test uses.
-class Session
-{
-public:
-    Session(const QString &manager, bool runs, const QByteArray &lines)
-        : m_manager(manager.toUtf8())
-    {
-        home.makeDirectory(".config/qaz"_s);
-        const QString program = m_programs.directory() + u'/' + manager;
-        QFile::copy("/bin/sleep"_s, program);
-        if (runs)
-            m_process.start(program, {"3600"_s});
-        m_process.waitForStarted();
-        writeTheme(lines);
-    }
-    ~Session()
-    {
-        m_process.kill();
-        m_process.waitForFinished();
-    }
-
-    void writeTheme(const QByteArray &lines) const
-    {
-        home.write("t"_s, "CompositeManager=" + m_manager + '\n' + lines);
-    }
-    /// The lines of the theme file below the manager's own.
-    QByteArray themeLines() const
-    {
-        const QByteArray text = home.read("t"_s);
-        return text.mid(text.indexOf('\n') + 1);
-    }
-    CompositeState load(const CompositeState &shown = {})
-    {
-        return loadComposite(openStore().get(), shown, &comptonConfigPath);
-    }
-    void save(const CompositeState &state) { saveComposite(openStore().get(), state, comptonConfigPath); }
-
-    const TemporaryHome home;
-    QString comptonConfigPath;
-
-private:
-    /// The store writes the file when it goes.
-    std::unique_ptr<QazSettings> openStore() const
-    {
-        auto store = std::make_unique<QazSettings>(home.path("t"_s));
-        store->sync(true);
-        return store;
-    }
-
-    FakePrograms m_programs{FakePrograms::Path::Instead};
-    QByteArray m_manager;
-    QProcess m_process;
-};
-
 // Another run of this test on the same machine must not pass for this one's managers.
 const QString ownManager = "qaz-kompmgr-%1"_s.arg(QCoreApplication::applicationPid());
 const QString compton = "compton-%1"_s.arg(QCoreApplication::applicationPid());
-const QString off = "QAZWM_UPDATE_VAL UseComposite false"_s;
-const QString on = "QAZWM_UPDATE_VAL UseComposite true"_s;
+const QString kompmgrFile = ".config/qaz/kompmgrrc"_s;
+
+/// A compositing manager that is installed in PATH.
+struct Manager {
+    Manager(const QString &name, bool runs)
+    {
+        const QString program = programs.directory() + u'/' + name;
+        QFile::copy("/bin/sleep"_s, program);
+        if (runs)
+            process.start(program, {"3600"_s});
+        process.waitForStarted();
+    }
+
+    const FakePrograms programs{FakePrograms::Path::Instead};
+    QProcess process;
+};
+
+/// The page over a theme file that names a manager, and has all else that is saved.
+class CompositePage : public PageOverFile<EffectPage>
+{
+public:
+    CompositePage(const QString &manager, const QByteArray &lines)
+        : m_start("CompositeManager=" + manager.toLatin1() + "\nArrangeWindowSpeed=0\nGradWindowMapSpeed=0\n")
+    {
+        home.makeDirectory(".config/qaz"_s);
+        loadLines(lines);
+    }
+
+    void writeLines(const QByteArray &lines) const { home.write("t"_s, m_start + lines); }
+    void loadLines(const QByteArray &lines) { load(m_start + lines); }
+    QByteArray lines() const { return content().mid(m_start.size()); }
+    /// Whether the manager is on, transparency and shadow: "+-+".
+    QString composite() const
+    {
+        QString state;
+        for (const char *name : compositeBoxes)
+            state += find<QWidget>(name)->property("checked").toBool() ? u'+' : u'-';
+        return state;
+    }
+    void setComposite(const QString &state) const
+    {
+        for (int i = 0; i < 3; ++i)
+            find<QWidget>(compositeBoxes[i])->setProperty("checked", state.at(i) == u'+');
+    }
+
+private:
+    static constexpr const char *compositeBoxes[] = {"compositeGroupBox", "transparencyCheckBox",
+                                                     "shadowCheckBox"};
+    const QByteArray m_start;
+};
 
 constexpr int million = 1024 * 1024;
 
@@ -107,119 +97,121 @@ private slots:
             {false, "UseComposite=no\n", "UseComposite=no\n"}};
         WmListener windowManager;
         for (const auto &[runs, stored, after] : rows) {
-            Session session(ownManager, runs, stored);
-            QCOMPARE(session.load().managerOn, runs);
-            QCOMPARE(session.themeLines(), after);
+            const Manager manager(ownManager, runs);
+            const CompositePage file(ownManager, stored);
+            QCOMPARE(file.composite(), runs ? "+--"_s : "---"_s);
+            QCOMPARE(file.lines(), after);
         }
         QCOMPARE(windowManager.take(), QStringList());
     }
 
     void managerThatIsNotFoundIsSwitchedOff()
     {
-        Session session(ownManager, true, {});
-        WmListener windowManager;
-        session.home.write("t"_s, "CompositeManager=no-%s-compton\nUseComposite=true\n");
-        const QByteArray kompmgr = "[kompmgr]\nIgnoreTransparency=false\n";
-        session.home.write(kompmgrFile, kompmgr);
         StandardError messages;
-        const CompositeState state = session.load({true, false, true});
+        CompositePage file("no-%s-compton"_s, "UseComposite=true\n");
         QCOMPARE(messages.take(),
                  QByteArray("qaz-admin-wm: can't find CompositeManager='no-%s-compton' in PATH\n"));
-        QVERIFY(!state.managerOn && !state.transparency && state.shadow);
-        QCOMPARE(session.themeLines(), QByteArray("UseComposite=false\n"));
-        session.home.write("t"_s, "CompositeManager=no-%s-compton\nUseComposite=true\n");
-        session.save({true, true, true}); // which of the files would be edited is not known
-        QCOMPARE(session.themeLines(), QByteArray("UseComposite=true\n"));
-        QVERIFY(session.comptonConfigPath.isEmpty() && !session.home.exists(comptonFile));
+        QCOMPARE(file.lines(), QByteArray("UseComposite=false\n"));
+        file.setComposite("+-+"_s);
+        file.loadLines("UseComposite=true\n");
+        QCOMPARE(file.composite(), "--+"_s);
+        // Which compton file would be edited is not known.
+        file.setComposite("+++"_s);
+        file.writeLines("UseComposite=true\n");
+        QCOMPARE(file.save(), QString());
+        QVERIFY(!file.home.exists(comptonFile));
 
         // A save to a theme that still says on tells the window manager; kompmgrrc is overwritten, but kept.
-        session.home.write("t"_s, "CompositeManager=gone\nUseComposite=true\n");
-        session.save({});
-        QCOMPARE(session.themeLines(), QByteArray("UseComposite=false\n"));
-        QCOMPARE(windowManager.take(), QStringList{off});
-        QCOMPARE(session.home.read(kompmgrFile), QByteArray("[kompmgr]\nIgnoreTransparency=true\n"));
-        QCOMPARE(session.home.backups(), QByteArrayList{kompmgr});
+        const QByteArray kompmgr = "[kompmgr]\nIgnoreTransparency=false\n";
+        file.home.write(kompmgrFile, kompmgr);
+        file.home.write(
+            "t"_s, "CompositeManager=gone\nArrangeWindowSpeed=0\nGradWindowMapSpeed=0\nUseComposite=true\n");
+        file.setComposite("---"_s);
+        QCOMPARE(file.save(), "UseComposite false"_s);
+        QCOMPARE(file.home.read(kompmgrFile), QByteArray("[kompmgr]\nIgnoreTransparency=true\n"));
+        QCOMPARE(file.home.backups(), QByteArrayList{kompmgr});
     }
 
     void kompmgrFileIsReadAsNegations()
     {
-        const std::pair<QByteArray, bool> files[] = {
-            {"[other]\nCompmode=CompClientShadows\n", false},
-            {"[kompmgr]\nIgnoreTransparency=TRUE\nCompmode=compsimple\n", true},
-            {"[kompmgr]\nIgnoreTransparency=untrue\nCompmode=CompSimple2\n", false}};
-        for (const auto &[content, on] : files) {
-            Session session(ownManager, false, {});
-            session.home.write(kompmgrFile, content);
-            const CompositeState state = session.load({false, !on, !on});
-            QVERIFY2(state.transparency == on && state.shadow == on, content.constData());
+        const std::pair<QByteArray, QString> rows[] = {
+            {"[other]\nCompmode=CompClientShadows\n", "---"_s},
+            {"[kompmgr]\nIgnoreTransparency=TRUE\nCompmode=compsimple\n", "-++"_s},
+            {"[kompmgr]\nIgnoreTransparency=untrue\nCompmode=CompSimple2\n", "---"_s}};
+        const Manager manager(ownManager, false);
+        for (const auto &[content, state] : rows) {
+            CompositePage file(ownManager, {});
+            file.home.write(kompmgrFile, content);
+            file.setComposite(state == "---"_s ? "+++"_s : "+--"_s);
+            file.loadLines("UseComposite=no\n");
+            QCOMPARE(file.composite(), state);
             // What was loaded is saved without a trace, whatever its text.
-            const QString before = session.home.fingerprint();
-            session.save(state);
-            QCOMPARE(session.home.fingerprint(), before);
+            const QString before = file.home.fingerprint();
+            QCOMPARE(file.save(), QString());
+            QCOMPARE(file.home.fingerprint(), before);
         }
     }
 
     void runningManagerIsRestartedOnlyForAChangedFile()
     {
-        const std::tuple<QByteArray, CompositeState, QStringList, const char *> rows[] = {
-            {"true", {true, false, true}, {off, on}, "true"}, {"true", {true, false, false}, {}, "true"},
-            {"false", {true, true, false}, {on}, "true"},     {"true", {false, true, true}, {off}, "false"},
-            {"True", {true, true, true}, {}, "True"},         {"", {true, true, true}, {on}, "true"}};
-        const auto own = [](const CompositeState &state) {
+        const QString restart = "UseComposite false|UseComposite true"_s;
+        const std::tuple<QByteArray, QString, QString, const char *> rows[] = {
+            {"true", "+-+"_s, restart, "true"},
+            {"true", "+--"_s, {}, "true"},
+            {"false", "++-"_s, "UseComposite true"_s, "true"},
+            {"true", "-++"_s, "UseComposite false"_s, "false"},
+            {"True", "+++"_s, {}, "True"},
+            {"", "+++"_s, "UseComposite true"_s, "true"}};
+        const auto own = [](const QString &state) {
             return QByteArray("; mine\n[kompmgr]\nOther=\"a, b\"\n")
-                   + (state.shadow ? "Compmode=CompClientShadows\n" : "")
-                   + (state.transparency ? "IgnoreTransparency=false\n" : "") + "\n[more]\nkey=1\n";
+                   + (state.at(2) == u'+' ? "Compmode=CompClientShadows\n" : "")
+                   + (state.at(1) == u'+' ? "IgnoreTransparency=false\n" : "") + "\n[more]\nkey=1\n";
         };
-        const auto theirs = [](const CompositeState &state) {
-            return QByteArray("# mine\nshadow = ") + (state.shadow ? "true" : "false")
-                   + ";\nenable-transparency = " + (state.transparency ? "true" : "false") + ";\n";
+        const auto theirs = [](const QString &state) {
+            return QByteArray("# mine\nshadow = ") + (state.at(2) == u'+' ? "true" : "false")
+                   + ";\nenable-transparency = " + (state.at(1) == u'+' ? "true" : "false") + ";\n";
         };
         for (const auto &[use, state, commands, usedThen] : rows) {
-            for (const QString &manager : {ownManager, compton}) {
+            for (const QString &name : {ownManager, compton}) {
+                const Manager manager(name, true);
                 const QByteArray line = use.isEmpty() ? QByteArray() : "UseComposite=" + use + '\n';
-                Session session(manager, true, line);
-                session.home.write(kompmgrFile, own({}));
-                session.home.write(comptonFile, theirs({}));
-                session.load();
-                session.writeTheme(line);
-                WmListener windowManager;
-                session.save(state);
-                QCOMPARE(windowManager.take(), commands);
-                QCOMPARE(session.themeLines(), QByteArray("UseComposite=") + usedThen + '\n');
-                QCOMPARE(session.home.backups().size(), state.transparency || state.shadow ? 1 : 0);
-                QCOMPARE(session.home.read(kompmgrFile),
-                         own(manager == ownManager ? state : CompositeState{}));
-                QCOMPARE(session.home.read(comptonFile),
-                         theirs(manager == compton ? state : CompositeState{}));
+                CompositePage file(name, {});
+                file.home.write(kompmgrFile, own("---"_s));
+                file.home.write(comptonFile, theirs("---"_s));
+                file.setComposite(state);
+                file.writeLines(line);
+                QCOMPARE(file.save(), commands);
+                QCOMPARE(file.lines(), QByteArray("UseComposite=") + usedThen + '\n');
+                QCOMPARE(file.home.backups().size(), state.endsWith("--"_s) ? 0 : 1);
+                QCOMPARE(file.home.read(kompmgrFile), own(name == ownManager ? state : "---"_s));
+                QCOMPARE(file.home.read(comptonFile), theirs(name == compton ? state : "---"_s));
             }
         }
     }
 
     void comptonFileIsResolvedOnceAndMissingValuesAreWritten()
     {
-        Session session(compton, true, {});
-        const QString old = session.home.write(".compton.conf"_s, {});
-        const CompositeState state = session.load({false, true, true});
-        QVERIFY(state.managerOn && !state.transparency && !state.shadow);
-        session.home.write(comptonFile, "shadow = true;\n");
-        QVERIFY(!session.load().shadow);
-        QCOMPARE(session.comptonConfigPath, old);
-        session.save(state);
-        QCOMPARE(session.home.read(".compton.conf"_s),
+        const Manager manager(compton, true);
+        CompositePage file(QString(), {});
+        file.home.write(".compton.conf"_s, {});
+        file.setComposite("-++"_s);
+        file.load("CompositeManager=" + compton.toLatin1() + '\n');
+        QCOMPARE(file.composite(), "+--"_s);
+        file.home.write(comptonFile, "shadow = true;\n");
+        file.load(file.content());
+        QCOMPARE(file.composite(), "+--"_s);
+        file.save();
+        QCOMPARE(file.home.read(".compton.conf"_s),
                  QByteArray("enable-transparency = false;\nshadow = false;\n"));
-    }
 
-    void whatIsNoReadableFileIsToldAndLeft()
-    {
-        Session session(compton, false, {});
-        const QString path = session.home.makeFifo(comptonFile);
+        // What is no file any more is told and left.
+        QVERIFY(QFile::remove(file.home.path(".compton.conf"_s)));
+        const QString path = file.home.makeFifo(".compton.conf"_s);
         StandardError messages;
-        const CompositeState state = session.load({false, true, true});
-        QVERIFY(state.transparency && state.shadow);
-        session.writeTheme("UseComposite=true\n");
-        WmListener windowManager;
-        session.save({true, false, false});
-        QCOMPARE(windowManager.take(), QStringList());
+        file.setComposite("-++"_s);
+        file.load(file.content());
+        QCOMPARE(file.composite(), "+++"_s);
+        QCOMPARE(file.save(), QString());
         const QByteArray message = "qaz-admin-theme: Can't read " + QFile::encodeName(path) + '\n';
         QCOMPARE(messages.take(), message + message);
         QVERIFY(QFileInfo::exists(path) && !QFileInfo(path).isFile());

@@ -1,6 +1,5 @@
 #include "pages/effects/effectpage.h"
 #include "tests/support/pageoverfile.h"
-#include "tests/support/testing.h"
 
 namespace {
 
@@ -49,17 +48,6 @@ class TestEffectPage : public QObject
 {
     Q_OBJECT
 private slots:
-    void fileWithoutKeysShowsAndSavesTheDefaults()
-    {
-        EffectPageOverFile file("");
-        QCOMPARE(file.values(), "0 0 0 300 300 0 10 500 0 0 1500 30 200 0 0 1110"_s);
-        QVERIFY(!file.find<QWidget>("pseudoTransparencyButtonGroup")->isVisibleTo(&file.page));
-        QCOMPARE(file.save(), "ArrangeWindowSpeed 0|GradWindowMapSpeed 0"_s);
-        QCOMPARE(file.content(),
-                 QByteArray("UseComposite=false\nArrangeWindowSpeed=0\nGradWindowMapSpeed=0\n"));
-        QCOMPARE(file.save(), QString());
-    }
-
     void valuesAreShownAsTheWindowManagerReadsThem()
     {
         const auto zeros = "0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 "_s;
@@ -71,9 +59,14 @@ private slots:
             {"99999", "25 25 30 3000 3000 10 30 3000 3000 20 5000 100 500 100 100 0001"_s},
             {"-3", zeros + "0001"_s},
             {"", zeros + "0000"_s}};
+        EffectPageOverFile file("");
+        QCOMPARE(file.values(), "0 0 0 300 300 0 10 500 0 0 1500 30 200 0 0 1110"_s);
+        QVERIFY(!file.find<QWidget>("pseudoTransparencyButtonGroup")->isVisibleTo(&file.page));
+        QCOMPARE(file.save(), "ArrangeWindowSpeed 0|GradWindowMapSpeed 0"_s);
+        QCOMPARE(file.content(),
+                 QByteArray("UseComposite=false\nArrangeWindowSpeed=0\nGradWindowMapSpeed=0\n"));
         // The opaque resize is read from its own key alone.
         const QStringList boxes = "SmartPlacement OpaqueMove OpaqueResize ThumbSize"_s.split(u' ');
-        EffectPageOverFile file("");
         for (const auto &[text, values] : rows) {
             const QByteArray value = '=' + text + '\n';
             QByteArray content;
@@ -83,13 +76,6 @@ private slots:
             QCOMPARE(file.values(), values);
             QVERIFY(!file.save().contains("OpaqueMove"_s)); // what means the same is left as it stands
         }
-        for (const QString &key : numbers) {
-            const QString range = " from 0 to %1. 0 "_s.arg(file.spin(key)->maximum());
-            QVERIFY2(file.spin(key)->whatsThis().contains(range), qPrintable(key));
-        }
-        for (const QLabel *label : file.page.findChildren<QLabel *>())
-            QCOMPARE(label->toolTip(), label->buddy()->toolTip());
-        QCOMPARE(file.find<QLabel>("pagingSpeedLabel")->toolTip(), "Autopaging speed"_s);
     }
 
     void stylesAreStoredByKeyword()
