@@ -4,6 +4,7 @@
 #include "settings/renderingstore.h"
 #include "tests/support/fakeprogram.h"
 #include "tests/support/programprocess.h"
+#include "tests/support/rows.h"
 #include "tests/support/standarderror.h"
 #include "tests/support/temporaryhome.h"
 #include "tests/support/testing.h"
@@ -31,25 +32,12 @@ private slots:
 
     void storedChoices()
     {
-        const QByteArray longName(216, 'x'); // up to the 255th byte of the command
         // What is stored, the lines of it and the command.
-        const std::array<QByteArray, 3> rows[] = {
-            {"", "", "0 unknown rgb full\n"},
-            {"forceFontDPI=120\nXftSubPixel=vrgb\nXftHintStyle=hintfull\nXftAntialias=true\n"
-             "dontChangeAASettings=false\n",
-             "Xft.antialias: 1\nXft.hinting: 1\nXft.hintstyle: hintfull\nXft.rgba: vrgb\nXft.dpi: 120\n",
-             "120 true vrgb hintfull\n"},
-            {"XftAntialias=false\nXftHintStyle=hintnone\nXftSubPixel=none\nforceFontDPI=0\n",
-             "Xft.antialias: 0\nXft.hinting: 0\nXft.hintstyle: hintnone\nXft.rgba: none\n",
-             "0 unknown none hintnone\n"},
-            {"dontChangeAASettings=false\n", "", "0 false rgb full\n"},
-            {"XftHintStyle=\nXftSubPixel=\n", "Xft.hinting: -1\n", "0 unknown  \n"},
-            {"XftSubPixel=" + longName + "y", "Xft.rgba: " + longName + "y\n", "0 unknown " + longName}};
-        for (const auto &[stored, lines, command] : rows) {
+        for (const QStringList &row : rowsOf("fonts/storedchoices.json"_s)) {
             const TemporaryHome home;
-            const QString store = home.write("store"_s, "[General]\n" + stored);
-            QCOMPARE(xftResourceLines(store).toLatin1(), lines);
-            QCOMPARE(xftSettingsCommand(store), "QAZWM_UPDATE_VAL XftSettings " + command);
+            const QString store = home.write("store"_s, "[General]\n" + row[1].toUtf8());
+            QCOMPARE(xftResourceLines(store), row[2]);
+            QCOMPARE(xftSettingsCommand(store), "QAZWM_UPDATE_VAL XftSettings " + row[3].toUtf8());
         }
     }
 
@@ -64,21 +52,8 @@ private slots:
     void oneResourceChanges()
     {
         // The text, the new line of the resource "d" (null: removed) and the text then.
-        const std::array<QByteArray, 3> rows[] = {
-            {"! mine\nd: 96\nx: 1\n", "d: 7", "! mine\nd: 7\nx: 1\n"},
-            {"x: 1", "d: 7", "x: 1\nd: 7\n"}, // an open last line
-            {"a: 1\nd: 96", "d: 7", "a: 1\nd: 7"},
-            {"a: 1\nd: 96\nb: 2", {}, "a: 1\nb: 2"},
-            {" d :\t96\n", "d: 7", "d: 7\n"},
-            {"dx: 1\n!d: 2\n", "d: 7", "dx: 1\n!d: 2\nd: 7\n"},
-            {"d: 1\na: 1\nd: 2\nb: 2\n", "d: 7", "a: 1\nd: 7\nb: 2\n"}, // the last one counts
-            {"d: \\\n 96\na: \\\nd: text\n", {}, "a: \\\nd: text\n"},
-            {"! mine\\\nd: 96\n", "d: 7", "! mine\\\nd: 96\nd: 7\n"}, // still the comment's
-            {"a: x\\\\\nd: 1\n", {}, "a: x\\\\\n"},                   // the backslash is its value
-            {"a: 1\\\n", "d: 7", "a: 1\\\n\nd: 7\n"},
-            {"a: \xff\r\nd: 96\r\nb: 1\r\n", "d: 7", "a: \xff\r\nd: 7\r\nb: 1\r\n"}};
-        for (const auto &[before, line, after] : rows)
-            QCOMPARE(withXresource(before, "d", line), after);
+        for (const QStringList &row : rowsOf("fonts/changes.json"_s))
+            QCOMPARE(withXresource(row[1].toLatin1(), "d", row[2].toLatin1()), row[3].toLatin1());
     }
 
     void merging()

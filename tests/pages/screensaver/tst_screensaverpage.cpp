@@ -1,5 +1,6 @@
 #include "pages/screensaver/screensaverpage.h"
 #include "tests/support/pageoverfile.h"
+#include "tests/support/rows.h"
 #include "tests/support/testing.h"
 
 namespace {
@@ -28,26 +29,11 @@ private slots:
     void untouchedValuesAreSavedOnlyWhereTheFormCannotHoldThem()
     {
         // What is stored, shown and saved; an empty text: as stored.
-        const std::tuple<QByteArray, QString, QByteArray> rows[] = {
-            {"Other=1\n", "on 10min 1min 2sec 50% tty"_s, ""},
-            {"ScreenSaverDelay=900\nLockerDpmsOffTimeout=120\nLockerWrongPasswdTimeout=7\n"
-             "LockerBellLevel=0\nLockerTTYLock=false\nLockerXaccessLock=true\n",
-             "on 15min 2min 7sec 0% x"_s, ""},
-            {"ScreenSaverDelay=90\n", "on 1min 1min 2sec 50% tty"_s, "ScreenSaverDelay=60\n"},
-            {"ScreenSaverDelay=30\n", "off 0min 1min 2sec 50% tty"_s, "ScreenSaverDelay=0\n"},
-            {"ScreenSaverDelay=soon\n", "off 0min 1min 2sec 50% tty"_s, ""},
-            {"ScreenSaverDelay=-600\n", "off 0min 1min 2sec 50% tty"_s, "ScreenSaverDelay=0\n"},
-            {"ScreenSaverDelay=99999999\nLockerBellLevel=400\nLockerWrongPasswdTimeout=100\n",
-             "on 999min 1min 99sec 100% tty"_s,
-             "ScreenSaverDelay=59940\nLockerBellLevel=100\nLockerWrongPasswdTimeout=99\n"},
-            // Any true text is shown as such, but compared as false.
-            {"LockerTTYLock=0\nLockerXaccessLock=TRUE\n", "on 10min 1min 2sec 50% x"_s,
-             "LockerTTYLock=0\nLockerXaccessLock=true\n"}};
-        for (const auto &[stored, shownTexts, saved] : rows) {
-            PageOverFile<ScreensaverPage> file(stored);
-            QCOMPARE(shown(file), shownTexts);
-            QCOMPARE(file.save().isEmpty(), saved.isEmpty());
-            QCOMPARE(file.content(), saved.isEmpty() ? stored : saved);
+        for (const QStringList &row : rowsOf("pages/screensaver/values.json"_s)) {
+            PageOverFile<ScreensaverPage> file(row[1].toUtf8());
+            QCOMPARE(shown(file), row[2]);
+            QCOMPARE(file.save().isEmpty(), row[3].isEmpty());
+            QCOMPARE(QString::fromUtf8(file.content()), row[3].isEmpty() ? row[1] : row[3]);
             QCOMPARE(file.save(), QString());
         }
     }

@@ -2,6 +2,7 @@
 #include "resources/registerresources.h"
 #include "tests/support/modaldriver.h"
 #include "tests/support/pageoverfile.h"
+#include "tests/support/rows.h"
 
 namespace {
 
@@ -64,29 +65,17 @@ private slots:
     void valuesAreLoaded()
     {
         // The theme, the desktop's own wallpaper; text, position, period, and the colour without a text.
-        const std::tuple<QByteArray, QByteArray, QString> rows[] = {
-            {"", "", "qaz-default|2|0|#0000ff"_s},
-            {"WallPaper=/a b.png\nWallPaperPos=Tile\nWallPaperPeriod=15\nDesktopColor=#123456\n", "",
-             "/a b.png|1|15|#123456"_s},
-            {"WallPaperPos=stretch\nWallPaperPeriod=often\nDesktopColor=qvlightgray\n", "",
-             "qaz-default|0|0|#000000"_s},
-            {"WallPaperPos=Center\nWallPaperPeriod=9999\n", "", "qaz-default|0|3600|#0000ff"_s},
-            {"WallPaper=#a6caf0\nDesktopColor=qvroyalblue\n", "", "#a6caf0|2|0|#a6caf0"_s},
-            {"DesktopColor=red\n", "\"#zz\"", "#000000|2|0|#000000"_s},
-            {"DesktopColor=red\n", "/a", "/a|2|0|#ff0000"_s},
-            {"WallPaper=/a\nWallPaperPos=Tile\nWallPaperPeriod=15\n", "\"#a6caf0\"",
-             "#a6caf0|2|0|#a6caf0"_s}};
-        for (const auto &[theme, desktop, state] : rows) {
-            Page page(theme, desktop);
-            QCOMPARE(page.onlyDesktop->isChecked(), !desktop.isEmpty());
-            QVERIFY(page.position->isEnabled() == desktop.isEmpty()
-                    && page.period->isEnabled() == desktop.isEmpty());
+        for (const QStringList &row : rowsOf("pages/wallpaper/values.json"_s)) {
+            Page page(row[1].toUtf8(), row[2].toUtf8());
+            QCOMPARE(page.onlyDesktop->isChecked(), !row[2].isEmpty());
+            QCOMPARE(page.position->isEnabled(), row[2].isEmpty());
+            QCOMPARE(page.period->isEnabled(), row[2].isEmpty());
             QCOMPARE(page.label->pixmap(Qt::ReturnByValue).size(), QSize(242, 181));
             const QString text = page.lineEdit->text();
             page.page.clearWallpaper();
             QCOMPARE("%1|%2|%3|"_s.arg(text).arg(page.position->currentIndex()).arg(page.period->value())
                          + page.shownColor(),
-                     state);
+                     row[3]);
         }
     }
 
