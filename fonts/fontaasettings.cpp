@@ -134,7 +134,6 @@ void FontAASettings::defaults()
     m_ui->excludeRangeCheckBox->setChecked(true); // takes the shown range
     m_ui->useSubPixelCheckBox->setChecked(false);
     m_ui->hintStyleCombo->setCurrentIndex(int(HintStyle::Medium) - int(HintStyle::None));
-    enableWidgets();
 }
 
 int FontAASettings::exec()

@@ -46,20 +46,17 @@ KXftConfig::KXftConfig()
     printDiagnostic(QStringLiteral("user fontconfig file to use: %1").arg(m_file));
 }
 
-bool KXftConfig::reset()
+void KXftConfig::reset()
 {
     read();
+    QString error; // told already; whoever edits something tries again
     if (!m_refusal.isEmpty()) {
         printDiagnostic(QStringLiteral("Can't use %1: %2").arg(m_file, m_refusal));
-        return false;
+    } else if (bringIntoAgreement(&m_settings.points, &m_settings.pixels, QX11Info::appDpiY())) {
+        m_madeChanges = true;
+        if (!apply(&error))
+            read();
     }
-    if (!bringIntoAgreement(&m_settings.points, &m_settings.pixels, QX11Info::appDpiY()))
-        return true;
-    m_madeChanges = true;
-    QString error; // told already; whoever edits something tries again
-    if (!apply(&error))
-        read();
-    return true;
 }
 
 void KXftConfig::read()

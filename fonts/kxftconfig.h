@@ -12,9 +12,9 @@ public:
     KXftConfig();
 
     /// Forgets every change and reads the file. A range of sizes to exclude is brought into agreement in both units,
-    /// which writes the file. Returns false when the file can't be read and understood, and when it is missing and
-    /// can't be made; the settings keep their defaults then, and apply() writes nothing.
-    bool reset();
+    /// which writes the file. When the file can't be read and understood, and when it is missing and can't be
+    /// made, the settings have their defaults and apply() writes nothing.
+    void reset();
 
     /// Writes the file if anything changed. What another program wrote since the last read stays, our settings are
     /// put into it, for up to two seconds. On false, \a error says why, and the settings wait for another try.
