@@ -142,7 +142,8 @@ void removeStaleTemporaries(const QString &directory)
     }
 }
 
-bool replaceFile(const QString &path, const QByteArray &content, QString *error, unsigned newFileMode)
+bool replaceFile(const QString &path, const QByteArray &content, QString *error, unsigned newFileMode,
+                 Durability durability)
 {
     const QString target = writableTarget(path, error);
     const QByteArray name = QFile::encodeName(target);
@@ -156,10 +157,12 @@ bool replaceFile(const QString &path, const QByteArray &content, QString *error,
     // A write beyond the limit of the file size fails as on a full disk; the signal would end the process.
     const auto putBack = qScopeGuard(
         [before = std::signal(SIGXFSZ, SIG_IGN)] { std::signal(SIGXFSZ, before); });
+    const auto sync = [durability](int descriptor) {
+        return durability == Durability::Remade || ::fsync(descriptor) == 0;
+    };
     QTemporaryFile file(directory + QLatin1Char('/') + QLatin1String(temporaryName));
     const bool isReplaced = file.open() && file.write(content) == content.size() && file.flush()
-                            && takeOverAttributes(file.handle(), name, newFileMode)
-                            && ::fsync(file.handle()) == 0
+                            && takeOverAttributes(file.handle(), name, newFileMode) && sync(file.handle())
                             && ::rename(QFile::encodeName(file.fileName()).constData(), name.constData())
                                    == 0;
     if (!isReplaced)
@@ -168,6 +171,6 @@ bool replaceFile(const QString &path, const QByteArray &content, QString *error,
     file.setAutoRemove(false);
     const Descriptor parent(::open(QFile::encodeName(directory).constData(), O_RDONLY | O_CLOEXEC));
     if (parent.isOpen())
-        ::fsync(parent.get());
+        sync(parent.get());
     return true;
 }

@@ -20,12 +20,16 @@ struct FileContent {
 /// maps nothing into memory: the file may shrink meanwhile.
 FileContent readRegularFile(const QString &path, qint64 limit = 1 << 30);
 
+/// What can be made anew when the machine has stopped at once need not wait for the disk; whoever reads it then
+/// notices that it is cut off.
+enum class Durability { Synced, Remade };
+
 /// Replaces \a path by \a content in one step: a temporary file beside it is synced and renamed over it.
 /// A symbolic link is followed, mode, ownership and extended attributes stay, missing directories are made;
 /// a new file gets \a newFileMode less the umask, which never keeps it from its owner. On failure the old file
 /// stands whole, \a error says why. Temporary files that a killed program left there go.
 [[nodiscard]] bool replaceFile(const QString &path, const QByteArray &content, QString *error,
-                               unsigned newFileMode = 0666);
+                               unsigned newFileMode = 0666, Durability durability = Durability::Synced);
 
 /// Gives the open file \a newFile the mode, ownership and extended attributes of the file at \a oldPath, or
 /// \a newFileMode less the umask when there is none. False (see errno) when the owner can't be kept.

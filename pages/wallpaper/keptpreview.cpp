@@ -73,7 +73,7 @@ void keepPreview(const QString &path, QImage preview, const QString &origin)
     QImageWriter writer(&buffer, "PNG");
     writer.setCompression(0); // which takes long, and makes every start read longer
     if (writer.write(preview))
-        static_cast<void>(replaceFile(path, png, &error, 0600));
+        static_cast<void>(replaceFile(path, png, &error, 0600, Durability::Remade));
 }
 
 } // namespace
