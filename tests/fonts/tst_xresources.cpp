@@ -58,30 +58,18 @@ private slots:
 
     void merging()
     {
-        const QByteArray big = "A.a: " + QByteArray(9000, 'a') + '\n'; // more than a block
-        const QByteArray other = "Other.one: x\n";
-        const QByteArray dpi = "Xft.dpi: 110\n";
-        // Both files (null: none or empty), the stored DPI and what the server has then.
-        const std::tuple<QByteArray, QByteArray, int, QByteArray> rows[] = {
-            {{}, {}, 110, other + dpi},
-            {"A.a: 1\n", "B.b: 2\n", 0, "A.a: 1\n" + other}, // the server's DPI goes
-            {{}, "B.b: 2\n", 0, "B.b: 2\n" + other},
-            {"A.a: 1\\\n", {}, 110, "A.a: 1\n" + other + dpi},
-            {"A.a: 1\\", {}, 110, "A.a: 1\n" + other + dpi},
-            {"A.a: 1\\ ", {}, 110, "A.a: 1\n" + other + dpi},
-            {"A.a: 1\\\r\n", {}, 110, "A.a: 1\n" + other + dpi},
-            {"#include \".included\"\n", {}, 0, "A.in: 1\n" + other},
-            {big, {}, 110, big + other + dpi}};
-        for (const auto &[xresources, xdefaults, forced, merged] : rows) {
+        // Both files (null: none), the stored DPI and what the server has then.
+        for (QStringList row : rowsOf("fonts/merging.json"_s)) {
+            row.replaceInStrings("BIG"_s, QString(9000, u'a'));
             const TemporaryHome home;
-            if (!xresources.isNull())
-                home.write(".Xresources"_s, xresources);
-            home.write(".Xdefaults"_s, xdefaults);
+            if (!row[1].isNull())
+                home.write(".Xresources"_s, row[1].toLatin1());
+            home.write(".Xdefaults"_s, row[2].toLatin1());
             home.write(".included"_s, "A.in: 1\n");
-            QSettings().setValue("forceFontDPI"_s, forced);
+            QSettings().setValue("forceFontDPI"_s, row[3]);
             loadServer(home, "Other.one: x\nXft.dpi: 99\n");
             applyXResources(exportXftSettings);
-            QCOMPARE(serverResources(), merged);
+            QCOMPARE(serverResources(), row[4].toLatin1());
         }
     }
 

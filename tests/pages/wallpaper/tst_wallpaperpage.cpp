@@ -225,16 +225,12 @@ private slots:
     void droppedAndPastedDataIsTaken()
     {
         Page page("");
-        const QString image = page.home.write("a b.XPM"_s, {}), uri = "file://"_s + page.home.path();
-        const QString rows[][3] = {
-            // type, data, and the text that is taken
-            {"text/uri-list"_s, "http://host/x.png\r\n%1/t\r\n%1/none.png\r\n%1/a%20b.XPM"_s, image},
-            {"text/plain"_s, "%1/a%20b.XPM\r\n%1/t"_s, image},
-            {"text/plain"_s, " #A6caf0\n"_s, "#a6caf0"_s},
-            {"text/plain"_s, "#a6caf"_s, {}}};
-        for (const auto &[type, data, taken] : rows) {
+        page.home.write("a b.XPM"_s, {});
+        // Type, data, and the text that is taken.
+        for (QStringList row : rowsOf("pages/wallpaper/drops.json"_s)) {
+            const QString taken = row[3].startsWith(u'/') ? page.home.path() + row[3] : row[3];
             auto *mime = new QMimeData;
-            mime->setData(type, QString(data).replace("%1"_s, uri).toLatin1());
+            mime->setData(row[1], row[2].replace("HOME"_s, "file://"_s + page.home.path()).toLatin1());
             QGuiApplication::clipboard()->setMimeData(mime);
             QWidget *const targets[] = {&page.page, page.lineEdit, page.find<QWidget>("qt_spinbox_lineedit")};
             for (QWidget *target : targets) {
