@@ -155,14 +155,14 @@ void Bridge::carryOut()
 void Bridge::applyScreensaver()
 {
     constexpr int longestDelay = 32767; // seconds: the protocol has 15 bits for it, and one more for DPMS
-    const int delay = m_session.values.number("ScreenSaverDelay", "600", longestDelay);
-    const int off = m_session.values.number("LockerDpmsOffTimeout", "60", 2 * longestDelay);
+    const int delay = m_session.values.number("ScreenSaverDelay", longestDelay, "600");
+    const int off = m_session.values.number("LockerDpmsOffTimeout", 2 * longestDelay, "60");
     const QString xset = QStringLiteral("xset");
     const QString none = QStringLiteral("0");
     QStringList dpms = {xset, QStringLiteral("-dpms")};
-    if (off > 0)
+    if (off)
         dpms = QStringList{xset, QStringLiteral("dpms"), none, none, QString::number(off)};
-    m_session.programs.run(xset, {{xset, QStringLiteral("s"), QString::number(delay)}, dpms});
+    m_session.programs.run({{xset, QStringLiteral("s"), QString::number(delay)}, dpms});
 }
 
 void Bridge::rootPropertyChanged(unsigned long property)

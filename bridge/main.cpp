@@ -12,6 +12,7 @@
 
 #include <cerrno>
 #include <csignal>
+#include <optional>
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -66,7 +67,7 @@ bool readOptions(Options *options, QString *error)
     return error->isEmpty();
 }
 
-int signalPipe[2] = {-1, -1};
+int signalPipe[2];
 
 /// Next to nothing is safe in a signal handler: it wakes the event loop.
 void noteSignal(int number)
@@ -83,39 +84,35 @@ void handleSignals(Bridge *bridge)
         return;
     auto *notifier = new QSocketNotifier(signalPipe[0], QSocketNotifier::Read, bridge);
     QObject::connect(notifier, &QSocketNotifier::activated, bridge, [bridge] {
-        for (char number = 0; ::read(signalPipe[0], &number, 1) == 1;)
+        for (char number{}; ::read(signalPipe[0], &number, 1) == 1;)
             number == SIGHUP ? bridge->applyAnew() : bridge->endSession();
     });
     for (const int number : {SIGTERM, SIGINT, SIGHUP})
         std::signal(number, noteSignal);
 }
 
-/// Whether the screen is to be served; \a status is the exit status if not.
-bool mayServe(XConnection *x, const Options &options, int *status)
+/// The exit status when the screen is not to be served.
+std::optional<int> refusal(XConnection *x, const Options &options)
 {
-    *status = 1;
-    if (!x->isOpen()) {
-        tell(QStringLiteral("Can't open the display"));
-        return false;
-    }
+    const auto refused = [](int status, const QString &reason) {
+        tell(reason);
+        return std::optional(status);
+    };
+    if (!x->isOpen())
+        return refused(1, QStringLiteral("Can't open the display"));
     x->watchSelection("_QAZWM_S"); // before looking, so that no owner comes in between
-    if (x->isOwned("_QAZWM_S")) {
-        tell(QStringLiteral("A Qaz window manager runs here and follows the theme file itself"));
-        *status = 0;
-    } else if (!options.once && !options.dryRun && !x->claimSelection("_QAZWM_BRIDGE_S", options.replace)) {
-        tell(QStringLiteral("Another bridge serves this screen already; --replace takes over"));
-    } else {
-        return true;
-    }
-    return false;
+    if (x->isOwned("_QAZWM_S"))
+        return refused(0, QStringLiteral("A Qaz window manager runs here and follows the theme file itself"));
+    if (!options.once && !options.dryRun && !x->claimSelection("_QAZWM_BRIDGE_S", options.replace))
+        return refused(1, QStringLiteral("Another bridge serves this screen already; --replace takes over"));
+    return std::nullopt;
 }
 
 int serve(const Options &options)
 {
     XConnection x;
-    int status = 0;
-    if (!mayServe(&x, options, &status))
-        return status;
+    if (const std::optional<int> status = refusal(&x, options))
+        return *status;
     // Queued: it may be lost before there is an event loop to leave.
     const auto giveUp = [] {
         tell(QStringLiteral("The X server is gone"));

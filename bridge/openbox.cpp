@@ -89,8 +89,7 @@ void Openbox::apply()
         return;
     if (m_session.options.openbox && !m_session.options.dryRun)
         editConfiguration();
-    m_session.programs.run(QStringLiteral("openbox"),
-                           {{QStringLiteral("openbox"), QStringLiteral("--reconfigure")}});
+    m_session.programs.run({{QStringLiteral("openbox"), QStringLiteral("--reconfigure")}});
 }
 
 void Openbox::editConfiguration() const

@@ -75,30 +75,27 @@ Programs::~Programs()
         process->disconnect(this);
         process->terminate();
     }
-    for (QProcess *process : children) {
-        if (process->state() != QProcess::NotRunning && !process->waitForFinished(endMs)) {
-            process->kill();
-            process->waitForFinished(endMs);
-        }
-    }
+    for (QProcess *process : children)
+        process->waitForFinished(endMs); // Qt kills what goes on
 }
 
-void Programs::run(const QString &purpose, const QVector<QStringList> &commands)
+void Programs::run(const QVector<QStringList> &commands)
 {
-    m_queues[purpose].waiting = commands;
-    if (!m_queues[purpose].running)
-        runNext(purpose);
+    const QString name = commands.constLast().constFirst();
+    m_queues[name].waiting = commands;
+    if (!m_queues[name].running)
+        runNext(name);
 }
 
-void Programs::runNext(const QString &purpose)
+void Programs::runNext(const QString &queueName)
 {
-    Queue &queue = m_queues[purpose];
+    Queue &queue = m_queues[queueName];
     queue.running = nullptr;
     while (!queue.running && !queue.waiting.isEmpty()) {
-        queue.running = start(queue.waiting.takeFirst(), [this, purpose](bool failed) {
+        queue.running = start(queue.waiting.takeFirst(), [this, queueName](bool failed) {
             if (failed) // what follows needs what failed
-                m_queues[purpose].waiting.clear();
-            runNext(purpose);
+                m_queues[queueName].waiting.clear();
+            runNext(queueName);
         });
         if (queue.running)
             QTimer::singleShot(hangMs, queue.running, &QProcess::kill);

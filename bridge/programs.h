@@ -28,8 +28,8 @@ public:
     /// Ends all children.
     ~Programs() override;
 
-    /// Runs \a commands one after the other; those that wait from an earlier call for the same \a purpose are dropped.
-    void run(const QString &purpose, const QVector<QStringList> &commands);
+    /// Runs \a commands one after the other; those that wait from an earlier call with the same last tool are dropped.
+    void run(const QVector<QStringList> &commands);
 
     /// Starts a program that stays until it ends by itself, is ended, or this object goes; \a whenEnded is called then,
     /// but not by the destructor. Null when it can't be started or is only printed.
@@ -51,10 +51,10 @@ private:
         QVector<QStringList> waiting;
     };
 
-    void runNext(const QString &purpose);
+    void runNext(const QString &queueName);
     void complain(const QString &tool, const QString &what);
 
     const Options &m_options;
-    QHash<QString, Queue> m_queues;
-    QSet<QString> m_complained; // of which tools
+    QHash<QString, Queue> m_queues; // by their commands' last tool
+    QSet<QString> m_complained;     // of which tools
 };

@@ -35,7 +35,7 @@ QString Values::fileText(const char *key, const char *defaultText) const
     return m_file.value(QLatin1String(key), QLatin1String(defaultText)).toString();
 }
 
-int Values::number(const char *key, const char *defaultText, int limit) const
+int Values::number(const char *key, int limit, const char *defaultText) const
 {
     return qBound(0, text(key, defaultText).toInt(), limit);
 }

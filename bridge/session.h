@@ -35,7 +35,7 @@ public:
     /// The file's text alone, for what nobody on the display may choose.
     QString fileText(const char *key, const char *defaultText) const;
     /// The number of a text; 0 for none, at most \a limit, never negative.
-    int number(const char *key, const char *defaultText, int limit) const;
+    int number(const char *key, int limit, const char *defaultText = "") const;
 
 private:
     QazSettings m_file;

@@ -12,6 +12,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <chrono>
+
 namespace {
 
 constexpr int longestPeriod = 3600; // minutes, as in the editor
@@ -49,17 +51,15 @@ void Wallpaper::apply()
 void Wallpaper::setUpSlides()
 {
     const QString wallpaper = m_session.values.text("WallPaper", "qaz-default");
-    const int period = m_session.values.number("WallPaperPeriod", "0", longestPeriod) * 60 * 1000;
-    if (wallpaper == m_wallpaper && period > 0 && m_slideTimer.interval() == period
-        && m_slideTimer.isActive())
+    const int minutes = m_session.values.number("WallPaperPeriod", longestPeriod);
+    if (wallpaper == m_wallpaper && minutes == m_minutes)
         return;
     m_wallpaper = wallpaper;
+    m_minutes = minutes;
     m_slide.clear();
-    m_slideTimer.setInterval(period);
-    if (period > 0 && !isColorText(wallpaper))
-        m_slideTimer.start();
-    else
-        m_slideTimer.stop();
+    m_slideTimer.stop();
+    if (minutes)
+        m_slideTimer.start(std::chrono::minutes(minutes));
 }
 
 void Wallpaper::showNext()
@@ -82,7 +82,7 @@ void Wallpaper::show()
     if (commands == m_shown)
         return;
     m_shown = commands;
-    m_session.programs.run(QStringLiteral("wallpaper"), commands);
+    m_session.programs.run(commands);
 }
 
 QString Wallpaper::found(const QString &wallpaper) const

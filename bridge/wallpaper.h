@@ -30,8 +30,9 @@ private:
     QVector<QStringList> colorCommands(const QColor &color) const;
 
     Session m_session;
-    QTimer m_slideTimer;
+    QTimer m_slideTimer{this};
     QString m_wallpaper; // that the slides began with
+    int m_minutes = 0;   // from one to the next
     QString m_slide;     // the file that is shown instead of m_wallpaper
     QVector<QStringList> m_shown;
 };

@@ -43,20 +43,18 @@ bool isImageFile(const QString &path)
     QImageReader reader(&file, format->name);
     reader.setAutoDetectImageFormat(false);
     const QSize size = reader.size();
-    return reader.canRead() && !size.isEmpty() && qint64(size.width()) * size.height() <= largestPicture;
+    return !size.isEmpty() && qint64(size.width()) * size.height() <= largestPicture;
 }
 
 QString nextPicture(const QString &path)
 {
     const QDir directory = QFileInfo(path).dir();
-    const QStringList names = directory.entryList(QDir::Files, QDir::Name);
-    const int current = names.indexOf(QFileInfo(path).fileName());
-    for (int i = 1; i <= names.size(); ++i) {
-        QString next = directory.filePath(names.at((current + i) % names.size()));
-        if (isImageFile(next))
-            return next;
-    }
-    return path;
+    QStringList names = directory.entryList(QDir::Files, QDir::Name);
+    std::rotate(names.begin(), names.begin() + names.indexOf(QFileInfo(path).fileName()) + 1, names.end());
+    const auto next = std::find_if(names.cbegin(), names.cend(), [&directory](const QString &name) {
+        return isImageFile(directory.filePath(name));
+    });
+    return next == names.cend() ? path : directory.filePath(*next);
 }
 
 QStringList showCommand(const QString &path, Fit fit, const QColor &background)

@@ -16,7 +16,7 @@ void WindowWatcher::take(const XEvent &event)
 {
     if (event.type != PropertyNotify)
         return;
-    if (event.xproperty.window == m_x.rootWindow() && event.xproperty.atom == m_x.atom("_NET_CLIENT_LIST"))
+    if (event.xproperty.atom == m_x.atom("_NET_CLIENT_LIST"))
         readClients();
     else if (event.xproperty.atom == m_x.atom("_NET_WM_STATE") && m_windows.contains(event.xproperty.window))
         readState(event.xproperty.window);

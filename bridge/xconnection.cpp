@@ -1,14 +1,12 @@
 #include "bridge/xconnection.h"
 
 #include <QAbstractEventDispatcher>
-#include <QElapsedTimer>
+#include <QDeadlineTimer>
 #include <QSocketNotifier>
 
-#include <cstring>
 #include <memory>
 #include <utility>
 
-#include <X11/Xatom.h>
 #include <X11/Xlib.h>
 #include <X11/extensions/Xfixes.h>
 #include <poll.h>
@@ -25,16 +23,15 @@ XConnection::XConnection()
     if (!m_display)
         return;
     // Windows come and go between an event and the answer to it.
-    XSetErrorHandler([](Display *, XErrorEvent *) { return 0; });
-    XSetIOErrorHandler([](Display *) { return 0; });
+    XSetErrorHandler([](Display *, XErrorEvent *) { return Success; });
+    XSetIOErrorHandler([](Display *) { return Success; });
     // The default ends the process on the spot, without its children.
     XSetIOErrorExitHandler(
         m_display, [](Display *, void *self) { static_cast<XConnection *>(self)->lose(); }, this);
     // Whoever sees the selection taken may send at once.
     XSelectInput(m_display, rootWindow(), SubstructureNotifyMask | PropertyChangeMask);
-    int error = 0;
-    if (XFixesQueryExtension(m_display, &m_selectionEvent, &error))
-        m_selectionEvent += XFixesSelectionNotify;
+    int firstError{};
+    XFixesQueryExtension(m_display, &m_selectionEvent, &firstError); // of its events the first is the one
 }
 
 XConnection::~XConnection()
@@ -82,7 +79,7 @@ void XConnection::readEvents()
         XNextEvent(m_display, &event);
         if (event.type == m_selectionEvent)
             emit selectionChanged();
-        else if (event.type == SelectionClear && event.xselectionclear.window == m_ownWindow)
+        else if (event.type == SelectionClear)
             emit selectionLost();
         else
             m_handler(event);
@@ -101,28 +98,26 @@ unsigned long XConnection::selectionAtom(const char *name) const
 
 bool XConnection::isOwned(const char *name) const
 {
-    return XGetSelectionOwner(m_display, selectionAtom(name)) != 0;
+    return XGetSelectionOwner(m_display, selectionAtom(name)) != None;
 }
 
 void XConnection::watchSelection(const char *name)
 {
-    if (m_selectionEvent >= 0)
-        XFixesSelectSelectionInput(m_display, rootWindow(), selectionAtom(name),
-                                   XFixesSetSelectionOwnerNotifyMask | XFixesSelectionWindowDestroyNotifyMask
-                                       | XFixesSelectionClientCloseNotifyMask);
+    XFixesSelectSelectionInput(m_display, rootWindow(), selectionAtom(name),
+                               XFixesSetSelectionOwnerNotifyMask | XFixesSelectionWindowDestroyNotifyMask
+                                   | XFixesSelectionClientCloseNotifyMask);
 }
 
 bool XConnection::claimSelection(const char *name, bool replace)
 {
     const Atom selection = selectionAtom(name);
-    m_ownWindow = XCreateWindow(m_display, rootWindow(), -1, -1, 1, 1, 0, 0, InputOnly, CopyFromParent, 0,
-                                nullptr);
+    const Window own = XCreateWindow(m_display, rootWindow(), -1, -1, 1, 1, 0, 0, InputOnly, CopyFromParent,
+                                     0, nullptr);
     // Only with a time of the server's is a later owner told from an earlier one.
-    XSelectInput(m_display, m_ownWindow, PropertyChangeMask);
-    XChangeProperty(m_display, m_ownWindow, XA_WM_NAME, XA_STRING, 8, PropModeReplace,
-                    reinterpret_cast<const unsigned char *>("qaz-wm-bridge"), 13);
+    XSelectInput(m_display, own, PropertyChangeMask);
+    XStoreName(m_display, own, "qaz-wm-bridge");
     XEvent stamp;
-    XWindowEvent(m_display, m_ownWindow, PropertyChangeMask, &stamp);
+    XWindowEvent(m_display, own, PropertyChangeMask, &stamp);
 
     XGrabServer(m_display); // of several that start at once, one becomes the owner
     const Window before = XGetSelectionOwner(m_display, selection);
@@ -130,9 +125,8 @@ bool XConnection::claimSelection(const char *name, bool replace)
         XSelectInput(m_display, before, StructureNotifyMask);
     const bool isMine = (!before || replace);
     if (isMine)
-        XSetSelectionOwner(m_display, selection, m_ownWindow, stamp.xproperty.time);
+        XSetSelectionOwner(m_display, selection, own, stamp.xproperty.time);
     XUngrabServer(m_display);
-    XFlush(m_display);
     if (!isMine || (before && !waitForOldOwner(before)))
         return false;
 
@@ -143,53 +137,48 @@ bool XConnection::claimSelection(const char *name, bool replace)
     announcement.xclient.format = 32;
     announcement.xclient.data.l[0] = long(stamp.xproperty.time);
     announcement.xclient.data.l[1] = long(selection);
-    announcement.xclient.data.l[2] = long(m_ownWindow);
+    announcement.xclient.data.l[2] = long(own);
     XSendEvent(m_display, rootWindow(), False, StructureNotifyMask, &announcement);
-    return XGetSelectionOwner(m_display, selection) == m_ownWindow;
+    return XGetSelectionOwner(m_display, selection) == own;
 }
 
 bool XConnection::waitForOldOwner(Window window) const
 {
-    QElapsedTimer timer;
-    timer.start();
-    pollfd server = {ConnectionNumber(m_display), POLLIN, 0};
+    const QDeadlineTimer deadline(takeOverMs);
+    pollfd server = {ConnectionNumber(m_display), POLLIN, {}};
     XEvent event;
     while (!XCheckTypedWindowEvent(m_display, window, DestroyNotify, &event)) {
-        if (timer.hasExpired(takeOverMs))
+        if (deadline.hasExpired())
             return false;
-        poll(&server, 1, int(takeOverMs - timer.elapsed()));
+        poll(&server, 1, int(deadline.remainingTime()));
     }
     return true;
 }
 
-QByteArray XConnection::property(Window window, const char *name, int format) const
+template<typename Item>
+QVector<Item> XConnection::property(Window window, const char *name, int format) const
 {
-    constexpr long limit = 1 << 18; // in units of 32 bits
-    Atom type = 0;
-    int actualFormat = 0;
-    unsigned long count = 0;
-    unsigned long rest = 0;
+    Atom type{};
+    int actualFormat{};
+    unsigned long count{};
+    unsigned long rest{};
     unsigned char *data = nullptr;
-    XGetWindowProperty(m_display, window, atom(name), 0, limit, False, AnyPropertyType, &type, &actualFormat,
-                       &count, &rest, &data);
+    XGetWindowProperty(m_display, window, atom(name), 0, XMaxRequestSize(m_display), False, AnyPropertyType,
+                       &type, &actualFormat, &count, &rest, &data);
     const std::unique_ptr<unsigned char, int (*)(void *)> owner(data, XFree);
-    if (!data || actualFormat != format)
-        return {};
-    // Xlib hands 32-bit items out as longs.
-    return {reinterpret_cast<const char *>(data), int(count * (format == 32 ? sizeof(long) : 1))};
+    const auto *items = reinterpret_cast<const Item *>(data);
+    return actualFormat == format ? QVector<Item>(items, items + count) : QVector<Item>();
 }
 
 QVector<unsigned long> XConnection::numbers(Window window, const char *name) const
 {
-    const QByteArray data = property(window, name, 32);
-    QVector<unsigned long> numbers(data.size() / int(sizeof(long)));
-    std::memcpy(numbers.data(), data.constData(), std::size_t(data.size()));
-    return numbers;
+    return property<unsigned long>(window, name, 32); // Xlib hands 32-bit items out as longs
 }
 
 QByteArray XConnection::text(Window window, const char *name) const
 {
-    return property(window, name, 8);
+    const QVector<char> characters = property<char>(window, name, 8);
+    return {characters.constData(), characters.size()};
 }
 
 void XConnection::watchProperties(Window window) const

@@ -59,11 +59,11 @@ private:
     void readEvents();
     void lose();
     unsigned long selectionAtom(const char *name) const;
-    QByteArray property(Window window, const char *name, int format) const;
+    template<typename Item>
+    QVector<Item> property(Window window, const char *name, int format) const;
     bool waitForOldOwner(Window window) const;
 
     _XDisplay *m_display;
-    Window m_ownWindow = 0;
     bool m_isLost = false;
     int m_selectionEvent = -1; // of XFixes
     std::function<void(const _XEvent &)> m_handler;

@@ -49,15 +49,13 @@ QByteArray renderingLines(const QString &words)
         return lines;
     const bool isSmooth = antialias == QLatin1String("true") || antialias == QLatin1String("1");
     lines += QByteArray("Xft/Antialias ") + (isSmooth ? '1' : '0') + '\n';
-    for (const char *order : {"none", "rgb", "bgr", "vrgb", "vbgr"}) {
-        if (list.value(2) == QLatin1String(order))
-            lines += "Xft/RGBA " + quoted(list.value(2)) + '\n';
-    }
-    for (const char *style : {"hintnone", "hintslight", "hintmedium", "hintfull"}) {
-        if (QLatin1String(style).endsWith(list.value(3)) && list.value(3).size() >= 4)
-            lines += QByteArray("Xft/Hinting ") + (style == QByteArray("hintnone") ? '0' : '1')
-                     + "\nXft/HintStyle \"" + style + "\"\n";
-    }
+    const QString order = list.value(2);
+    if (QStringLiteral("none rgb bgr vrgb vbgr").split(QLatin1Char(' ')).contains(order))
+        lines += "Xft/RGBA " + quoted(order) + '\n';
+    const QString style = list.value(3).remove(QLatin1String("hint"));
+    if (QStringLiteral("none slight medium full").split(QLatin1Char(' ')).contains(style))
+        lines += QByteArray("Xft/Hinting ") + (style == QLatin1String("none") ? '0' : '1')
+                 + "\nXft/HintStyle " + quoted(QLatin1String("hint") + style) + '\n';
     return lines;
 }
 

@@ -1,4 +1,6 @@
-#include "settings/wmcommands.h"
+#include "bridge/programs.h"
+#include "bridge/wallpaper.h"
+#include "bridge/xconnection.h"
 #include "tests/bridge/bridgeprocess.h"
 #include "tests/support/fakeprogram.h"
 #include "tests/support/privateserver.h"
@@ -9,19 +11,31 @@
 
 #include <csignal>
 
-#include <X11/Xlib.h>
+#include <X11/Xatom.h>
+#include <X11/Xutil.h>
 
 namespace {
 
 const QString themeFile = ".config/qaz/current.themerc"_s;
 
+Atom atom(const char *name)
+{
+    return XInternAtom(QX11Info::display(), name, False);
+}
+
 /// Takes a selection, or leaves it.
 void own(const char *selection, bool isTaken)
 {
-    Display *display = QX11Info::display();
     const Window owner = isTaken ? QX11Info::appRootWindow() : 0;
-    XSetSelectionOwner(display, XInternAtom(display, selection, False), owner, CurrentTime);
-    XSync(display, False);
+    XSetSelectionOwner(QX11Info::display(), atom(selection), owner, CurrentTime);
+    XSync(QX11Info::display(), False);
+}
+
+void setOnRoot(const char *name, Atom type, int format, const void *value, int size)
+{
+    XChangeProperty(QX11Info::display(), QX11Info::appRootWindow(), atom(name), type, format, PropModeReplace,
+                    static_cast<const unsigned char *>(value), size);
+    XFlush(QX11Info::display());
 }
 
 } // namespace
@@ -50,14 +64,21 @@ private slots:
             {"--bogus"_s, 2, "qaz-wm-bridge: Unknown option 'bogus'."_s},
             {"a b"_s, 2, "qaz-wm-bridge: There is one theme file at most, not 'b'"_s},
             {"/missing"_s, 2, "qaz-wm-bridge: There is no theme file '/missing'"_s},
-            {"--version"_s, 0, {}},
-            {"--help"_s, 0, {}}};
+            {"--version"_s, 0, "^qaz-wm-bridge \\d+\\.\\d+\\.\\d+-\\d+\n$"_s},
+            {"--help"_s, 0,
+             "^Usage: .*/qaz-wm-bridge \\[options\\] \\[themefile\\]\n(.*\n)+  themefile +The theme"_s}};
         for (const auto &[arguments, code, line] : rows) {
             BridgeProcess bridge(arguments.split(u' '));
             QCOMPARE(bridge.exitCode(), code);
-            QCOMPARE(bridge.errors().trimmed(), line);
-            QCOMPARE(bridge.process().readAllStandardOutput().isEmpty(), code != 0);
+            const QString printed = QString::fromUtf8(bridge.process().readAllStandardOutput());
+            QVERIFY2(QRegularExpression(line).match(bridge.errors() + printed).hasMatch(),
+                     qPrintable(printed));
+            QCOMPARE(printed.isEmpty(), code != 0);
         }
+        const ScopedEnvironment display("DISPLAY", {});
+        BridgeProcess blind;
+        QCOMPARE(blind.exitCode(), 1);
+        QCOMPARE(blind.errors(), "qaz-wm-bridge: Can't open the display\n"_s);
     }
 
     void aDryRunPrintsAndWritesNothing()
@@ -73,8 +94,13 @@ private slots:
              "qaz-svg2png -w 1280 -h 1024 -i HOME/a.svg -o OWN/1280x1024-DIGEST.png\n"
              "feh --no-fehbg --image-bg '#ff0000' --bg-center OWN/1280x1024-DIGEST.png\n"
              "xsettingsd -c OWN/xsettingsd-DISPLAY.conf -s 0\nxset s 600\nxset -dpms\n"_s},
-            {"", "feh --no-fehbg --image-bg '#0000ff' --bg-scale BUILD/share/qaz/wallpapers/qaz-default.jpg\n"
-                 "xsettingsd -c OWN/xsettingsd-DISPLAY.conf -s 0\nxset s 600\nxset dpms 0 0 60\n"_s}};
+            {"UseComposite=true\nLockerDpmsOffTimeout=1\n",
+             "feh --no-fehbg --image-bg '#0000ff' --bg-scale BUILD/share/qaz/wallpapers/qaz-default.jpg\n"
+             "xsettingsd -c OWN/xsettingsd-DISPLAY.conf -s 0\nxset s 600\nxset dpms 0 0 1\n"
+             "/usr/bin/qaz-kompmgr\n"_s},
+            {"WallPaper=#000\n",
+             "feh --no-fehbg --image-bg '#000000' --bg-tile OWN/color-000000.ppm\n"
+             "xsettingsd -c OWN/xsettingsd-DISPLAY.conf -s 0\nxset s 600\nxset dpms 0 0 60\n"_s}};
         for (const auto &[content, expected] : rows) {
             const QString file = m_home->write("my theme"_s, content);
             const QString before = m_home->fingerprint();
@@ -94,10 +120,32 @@ private slots:
     void onceStartsNothingThatStays()
     {
         m_programs->add("manager"_s);
-        m_home->write(themeFile, "UseComposite=true\nCompositeManager=manager\n");
+        m_programs->add("xset"_s, "opened=$(/bin/readlink /proc/$$/fd/0 /proc/$$/fd/1 /proc/$$/fd/2)\n"
+                                  "echo \"$opened\" >\"$HOME/opened\"");
+        m_home->write(".config/qaz/qaz-admin-theme.conf"_s,
+                      "[General]\ndontChangeAASettings=false\nXftAntialias=true\n");
+        m_home->write(themeFile,
+                      "UseComposite=true\nCompositeManager=manager\nWallPaper=#000\nIconTheme=tirsk\n"
+                      "DefaultFont=DejaVu Sans-9:bold\nCursorTheme=arrow\n");
         QCOMPARE(BridgeProcess({"--once"_s}).exitCode(), 0);
         QCOMPARE(m_programs->calls("feh"_s).size() + m_programs->calls("xset"_s).size(), 3);
         QCOMPARE(m_programs->calls("xsettingsd"_s).size() + m_programs->calls("manager"_s).size(), 0);
+        QCOMPARE(m_home->read("opened"_s), QByteArray("/dev/null\n/dev/null\n/dev/null\n"));
+        const QString own = ".cache/qaz/bridge/"_s;
+        QCOMPARE(
+            m_home->read(own + "xsettingsd-%1.conf"_s.arg(qEnvironmentVariable("DISPLAY"))),
+            QByteArray("Gtk/FontName \"DejaVu Sans Bold 9\"\nNet/IconThemeName \"tirsk\"\n"
+                       "Gtk/CursorThemeName \"arrow\"\nXft/Antialias 1\nXft/RGBA \"rgb\"\nXft/Hinting 1\n"
+                       "Xft/HintStyle \"hintfull\"\n"));
+        QCOMPARE(m_home->mode(own + "color-000000.ppm"_s), 0600U);
+        const ScopedEnvironment cache("XDG_CACHE_HOME", "/dev/null");
+        BridgeProcess full({"--once"_s});
+        QCOMPARE(full.exitCode(), 0);
+        QCOMPARE(
+            full.errors().replace(qEnvironmentVariable("DISPLAY"), "DISPLAY"_s),
+            "qaz-wm-bridge: Can't write /dev/null/qaz/bridge/color-000000.ppm: Can't create directory "
+            "/dev/null/qaz/bridge\nqaz-wm-bridge: Can't write /dev/null/qaz/bridge/xsettingsd-DISPLAY.conf: "
+            "Can't create directory /dev/null/qaz/bridge\n"_s);
     }
 
     void aBurstIsCarriedOutOnceWithItsLastValues()
@@ -116,6 +164,7 @@ private slots:
         QCOMPARE(m_programs->calls("feh"_s)[1][2], "#000039"_s);
         QVERIFY(bridge.errors().contains(
             "qaz-wm-bridge: Not for this program: QAZWM_UPDATE_VAL TaskbarHeight? 50\n"_s));
+        QVERIFY(bridge.errors().contains("qaz-wm-bridge: xset s 39\n"_s));
 
         // The file's own values count again after both of these.
         sendToWindowManager(restartCommand);
@@ -164,36 +213,134 @@ private slots:
         QCOMPARE(m_programs->calls("manager"_s).size(), 2);
         own("_NET_WM_CM_S0", false);
         QTRY_COMPARE(m_programs->calls("manager"_s).size(), 3);
+        bridge.process().terminate();
+        QCOMPARE(bridge.exitCode(), 0);
+        QCOMPARE(bridge.errors(), QString()); // who was asked to end has not failed
     }
 
     void missingToolsCostOneLineEach()
     {
         const FakePrograms none(FakePrograms::Path::Instead);
+        const QByteArray broken = QFile::encodeName(m_home->write("broken"_s, "#!/nowhere\n"));
+        QVERIFY(QFile::setPermissions(m_home->path("broken"_s), QFile::ReadOwner | QFile::ExeOwner));
+        m_home->write(themeFile, "WallPaper=#000\nEnableSound=true\nSystemStartSound=" + broken
+                                     + "\nUseComposite=true\nCompositeManager=" + broken + '\n');
         BridgeProcess bridge;
-        QTRY_COMPARE(bridge.errors().count(u'\n'), 3);
+        QTRY_COMPARE(bridge.errors().count(u'\n'), 5);
         for (const char *color : {"#000001", "#000002"})
             announce("WallPaper", QLatin1String(color));
-        announce("EnableSound", "true"_s);
+        announce("TaskbarHeight", "50"_s);
         bridge.process().terminate();
         QCOMPARE(bridge.exitCode(), 0);
-        QCOMPARE(bridge.errors(),
-                 "qaz-wm-bridge: feh is not installed (Debian package feh)\n"
-                 "qaz-wm-bridge: xsettingsd is not installed (Debian package xsettingsd)\n"
-                 "qaz-wm-bridge: xset is not installed (Debian package x11-xserver-utils)\n"_s);
+        QCOMPARE(bridge.errors(), "qaz-wm-bridge: aplay is not installed (Debian package alsa-utils)\n"
+                                  "qaz-wm-bridge: feh is not installed (Debian package feh)\n"
+                                  "qaz-wm-bridge: xsettingsd is not installed (Debian package xsettingsd)\n"
+                                  "qaz-wm-bridge: xset is not installed (Debian package x11-xserver-utils)\n"
+                                  "qaz-wm-bridge: broken failed or took too long\n"_s);
+    }
+
+    void slidesAndDrawingsAreShown()
+    {
+        const QString picture = m_home->path("a.png"_s);
+        for (const char *name : {"a.png", "b.png"})
+            QVERIFY(QImage(2, 2, QImage::Format_RGB32).save(m_home->path(QLatin1String(name))));
+        const QString drawing = m_home->write("drawn/c.svg"_s, "<svg/>");
+        m_programs->add("qaz-svg2png"_s, "/bin/mkdir -p \"${8%/*}\"; : >\"$8\"");
+        Values values(m_home->write(themeFile,
+                                    "WallPaperPeriod=99999\nWallPaper=" + QFile::encodeName(picture) + '\n'));
+        const Options options;
+        Programs programs(options);
+        XConnection x;
+        Wallpaper wallpaper({x, values, programs, options});
+        wallpaper.apply();
+        QTRY_COMPARE(m_programs->calls("feh"_s).size(), 1);
+        auto *timer = wallpaper.findChild<QTimer *>();
+        QCOMPARE(timer->interval(), 3600 * 60 * 1000);
+        timer->setSingleShot(true); // a slide at a time
+        for (const char *name : {"b.png", "a.png", "b.png"}) {
+            timer->start(0);
+            QTRY_COMPARE(QFileInfo(m_programs->calls("feh"_s).last().last()).fileName(), QLatin1String(name));
+            QTRY_VERIFY(programs.isIdle());
+        }
+        values.announce("DesktopColor"_s, "#010203"_s);
+        wallpaper.apply();
+        QTRY_COMPARE(m_programs->calls("feh"_s).last()[2], "#010203"_s);
+        QVERIFY(m_programs->calls("feh"_s).last().last().endsWith("b.png"_s)); // goes on with the slide
+        values.announce("WallPaper"_s, drawing);
+        values.announce("WallPaperPeriod"_s, "0"_s);
+        for (int i = 0; i < 2; ++i) {
+            wallpaper.apply();
+            QTRY_VERIFY(programs.isIdle());
+        }
+        QVERIFY(!timer->isActive());
+        QCOMPARE(m_programs->calls("qaz-svg2png"_s).size(), 1); // and not drawn anew
+    }
+
+    void anOpenboxThatComesLaterGetsItsTheme()
+    {
+        const ScopedEnvironment data("XDG_DATA_HOME", QFile::encodeName(m_home->path("data"_s)));
+        const QByteArray file = QFile::encodeName(m_home->write("rc.xml"_s, "text"));
+        BridgeProcess bridge({"--openbox"_s});
+        QTRY_COMPARE(m_programs->calls("xset"_s).size(), 2);
+        setOnRoot("_OB_CONFIG_FILE", atom("UTF8_STRING"), 8, file.constData(), file.size());
+        const Window root = QX11Info::appRootWindow(); // as good as a window of its own
+        setOnRoot("_NET_WM_NAME", atom("UTF8_STRING"), 8, "Openbox", 7);
+        setOnRoot("_NET_SUPPORTING_WM_CHECK", XA_WINDOW, 32, &root, 1);
+        QTRY_COMPARE(m_programs->calls("openbox"_s), QVector<QStringList>{{"--reconfigure"_s}});
+        QVERIFY(m_home->read("data/themes/qaz/openbox-3/themerc"_s).startsWith("border.width: 1\n"));
+        QCOMPARE(
+            bridge.errors(),
+            "qaz-wm-bridge: Can't change %1: it is no configuration file of Openbox with a theme\n"_s.arg(
+                QFile::decodeName(file)));
+        m_home->write("rc.xml"_s, "<openbox_config><theme></theme></openbox_config>");
+        announce("TitleFont", "Sans-9:bold"_s);
+        QTRY_COMPARE(m_programs->calls("openbox"_s).size(), 2);
+        QVERIFY(m_home->read("rc.xml"_s)
+                    .contains("<name>qaz</name><font place=\"ActiveWindow\"><name>Sans</name>"));
+        XDeleteProperty(QX11Info::display(), root, atom("_NET_SUPPORTING_WM_CHECK"));
     }
 
     void oneBridgeServesAScreen()
     {
+        const std::unique_ptr<Display, int (*)(Display *)> display(XOpenDisplay(nullptr), XCloseDisplay);
+        XSelectInput(display.get(), DefaultRootWindow(display.get()), StructureNotifyMask);
+        XSync(display.get(), False);
         BridgeProcess first;
+        XEvent event;
+        QTRY_VERIFY(XPending(display.get()) > 0);
+        XNextEvent(display.get(), &event);
+        const XClientMessageEvent &message = event.xclient;
+        const Window owner = XGetSelectionOwner(display.get(), atom("_QAZWM_BRIDGE_S0"));
+        XWindowAttributes window;
+        QVERIFY(XGetWindowAttributes(display.get(), owner, &window));
+        char *name = nullptr;
+        XFetchName(display.get(), owner, &name);
+        QCOMPARE("%1 at %2 %3, %4x%5, announced by %6 %7"_s.arg(QLatin1String(name))
+                     .arg(window.x)
+                     .arg(window.y)
+                     .arg(window.width)
+                     .arg(window.height)
+                     .arg(QLatin1String(XGetAtomName(display.get(), message.message_type)))
+                     .arg(message.format),
+                 "qaz-wm-bridge at -1 -1, 1x1, announced by MANAGER 32"_s);
+        QVERIFY(message.window == QX11Info::appRootWindow() && message.data.l[0] > 0
+                && Atom(message.data.l[1]) == atom("_QAZWM_BRIDGE_S0") && Window(message.data.l[2]) == owner);
         QTRY_COMPARE(m_programs->calls("xsettingsd"_s).size(), 1);
-        QCOMPARE(BridgeProcess().exitCode(), 1);
+        BridgeProcess second;
+        QCOMPARE(second.exitCode(), 1);
+        QCOMPARE(second.errors(),
+                 "qaz-wm-bridge: Another bridge serves this screen already; --replace takes over\n"_s);
         BridgeProcess third({"--replace"_s});
         QCOMPARE(first.exitCode(), 0);
         QCOMPARE(first.errors(), "qaz-wm-bridge: Another bridge has taken over\n"_s);
         QVERIFY(BridgeProcess::isServing());
         own("_QAZWM_S0", true);
         QCOMPARE(third.exitCode(), 0);
-        QCOMPARE(BridgeProcess().exitCode(), 0);
+        BridgeProcess needless;
+        QCOMPARE(needless.exitCode(), 0);
+        QCOMPARE(third.errors() + needless.errors(),
+                 "qaz-wm-bridge: A Qaz window manager has come and follows the theme file itself\n"
+                 "qaz-wm-bridge: A Qaz window manager runs here and follows the theme file itself\n"_s);
         own("_QAZWM_S0", false);
     }
 

@@ -24,25 +24,37 @@ private slots:
             "Gtk/FontName \"a\\\" Evil 1\\\\ 12\"\nNet/IconThemeName \"b Evil 1\"\n"
             "Gtk/CursorThemeName \"c\\\\\"\nXft/Antialias 0\nXft/Hinting 0\nXft/HintStyle \"hintnone\"\n");
         QCOMPARE(xsettingsFile({"Verdana"_s, {}, {}, "0 unknown rgb full"_s}), QByteArray());
+        QByteArray all;
+        for (const char *words : {"401 1 none none", "-1 yes bgr hintslight", "x true vrgb medium",
+                                  "1 true vbgr hintfull", "", "9"})
+            all += xsettingsFile({{}, {}, {}, QLatin1String(words)}).replace("Xft/", "").replace('\n', ' ')
+                   + '|';
+        QCOMPARE(
+            all,
+            QByteArray("DPI 409600 Antialias 1 RGBA \"none\" Hinting 0 HintStyle \"hintnone\" |"
+                       "Antialias 0 RGBA \"bgr\" Hinting 1 HintStyle \"hintslight\" |"
+                       "Antialias 1 RGBA \"vrgb\" Hinting 1 HintStyle \"hintmedium\" |"
+                       "DPI 1024 Antialias 1 RGBA \"vbgr\" Hinting 1 HintStyle \"hintfull\" ||DPI 9216 |"));
     }
 
     void openboxFileKeepsEveryOtherByte()
     {
         const QByteArray head = "<?xml version='1.0'?>\r\n<openbox_config xmlns=\"x\">\n<!-- <theme> -->"
                                 "<a><name>no</name></a><theme>\t<!-- <name>no</name> -->";
-        const QByteArray before = head
-                                  + "<name>Old</name><font place=\"MenuItem\"><size>7</size><name/></font>"
-                                    "<keepBorder/>\r\n</theme></openbox_config>\n";
+        const QByteArray before
+            = head
+              + "<name>Old</name><font a=\"1\" place=\"MenuItem\"><size>7</size><name/></font>"
+                "<keepBorder/>\r\n</theme><theme><name>b</name></theme></openbox_config>\n";
         const QByteArray title
             = "<name>Sans</name><size>9</size><weight>bold</weight><slant>normal</slant></font>";
         const QByteArray after
             = head
-              + "<name>qaz</name><font place=\"MenuItem\"><size>12</size><name>A&amp;B</name>"
+              + "<name>qaz</name><font a=\"1\" place=\"MenuItem\"><size>12</size><name>A&amp;B</name>"
                 "<weight>normal</weight><slant>italic</slant></font><keepBorder/>\r\n"
                 "<font place=\"ActiveWindow\">"
               + title + "<font place=\"InactiveWindow\">" + title
               + "<font place=\"MenuHeader\"><name>A&amp;B</name><size>12</size><weight>normal</weight>"
-                "<slant>italic</slant></font></theme></openbox_config>\n";
+                "<slant>italic</slant></font></theme><theme><name>b</name></theme></openbox_config>\n";
         QString error;
         const auto changed = withOpenboxTheme(before, "qaz"_s, "Sans-9:bold"_s, "A&B-12:normal:italic"_s,
                                               &error);
@@ -51,7 +63,9 @@ private slots:
         for (const char *other :
              {"", "<theme><name>a</name></theme>", "<openbox_config><theme/></openbox_config>",
               "<openbox_config><theme></theme>"})
-            QVERIFY2(!withOpenboxTheme(other, "qaz"_s, {}, {}, &error) && !error.isEmpty(), other);
+            QVERIFY2(!withOpenboxTheme(other, "qaz"_s, {}, {}, &error)
+                         && error == "it is no configuration file of Openbox with a theme"_s,
+                     other);
     }
 
     void openboxThemeHoldsColorsOnly()
@@ -90,10 +104,17 @@ private slots:
         QVERIFY(QImage(2, 2, QImage::Format_RGB32).save(first, "PNG"));
         QVERIFY(QImage(2, 2, QImage::Format_RGB32).save(second, "JPG"));
         home.makeFifo("c.png"_s);
+        home.write("e.bmp"_s,
+                   QByteArray::fromHex("424d3a0000000000000036000000280000000040000000c000000100180000000000")
+                       + QByteArray(24, '\0')); // three times as large as is shown
+        home.write("f.svg"_s, {});
+        home.write("g.xpm"_s, "/* XPM */\nstatic char *g[] = {\n\"1 1 1 1\",\n\"a c red\",\n\"a\"};\n");
         QCOMPARE(nextPicture(first), second);
-        QCOMPARE(nextPicture(second), drawing);
+        QCOMPARE(nextPicture(second), home.path("g.xpm"_s));
+        QCOMPARE(nextPicture(home.path("g.xpm"_s)), drawing);
         QCOMPARE(nextPicture(drawing), first);
         QCOMPARE(nextPicture(home.path("a.png"_s)), first);
+        QCOMPARE(nextPicture(home.write("x/a"_s, {})), home.path("x/a"_s));
     }
 
     void commandLinesAreQuoted()

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "tests/support/programprocess.h"
+#include "tests/support/temporaryhome.h"
+#include "tests/support/wmlistener.h"
 
 const QString themeFile = ".config/qaz/current.themerc"_s; // below the home
 
@@ -15,54 +17,67 @@ struct ToolRun {
             status = process.exitCode();
         out = process.readAllStandardOutput();
         errors = process.readAllStandardError();
-        command = tool + u' ' + arguments.join(u' ');
     }
 
-    QStringList lines() const { return QString::fromUtf8(out.trimmed()).split(u'\n'); }
-    /// The call as a user sees it: "! " before lines on standard error, then a status that is not 0.
-    QByteArray transcript() const
-    {
-        QByteArray text = "$ " + command.toUtf8() + '\n' + out;
-        for (const QByteArray &line : errors.isEmpty() ? QByteArrayList() : errors.chopped(1).split('\n'))
-            text += "! " + line + '\n';
-        if (status != 0)
-            text += "status " + QByteArray::number(status) + '\n';
-        return text.replace(qgetenv("HOME"), "HOME");
-    }
-
-    QString command;
     int status = -1; // which no program has that ended by itself
     QByteArray out;
     QByteArray errors;
 };
 
-/// Runs qaz-theme.
-inline ToolRun run(const QStringList &arguments)
+/// Runs qaz-theme with arguments that are separated by blanks.
+inline ToolRun run(const QString &arguments)
 {
-    return {"qaz-theme"_s, arguments};
+    return {"qaz-theme"_s, arguments.split(u' ')};
 }
 
-/// Runs \a tool with arguments that are separated by blanks.
-inline ToolRun run(const QString &arguments, const QString &tool = "qaz-theme"_s)
+/// What a call prints, "! " before lines on standard error, its status if that is not 0, and what it did.
+inline QByteArray answerTo(const QString &call, const TemporaryHome &home, WmListener *listener)
 {
-    return {tool, arguments.split(u' ')};
+    const QByteArray theme = home.read(themeFile);
+    const QString before = home.fingerprint();
+    const QStringList words = QProcess::splitCommand(call);
+    const ToolRun run(words.first(), words.mid(1));
+    QByteArray text = run.out;
+    for (const QByteArray &line : run.errors.isEmpty() ? QByteArrayList() : run.errors.chopped(1).split('\n'))
+        text += "! " + line + '\n';
+    if (run.status != 0)
+        text += "status " + QByteArray::number(run.status)
+                + (home.fingerprint() == before ? "\n" : ", changed files\n");
+    if (home.read(themeFile) != theme)
+        text += "file: " + home.read(themeFile).replace('\n', '|') + '\n';
+    if (const QString updates = listener ? listener->takeUpdates() : QString(); !updates.isEmpty())
+        text += "told: " + updates.toUtf8() + '\n';
+    return text.replace(home.path().toUtf8(), "HOME").replace(QAZ_BINARY_DIR, "BUILD");
 }
 
-/// Runs \a tool once for each of the lines of \a calls.
-inline QByteArray transcriptOf(const QString &calls, const QString &tool = "qaz-theme"_s)
+/// Replays a session that is written beside the tests: "# " begins another home, "< NAME: TEXT" puts a file there, with
+/// "/" at the name's end a directory and with "|" a FIFO, "$ " is a call. What follows a call is what must come of it.
+inline void replay(const QString &name, WmListener *listener = nullptr, const TemporaryHome *given = nullptr)
 {
-    QByteArray text;
-    for (const QString &arguments : calls.split(u'\n'))
-        text += run(arguments, tool).transcript();
-    return text;
-}
-
-/// Compares with a file beside the tests, which was read by eye.
-inline void compareWithFile(const QByteArray &text, const QString &name)
-{
-    const QString expected = QStringLiteral(QAZ_SOURCE_DIR "/tests/tools/") + name;
+    QFile session(QStringLiteral(QAZ_SOURCE_DIR "/tests/tools/") + name);
     QFile actual(QStringLiteral(QAZ_BINARY_DIR "/") + name);
-    QVERIFY(actual.open(QIODevice::WriteOnly) && actual.write(text) == text.size() && actual.flush());
-    const QString difference = output("diff"_s, {"-u"_s, expected, actual.fileName()});
+    QVERIFY(session.open(QIODevice::ReadOnly) && actual.open(QIODevice::WriteOnly));
+    std::unique_ptr<TemporaryHome> fresh;
+    const TemporaryHome *home = given;
+    for (const QByteArray &line : session.readAll().split('\n')) {
+        const QByteArray kind = line.left(2);
+        if (kind != "# " && kind != "< " && kind != "$ ")
+            continue;
+        actual.write(line + '\n');
+        const QString text = QString::fromUtf8(line.mid(2)).replace("\\n"_s, "\n"_s).replace("\\t"_s, "\t"_s);
+        const QString file = text.section(u':', 0, 0);
+        if (kind == "# ")
+            fresh.reset(), fresh = std::make_unique<TemporaryHome>(), home = fresh.get();
+        else if (kind == "$ ")
+            actual.write(answerTo(text, *home, listener));
+        else if (file.endsWith(u'/'))
+            home->makeDirectory(file);
+        else if (file.endsWith(u'|'))
+            home->makeFifo(file.chopped(1));
+        else
+            home->write(file, text.section(u':', 1).mid(1).replace("HOME"_s, home->path()).toUtf8());
+    }
+    actual.close();
+    const QString difference = output("diff"_s, {"-u"_s, session.fileName(), actual.fileName()});
     QVERIFY2(difference.isEmpty(), qPrintable(difference));
 }

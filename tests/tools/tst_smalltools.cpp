@@ -38,7 +38,7 @@ private slots:
         }
         QVERIFY(QImage(home.path("b"_s)).save(home.path("c.jpg"_s), nullptr, 90));
         QCOMPARE(home.read("b.jpg"_s), home.read("c.jpg"_s));
-        QCOMPARE(run("-w 32767 -h 1 -i a.svg -o b"_s, svg2png).status, 0);
+        QCOMPARE(ToolRun(svg2png, "-w 32767 -h 1 -i a.svg -o b"_s.split(u' ')).status, 0);
     }
 
     void textIsRenderedWithoutADisplay()
@@ -49,7 +49,7 @@ private slots:
             home.write("a.svg"_s, "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 100 100'>"
                                   "<text y='80' font-size='90'>"
                                       + text + "</text></svg>");
-            run("-w 100 -h 100 -i a.svg -o a.png"_s, svg2png);
+            ToolRun(svg2png, "-w 100 -h 100 -i a.svg -o a.png"_s.split(u' '));
             const QImage image = QImage(home.path("a.png"_s)).convertToFormat(QImage::Format_Grayscale8);
             return std::count_if(image.constBits(), image.constBits() + image.sizeInBytes(),
                                  [](uchar gray) { return gray < 128; });
@@ -65,7 +65,7 @@ private slots:
         const TemporaryHome home;
         const ScopedEnvironment display("DISPLAY", {});
         home.write("a.b.svg"_s, svg);
-        QCOMPARE(run("4 new/x a.b.svg a.b.svg"_s, renderIcons).status, 0);
+        QCOMPARE(ToolRun(renderIcons, "4 new/x a.b.svg a.b.svg"_s.split(u' ')).status, 0);
         QImage expected(4, 4, QImage::Format_ARGB32);
         expected.fill(Qt::transparent);
         for (int y = 0; y < 4; ++y)
@@ -76,33 +76,9 @@ private slots:
 
     void whatIsWrongIsToldAndChangesNothing()
     {
-        const TemporaryHome home;
-        home.write("a.svg"_s, svg);
-        home.write("cut.svg"_s, svg.chopped(10));
-        home.write("old.png"_s, "old");
-        QVERIFY(home.makeDirectory("directory"_s));
-        home.makeFifo("fifo"_s);
-        const QString before = home.fingerprint();
-        const QByteArray transcript
-            = transcriptOf("-w 1 -h 1 -i missing -o old.png\n-w 1 -h 1 -i cut.svg -o old.png\n"
-                           "-w 1 -h 1 -i fifo -o old.png\n-w 1 -h 1 -i a.svg -o directory\n"
-                           "-w 1 -h 1 -i a.svg -o a.svg/b\n-w 1 -h 1 -i a.svg -o\n"
-                           "-w 1 -h 1 -x 1 -i a.svg -o old.png\n-w 1 -h 1 -i a.svg\n-w 1 -h 1 -o old.png\n"
-                           "-x\n--help\n-w 0 -h 1 -i a.svg -o old.png\n-w 1 -i a.svg -o old.png\n"
-                           "-w 32768 -h 1 -i a.svg -o old.png\n-w 1 -h 32768 -i a.svg -o old.png\n"
-                           "-w 32767 -h 32767 -i a.svg -o old.png"_s,
-                           svg2png)
-              + transcriptOf("--count 0\n--timeout x\na\n--timeout 1\n--count 1 --timeout 1"_s, listen)
-              + transcriptOf("0 directory a.svg\n1 a.svg/b a.svg\n1 directory cut.svg\n1 /proc a.svg"_s,
-                             renderIcons);
-        QCOMPARE(home.fingerprint(), before);
-        compareWithFile(transcript, "smalltools.txt"_s);
-        QVERIFY(run("--help"_s, listen)
-                    .out.endsWith("  --count <N>     End after N commands.\n"
-                                  "  --timeout <MS>  End with status 1 when they did not come within MS\n"
-                                  "                  milliseconds.\n"));
+        replay("smalltools.txt"_s);
         const ScopedEnvironment display("DISPLAY", {});
-        const ToolRun blind = run("--count 1"_s, listen);
+        const ToolRun blind(listen, {"--count"_s, "1"_s});
         QCOMPARE(blind.errors, QByteArray("qaz-wm-listen: Can't open display ''\n"));
         QCOMPARE(blind.status, 2);
     }
