@@ -5,7 +5,6 @@
 #include "platform/slidingstackedwidget.h"
 #include "resources/registerresources.h"
 #include "tests/support/temporaryhome.h"
-#include "tests/support/testing.h"
 
 /// What tests of the dialog start from: a home of their own, and the window in it.
 class DialogTest : public QObject

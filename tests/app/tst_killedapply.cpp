@@ -4,7 +4,6 @@
 #include "tests/support/fakeprogram.h"
 #include "tests/support/modaldriver.h"
 #include "tests/support/temporaryhome.h"
-#include "tests/support/testing.h"
 
 #include <csignal>
 

@@ -3,7 +3,6 @@
 #include "resources/registerresources.h"
 #include "tests/support/modaldriver.h"
 #include "tests/support/temporaryhome.h"
-#include "tests/support/testing.h"
 #include "tests/support/wmlistener.h"
 
 namespace {

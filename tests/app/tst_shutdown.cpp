@@ -4,7 +4,6 @@
 #include "tests/support/privateserver.h"
 #include "tests/support/programprocess.h"
 #include "tests/support/temporaryhome.h"
-#include "tests/support/testing.h"
 
 #include <csignal>
 #include <optional>

@@ -4,7 +4,6 @@
 #include "platform/slidingstackedwidget.h"
 #include "resources/registerresources.h"
 #include "tests/support/temporaryhome.h"
-#include "tests/support/testing.h"
 
 namespace {
 

@@ -2,11 +2,6 @@
 #include "base/editfile.h"
 #include "base/xdgdirectories.h"
 #include "tests/support/temporaryhome.h"
-#include "tests/support/testing.h"
-
-#include <QDir>
-#include <QFile>
-#include <QTest>
 
 #include <fcntl.h>
 #include <sys/resource.h>
@@ -16,12 +11,6 @@
 #include <unistd.h>
 
 namespace {
-
-QString namesIn(const QString &directory)
-{
-    const auto all = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
-    return QDir(directory).entryList(all).join(u' ');
-}
 
 FileEdit append(const QByteArray &text)
 {
@@ -102,13 +91,12 @@ private slots:
             home.write(QLatin1String(name), "x");
         QVERIFY(QFile::link("x.qaz-old123"_s, home.path(".qaz-link12"_s)));
         const timespec old[] = {{1000, 0}, {::time(nullptr) - 3700, 0}};
-        for (const QString &name : namesIn(home.path()).split(u' '))
+        for (const QString &name : home.names().split(u' '))
             ::utimensat(AT_FDCWD, QFile::encodeName(home.path(name)).constData(), old, AT_SYMLINK_NOFOLLOW);
         home.write(".qaz-new123"_s, "x");
         QString error;
         QVERIFY(replaceFile(home.path("file"_s), "x", &error));
-        QCOMPARE(namesIn(home.path()),
-                 ".qaz-link12 .qaz-longer12 .qaz-new123 .qaz-under_12 file x.qaz-old123"_s);
+        QCOMPARE(home.names(), ".qaz-link12 .qaz-longer12 .qaz-new123 .qaz-under_12 file x.qaz-old123"_s);
     }
 
     void theLockIsAFileOfTheUsersOwn()
@@ -126,7 +114,7 @@ private slots:
             ::umask(0777);
             const FileLock lock(home.path("d/file"_s));
             QVERIFY2(lock.isHeld(), qPrintable(lock.error()));
-            QCOMPARE(namesIn(place), name);
+            QCOMPARE(home.names(place), name);
             QCOMPARE(home.mode(place + u'/' + name), 0600U);
         }
         QCOMPARE(home.mode(".cache/qaz"_s), 0700U);
@@ -207,7 +195,7 @@ private slots:
         ::setrlimit(RLIMIT_FSIZE, &usual);
         QVERIFY(!replaced);
         QCOMPARE(home.read("file"_s) + ' ' + error.toLatin1(), QByteArray("old File too large"));
-        QCOMPARE(namesIn(home.path()), "file"_s);
+        QCOMPARE(home.names(), "file"_s);
     }
 };
 

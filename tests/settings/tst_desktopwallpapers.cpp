@@ -1,11 +1,6 @@
 #include "settings/desktopwallpapers.h"
 #include "tests/support/temporaryhome.h"
-#include "tests/support/testing.h"
 #include "tests/support/wmlistener.h"
-
-#include <QDir>
-#include <QFile>
-#include <QTest>
 
 class TestDesktopWallpapers : public QObject
 {

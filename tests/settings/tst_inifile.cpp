@@ -1,10 +1,6 @@
 #include "settings/inifile.h"
 #include "tests/support/standarderror.h"
 #include "tests/support/temporaryhome.h"
-#include "tests/support/testing.h"
-
-#include <QSettings>
-#include <QTest>
 
 class TestIniFile : public QObject
 {

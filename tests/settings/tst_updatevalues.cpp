@@ -1,7 +1,6 @@
 #include "platform/qazsettings.h"
 #include "settings/updatevalues.h"
 #include "tests/support/temporaryhome.h"
-#include "tests/support/testing.h"
 #include "tests/support/wmlistener.h"
 
 class TestUpdateValues : public QObject
