@@ -52,9 +52,9 @@ QString obstacleAt(const QByteArray &name)
 void copyExtendedAttributes(int from, int to)
 {
     QByteArray names(XATTR_LIST_MAX, '\0');
-    names.truncate(int(qMax<ssize_t>(0, ::flistxattr(from, names.data(), XATTR_LIST_MAX))));
+    const ssize_t size = ::flistxattr(from, names.data(), XATTR_LIST_MAX); // -1 where there can't be any
     QByteArray value(XATTR_SIZE_MAX, '\0');
-    for (const QByteArray &name : names.split('\0')) {
+    for (const QByteArray &name : names.left(int(size)).split('\0')) {
         const ssize_t length = ::fgetxattr(from, name.constData(), value.data(), XATTR_SIZE_MAX);
         if (length >= 0)
             ::fsetxattr(to, name.constData(), value.constData(), size_t(length), 0);
@@ -66,12 +66,13 @@ void copyExtendedAttributes(int from, int to)
 bool takeOverAttributes(int newFile, const QByteArray &oldPath, unsigned newFileMode)
 {
     const Descriptor old(::open(oldPath.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
-    struct stat status = {};
-    if (!old.isOpen() || ::fstat(old.get(), &status) != 0) {
+    if (!old.isOpen()) {
         const mode_t mask = ::umask(0);
         ::umask(mask);
         return errno == ENOENT && ::fchmod(newFile, newFileMode & (~mask | 0600)) == 0;
     }
+    struct stat status = {};
+    ::fstat(old.get(), &status);
     copyExtendedAttributes(old.get(), newFile);
     // A group that its owner is not in can't be kept.
     if (::fchown(newFile, status.st_uid, status.st_gid) != 0 && status.st_uid != ::geteuid())
@@ -95,15 +96,9 @@ FileContent readRegularFile(const QString &path, qint64 limit)
     if (const QString error = kindError(status.st_mode); !error.isNull())
         return unreadable(error);
 
-    // It may grow or shrink meanwhile, and files of the kernel state no size at all.
-    constexpr qint64 spare = 4096;
-    FileContent result{FileState::Regular, {}, {}};
-    for (QByteArray part = file.read(qMin<qint64>(status.st_size, limit) + 1); !part.isEmpty();
-         part = file.read(spare)) {
-        result.content += part;
-        if (result.content.size() > limit)
-            return unreadable(systemErrorText(EFBIG));
-    }
+    if (status.st_size > limit)
+        return unreadable(systemErrorText(EFBIG));
+    FileContent result{FileState::Regular, file.readAll(), {}};
     return file.error() == QFileDevice::NoError ? result : unreadable(file.errorString());
 }
 

@@ -16,7 +16,7 @@ struct FileContent {
     QString error;
 };
 
-/// Reads the whole regular file at \a path, of at most \a limit bytes. Never blocks on a FIFO or a device, and
+/// Reads the whole regular file at \a path, of at most \a limit bytes by its size. Never blocks on a FIFO or a device, and
 /// maps nothing into memory: the file may shrink meanwhile.
 FileContent readRegularFile(const QString &path, qint64 limit = 1 << 30);
 

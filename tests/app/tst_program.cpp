@@ -193,9 +193,8 @@ private slots:
         QTRY_COMPARE_WITH_TIMEOUT(editor.title(), "Qaz Theme Editor - t.themerc*"_s, 60000);
         // Backwards from the delay: its box, the page list, then around to the last buttons.
         EditorProcess::press("shift+Tab shift+Tab shift+Tab shift+Tab space");
-        const QStringList expected{"QAZWM_UPDATE_VAL ScreenSaverDelay 300"_s};
-        QTRY_COMPARE_WITH_TIMEOUT(listener.commands(), expected, 60000);
         QTRY_COMPARE_WITH_TIMEOUT(editor.title(), "Qaz Theme Editor - t.themerc"_s, 60000);
+        QCOMPARE(listener.takeUpdates(), "ScreenSaverDelay 300"_s);
         QCOMPARE(m_home->read("t.themerc"_s), QByteArray(text).replace("=600", "=300"));
     }
 

@@ -12,7 +12,7 @@ constexpr KeyFileFormat ini{";", true, true};
 QByteArray around(const QByteArray &line)
 {
     return "\xEF\xBB\xBF# mine  \r\n\r\nKey=above all groups\r\n[Other]\r\nKey=other\r\n"
-           "[ Group ] # x\r\n ; Key=comment\r\nName = Work \t\r\nKey[de]=deutsch\r\nbad\xFF\xFEline\r\n"
+           "[ Group ] # x\r\n ; Key=comment\r\nName = \"Work; \t\\\r\nKey[de]=deutsch\r\nbad\xFF\xFEline\r\n"
            + line + "key=lower case\r\n\r\n[Group Extra]\r\nKey=extra";
 }
 
@@ -46,7 +46,12 @@ private slots:
              "[G]\n[Broken\nKey\n=1\n"},
             {any, "", "[\nKey=1\n[]\nKey=2\n", {}, "Key=new\n[\nKey=1\n[]\nKey=2\n", "[\nKey=1\n[]\nKey=2\n"},
             // where a new line belongs
-            {any, "G", "[G]\nA=a\n\n#\n[X]\n", {}, "[G]\nA=a\nKey=new\n\n#\n[X]\n", "[G]\nA=a\n\n#\n[X]\n"},
+            {any,
+             "G",
+             "[G]\nA=a\n\n#b=c\n=d\n[X]\n",
+             {},
+             "[G]\nA=a\nKey=new\n\n#b=c\n=d\n[X]\n",
+             "[G]\nA=a\n\n#b=c\n=d\n[X]\n"},
             {any, "G", "[G]\r\nA=a", {}, "[G]\r\nA=a\r\nKey=new\r\n", "[G]\r\nA=a"},
             {any, "G", "# c\n[X]\nKey=1", {}, "# c\n[X]\nKey=1\n[G]\nKey=new\n", "# c\n[X]\nKey=1"},
             {any, "", "# c\n\n[X]\n", {}, "# c\n\nKey=new\n[X]\n", "# c\n\n[X]\n"},
@@ -55,8 +60,8 @@ private slots:
             {any, "G", "", {}, "[G]\nKey=new\n", ""},
             {any, "", {"A=\0b\n\0\nKey=6\n", 13}, "6", {"A=\0b\n\0\nKey=new\n", 15}, {"A=\0b\n\0\n", 7}},
             // what QSettings writes, and what it takes for a comment
-            {ini, "G", "[G]\nA=\"x\nKey=no\"\nKey=1;Key=2\n", "1", "[G]\nA=\"x\nKey=no\"\nKey=new;Key=2\n",
-             "[G]\nA=\"x\nKey=no\"\n"},
+            {ini, "G", "[G]\nA=\"x\nKey=no\"\nKey=x1x;Key=2\n", "x1x",
+             "[G]\nA=\"x\nKey=no\"\nKey=new;Key=2\n", "[G]\nA=\"x\nKey=no\"\n"},
             {ini, "G", "[G]\nA=1\\\r\nKey=no\nB=\\\"\n#Key=3\n;\"\nKey=\"a;\\\"b\"\n", "\"a;\\\"b\"",
              "[G]\nA=1\\\r\nKey=no\nB=\\\"\n#Key=3\n;\"\nKey=new\n",
              "[G]\nA=1\\\r\nKey=no\nB=\\\"\n#Key=3\n;\"\n"},

@@ -21,8 +21,9 @@ WmListener::~WmListener()
     XCloseDisplay(m_display);
 }
 
-QStringList WmListener::commands()
+QStringList WmListener::take()
 {
+    QStringList commands;
     // The server has handled what this process sent before it answers both of these.
     if (QX11Info::isPlatformX11() && QX11Info::display())
         XSync(QX11Info::display(), False);
@@ -35,16 +36,9 @@ QStringList WmListener::commands()
             continue;
         if (command.endsWith('\n'))
             command.chop(1);
-        m_commands.append(QString::fromLocal8Bit(command));
+        commands.append(QString::fromLocal8Bit(command));
     }
-    return m_commands;
-}
-
-QStringList WmListener::take()
-{
-    QStringList fresh = commands().mid(m_taken);
-    m_taken = m_commands.size();
-    return fresh;
+    return commands;
 }
 
 QString WmListener::takeUpdates()

@@ -17,10 +17,8 @@ public:
     WmListener(const WmListener &) = delete;
     WmListener &operator=(const WmListener &) = delete;
 
-    /// All commands that have arrived so far, each with its final newline cut off.
-    QStringList commands();
-    /// The commands that arrived since the last call. Asks the server first, so that every command sent
-    /// before this call by this process, or by one that has ended, is among them.
+    /// The commands that arrived since the last call, each with its final newline cut off. Asks the server first, so
+    /// that every command sent before this call by this process, or by one that has ended, is among them.
     QStringList take();
     /// The values that were announced since the last call: "Key 1|Other 2".
     QString takeUpdates();
@@ -28,6 +26,4 @@ public:
 private:
     _XDisplay *m_display;
     std::unique_ptr<CommandReceiver> m_receiver;
-    QStringList m_commands;
-    int m_taken = 0;
 };
