@@ -53,7 +53,7 @@ bool FontsDocument::understand(const QByteArray &content, QString *error)
 bool FontsDocument::decode(const QByteArray &content, QString *error)
 {
     static const QRegularExpression declared(
-        QStringLiteral("^<\\?xml\\s.*?encoding\\s*=\\s*[\"']([^\"']*)[\"']"));
+        QStringLiteral("^<\\?xml\\s[^>]*?encoding\\s*=\\s*[\"']([^\"']*)[\"']"));
     const auto match = declared.match(QString::fromLatin1(content.left(content.indexOf('>'))));
     const QByteArray name = match.hasMatch() ? match.captured(1).toLatin1() : QByteArray("UTF-8");
     m_codec = QTextCodec::codecForUtfText(content, QTextCodec::codecForName(name));

@@ -6,8 +6,8 @@
 
 namespace {
 
-// A tree this deep holds no configuration, but could exhaust the stack of whoever walks it.
-constexpr int depthLimit = 200;
+// A tree this deep below the root holds no configuration, but could exhaust the stack of whoever walks it.
+constexpr std::size_t depthLimit = 199;
 
 /// One pass over the text.
 class Reader
@@ -32,9 +32,8 @@ private:
     FontsXml *m_xml;
     QXmlStreamReader m_reader;
     std::vector<FontsElement> m_open; // the elements around the place, from the child of the root on
-    int m_depth = 0;
-    QStringRef m_token; // as it stands in the text; empty in what an entity stands for
-    int m_end = 0;      // behind it
+    QStringRef m_token;               // as it stands in the text; empty in what an entity stands for
+    int m_end = 0;                    // behind it
 };
 
 bool Reader::read(QString *error)
@@ -81,9 +80,9 @@ void Reader::readToken(QXmlStreamReader::TokenType token)
 void Reader::startElement()
 {
     const QXmlStreamAttributes attributes = m_reader.attributes();
-    if (++m_depth > depthLimit)
+    if (m_open.size() == depthLimit)
         return m_reader.raiseError(QStringLiteral("elements are nested too deeply"));
-    if (m_depth == 1) {
+    if (!m_xml->hasRoot) {
         if (m_reader.qualifiedName() != QLatin1String("fontconfig"))
             m_reader.raiseError(QStringLiteral("the root element is '%1', not 'fontconfig'")
                                     .arg(m_reader.qualifiedName().toString()));
@@ -109,7 +108,7 @@ void Reader::startElement()
 
 void Reader::endElement()
 {
-    if (--m_depth == 0) {
+    if (m_open.empty()) {
         if (m_end != m_xml->rootOpenEnd)
             m_xml->rootClose = start();
         return;
