@@ -2,22 +2,12 @@
 
 #include "app/themefilewatcher.h"
 #include "pages/effects/effectpage.h"
-#include "tests/support/fakeprogram.h"
 #include "tests/support/modaldriver.h"
 #include "tests/support/wmlistener.h"
-
-#include <malloc.h>
 
 namespace {
 
 const QString ownSettings = ".config/qaz/qaz-admin-theme.conf"_s;
-
-/// Bytes that this process has allocated and not freed; sanitizers, which look for leaks themselves, tell none.
-qint64 bytesInUse()
-{
-    const struct mallinfo2 info = ::mallinfo2();
-    return qint64(info.uordblks) + qint64(info.hblkhd);
-}
 
 } // namespace
 
@@ -242,27 +232,6 @@ private slots:
         });
         m_dialog->restoreSlot();
         QVERIFY(driver.isDone());
-    }
-
-    void memoryStaysFlat()
-    {
-        FakePrograms programs;
-        programs.add("xrdb"_s);
-        open();
-        const auto growth = [this](int times) {
-            qint64 before = 0;
-            for (int i = -times / 10; i < times; ++i) {
-                before = i == 0 ? bytesInUse() : before;
-                m_list->setCurrentRow((i + times) % m_list->count());
-                if (i % 4 == 0) {
-                    delay()->setValue(i % 8 == 0 ? 20 : 30);
-                    button(QDialogButtonBox::Apply)->click();
-                }
-                QCoreApplication::processEvents();
-            }
-            return bytesInUse() - before;
-        };
-        QVERIFY(growth(400) < 100 * 400); // caches grow a little; a leak of 100 bytes each time would show
     }
 };
 

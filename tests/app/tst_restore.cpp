@@ -158,6 +158,15 @@ private slots:
             QVERIFY(!home.exists(".config/qaz"_s));
             QCOMPARE(home.read("kept/file"_s), QByteArray("precious"));
         }
+        // Settings whose real directory is the home.
+        const TemporaryHome around;
+        const ScopedEnvironment home("HOME", QFile::encodeName(around.path("config/qaz"_s)));
+        const ScopedEnvironment config("XDG_CONFIG_HOME", QFile::encodeName(around.path("link"_s)));
+        around.write("config/qaz/file"_s, "precious");
+        QVERIFY(QFile::link("config"_s, around.path("link"_s)));
+        QCOMPARE(restoreAll(around, {QMessageBox::Ok}).mid(1, 1),
+                 QStringList{"Error|Can't remove '%1/link/qaz'"_s.arg(around.path())});
+        QCOMPARE(around.read("config/qaz/file"_s), QByteArray("precious"));
     }
 };
 

@@ -46,12 +46,7 @@ private slots:
              "[G]\n[Broken\nKey\n=1\n"},
             {any, "", "[\nKey=1\n[]\nKey=2\n", {}, "Key=new\n[\nKey=1\n[]\nKey=2\n", "[\nKey=1\n[]\nKey=2\n"},
             // where a new line belongs
-            {any,
-             "G",
-             "[G]\nA=a\n\n#b=c\n=d\n[X]\n",
-             {},
-             "[G]\nA=a\nKey=new\n\n#b=c\n=d\n[X]\n",
-             "[G]\nA=a\n\n#b=c\n=d\n[X]\n"},
+            {any, "G", "[G]\nA=a\n#b=c\n=d\n", {}, "[G]\nA=a\nKey=new\n#b=c\n=d\n", "[G]\nA=a\n#b=c\n=d\n"},
             {any, "G", "[G]\r\nA=a", {}, "[G]\r\nA=a\r\nKey=new\r\n", "[G]\r\nA=a"},
             {any, "G", "# c\n[X]\nKey=1", {}, "# c\n[X]\nKey=1\n[G]\nKey=new\n", "# c\n[X]\nKey=1"},
             {any, "", "# c\n\n[X]\n", {}, "# c\n\nKey=new\n[X]\n", "# c\n\n[X]\n"},
@@ -62,9 +57,9 @@ private slots:
             // what QSettings writes, and what it takes for a comment
             {ini, "G", "[G]\nA=\"x\nKey=no\"\nKey=x1x;Key=2\n", "x1x",
              "[G]\nA=\"x\nKey=no\"\nKey=new;Key=2\n", "[G]\nA=\"x\nKey=no\"\n"},
-            {ini, "G", "[G]\nA=1\\\r\nKey=no\nB=\\\"\n#Key=3\n;\"\nKey=\"a;\\\"b\"\n", "\"a;\\\"b\"",
-             "[G]\nA=1\\\r\nKey=no\nB=\\\"\n#Key=3\n;\"\nKey=new\n",
-             "[G]\nA=1\\\r\nKey=no\nB=\\\"\n#Key=3\n;\"\n"},
+            {ini, "G", "[G]\nA=1\\\r\nKey=no\n#Key=3\n;\"\nB=\\\"\nKey=\"a;\\\"b\"\n", "\"a;\\\"b\"",
+             "[G]\nA=1\\\r\nKey=no\n#Key=3\n;\"\nB=\\\"\nKey=new\n",
+             "[G]\nA=1\\\r\nKey=no\n#Key=3\n;\"\nB=\\\"\n"},
             {ini, "G", "[G]\nKey=1 ;x\nA=2;y", "1", "[G]\nKey=new ;x\nA=2;y", "[G]\nA=2;y"},
             {ini, "G", "[G]\nA=\"open\\", {}, "[G]\nA=\"open\\\nKey=new\n", "[G]\nA=\"open\\"}};
         for (const auto &row : rows) {
