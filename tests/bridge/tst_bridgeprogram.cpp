@@ -6,6 +6,7 @@
 #include "tests/support/privateserver.h"
 #include "tests/support/temporaryhome.h"
 #include "tests/support/testing.h"
+#include "tests/tools/toolrun.h"
 
 #include <QX11Info>
 
@@ -15,8 +16,6 @@
 #include <X11/Xutil.h>
 
 namespace {
-
-const QString themeFile = ".config/qaz/current.themerc"_s;
 
 Atom atom(const char *name)
 {
@@ -58,62 +57,10 @@ private slots:
         QTRY_VERIFY(!BridgeProcess::isServing());
     }
 
-    void optionsAreReadStrictly()
-    {
-        const std::tuple<QString, int, QString> rows[] = {
-            {"--bogus"_s, 2, "qaz-wm-bridge: Unknown option 'bogus'."_s},
-            {"a b"_s, 2, "qaz-wm-bridge: There is one theme file at most, not 'b'"_s},
-            {"/missing"_s, 2, "qaz-wm-bridge: There is no theme file '/missing'"_s},
-            {"--version"_s, 0, "^qaz-wm-bridge \\d+\\.\\d+\\.\\d+-\\d+\n$"_s},
-            {"--help"_s, 0,
-             "^Usage: .*/qaz-wm-bridge \\[options\\] \\[themefile\\]\n(.*\n)+  themefile +The theme"_s}};
-        for (const auto &[arguments, code, line] : rows) {
-            BridgeProcess bridge(arguments.split(u' '));
-            QCOMPARE(bridge.exitCode(), code);
-            const QString printed = QString::fromUtf8(bridge.process().readAllStandardOutput());
-            QVERIFY2(QRegularExpression(line).match(bridge.errors() + printed).hasMatch(),
-                     qPrintable(printed));
-            QCOMPARE(printed.isEmpty(), code != 0);
-        }
-        const ScopedEnvironment display("DISPLAY", {});
-        BridgeProcess blind;
-        QCOMPARE(blind.exitCode(), 1);
-        QCOMPARE(blind.errors(), "qaz-wm-bridge: Can't open the display\n"_s);
-    }
-
     void aDryRunPrintsAndWritesNothing()
     {
         const ScopedEnvironment cache("XDG_CACHE_HOME", {}); // ~/.cache, too
-        const std::tuple<QByteArray, QString> rows[] = {
-            {"WallPaper=#123456\nScreenSaverDelay=0\nLockerDpmsOffTimeout=99999999\nUseComposite=true\n"
-             "CompositeManager=/my manager\n",
-             "feh --no-fehbg --image-bg '#123456' --bg-tile OWN/color-123456.ppm\n"
-             "xsettingsd -c OWN/xsettingsd-DISPLAY.conf -s 0\nxset s 0\nxset dpms 0 0 65534\n'/my manager'\n"_s},
-            {"WallPaper=" + QFile::encodeName(m_home->write("a.svg"_s, "<svg/>"))
-                 + "\nWallPaperPos=Center\nDesktopColor=red\nLockerDpmsOffTimeout=0\n",
-             "qaz-svg2png -w 1280 -h 1024 -i HOME/a.svg -o OWN/1280x1024-DIGEST.png\n"
-             "feh --no-fehbg --image-bg '#ff0000' --bg-center OWN/1280x1024-DIGEST.png\n"
-             "xsettingsd -c OWN/xsettingsd-DISPLAY.conf -s 0\nxset s 600\nxset -dpms\n"_s},
-            {"UseComposite=true\nLockerDpmsOffTimeout=1\n",
-             "feh --no-fehbg --image-bg '#0000ff' --bg-scale BUILD/share/qaz/wallpapers/qaz-default.jpg\n"
-             "xsettingsd -c OWN/xsettingsd-DISPLAY.conf -s 0\nxset s 600\nxset dpms 0 0 1\n"
-             "/usr/bin/qaz-kompmgr\n"_s},
-            {"WallPaper=#000\n",
-             "feh --no-fehbg --image-bg '#000000' --bg-tile OWN/color-000000.ppm\n"
-             "xsettingsd -c OWN/xsettingsd-DISPLAY.conf -s 0\nxset s 600\nxset dpms 0 0 60\n"_s}};
-        for (const auto &[content, expected] : rows) {
-            const QString file = m_home->write("my theme"_s, content);
-            const QString before = m_home->fingerprint();
-            BridgeProcess bridge({"--once"_s, "--dry-run"_s, file});
-            QCOMPARE(bridge.exitCode(), 0);
-            QString output = QString::fromUtf8(bridge.process().readAllStandardOutput());
-            output.replace(m_home->path(".cache/qaz/bridge"_s), "OWN"_s).replace(m_home->path(), "HOME"_s);
-            output.replace(QStringLiteral(QAZ_BINARY_DIR), "BUILD"_s);
-            output.replace(qEnvironmentVariable("DISPLAY"), "DISPLAY"_s);
-            output.replace(QRegularExpression("[0-9a-f]{40}"_s), "DIGEST"_s);
-            QCOMPARE(output, expected);
-            QCOMPARE(m_home->fingerprint(), before);
-        }
+        replay("bridge/qaz-wm-bridge.txt"_s, nullptr, m_home.get());
         QCOMPARE(m_programs->calls("feh"_s).size(), 0);
     }
 

@@ -41,21 +41,28 @@ inline QByteArray answerTo(const QString &call, const TemporaryHome &home, WmLis
     for (const QByteArray &line : run.errors.isEmpty() ? QByteArrayList() : run.errors.chopped(1).split('\n'))
         text += "! " + line + '\n';
     if (run.status != 0)
-        text += "status " + QByteArray::number(run.status)
-                + (home.fingerprint() == before ? "\n" : ", changed files\n");
+        text += "status " + QByteArray::number(run.status) + '\n';
+    const bool isDry = run.status != 0 || words.contains("-n"_s) || words.contains("--dry-run"_s);
+    if (isDry && home.fingerprint() != before)
+        text += "files are changed\n";
     if (home.read(themeFile) != theme)
         text += "file: " + home.read(themeFile).replace('\n', '|') + '\n';
     if (const QString updates = listener ? listener->takeUpdates() : QString(); !updates.isEmpty())
         text += "told: " + updates.toUtf8() + '\n';
-    return text.replace(home.path().toUtf8(), "HOME").replace(QAZ_BINARY_DIR, "BUILD");
+    text.replace(home.path().toUtf8(), "HOME").replace(QAZ_BINARY_DIR, "BUILD");
+    text.replace("xsettingsd-" + qgetenv("DISPLAY"), "xsettingsd-DISPLAY");
+    return QString::fromUtf8(text)
+        .replace(QRegularExpression("[0-9a-f]{40}"_s), "DIGEST"_s)
+        .replace(QRegularExpression("\\b\\d+\\.\\d+\\.\\d+-\\d+\n"_s), "VERSION\n"_s)
+        .toUtf8();
 }
 
 /// Replays a session that is written beside the tests: "# " begins another home, "< NAME: TEXT" puts a file there, with
 /// "/" at the name's end a directory and with "|" a FIFO, "$ " is a call. What follows a call is what must come of it.
 inline void replay(const QString &name, WmListener *listener = nullptr, const TemporaryHome *given = nullptr)
 {
-    QFile session(QStringLiteral(QAZ_SOURCE_DIR "/tests/tools/") + name);
-    QFile actual(QStringLiteral(QAZ_BINARY_DIR "/") + name);
+    QFile session(QStringLiteral(QAZ_SOURCE_DIR "/tests/") + name);
+    QFile actual(QStringLiteral(QAZ_BINARY_DIR "/") + QFileInfo(name).fileName());
     QVERIFY(session.open(QIODevice::ReadOnly) && actual.open(QIODevice::WriteOnly));
     std::unique_ptr<TemporaryHome> fresh;
     const TemporaryHome *home = given;

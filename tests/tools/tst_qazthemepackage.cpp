@@ -58,7 +58,7 @@ private slots:
             QFile sound(home.write("one/a.wav"_s, "one"));
             QVERIFY(sound.open(QIODevice::ReadWrite)
                     && sound.setFileTime(QDateTime::fromSecsSinceEpoch(1e9), QFile::FileModificationTime));
-            replay("pack.txt"_s, nullptr, &home);
+            replay("tools/pack.txt"_s, nullptr, &home);
             QCOMPARE(output("tar"_s, {"tzf"_s, home.path("b.qaztheme"_s)}),
                      "theme.themerc\nthemes\nwallpapers/own.png\n"_s);
             QCOMPARE(output("tar"_s, {"xOzf"_s, home.path("a.qaztheme"_s), "themes"_s}),
@@ -72,7 +72,7 @@ private slots:
         home.write(themeFile, "Own=2\nIconTheme=Two\n");
         WmListener listener;
         const ScopedEnvironment locale("LC_ALL", "C"); // in which the names are UTF-8 all the same
-        replay("unpack.txt"_s, &listener, &home);
+        replay("tools/unpack.txt"_s, &listener, &home);
         QByteArray contents;
         for (const char *name : {"wallpapers/Bä rg.png", "qaz/sounds/a.wav", "qaz/sounds/2-a.wav",
                                  "qaz/sounds/3-a.wav", "qaz/sounds/_a.wav"})
@@ -113,7 +113,7 @@ private slots:
         QFile large(home.write("large.wav"_s, {}));
         QVERIFY(large.resize(256 * 1024 * 1024 + 1));
         home.write("l.themerc"_s, "OpenSound=" + home.path("large.wav"_s).toUtf8());
-        replay("refused.txt"_s, nullptr, &home);
+        replay("tools/refused.txt"_s, nullptr, &home);
         QVERIFY(large.remove());
         // A package is a file of the user's, too.
         home.write("b.qaztheme"_s, "precious");
