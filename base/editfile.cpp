@@ -91,3 +91,12 @@ bool editFile(const QString &path, const FileEdit &edit, QString *error, const E
         return QFile::remove(target) || failed(error, systemErrorText(errno));
     return replaceFile(target, *content, error, options.newFileMode);
 }
+
+bool editFileOrTell(const QString &path, const FileEdit &edit, const EditFileOptions &options)
+{
+    QString error;
+    const bool isDone = editFile(path, edit, &error, options);
+    if (!isDone)
+        printDiagnostic(QStringLiteral("Can't write %1: %2").arg(path, error));
+    return isDone;
+}

@@ -44,3 +44,6 @@ struct EditFileOptions {
 /// regular file, or can't be read, is refused. On failure the old file stands whole and \a error says why.
 [[nodiscard]] bool editFile(const QString &path, const FileEdit &edit, QString *error,
                             const EditFileOptions &options = {});
+
+/// The same; a failure is one line on standard error.
+bool editFileOrTell(const QString &path, const FileEdit &edit, const EditFileOptions &options = {});

@@ -1,7 +1,6 @@
 #include "platform/qazdesktopentry.h"
 
 #include "base/atomicfile.h"
-#include "base/diagnostics.h"
 #include "base/editfile.h"
 #include "freedesktop/desktopentry.h"
 
@@ -33,13 +32,7 @@ void QazDesktopEntry::setUnknowns(const List<char> &keys, const List<char> &valu
 
 bool QazDesktopEntry::save(int /*flags*/)
 {
-    const QString path = QFile::decodeName(m_path);
-    const auto setValues = [this](const QByteArray &content) {
+    return editFileOrTell(QFile::decodeName(m_path), [this](const QByteArray &content) {
         return desktopEntryText(content).withValues(desktopEntryGroup, m_changes);
-    };
-    QString error;
-    const bool isSaved = editFile(path, setValues, &error);
-    if (!isSaved)
-        printDiagnostic(QStringLiteral("Can't write %1: %2").arg(path, error));
-    return isSaved;
+    });
 }

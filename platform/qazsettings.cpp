@@ -23,9 +23,8 @@ QazSettings::~QazSettings()
     };
     EditFileOptions options;
     options.limit = sizeLimit;
-    QString error;
-    if (!m_changes.isEmpty() && !editFile(m_path, setValues, &error, options))
-        printDiagnostic(QStringLiteral("Can't write %1: %2").arg(m_path, error));
+    if (!m_changes.isEmpty())
+        editFileOrTell(m_path, setValues, options);
 }
 
 void QazSettings::sync(bool read)

@@ -52,9 +52,8 @@ void removeWallpaperFrom(const QString &path)
     };
     EditFileOptions options;
     options.beforeReplace = [](const QString &file) { backUp(file); };
-    QString error;
-    if (QFile::exists(path) && !editFile(path, removeKey, &error, options))
-        printDiagnostic(QStringLiteral("Can't write %1: %2").arg(path, error));
+    if (QFile::exists(path))
+        editFileOrTell(path, removeKey, options);
 }
 
 } // namespace

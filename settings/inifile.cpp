@@ -1,6 +1,5 @@
 #include "settings/inifile.h"
 
-#include "base/diagnostics.h"
 #include "base/editfile.h"
 #include "base/keyfiletext.h"
 #include "base/xdgdirectories.h"
@@ -77,8 +76,7 @@ void writeIniValues(const QString &path, const QByteArray &group, const QMap<QSt
     };
     EditFileOptions options;
     options.newFileMode = 0600;
-    if (QString error; !editFile(path, edit, &error, options))
-        printDiagnostic(QStringLiteral("Can't write %1: %2").arg(path, error));
+    editFileOrTell(path, edit, options);
 }
 
 QString iniFile(const QString &organization, const QString &application)
