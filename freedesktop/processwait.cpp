@@ -1,6 +1,6 @@
 #include "freedesktop/processwait.h"
 
-#include <QElapsedTimer>
+#include <QDeadlineTimer>
 #include <QProcess>
 #include <QX11Info>
 
@@ -11,6 +11,7 @@
 
 namespace {
 
+constexpr int limitMs = 30000;
 constexpr int sliceMs = 200;
 
 bool isServerLost()
@@ -23,15 +24,16 @@ bool isServerLost()
 
 } // namespace
 
-bool waitForEnd(QProcess &process, int limit)
+bool succeeds(QProcess &process)
 {
-    QElapsedTimer timer;
-    timer.start();
+    const QDeadlineTimer deadline(limitMs);
     while (!process.waitForFinished(sliceMs)) {
-        if (process.state() == QProcess::NotRunning || timer.hasExpired(limit))
+        if (process.state() == QProcess::NotRunning)
             return false;
         if (isServerLost())
             std::exit(EXIT_FAILURE);
+        if (deadline.hasExpired())
+            process.kill();
     }
-    return true;
+    return process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
 }

@@ -1,51 +1,41 @@
 #include "freedesktop/xresources.h"
 
-#include "base/chandle.h"
 #include "base/diagnostics.h"
 #include "base/xdgdirectories.h"
 #include "freedesktop/processwait.h"
+#include "freedesktop/windowproperty.h"
 
 #include <QProcess>
 #include <QX11Info>
 
-#include <cstring>
-#include <memory>
+#include <optional>
 
 #include <X11/Xatom.h>
 #include <X11/Xlib.h>
 
 namespace {
 
-constexpr int xrdbTimeoutMs = 30000;
-
-/// The position behind the line that begins at \a begin, continued ones included.
-int lineEnd(const QByteArray &text, int begin)
+/// The lines of \a text, each with its line break and those that continue it.
+QByteArrayList resourceLines(const QByteArray &text)
 {
-    int end = text.indexOf('\n', begin);
-    for (; end >= 0; end = text.indexOf('\n', end + 1)) {
-        int backslashes = 0;
-        while (end - backslashes > begin && text.at(end - 1 - backslashes) == '\\')
-            ++backslashes;
-        if (backslashes % 2 == 0)
-            return end + 1;
+    QByteArrayList lines;
+    bool goesOn = false;
+    for (const QByteArray &part : text.split('\n')) {
+        if (!goesOn)
+            lines.append(QByteArray());
+        lines.last() += part + '\n';
+        goesOn = false;
+        for (QByteArray rest = part; rest.endsWith('\\'); rest.chop(1))
+            goesOn = !goesOn; // a backslash that is itself written with one ends nothing
     }
-    return text.size();
+    lines.last().chop(1);
+    return lines;
 }
 
 ServerResource readProperty(Display *display, Window window, Atom property)
 {
-    constexpr long wholeText = 0x1fffffff; // in units of four bytes
-    Atom type = 0;
-    int format = 0;
-    unsigned long count = 0;
-    unsigned long rest = 0;
-    unsigned char *bytes = nullptr;
-    XGetWindowProperty(display, window, property, 0, wholeText, False, AnyPropertyType, &type, &format,
-                       &count, &rest, &bytes);
-    const std::unique_ptr<unsigned char, Release<XFree>> owner(bytes);
-    if (type == 0 || format != 8)
-        return {window, property, XA_STRING, {}};
-    return {window, property, type, QByteArray(reinterpret_cast<const char *>(bytes), int(count))};
+    const WindowProperty found = windowProperty(display, window, property, 8);
+    return {window, property, found.type, found.bytes};
 }
 
 void writeProperty(Display *display, const ServerResource &resource)
@@ -68,25 +58,19 @@ QString userXresources()
 QByteArray withXresource(const QByteArray &text, const QByteArray &name, const QByteArray &line)
 {
     QByteArray result;
-    int place = -1; // in result, of the last line of the resource
+    std::optional<int> place; // in result, of the last line of the resource
     QByteArray lineBreak;
-    for (int begin = 0; begin < text.size();) {
-        const int end = lineEnd(text, begin);
-        const QByteArray old = text.mid(begin, end - begin);
-        const int colon = old.indexOf(':');
-        if (colon >= 0 && old.left(colon).trimmed() == name) {
+    for (const QByteArray &old : resourceLines(text)) {
+        if (old.contains(':') && old.left(old.indexOf(':')).trimmed() == name) {
             place = result.size();
             lineBreak = old.endsWith("\r\n") ? "\r\n" : old.endsWith('\n') ? "\n" : "";
         } else {
             result += old;
         }
-        begin = end;
     }
     if (line.isNull())
         return result;
-    if (place >= 0)
-        return result.insert(place, line + lineBreak);
-    return endedXresources(result) + line + '\n';
+    return place ? result.insert(*place, line + lineBreak) : endedXresources(result) + line + '\n';
 }
 
 QByteArray endedXresources(QByteArray text)
@@ -95,32 +79,24 @@ QByteArray endedXresources(QByteArray text)
         return text;
     if (!text.endsWith('\n'))
         text += '\n';
-    int last = text.size() - 2;
-    while (last >= 0 && std::strchr(" \t\r", text.at(last)))
-        --last;
     // The preprocessor joins lines at any backslash, blanks behind it or not.
-    return last >= 0 && text.at(last) == '\\' ? text + '\n' : text;
+    const QByteArray lastLine = text.chopped(1).split('\n').constLast();
+    return lastLine.trimmed().endsWith('\\') ? text + '\n' : text;
 }
 
 bool runXrdb(const QStringList &arguments, const QByteArray &input)
 {
     QProcess xrdb;
     xrdb.start(QStringLiteral("xrdb"), arguments);
-    if (!xrdb.waitForStarted(xrdbTimeoutMs))
+    if (!xrdb.waitForStarted())
         return false;
     xrdb.write(input);
     xrdb.closeWriteChannel();
-    if (!waitForEnd(xrdb, xrdbTimeoutMs)) {
-        printDiagnostic(QStringLiteral("xrdb is ended: it takes longer than 30 s"));
-        xrdb.kill();
-        xrdb.waitForFinished();
-        return false;
-    }
-    if (xrdb.exitStatus() == QProcess::NormalExit && xrdb.exitCode() == 0)
-        return true;
-    printDiagnostic(
-        QStringLiteral("xrdb failed: %1").arg(QString::fromLocal8Bit(xrdb.readAllStandardError().trimmed())));
-    return false;
+    const bool isDone = succeeds(xrdb);
+    if (!isDone)
+        printDiagnostic(QStringLiteral("xrdb failed: %1")
+                            .arg(QString::fromLocal8Bit(xrdb.readAllStandardError().trimmed())));
+    return isDone;
 }
 
 std::vector<ServerResource> readServerResources()

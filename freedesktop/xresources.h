@@ -16,8 +16,8 @@ QByteArray withXresource(const QByteArray &text, const QByteArray &name, const Q
 /// \a text, ended so that what is appended stands on a line of its own.
 QByteArray endedXresources(QByteArray text);
 
-/// Runs xrdb with \a arguments and \a input, waiting up to 30 s each for its start and its end. False when it did not
-/// start, which is not told, and when it took too long or failed, which one line on standard error tells.
+/// Runs xrdb with \a arguments and \a input, for up to 30 s. False when it did not start, which is not told, and when it
+/// took too long or failed, which one line on standard error tells.
 bool runXrdb(const QStringList &arguments, const QByteArray &input = {});
 
 /// The text of one resource property of the X server: the resources of all screens, or those of one.

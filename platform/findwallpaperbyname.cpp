@@ -20,7 +20,6 @@
 namespace {
 
 constexpr int resultSize = 4096;
-constexpr int convertTimeoutMs = 30000;
 constexpr int cacheDirectory = 1;
 constexpr int userWallpapers = 21;
 constexpr const char *endings[] = {"", ".png", ".jpg", ".jpeg", ".xpm", ".svg", ".svgz"};
@@ -81,16 +80,14 @@ QString convertSvg(const QString &source, int width, int height, const char *com
     converter.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     converter.setStandardInputFile(QProcess::nullDevice());
     converter.start(program, arguments);
-    const bool converted = waitForEnd(converter, convertTimeoutMs)
-                           && converter.exitStatus() == QProcess::NormalExit && converter.exitCode() == 0;
-    return converted && QFileInfo(target).isFile() ? target : QString();
+    return succeeds(converter) && QFileInfo(target).isFile() ? target : QString();
 }
 
 /// Every path at which the wallpaper may lie, best first: the directories of the screen's size, its standard size and
 /// its aspect ratio before the others'.
 QStringList candidates(const QString &name, int width, int height)
 {
-    int standardWidth = 0, standardHeight = 0, ratioWidth = 0, ratioHeight = 0;
+    int standardWidth, standardHeight, ratioWidth, ratioHeight;
     WallpaperSizeForScreen(width, height, &standardWidth, &standardHeight, &ratioWidth, &ratioHeight);
     const QString directories[] = {QStringLiteral("/%1x%2/").arg(width).arg(height),
                                    QStringLiteral("/%1x%2/").arg(standardWidth).arg(standardHeight),

@@ -2,12 +2,13 @@
 
 #include "base/xdgdirectories.h"
 #include "freedesktop/dataroot.h"
+#include "freedesktop/windowproperty.h"
 
 #include <QFile>
 #include <QMap>
 #include <QX11Info>
+#include <QtEndian>
 
-#include <X11/Xatom.h>
 #include <X11/Xlib.h>
 
 namespace {
@@ -15,23 +16,13 @@ namespace {
 /// The number of the current virtual desktop, counted from 1.
 qint64 currentDesktop()
 {
-    qint64 number = 1;
-    if (!QX11Info::isPlatformX11())
-        return number;
-    Display *display = QX11Info::display();
-    const Atom name = XInternAtom(display, "_NET_CURRENT_DESKTOP", False);
-    Atom type = 0;
-    int format = 0;
-    unsigned long count = 0;
-    unsigned long rest = 0;
-    unsigned char *data = nullptr;
-    XGetWindowProperty(display, DefaultRootWindow(display), name, 0, 1, False, XA_CARDINAL, &type, &format,
-                       &count, &rest, &data);
-    // Xlib hands 32-bit items out as longs.
-    if (type == XA_CARDINAL && format == 32 && count == 1)
-        number += quint32(*reinterpret_cast<const unsigned long *>(data));
-    XFree(data);
-    return number;
+    QByteArray number;
+    if (QX11Info::isPlatformX11()) {
+        Display *display = QX11Info::display();
+        const Atom name = XInternAtom(display, "_NET_CURRENT_DESKTOP", False);
+        number = windowProperty(display, DefaultRootWindow(display), name, 32).bytes;
+    }
+    return number.isEmpty() ? 1 : qint64(quint32(qFromUnaligned<unsigned long>(number.constData()))) + 1;
 }
 
 QString pathOf(int kind)
