@@ -5,7 +5,7 @@
 
 #include <QCryptographicHash>
 #include <QDataStream>
-#include <QElapsedTimer>
+#include <QDeadlineTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QLocalServer>
@@ -20,7 +20,6 @@
 namespace {
 
 constexpr char acknowledgement[] = "ack";
-constexpr int longestMessage = 1 << 20;
 
 /// The directory of sockets and locks, which is the user's alone. Not open when there is none.
 int openDirectory()
@@ -77,11 +76,7 @@ QtSingleApplication::~QtSingleApplication()
 bool QtSingleApplication::isRunning()
 {
     // Without a place for a lock there is no other instance to be found, either.
-    if (!m_lock && m_directory.isOpen() && !takeLock())
-        return true;
-    if (m_lock && !m_server)
-        listen();
-    return false;
+    return !m_lock && m_directory.isOpen() && !takeLock();
 }
 
 bool QtSingleApplication::takeLock()
@@ -92,7 +87,8 @@ bool QtSingleApplication::takeLock()
         auto file = std::make_unique<Descriptor>(
             ::openat(m_directory.get(), name.constData(),
                      O_RDWR | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, 0600));
-        if (!file->isOpen() || ::fstat(file->get(), &opened) != 0 || !S_ISREG(opened.st_mode)) {
+        ::fstat(file->get(), &opened);
+        if (!S_ISREG(opened.st_mode)) {
             if (!clearAway(m_directory.get(), name))
                 return true; // no place for a lock
             continue;
@@ -101,6 +97,7 @@ bool QtSingleApplication::takeLock()
         if (::flock(file->get(), LOCK_EX | LOCK_NB) != 0)
             return false;
         m_lock = std::move(file);
+        listen();
         return true;
     }
 }
@@ -111,7 +108,6 @@ void QtSingleApplication::listen()
     clearAway(m_directory.get(), m_name);
     m_server = new QLocalServer(this);
     m_server->setSocketOptions(QLocalServer::UserAccessOption);
-    m_server->setMaxPendingConnections(100);
     connect(m_server, &QLocalServer::newConnection, this, &QtSingleApplication::acceptConnection);
     m_server->listen(socketPath(m_directory, m_name));
 }
@@ -119,10 +115,8 @@ void QtSingleApplication::listen()
 void QtSingleApplication::acceptConnection()
 {
     while (QLocalSocket *socket = m_server->nextPendingConnection()) {
-        socket->setReadBufferSize(longestMessage); // a longer one never ends
         connect(socket, &QLocalSocket::readyRead, this, [this, socket] { readMessage(socket); });
         connect(socket, &QLocalSocket::disconnected, socket, &QLocalSocket::deleteLater);
-        readMessage(socket);
     }
 }
 
@@ -144,24 +138,22 @@ bool QtSingleApplication::sendMessage(const QString &message, int timeout)
 {
     if (!isRunning())
         return false;
-    QElapsedTimer timer;
-    timer.start();
-    const auto left = [&timer, timeout] { return int(qMax<qint64>(1, timeout - timer.elapsed())); };
+    const QDeadlineTimer deadline(timeout);
+    const auto left = [&deadline] { return int(deadline.remainingTime()); };
     QLocalSocket socket;
     // The owner takes its lock a moment before it listens.
     const QString path = socketPath(m_directory, m_name);
     for (socket.connectToServer(path); !socket.waitForConnected(left()); socket.connectToServer(path)) {
-        if (timer.hasExpired(timeout))
+        if (deadline.hasExpired())
             return false;
         QThread::msleep(20);
     }
     QDataStream stream(&socket);
     stream << message.toUtf8();
-    while (socket.bytesAvailable() < qint64(sizeof(acknowledgement) - 1)) {
-        if (!socket.waitForReadyRead(left()))
-            return false;
-    }
-    return socket.readAll() == acknowledgement;
+    QByteArray answer;
+    while (answer != acknowledgement && socket.waitForReadyRead(left()))
+        answer += socket.readAll();
+    return answer == acknowledgement;
 }
 
 void QtSingleApplication::setActivationWindow(QWidget *window, bool activateOnMessage)

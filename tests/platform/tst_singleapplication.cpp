@@ -1,0 +1,100 @@
+#include "platform/qtsingleapplication.h"
+#include "tests/support/environment.h"
+#include "tests/support/testing.h"
+
+#include <QLocalSocket>
+
+#include <fcntl.h>
+#include <sys/file.h>
+
+/// The running instance; the others are this program in processes of their own, which send their argument.
+class TestSingleApplication : public QObject
+{
+    Q_OBJECT
+private slots:
+    void initTestCase()
+    {
+        QVERIFY(!m_app->isRunning());
+        QCOMPARE(m_app->id(), "tst_singleapplication"_s); // the program's name
+    }
+
+    void everyMessageIsHeardAndAcknowledged()
+    {
+        QSignalSpy heard(m_app, &QtSingleApplication::messageReceived);
+        QVERIFY(!m_app->sendMessage("to itself"_s));
+        for (const QString &message : {"show"_s, QString(), QString(30000, u'ä')}) {
+            QCOMPARE(exitCodeOfSender(message, 60000), 0);
+            QCOMPARE(heard.takeFirst().at(0).toString(), message);
+        }
+        QCOMPARE(heard.count(), 0);
+        QTRY_COMPARE(m_app->findChildren<QLocalSocket *>().size(), 0); // of those who have gone
+    }
+
+    void aMessageMayComeInPieces()
+    {
+        QLocalSocket sender;
+        sender.connectToServer(ownFile("*[0-9]"_s));
+        for (const QByteArray &piece : {QByteArray("\0\0\0", 3), QByteArray("\5he"), QByteArray("llo")}) {
+            QCOMPARE(sender.bytesAvailable(), 0);
+            sender.write(piece);
+            QTRY_COMPARE(sender.bytesToWrite(), 0);
+        }
+        QTRY_COMPARE(sender.bytesAvailable(), 3);
+        QCOMPARE(sender.readAll(), QByteArray("ack"));
+    }
+
+    void anOwnerWhoDoesNotListenIsGivenUp()
+    {
+        const QTemporaryDir directory;
+        const ScopedEnvironment runtime("XDG_RUNTIME_DIR", QFile::encodeName(directory.path()));
+        const QString lock = directory.filePath(QFileInfo(ownFile("*.lock"_s)).fileName());
+        QFile owner(lock);
+        QVERIFY(owner.open(QIODevice::WriteOnly));
+        QCOMPARE(::flock(owner.handle(), LOCK_EX), 0);
+        QCOMPARE(exitCodeOfSender("show"_s, 100), 1);
+    }
+
+    void messagesActivateTheWindow()
+    {
+        auto window = std::make_unique<QWidget>();
+        for (const bool activates : {false, true, false}) {
+            m_app->setActivationWindow(window.get(), activates);
+            window->showMinimized();
+            emit m_app->messageReceived({});
+            QCOMPARE(window->isMinimized(), !activates);
+            QCOMPARE(m_app->activationWindow(), window.get());
+        }
+        window.reset();
+        m_app->activateWindow();
+        QVERIFY(!m_app->activationWindow());
+    }
+
+private:
+    static QString ownFile(const QString &pattern)
+    {
+        const QDir directory(qEnvironmentVariable("XDG_RUNTIME_DIR"));
+        return directory.filePath(
+            directory.entryList({"qtsingleapp-"_s + pattern}, QDir::Files | QDir::System).value(0));
+    }
+    static int exitCodeOfSender(const QString &message, int timeout)
+    {
+        QProcess sender;
+        QEventLoop loop;
+        connect(&sender, qOverload<int, QProcess::ExitStatus>(&QProcess::finished), &loop, &QEventLoop::exit);
+        sender.start(QCoreApplication::applicationFilePath(), {message, QString::number(timeout)});
+        return loop.exec();
+    }
+
+    QtSingleApplication *m_app = qobject_cast<QtSingleApplication *>(qApp);
+};
+
+int main(int argc, char **argv)
+{
+    QtSingleApplication app(argc, argv);
+    if (argc == 3)
+        return app.sendMessage(app.arguments().at(1), app.arguments().at(2).toInt()) ? 0 : 1;
+    TestSingleApplication test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_singleapplication.moc"
