@@ -1,16 +1,9 @@
 #include "platform/slidingstackedwidget.h"
 
-#include <QResizeEvent>
 #include <QVariantAnimation>
+#include <QVector>
 
-namespace {
-
-constexpr int slideMs = 300;
-
-// Where the page that comes in starts, seen from its final place, in the order of the directions.
-constexpr QPoint starts[] = {{-1, 0}, {1, 0}, {0, -1}, {0, 1}};
-
-} // namespace
+#include <utility>
 
 void SlidingStackedWidget::slideInIdx(int index, int direction)
 {
@@ -23,29 +16,29 @@ void SlidingStackedWidget::slideInIdx(int index, int direction)
         return;
     }
 
-    const QPoint place = contentsRect().topLeft();
-    const QPoint start = starts[direction >= LeftToRight && direction <= BottomToTop ? direction : 0];
-    const QPoint offset(start.x() * contentsRect().width(), start.y() * contentsRect().height());
-    incoming->setGeometry(contentsRect().translated(offset));
+    // Where the page that comes in starts, seen from its final place, in the order of the directions.
+    const int width = contentsRect().width();
+    const int height = contentsRect().height();
+    const QVector<QPoint> starts = {{-width, 0}, {width, 0}, {0, -height}, {0, height}};
+    const QPoint start = starts.value(direction, starts.first());
+    incoming->setGeometry(contentsRect().translated(start));
     incoming->show();
-    incoming->raise();
     m_target = index;
     m_slide = new QVariantAnimation(this);
-    m_slide->setDuration(slideMs);
+    m_slide->setDuration(300);
     m_slide->setEasingCurve(QEasingCurve::OutCubic);
-    m_slide->setStartValue(offset);
+    m_slide->setStartValue(start);
     m_slide->setEndValue(QPoint());
     connect(m_slide, &QVariantAnimation::valueChanged, this, [=](const QVariant &left) {
-        incoming->move(place + left.toPoint());
-        outgoing->move(place + left.toPoint() - offset);
+        incoming->move(contentsRect().topLeft() + left.toPoint());
+        outgoing->move(incoming->pos() - start);
     });
     connect(m_slide, &QVariantAnimation::finished, this, &SlidingStackedWidget::finishSlide);
-    m_slide->start();
+    m_slide->start(QAbstractAnimation::DeleteWhenStopped);
 }
 
-void SlidingStackedWidget::resizeEvent(QResizeEvent *event)
+void SlidingStackedWidget::resizeEvent(QResizeEvent * /*event*/)
 {
-    QStackedWidget::resizeEvent(event);
     // The pages' way no longer fits the new size; the layout puts both in place.
     finishSlide();
 }
@@ -54,10 +47,7 @@ void SlidingStackedWidget::finishSlide()
 {
     if (!m_slide)
         return;
-    m_slide->disconnect(this);
-    m_slide->stop();
-    m_slide->deleteLater();
-    m_slide = nullptr;
+    std::exchange(m_slide, nullptr)->stop();
     QWidget *outgoing = currentWidget();
     setCurrentIndex(m_target);
     currentWidget()->setGeometry(contentsRect());
