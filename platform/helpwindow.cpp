@@ -14,7 +14,6 @@
 
 namespace {
 
-constexpr int margin = 16;
 constexpr int smallestZoom = -6;
 constexpr int largestZoom = 20;
 
@@ -29,8 +28,7 @@ HelpWindow::HelpWindow()
     setWindowTitle(tr("Qaz Theme Editor Help"));
     setWindowIcon(QIcon::fromTheme(QStringLiteral("help-contents"),
                                    QIcon(QStringLiteral(":/fallback/help-contents.svg"))));
-    setOpenExternalLinks(false);
-    document()->setDocumentMargin(margin);
+    document()->setDocumentMargin(16);
     createBar();
     connect(this, &QTextBrowser::sourceChanged, this, &HelpWindow::fitPictures);
 
@@ -61,7 +59,6 @@ void HelpWindow::createBar()
         return button;
     };
     auto *row = new QHBoxLayout(m_bar);
-    m_bar->setAutoFillBackground(true);
     auto *back = addButton("backButton", tr("Back"), Qt::LeftArrow);
     auto *forward = addButton("forwardButton", tr("Forward"), Qt::RightArrow);
     auto *label = new QLabel(tr("Search:"), m_bar);
@@ -117,15 +114,17 @@ void HelpWindow::resizeEvent(QResizeEvent *event)
     const int height = m_bar->sizeHint().height();
     setViewportMargins(0, 0, 0, height);
     QTextBrowser::resizeEvent(event);
-    m_bar->setGeometry(frameWidth(), this->height() - frameWidth() - height, width() - 2 * frameWidth(),
-                       height);
+    QRect place = contentsRect();
+    place.setTop(place.bottom() - height + 1);
+    m_bar->setGeometry(place);
     fitPictures();
 }
 
 void HelpWindow::fitPictures()
 {
     // Room for the scroll bar even while there is none: its coming must not change what made it come.
-    const int room = width() - 2 * (frameWidth() + margin) - verticalScrollBar()->sizeHint().width();
+    const int room = contentsRect().width() - int(2 * document()->documentMargin())
+                     - verticalScrollBar()->sizeHint().width();
     QList<QPair<QTextCursor, QTextImageFormat>> changes;
     for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
         for (auto part = block.begin(); !part.atEnd(); ++part) {
@@ -134,7 +133,7 @@ void HelpWindow::fitPictures()
                 continue;
             const QVariant picture = document()->resource(QTextDocument::ImageResource, QUrl(format.name()));
             const int wanted = qMin(room, picture.value<QImage>().width());
-            if (wanted <= 0 || wanted == int(format.width()))
+            if (wanted == int(format.width()))
                 continue;
             QTextCursor cursor(document());
             cursor.setPosition(part.fragment().position());

@@ -12,10 +12,8 @@ namespace {
 
 SlidingStackedWidget *pageStack()
 {
-    QWidgetList windows = QApplication::topLevelWidgets();
-    if (QWidget *active = QApplication::activeWindow())
-        windows.prepend(active);
-    for (const QWidget *window : qAsConst(windows)) {
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (const QWidget *window : windows) {
         if (auto *stack = window->findChild<SlidingStackedWidget *>())
             return stack;
     }

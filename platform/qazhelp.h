@@ -2,7 +2,7 @@
 
 #include <QString>
 
-/// The help topic of the page in view: the class name of the visible page of the active window's page stack,
+/// The help topic of the page in view: the class name of the visible page of the window's page stack,
 /// in lower case and without "page" ("wallpaper", "theme", ...); "index" when there is none.
 QString qazHelpLookForWidget();
 

@@ -8,6 +8,8 @@
 #include "tests/support/temporaryhome.h"
 #include "tests/support/testing.h"
 
+#include <functional>
+
 namespace {
 
 QStringList captured(const QString &text, const QString &pattern)
@@ -134,54 +136,103 @@ private slots:
         QCoreApplication::sendPostedEvents(help, QEvent::DeferredDelete);
     }
 
+    void theWindowHasABarBelowTheText()
+    {
+        QPointer<QTextBrowser> help = shownHelp();
+        QStringList shown{help->windowTitle(), help->windowIcon().name(),
+                          "%1x%2"_s.arg(help->width()).arg(help->height())};
+        const auto *row = help->findChild<QHBoxLayout *>();
+        for (int i = 0; i < row->count(); ++i) {
+            const QWidget *widget = row->itemAt(i)->widget();
+            const auto *label = qobject_cast<const QLabel *>(widget);
+            shown.append("%1 '%2' '%3' %4 %5"_s.arg(
+                label && label->buddy() ? label->buddy()->objectName() : widget->objectName(),
+                widget->property("text").toString(), widget->toolTip(),
+                widget->property("arrowType").toString(), QLatin1String(widget->isEnabled() ? "on" : "off")));
+        }
+        QCOMPARE(shown.join(u'\n'), "Qaz Theme Editor Help\nhelp-contents\n760x640\n"
+                                    "backButton 'Back' 'Back' 3 off\n"
+                                    "forwardButton 'Forward' 'Forward' 4 off\n"
+                                    "searchLineEdit 'Search:' ''  on\n"
+                                    "searchLineEdit '' ''  on\n"
+                                    "previousButton 'Previous' 'Previous' 1 on\n"
+                                    "nextButton 'Next' 'Next' 2 on\n"
+                                    "resultLabel '' ''  on"_s);
+
+        const QRect bar = row->parentWidget()->geometry();
+        const QRect text = help->viewport()->geometry().adjusted(0, 0, help->verticalScrollBar()->width(), 0);
+        QCOMPARE(text.united(bar), help->contentsRect());
+        QCOMPARE(bar.height(), row->sizeHint().height());
+        QCOMPARE(bar.top(), text.bottom() + 1);
+        QCOMPARE(bar.width(), help->contentsRect().width());
+        QCOMPARE(widthOfFirstPicture(help), 660);
+        help->resize(540, 400);
+        QCOMPARE(widthOfFirstPicture(help), help->viewport()->width() - 2 * 16);
+        help->close();
+        QTRY_VERIFY(!help);
+    }
+
     void theTextIsSearchedAndZoomed()
     {
-        QLocale::setDefault(QLocale("en_GB"_s));
-        qazHelpShow("index"_s);
-        QTextBrowser *help = helpWindow();
-        QVERIFY(help && QTest::qWaitForWindowActive(help));
+        QTextBrowser *help = shownHelp();
         auto *text = help->findChild<QLineEdit *>("searchLineEdit"_s);
         const auto *result = help->findChild<QLabel *>("resultLabel"_s);
         QTest::keyClick(help, Qt::Key_F, Qt::ControlModifier);
         QVERIFY(text->hasFocus());
         QTest::keyClicks(text, "window manager"_s);
+        const auto key = [text](Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+            return [=] { QTest::keyClick(text, key, modifiers); };
+        };
+        const auto button = [help](const QString &name) {
+            return [=] { help->findChild<QToolButton *>(name)->click(); };
+        };
         QList<int> places;
-        for (int i = 0; i < 3; ++i) {
-            QTest::keyClick(text, Qt::Key_Return);
+        // What is done, and the place that it leads to, counted from the first one.
+        const std::pair<std::function<void()>, int> steps[] = {
+            {key(Qt::Key_Return), 0},
+            {key(Qt::Key_F3), 1},
+            {button("nextButton"_s), 2},
+            {button("previousButton"_s), 1},
+            {key(Qt::Key_F3, Qt::ShiftModifier), 0},
+            {[=] { help->moveCursor(QTextCursor::End), QTest::keyClick(text, Qt::Key_Enter); }, 0},
+            {button("nextButton"_s), 1},
+            {[=] { help->moveCursor(QTextCursor::Start), button("previousButton"_s)(); }, 3},
+            {key(Qt::Key_F3), 0}};
+        for (const auto &[step, place] : steps) {
+            step();
             QCOMPARE(help->textCursor().selectedText().toLower(), "window manager"_s);
-            places.append(help->textCursor().position());
+            QCOMPARE(result->text(), QString());
+            const int found = help->textCursor().position();
+            if (place == places.size())
+                places.append(found);
+            QCOMPARE(found, places.at(place));
         }
-        QVERIFY(places.at(0) < places.at(1));
-        help->moveCursor(QTextCursor::End);
-        QTest::keyClick(text, Qt::Key_F3); // and around
-        QCOMPARE(help->textCursor().position(), places.at(0));
-        QTest::keyClick(text, Qt::Key_F3);
-        QTest::keyClick(text, Qt::Key_F3, Qt::ShiftModifier);
-        QCOMPARE(help->textCursor().position(), places.at(0));
-        QCOMPARE(result->text(), QString());
-        text->setText("no such words"_s);
-        QTest::keyClick(text, Qt::Key_Return);
-        QCOMPARE(result->text(), "Not found"_s);
-        QCOMPARE(help->textCursor().position(), places.at(0));
+        QVERIFY(std::is_sorted(places.cbegin(), places.cend()));
+        for (const auto &[searched, told] : {std::pair("no such words"_s, "Not found"_s), {""_s, ""_s}}) {
+            text->setText(searched);
+            QCOMPARE(result->text(), QString());
+            QTest::keyClick(text, Qt::Key_Return);
+            QCOMPARE(result->text(), told);
+            QCOMPARE(help->textCursor().position(), places.at(0));
+        }
 
         const int usual = help->fontInfo().pointSize();
         QCOMPARE(usual, QFontInfo(QApplication::font()).pointSize());
-        const QPair<Qt::Key, int> keys[] = {
-            {Qt::Key_Plus, 1}, {Qt::Key_Plus, 2}, {Qt::Key_Minus, 1}, {Qt::Key_0, 0}};
-        for (const auto &[key, larger] : keys) {
-            QTest::keyClick(help, key, Qt::ControlModifier);
+        // A key, how often it is pressed, and by how many points the text is larger then.
+        const std::tuple<Qt::Key, int, int> zooms[] = {{Qt::Key_Plus, 1, 1},   {Qt::Key_Equal, 1, 2},
+                                                       {Qt::Key_Minus, 1, 1},  {Qt::Key_0, 1, 0},
+                                                       {Qt::Key_Plus, 25, 20}, {Qt::Key_Minus, 30, -6}};
+        for (const auto &[zoom, times, larger] : zooms) {
+            for (int i = 0; i < times; ++i)
+                QTest::keyClick(help, zoom, Qt::ControlModifier);
             QCOMPARE(help->fontInfo().pointSize(), usual + larger);
         }
 
-        auto *back = help->findChild<QToolButton *>("backButton"_s);
         qazHelpShow("sound"_s);
-        QVERIFY(back->isEnabled());
-        back->click();
+        button("backButton"_s)();
         QCOMPARE(help->source().fragment(), "index"_s);
-        help->findChild<QToolButton *>("forwardButton"_s)->click();
+        button("forwardButton"_s)();
         QCOMPARE(help->source().fragment(), "sound"_s);
-        help->resize(540, 400);
-        QTRY_COMPARE(help->horizontalScrollBar()->maximum(), 0);
         help->close();
     }
 
@@ -204,6 +255,22 @@ private slots:
     }
 
 private:
+    /// A new window, with the keyboard's focus, at the topic of no page.
+    static QTextBrowser *shownHelp()
+    {
+        QLocale::setDefault(QLocale("en_GB"_s));
+        qazInit("1", "title");
+        qazHelpShow(qazHelpLookForWidget());
+        QTextBrowser *help = helpWindow();
+        if (!help || !QTest::qWaitForWindowActive(help) || help->source().fragment() != "index"_s)
+            qFatal("No help window");
+        return help;
+    }
+    static int widthOfFirstPicture(const QTextBrowser *help)
+    {
+        const QTextCursor picture = help->document()->find(QString(QChar::ObjectReplacementCharacter));
+        return int(picture.charFormat().toImageFormat().width());
+    }
     void verifyLinks(const QString &text)
     {
         const QStringList chapters = captured(text, "<a name=\"(\\w+)\">"_s);
