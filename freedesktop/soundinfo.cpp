@@ -21,10 +21,8 @@ T numberAt(const QByteArray &bytes, qint64 offset, bool isBigEndian)
 /// The length of the samples from \a offset on, of which \a stated bytes are said to be there.
 double secondsOf(const SoundInfo &info, const QByteArray &bytes, qint64 offset, qint64 stated)
 {
-    const qint64 bytesPerSecond = qint64(info.rate) * info.channels * info.bits / 8;
-    return bytesPerSecond > 0
-               ? double(qBound<qint64>(0, bytes.size() - offset, stated)) / double(bytesPerSecond)
-               : 0;
+    const double bytesPerSecond = double(info.rate) * info.channels * info.bits / 8;
+    return bytesPerSecond ? double(qBound<qint64>(0, bytes.size() - offset, stated)) / bytesPerSecond : 0;
 }
 
 std::optional<SoundInfo> wavInfo(const QByteArray &bytes)
@@ -37,7 +35,7 @@ std::optional<SoundInfo> wavInfo(const QByteArray &bytes)
         const qint64 content = chunk + chunkHeader;
         if (name == "fmt ") {
             info.channels = numberAt<quint16>(bytes, content + 2, false);
-            info.rate = int(numberAt<quint32>(bytes, content + 4, false));
+            info.rate = numberAt<quint32>(bytes, content + 4, false);
             info.bits = numberAt<quint16>(bytes, content + 14, false);
         } else if (name == "data") {
             info.seconds = secondsOf(info, bytes, content, size);
@@ -52,7 +50,7 @@ std::optional<SoundInfo> auInfo(const QByteArray &bytes)
 {
     const auto field = [&bytes](int number) { return numberAt<quint32>(bytes, qint64(number) * 4, true); };
     constexpr int bitsOfEncoding[] = {0, 8, 8, 16, 24, 32, 32, 64}; // by their numbers; 27 is A-law
-    SoundInfo info = {QStringLiteral("AU"), int(field(4)), int(field(5))};
+    SoundInfo info = {QStringLiteral("AU"), field(4), int(field(5))};
     const quint32 encoding = field(3);
     info.bits = encoding < std::size(bitsOfEncoding) ? bitsOfEncoding[encoding] : encoding == 27 ? 8 : 0;
     info.seconds = secondsOf(info, bytes, field(1), field(2));

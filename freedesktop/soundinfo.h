@@ -6,8 +6,8 @@
 
 /// What the header of a sound file tells.
 struct SoundInfo {
-    QString format; ///< "WAV" or "AU"
-    int rate = 0;   ///< samples a second
+    QString format;   ///< "WAV" or "AU"
+    quint32 rate = 0; ///< samples a second
     int channels = 0;
     int bits = 0;       ///< of a sample
     double seconds = 0; ///< as far as the file goes

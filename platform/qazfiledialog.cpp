@@ -39,7 +39,6 @@ private:
     QLabel *m_picture;
     QLabel *m_text;
     QString m_path;
-    QTimer m_rest;
 };
 
 FilePreview::FilePreview(QWidget *parent)
@@ -57,9 +56,6 @@ FilePreview::FilePreview(QWidget *parent)
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(m_picture, 0, Qt::AlignCenter);
     layout->addWidget(m_text, 1);
-    m_rest.setSingleShot(true);
-    m_rest.setInterval(restMs);
-    connect(&m_rest, &QTimer::timeout, this, &FilePreview::draw);
 }
 
 void FilePreview::showFile(const QString &path)
@@ -67,7 +63,10 @@ void FilePreview::showFile(const QString &path)
     m_path = path;
     m_picture->clear();
     m_text->clear();
-    m_rest.start();
+    QTimer::singleShot(restMs, this, [this, path] {
+        if (path == m_path)
+            draw();
+    });
 }
 
 void FilePreview::draw()
@@ -84,12 +83,14 @@ void FilePreview::draw()
         return;
     }
     m_text->setText(name + tr("%1 × %2 pixels").arg(size.width()).arg(size.height()));
-    QImage image = loadImage(m_path, largestPreview);
+    const QImage image = loadImage(m_path, largestPreview);
+    if (image.isNull())
+        return;
     const QSize room = pictureSize * devicePixelRatioF();
-    if (image.width() > room.width() || image.height() > room.height())
-        image = image.scaled(room, Qt::KeepAspectRatio, Qt::SmoothTransformation);
-    image.setDevicePixelRatio(devicePixelRatioF());
-    m_picture->setPixmap(QPixmap::fromImage(image));
+    QPixmap picture = QPixmap::fromImage(
+        image.scaled(room.boundedTo(image.size()), Qt::KeepAspectRatio, Qt::SmoothTransformation));
+    picture.setDevicePixelRatio(devicePixelRatioF());
+    m_picture->setPixmap(picture);
 }
 
 QazFileDialog::QazFileDialog(QWidget *parent, const QString &caption, const QString &location,

@@ -6,10 +6,10 @@
 
 namespace {
 
-QByteArray png()
+QByteArray png(const QSize &size)
 {
-    QImage image(300, 20, QImage::Format_RGB32);
-    image.fill(Qt::red);
+    QImage image(size, QImage::Format_Mono);
+    image.fill(1);
     QByteArray content;
     QBuffer buffer(&content);
     buffer.open(QIODevice::WriteOnly);
@@ -17,12 +17,28 @@ QByteArray png()
     return content;
 }
 
-/// Half a second of stereo, with a chunk of an odd length before the format; \a stated is the length in the header.
-QByteArray wav(const QByteArray &stated)
+// A chunk of an odd length, the format, and half a second of stereo.
+const QByteArray wav = QByteArrayLiteral("RIFF\0\0\0\0WAVEodd \3\0\0\0abc\0fmt \x10\0\0\0\1\0\2\0\x40\x1f\0\0"
+                                         "\0\x7d\0\0\4\0\x10\0data\x80\x3e\0\0")
+                       + QByteArray(16000, '\0');
+
+/// A second and a half, of a length that the header does not know.
+QByteArray au(char encoding)
 {
-    return QByteArrayLiteral("RIFF\0\0\0\0WAVEodd \3\0\0\0abc\0fmt \x10\0\0\0\1\0\2\0\x40\x1f\0\0"
-                             "\0\x7d\0\0\4\0\x10\0data")
-           + stated + QByteArray(16000, '\0');
+    QByteArray bytes(".snd\0\0\0\x18\xff\xff\xff\xff\0\0\0\0\0\0\x1f\x40\0\0\0\1", 24);
+    bytes[15] = encoding;
+    return bytes + QByteArray(12000, '\0');
+}
+
+QString read(const QString &path)
+{
+    const std::optional<SoundInfo> info = soundInfo(path);
+    return info ? "%1 %2 %3 %4 %5"_s.arg(info->format)
+                      .arg(info->rate)
+                      .arg(info->channels)
+                      .arg(info->bits)
+                      .arg(info->seconds)
+                : "none"_s;
 }
 
 } // namespace
@@ -31,47 +47,107 @@ class TestFileDialog : public QObject
 {
     Q_OBJECT
 private slots:
+    void headersOfSoundsAreRead()
+    {
+        const std::pair<QByteArray, QString> rows[] = {
+            {wav, "WAV 8000 2 16 0.5"_s},
+            {wav.chopped(8000), "WAV 8000 2 16 0.25"_s},
+            {QByteArray(wav).replace("data\x80\x3e", QByteArray("data\x40\x1f")), "WAV 8000 2 16 0.25"_s},
+            {wav.left(56), "WAV 8000 2 16 0"_s},
+            {wav.left(52), "none"_s}, // the length is cut off
+            {QByteArray(wav).replace("RIFF", "RIFX"), "none"_s},
+            {QByteArray(wav).replace("WAVE", "RMID"), "none"_s},
+            {au(1), "AU 8000 1 8 1.5"_s},
+            {au(3).left(24), "AU 8000 1 16 0"_s},
+            {au(1).left(8), "AU 0 0 0 0"_s},
+            {"text", "none"_s}};
+        const TemporaryHome home;
+        for (const auto &[bytes, told] : rows)
+            QCOMPARE(read(home.write("sound"_s, bytes)), told);
+        QStringList bits;
+        for (const char encoding : {0, 1, 2, 3, 4, 5, 6, 7, 8, 26, 27, 28})
+            bits += read(home.write("sound"_s, au(encoding))).section(u' ', 3, 3);
+        QCOMPARE(bits.join(u' '), "0 8 8 16 24 32 32 64 0 0 8 0"_s);
+
+        QFile large(home.write("large"_s, au(1)));
+        QVERIFY(large.resize(64 * 1024 * 1024));
+        QVERIFY(soundInfo(large.fileName()));
+        QVERIFY(large.resize(64 * 1024 * 1024 + 1));
+        for (const QString &odd : {large.fileName(), home.makeFifo("fifo.wav"_s), "/dev/zero"_s, home.path()})
+            QVERIFY2(!soundInfo(odd), qPrintable(odd)); // nor hangs
+    }
+
     void previewTellsWhatIsInTheFile()
     {
-        // A second and a half, of a length that the header does not know.
-        QByteArray au(".snd\0\0\0\x18\xff\xff\xff\xff\0\0\0\x1b\0\0\x1f\x40\0\0\0\1", 24);
-        au.append(12000, '\0');
-        const std::tuple<QString, QByteArray, QString> rows[] = {
-            {"a <b>.png"_s, png(), "300 × 20 pixels"_s},
-            {"a.wav"_s, wav({"\x80\x3e\0\0", 4}), "WAV, 8000 Hz, 2 × 16 bit\nLength: 0.5 s"_s},
-            {"more.wav"_s, wav("\xff\xff\xff\xff"), "WAV, 8000 Hz, 2 × 16 bit\nLength: 0.5 s"_s},
-            {"a.au"_s, au, "AU, 8000 Hz, 1 × 8 bit\nLength: 1.5 s"_s},
-            {"no length.au"_s, au.left(8), "AU, 0 Hz, 0 × 0 bit\nLength: 0.0 s"_s},
-            {"cut off.wav"_s, wav({}).left(30), {}},
-            {"text.png"_s, "text", {}}};
+        // A file, what is told of it, and the size of its picture.
+        const std::tuple<QString, QByteArray, QString, QSize> rows[] = {
+            {"a <b>.png"_s, png({300, 20}), "300 × 20 pixels"_s, {192, 12}},
+            {"high.png"_s, png({30, 320}), "30 × 320 pixels"_s, {15, 160}},
+            {"small.png"_s, png({20, 10}), "20 × 10 pixels"_s, {20, 10}},
+            {"most.png"_s, png({4096, 4096}), "4096 × 4096 pixels"_s, {160, 160}},
+            {"more.png"_s, png({4096, 4097}), "4096 × 4097 pixels"_s, {}},
+            {"a.wav"_s, wav, "WAV, 8000 Hz, 2 × 16 bit\nLength: 0.5 s"_s, {}},
+            {"text.png"_s, "text", {}, {}}};
         const TemporaryHome home;
-        const QString first = home.write("first.png"_s, png());
-        for (const auto &[name, content, text] : rows)
+        const QString first = home.write("first.png"_s, png({300, 20}));
+        for (const auto &[name, content, text, size] : rows)
             home.write(name, content);
         QazFileDialog dialog(nullptr, {}, first);
-        dialog.show();
+        QFileDialog plain;
+        plain.setOption(QFileDialog::DontUseNativeDialog);
         const auto *shown = dialog.findChild<QLabel *>("previewText"_s);
         const auto *picture = dialog.findChild<QLabel *>("previewPicture"_s);
+        QCOMPARE(dialog.width(), plain.width() + shown->parentWidget()->sizeHint().width());
+        dialog.show();
         QTRY_COMPARE(shown->text(), "first.png\n300 × 20 pixels"_s);
-        QCOMPARE(picture->pixmap(Qt::ReturnByValue).size(), QSize(192, 12));
         QCOMPARE(dialog.findChild<QLineEdit *>("fileNameEdit"_s)->text(), "first.png"_s);
+        QCOMPARE(shown->textFormat(), Qt::PlainText);
+        QVERIFY(shown->wordWrap() && dialog.testOption(QFileDialog::DontUseNativeDialog));
+        QCOMPARE(picture->size(), QSize(192, 160));
+        QCOMPARE(picture->geometry().center().x(), shown->geometry().center().x());
+        QCOMPARE(picture->alignment(), Qt::AlignCenter);
+        QCOMPARE(shown->alignment(), Qt::AlignHCenter | Qt::AlignTop);
+        QCOMPARE(picture->y(), shown->parentWidget()->layout()->contentsRect().top());
 
         auto *list = dialog.findChild<QListView *>("listView"_s);
         const QAbstractItemModel *model = list->model();
         QTRY_COMPARE(model->rowCount(list->rootIndex()), int(std::size(rows)) + 1);
         list->setCurrentIndex(model->index(0, 0, list->rootIndex()));
-        QCOMPARE(shown->text(), QString()); // at rest only
-        for (const auto &[name, content, text] : rows) {
+        for (const auto &[name, content, text, size] : rows) {
             emit dialog.currentChanged(first);
             emit dialog.currentChanged(home.path(name));
-            if (text.isEmpty())
-                QVERIFY(!soundInfo(home.path(name)) && imageSize(home.path(name)).isEmpty());
-            else
+            QCOMPARE(shown->text(), QString()); // at rest only
+            QVERIFY(picture->pixmap(Qt::ReturnByValue).isNull());
+            if (!text.isEmpty())
                 QTRY_COMPARE(shown->text(), name + u'\n' + text);
+            QCOMPARE(picture->pixmap(Qt::ReturnByValue).size(), size.expandedTo({0, 0}));
         }
-        QCOMPARE(shown->textFormat(), Qt::PlainText);
-        for (const QString &odd : {home.makeFifo("fifo.wav"_s), "/dev/zero"_s, home.path()})
-            QVERIFY2(!soundInfo(odd), qPrintable(odd)); // nor hangs
+    }
+
+    void theTypedFileIsTaken()
+    {
+        const TemporaryHome home;
+        const QString quoted = "sub/a \"b\".png"_s;
+        for (const QString &name : {"plain.png"_s, "sub.png"_s, "sub/plain.png"_s, quoted})
+            home.write(name, "x");
+        // What is typed, and the file that it means.
+        const std::pair<QString, QString> rows[] = {{"sub.png"_s, "sub.png"_s},
+                                                    {"\"sub.png\""_s, "sub.png"_s},
+                                                    {"sub/plain.png"_s, "sub/plain.png"_s},
+                                                    {home.path(quoted), quoted},
+                                                    {quoted, quoted}};
+        for (const auto &[typed, taken] : rows) {
+            QazFileDialog dialog(nullptr, {}, home.path("plain.png"_s));
+            dialog.show();
+            QApplication::setActiveWindow(&dialog);
+            auto *name = dialog.findChild<QLineEdit *>("fileNameEdit"_s);
+            name->setFocus();
+            name->selectAll();
+            QTest::keyClicks(name, typed);
+            static_cast<QDialog &>(dialog).accept();
+            QCOMPARE(dialog.result(), int(QDialog::Accepted));
+            QCOMPARE(dialog.selectedFiles(), QStringList{home.path(taken)});
+        }
     }
 };
 
