@@ -16,11 +16,6 @@ void appendOnce(QByteArrayList &list, const QByteArray &path)
         list.append(path);
 }
 
-bool holdsCursors(ThemeDirectories &directories, const QByteArray &theme)
-{
-    return directories.listing(theme).directories.contains("cursors");
-}
-
 } // namespace
 
 QByteArrayList cursorClientPath()
@@ -52,22 +47,29 @@ QSet<QByteArray> cursorThemeNames(ThemeDirectories &directories)
     QSet<QByteArray> names;
     for (const QByteArray &base : directories.searchPath()) {
         for (const QByteArray &name : directories.listing(base).directories) {
-            if (holdsCursors(directories, base + '/' + name))
+            if (directories.listing(base + '/' + name).directories.contains("cursors"))
                 names.insert(name);
         }
     }
     return names;
 }
 
+QByteArrayList cursorDirectories(ThemeDirectories &directories, const QByteArray &theme)
+{
+    QByteArrayList result;
+    for (const QByteArray &each :
+         directories.withInherited({theme, "default"}, &IconThemeIndex::cursorInherits)) {
+        for (const QByteArray &location : directories.locations(each))
+            result.append(location + "/cursors");
+    }
+    return result;
+}
+
 QByteArray cursorFile(ThemeDirectories &directories, const QByteArray &theme, const QByteArray &name)
 {
-    for (const QByteArray &candidate :
-         directories.withInherited({theme, "default"}, &IconThemeIndex::cursorInherits)) {
-        for (const QByteArray &location : directories.locations(candidate)) {
-            const QByteArray cursors = location + "/cursors";
-            if (holdsCursors(directories, location) && directories.listing(cursors).files.contains(name))
-                return cursors + '/' + name;
-        }
+    for (const QByteArray &cursors : cursorDirectories(directories, theme)) {
+        if (directories.listing(cursors).files.contains(name))
+            return cursors + '/' + name;
     }
     return {};
 }

@@ -16,6 +16,9 @@ QByteArrayList cursorSearchPath();
 /// The names of all themes in \a directories, those of cursorSearchPath(), that hold cursors.
 QSet<QByteArray> cursorThemeNames(ThemeDirectories &directories);
 
-/// The file of the cursor \a name in \a theme, found in \a directories as Xcursor finds it: in the theme, in those
-/// it inherits from, in the "default" theme. Empty when there is none.
+/// The directories in which Xcursor looks for the cursors of \a theme, best first: of the theme, of those it inherits
+/// from, of the "default" theme. Not all of them exist.
+QByteArrayList cursorDirectories(ThemeDirectories &directories, const QByteArray &theme);
+
+/// The file of the cursor \a name in \a theme, found in \a directories as Xcursor finds it. Empty when there is none.
 QByteArray cursorFile(ThemeDirectories &directories, const QByteArray &theme, const QByteArray &name);

@@ -18,6 +18,8 @@
 #include <QSet>
 #include <QX11Info>
 
+#include <algorithm>
+
 #include <X11/Xcursor/Xcursor.h>
 #include <X11/extensions/Xfixes.h>
 
@@ -76,26 +78,20 @@ bool writeDefaultTheme(const QByteArray &name)
 /// the new link.
 bool makeReachable(const QByteArray &name, QString *made)
 {
-    const auto holdsCursors = [&name](const QByteArray &base) {
-        return QFileInfo::exists(QFile::decodeName(base + '/' + name + "/cursors"));
-    };
-    const QByteArrayList clientPath = cursorClientPath();
-    // The others stand behind those of the clients.
-    for (const QByteArray &base : cursorSearchPath()) {
-        if (!holdsCursors(base))
-            continue;
-        if (clientPath.contains(base))
-            return true;
-        const QString link = userIconsDirectory() + QLatin1Char('/') + QFile::decodeName(name);
-        makeDirectories(userIconsDirectory());
-        // A link to a theme that has moved, as one made here before, is in the way.
-        if (const QFileInfo old(link); old.isSymLink() && !old.exists())
-            QFile::remove(link);
-        if (!QFile::link(QFile::decodeName(base + '/' + name), link))
-            return reportFailure(link, QStringLiteral("the cursor theme can't be linked"));
-        *made = link;
+    const QByteArrayList path = cursorSearchPath(); // in which those of the clients come first
+    const auto base = std::find_if(path.begin(), path.end(), [&name](const QByteArray &directory) {
+        return QFileInfo::exists(QFile::decodeName(directory + '/' + name + "/cursors"));
+    });
+    if (base == path.end() || cursorClientPath().contains(*base))
         return true;
-    }
+    const QString link = userIconsDirectory() + QLatin1Char('/') + QFile::decodeName(name);
+    makeDirectories(userIconsDirectory());
+    // A link to a theme that has moved, as one made here before, is in the way.
+    if (const QFileInfo old(link); old.isSymLink() && !old.exists())
+        QFile::remove(link);
+    if (!QFile::link(QFile::decodeName(*base + '/' + name), link))
+        return reportFailure(link, QStringLiteral("the cursor theme can't be linked"));
+    *made = link;
     return true;
 }
 
@@ -120,45 +116,30 @@ void putBack(const QString &path, const FileContent &before, const QByteArray &w
 {
     EditFileOptions options;
     options.removeWhenEmpty = before.state == FileState::Missing;
-    const auto edit = [&](const QByteArray &content) {
-        return content == written ? before.content : content;
-    };
-    if (QString error; !editFile(path, edit, &error, options))
-        reportFailure(path, error);
-}
-
-bool canChangeByName(Display *display)
-{
-    int major = 0;
-    int minor = 0;
-    return XFixesQueryExtension(display, &major, &minor) && XFixesQueryVersion(display, &major, &minor)
-           && major >= 2;
+    editFileOrTell(
+        path, [&](const QByteArray &content) { return content == written ? before.content : content; },
+        options);
 }
 
 /// Shows the cursors of \a theme in this program and, where the server can change cursors by their name, in
 /// all others on \a display, and over the root window.
 void showCursorTheme(Display *display, const QByteArray &theme)
 {
-    XcursorSetTheme(display, theme.constData());
-    if (const Cursor pointer = XcursorLibraryLoadCursor(display, "left_ptr")) {
-        XDefineCursor(display, DefaultRootWindow(display), pointer);
-        XFreeCursor(display, pointer);
-    }
-    ThemeDirectories directories(cursorSearchPath());
-    QSet<QByteArray> names;
-    if (canChangeByName(display)) {
-        for (const QByteArray &each :
-             directories.withInherited({theme, "default"}, &IconThemeIndex::cursorInherits)) {
-            for (const QByteArray &location : directories.locations(each))
-                names += directories.listing(location + "/cursors").files;
-        }
-    }
-    for (const QByteArray &name : qAsConst(names)) {
+    const auto withCursor = [display](const QByteArray &name, const auto &use) {
         if (const Cursor cursor = XcursorLibraryLoadCursor(display, name.constData())) {
-            XFixesChangeCursorByName(display, cursor, name.constData());
+            use(cursor);
             XFreeCursor(display, cursor);
         }
-    }
+    };
+    XcursorSetTheme(display, theme.constData());
+    withCursor("left_ptr",
+               [&](Cursor cursor) { XDefineCursor(display, DefaultRootWindow(display), cursor); });
+    ThemeDirectories directories(cursorSearchPath());
+    QSet<QByteArray> names;
+    for (const QByteArray &cursors : cursorDirectories(directories, theme))
+        names += directories.listing(cursors).files;
+    for (const QByteArray &name : qAsConst(names))
+        withCursor(name, [&](Cursor cursor) { XFixesChangeCursorByName(display, cursor, name.constData()); });
     XFlush(display);
 }
 
