@@ -26,12 +26,10 @@ QByteArray fileIn(ThemeDirectories &directories, const QByteArray &directory, co
 QByteArray fileInTheme(ThemeDirectories &directories, const QByteArrayList &locations, const QByteArray &path,
                        const QByteArray &name)
 {
-    const int slash = path.indexOf('/');
-    const QByteArray top = slash < 0 ? path : path.left(slash);
+    const QByteArray top = path.split('/').constFirst();
     for (const QByteArray &location : locations) {
         // Indexes name directories that were never installed; the listing spares a look at each of them.
-        if (!top.isEmpty() && top != "." && top != ".."
-            && !directories.listing(location).directories.contains(top))
+        if (!top.startsWith('.') && !directories.listing(location).directories.contains(top))
             continue;
         if (QByteArray file = fileIn(directories, location + '/' + path, name); !file.isEmpty())
             return file;
@@ -63,7 +61,6 @@ QByteArrayList iconSearchPath()
     for (const QString &directory : xdgDataDirectories())
         paths.append(directory + QLatin1String("/icons"));
     paths << QStringLiteral("/usr/share/pixmaps") << dataRoot() + QLatin1String("/icons");
-    paths.removeDuplicates();
     QByteArrayList result;
     for (const QString &path : qAsConst(paths))
         result.append(QFile::encodeName(path));

@@ -13,19 +13,14 @@ const QByteArray inheritsKey = QByteArrayLiteral("Inherits");
 
 IconDirectory iconDirectory(const QByteArray &path, const QHash<QByteArray, QByteArray> &values)
 {
-    const auto number = [&values](const char *key, int otherwise) {
-        bool isNumber = false;
-        const int value = values.value(key).toInt(&isNumber);
-        return isNumber ? value : otherwise;
-    };
-    const int size = number("Size", 0);
+    const QByteArray size = values.value("Size");
     const QByteArray type = values.value("Type");
-    const qint64 threshold = type == "Fixed" ? 0 : number("Threshold", 2);
-    IconDirectory directory{path, values.value("Context"), number("Scale", 1), size - threshold,
-                            size + threshold};
+    const qint64 threshold = type == "Fixed" ? 0 : values.value("Threshold", "2").toInt();
+    IconDirectory directory{path, values.value("Context"), values.value("Scale", "1").toInt(),
+                            size.toInt() - threshold, size.toInt() + threshold};
     if (type == "Scalable") {
-        directory.minSize = number("MinSize", size);
-        directory.maxSize = number("MaxSize", size);
+        directory.minSize = values.value("MinSize", size).toInt();
+        directory.maxSize = values.value("MaxSize", size).toInt();
     }
     return directory;
 }
@@ -65,9 +60,8 @@ qint64 sizeDistance(const IconDirectory &directory, int size)
 {
     if (directory.scale == 1 && directory.minSize <= size && size <= directory.maxSize)
         return -1;
-    const qint64 smallest = directory.minSize * directory.scale;
-    const qint64 largest = directory.maxSize * directory.scale;
-    return size < smallest ? smallest - size : qMax<qint64>(0, size - largest);
+    return std::max(
+        {directory.minSize * directory.scale - size, size - directory.maxSize * directory.scale, qint64(0)});
 }
 
 QByteArray withInherits(const QByteArray &content, const QByteArray &name)

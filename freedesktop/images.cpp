@@ -57,18 +57,16 @@ QImage loadImage(const QString &path, qint64 pixelLimit)
     FileContent file = readRegularFile(path);
     QBuffer buffer(&file.content);
     QImageReader reader(&buffer);
-    if (opensSpecialFile(reader, file.content))
-        return {};
-    const QSize stated = reader.size();
-    if (file.content.isEmpty() || pixelCount(stated) > pixelLimit)
+    if (opensSpecialFile(reader, file.content) || pixelCount(reader.size()) > pixelLimit)
         return {};
 
     // Some formats state another size than they decode to, and reserve memory for that one before anybody can object.
     rlimit before = {};
     ::getrlimit(RLIMIT_AS, &before);
-    constexpr rlim_t bytesPerPixel = 8, spare = 512 << 20;
+    constexpr rlim_t spare = 16
+                             * largestPicture; // bytes: it takes up to 8 a pixel, twice when it is converted
     rlimit during = before;
-    during.rlim_cur = qMin(before.rlim_cur, usedSpace() + rlim_t(pixelLimit) * bytesPerPixel + spare);
+    during.rlim_cur = qMin(before.rlim_cur, usedSpace() + spare);
     ::setrlimit(RLIMIT_AS, &during);
     const auto undo = qScopeGuard([&before] { ::setrlimit(RLIMIT_AS, &before); });
     QImage image = reader.read();

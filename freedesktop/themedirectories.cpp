@@ -32,8 +32,6 @@ const DirectoryListing &ThemeDirectories::listing(const QByteArray &path)
 QByteArrayList ThemeDirectories::locations(const QByteArray &name)
 {
     QByteArrayList locations;
-    if (name.isEmpty() || name == "." || name == ".." || name.contains('/'))
-        return locations;
     for (const QByteArray &base : qAsConst(m_searchPath)) {
         if (listing(base).directories.contains(name))
             locations.append(base + '/' + name);

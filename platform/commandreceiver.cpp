@@ -44,9 +44,10 @@ QByteArray CommandReceiver::take(std::uint64_t sender, bool begins, const char *
         return {};
     const auto *end = static_cast<const char *>(std::memchr(data, '\0', commandMessageBytes));
     command->text.append(data, end ? int(end - data) : commandMessageBytes);
-    if (!end && command->text.size() <= longestCommand)
+    const bool isTooLong = command->text.size() > longestCommand;
+    if (!end && !isTooLong)
         return {};
-    QByteArray finished = end && command->text.size() <= longestCommand ? command->text : QByteArray();
+    QByteArray finished = isTooLong ? QByteArray() : command->text;
     m_unfinished.erase(command);
     return finished;
 }

@@ -18,9 +18,10 @@ constexpr char deletedMark[] = " (deleted)"; // behind a program whose file was 
 /// A file of the kernel's up to its first NUL, without streams: there may be thousands. Empty when it can't be read.
 std::string textOf(const fs::path &file)
 {
-    char text[PATH_MAX + 1] = {};
+    std::string text(PATH_MAX, '\0');
     const Descriptor opened(::open(file.c_str(), O_RDONLY | O_CLOEXEC));
-    return ::read(opened.get(), text, PATH_MAX) > 0 ? text : "";
+    [[maybe_unused]] const ssize_t size = ::read(opened.get(), text.data(), text.size());
+    return text.c_str();
 }
 
 bool isNamed(const fs::path &process, const std::string &name)
@@ -36,7 +37,7 @@ bool isAlive(const fs::path &process)
     const std::string status = textOf(process / "stat");
     // "PID (NAME) STATE ...": the name itself may hold blanks and brackets.
     const std::size_t nameEnd = status.rfind(')');
-    return nameEnd + 2 < status.size() && std::string("ZXx").find(status[nameEnd + 2]) == std::string::npos;
+    return nameEnd != std::string::npos && status.find_first_of("ZXx", nameEnd) == std::string::npos;
 }
 
 } // namespace
@@ -45,8 +46,7 @@ bool findInPS(const char *name)
 {
     std::error_code error;
     for (fs::directory_iterator process("/proc", error), end; process != end; process.increment(error)) {
-        const char first = process->path().filename().native().front();
-        if (*name && first >= '1' && first <= '9' && isNamed(*process, name) && isAlive(*process))
+        if (*name && isNamed(*process, name) && isAlive(*process))
             return true;
     }
     return false;

@@ -7,7 +7,9 @@
 #include <QFile>
 #include <QSet>
 
+#include <algorithm>
 #include <cmath>
+#include <iterator>
 
 namespace {
 
@@ -74,10 +76,7 @@ bool QazIconTheme::getCursorThemeNames(List<char> *list)
 int QazIconTheme::GetIconSizeForDPI(double dpi, int kind)
 {
     const double wanted = (kind == desktopKind ? 48 : 32) * dpi / 96;
-    int nearest = usualSizes[0];
-    for (const int size : usualSizes) {
-        if (std::abs(size - wanted) < std::abs(nearest - wanted))
-            nearest = size;
-    }
-    return nearest;
+    return *std::min_element(std::begin(usualSizes), std::end(usualSizes), [wanted](int size, int other) {
+        return std::abs(size - wanted) < std::abs(other - wanted);
+    });
 }

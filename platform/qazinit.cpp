@@ -9,10 +9,9 @@
 #include <QIcon>
 #include <QLibraryInfo>
 #include <QLocale>
+#include <QRegularExpression>
 #include <QScreen>
 #include <QTranslator>
-
-#include <algorithm>
 
 namespace {
 
@@ -51,13 +50,9 @@ bool qazInit(const char *version, const char * /*title*/)
 
 char *qazSessionConfigSuffix(int kind)
 {
-    const QByteArray session = kind == 0 ? qgetenv("QAZ_SESSION") : QByteArray();
-    const bool isValid = std::all_of(session.cbegin(), session.cend(), [](char c) {
-        return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_'
-               || c == '.' || c == '-';
-    });
-    const QByteArray suffix = isValid && !session.isEmpty() ? '-' + session : QByteArray();
-    return qstrdup(suffix.constData());
+    const QString session = kind == 0 ? qEnvironmentVariable("QAZ_SESSION") : QString();
+    const bool isSafe = session.contains(QRegularExpression(QStringLiteral("\\A[A-Za-z0-9_.-]+\\z")));
+    return qstrdup(isSafe ? qPrintable(QLatin1Char('-') + session) : "");
 }
 
 bool qazInTabletMode()
@@ -68,6 +63,5 @@ bool qazInTabletMode()
 
 double qazDpiScaled(double length)
 {
-    const QScreen *screen = QGuiApplication::primaryScreen();
-    return screen ? length * screen->logicalDotsPerInch() / 96.0 : length;
+    return length * QGuiApplication::primaryScreen()->logicalDotsPerInch() / 96.0;
 }

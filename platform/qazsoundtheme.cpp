@@ -112,7 +112,7 @@ std::optional<SoundCandidate> findInTheme(const ThemeIndex &theme, const QString
 } // namespace
 
 struct QazSoundTheme::Lookup {
-    QStringList baseDirectories;
+    QStringList baseDirectories = soundBaseDirectories();
     QVector<ThemeIndex> chain; // the theme itself, then those it inherits from; empty unless loaded
     SoundDirectories files;
 
@@ -122,8 +122,6 @@ struct QazSoundTheme::Lookup {
 
 void QazSoundTheme::Lookup::loadChain(const QString &themeName)
 {
-    chain.clear();
-    files = {};
     QSet<QString> seen;
     // The standard's order: each parent is followed by its own parents; the common theme stands behind all.
     QStringList waiting{themeName, QStringLiteral("freedesktop")};
@@ -152,8 +150,10 @@ QString QazSoundTheme::Lookup::findSound(const QString &name)
              level.truncate(level.lastIndexOf(QLatin1Char('-'))))
             found = findInTheme(theme, level, locales, &files);
     }
-    for (int i = 0; !found && i < baseDirectories.size(); ++i)
-        found = files.find(baseDirectories.at(i), name); // sounds of no theme
+    for (const QString &base : qAsConst(baseDirectories)) {
+        if (!found)
+            found = files.find(base, name); // a sound of no theme
+    }
     return found && found->rank != SoundCandidate::Disabled ? found->path : QString();
 }
 
@@ -161,9 +161,7 @@ QazSoundTheme::QazSoundTheme(const char *themeName, const char * /*firstDirector
     : m_themeName(themeName)
     , m_shownName(themeName)
     , m_lookup(std::make_unique<Lookup>())
-{
-    m_lookup->baseDirectories = soundBaseDirectories();
-}
+{}
 
 QazSoundTheme::~QazSoundTheme() = default;
 
@@ -183,16 +181,16 @@ bool QazSoundTheme::getThemesNames(List<char> *names)
                                           != QByteArray("true"));
         }
     }
-    const int before = names->count();
     for (auto theme = isListed.cbegin(); theme != isListed.cend(); ++theme) {
         if (theme.value())
             names->append(theme.key().toLocal8Bit().constData());
     }
-    return names->count() > before;
+    return !names->isEmpty();
 }
 
 bool QazSoundTheme::load()
 {
+    m_lookup = std::make_unique<Lookup>();
     m_lookup->loadChain(QString::fromLocal8Bit(m_themeName));
     if (m_lookup->chain.isEmpty())
         return false;

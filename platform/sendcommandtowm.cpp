@@ -17,10 +17,10 @@ void SendCommandToWM(Display *display, const char *text)
         told = true;
         return;
     }
-    const std::size_t size = std::strlen(text) + 1; // the final NUL travels, too
-    if (size - 1 > longestCommand) {
-        printDiagnostic(QStringLiteral("A window-manager command of %1 bytes is too long and was not sent")
-                            .arg(size - 1));
+    const std::size_t length = std::strlen(text);
+    if (length > longestCommand) {
+        printDiagnostic(
+            QStringLiteral("A window-manager command of %1 bytes is too long and was not sent").arg(length));
         return;
     }
 
@@ -32,10 +32,10 @@ void SendCommandToWM(Display *display, const char *text)
     event.xclient.window = sender;
     event.xclient.message_type = XInternAtom(display, firstCommandAtom, False);
     event.xclient.format = 8;
-    for (std::size_t sent = 0; sent < size; sent += commandMessageBytes) {
+    for (std::size_t sent = 0; sent <= length; sent += commandMessageBytes) { // the final NUL travels, too
         std::memset(event.xclient.data.b, 0, commandMessageBytes);
         std::memcpy(event.xclient.data.b, text + sent,
-                    std::min<std::size_t>(commandMessageBytes, size - sent));
+                    std::min<std::size_t>(commandMessageBytes, length + 1 - sent));
         XSendEvent(display, DefaultRootWindow(display), False,
                    SubstructureRedirectMask | SubstructureNotifyMask, &event);
         event.xclient.message_type = XInternAtom(display, nextCommandAtom, False);

@@ -15,8 +15,8 @@ QByteArray escapedValue(const QString &value)
 {
     QByteArray text = escaped(value.toUtf8());
     if (text.endsWith(' '))
-        text.replace(text.size() - 1, 1, "\\s");
-    return text.startsWith(' ') ? text.replace(0, 1, "\\s") : text;
+        text = text.chopped(1) + "\\s";
+    return text.startsWith(' ') ? "\\s" + text.mid(1) : text;
 }
 
 } // namespace

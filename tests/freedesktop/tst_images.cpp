@@ -44,6 +44,25 @@ QByteArray pngStating(quint32 width, quint32 height)
     return png.replace(29, 4, reinterpret_cast<const char *>(&sum), 4);
 }
 
+/// A drawing of 9 x 9 pixels with a picture.
+QByteArray naming(const QString &picture)
+{
+    return "<svg xmlns='http://www.w3.org/2000/svg' xmlns:xlink='http://www.w3.org/1999/xlink' width='9' "
+           "height='9'><image width='9' height='9' xlink:href=' "
+           + picture.toUtf8() + "'/></svg>";
+}
+
+/// The address space that this process took at most, in kB.
+qint64 mostMemory()
+{
+    QFile status("/proc/self/status"_s);
+    status.open(QIODevice::ReadOnly);
+    return QRegularExpression("VmPeak:\\s*(\\d+)"_s)
+        .match(QString::fromLatin1(status.readAll()))
+        .captured(1)
+        .toLongLong();
+}
+
 } // namespace
 
 class TestImages : public QObject
@@ -52,6 +71,7 @@ class TestImages : public QObject
 private slots:
     void imagesAreLoaded()
     {
+        const TemporaryHome home;
         const QByteArray png = encoded("png"), jpeg = encoded("jpg"), xpm = encoded("xpm");
         const std::tuple<QString, QByteArray, QSize> rows[] = {
             {"whole.png"_s, png, {64, 48}},
@@ -62,14 +82,19 @@ private slots:
             {"empty.png"_s, {}, {}},
             {"text.png"_s, "text", {}},
             {"whole.svg"_s, svg, {64, 48}},
+            {"names a picture.svg"_s, naming(home.write("a.png"_s, png)), {9, 9}},
+            {"holds a picture.svg"_s,
+             naming("data:image/png;base64,"_s + QString::fromLatin1(png.toBase64())),
+             {9, 9}},
             {"too large.svg"_s, QByteArray(svg).replace("64", "64000000"), {}},
             {"too large.png"_s, pngStating(16385, 16384), {}},
             {"ends in odd numbers.png"_s, pngStating(0x7fffffff, 0x7fffffff), {}},
-            {"states much less.ico"_s, lyingIcon(pngStating(60000, 60000)), {}}};
-        const TemporaryHome home;
+            {"states much less.ico"_s, lyingIcon(pngStating(40000, 40000)), {}}};
+        const qint64 before = mostMemory();
         for (const auto &[name, content, size] : rows)
             QVERIFY2(loadImage(home.write(name, content)).size() == size.expandedTo({0, 0}),
                      qPrintable(name));
+        QVERIFY(mostMemory() < before + 5LL * 1024 * 1024);
     }
 
     void decodedSizeCounts()
@@ -86,13 +111,10 @@ private slots:
     {
         const TemporaryHome home;
         const QString fifo = home.makeFifo("fifo.png"_s);
-        const QByteArray naming
-            = "<svg xmlns='http://www.w3.org/2000/svg' xmlns:xlink='http://www.w3.org/1999/xlink'>"
-              "<image width='9' height='9' xlink:href=' "
-              + QFile::encodeName(fifo) + "'/></svg>";
-        QVERIFY(drawSvg(naming, {40, 40}, Qt::white).isNull());
-        for (const QString &path : {fifo, home.write("names one.svg"_s, naming), "/dev/zero"_s,
-                                    "/proc/kmsg"_s, home.path(), home.path("missing"_s)})
+        const QByteArray named = naming(fifo);
+        QVERIFY(drawSvg(named, {40, 40}, Qt::white).isNull());
+        for (const QString &path : {fifo, home.write("names one.svg"_s, named), "/dev/zero"_s, "/proc/kmsg"_s,
+                                    home.path(), home.path("missing"_s)})
             QVERIFY2(loadImage(path).isNull() && imageSize(path).isEmpty(), qPrintable(path));
     }
 
@@ -107,6 +129,12 @@ private slots:
         QCOMPARE(filled.pixelColor(35, 5), QColor(Qt::white));
         const QImage icon = drawSvg(svg, {40, 40}, Qt::transparent, Qt::KeepAspectRatio);
         QCOMPARE(icon.size(), QSize(40, 30));
+        QVERIFY(icon.hasAlphaChannel() && !filled.hasAlphaChannel());
+        for (const auto &[stated, thin] :
+             {std::pair("width='9000'", QSize(40, 1)), {"width='1'", QSize(1, 40)}}) {
+            const QByteArray drawing = QByteArray(svg).replace("width='64'", stated);
+            QCOMPARE(drawSvg(drawing, {40, 40}, Qt::white, Qt::KeepAspectRatio).size(), thin);
+        }
         QCOMPARE(icon.pixelColor(35, 5).alpha(), 0);
         QVERIFY(drawSvg("no drawing", {40, 40}, Qt::white).isNull());
     }

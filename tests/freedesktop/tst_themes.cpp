@@ -39,7 +39,7 @@ private slots:
     {
         const TemporaryHome home;
         const ScopedEnvironment data("QAZ_DATA_DIR", "/root");
-        const ScopedEnvironment cursors("XCURSOR_PATH", "~/.icons:/a/:/a://");
+        const ScopedEnvironment cursors("XCURSOR_PATH", "~/.icons:/a/:/a:://");
         const QByteArray user = QFile::encodeName(home.path());
         // XDG_DATA_HOME, XDG_DATA_DIRS, the user's directory, and the others' with a star for the kind.
         const std::tuple<const char *, const char *, QByteArray, QByteArray> rows[] = {
@@ -54,6 +54,20 @@ private slots:
             QCOMPARE(cursorSearchPath().join(':'), user + "/.icons:/a:/:" + first + "/icons:/root/icons");
             QCOMPARE(soundBaseDirectories().join(u':').toUtf8(),
                      first + "/sounds:" + QByteArray(others).replace('*', "sounds") + "/root/sounds");
+        }
+    }
+
+    void localesAreSpelledInSeveralWays()
+    {
+        const std::tuple<const char *, const char *, const char *, QString> rows[] = {
+            {"de_AT.UTF-8@euro", "fr", "es", "de_AT@euro|de_AT|de@euro|de|C|"_s},
+            {"", "fr.x", "es", "fr|C|"_s},
+            {"", "", "es_MX", "es_MX|es|C|"_s},
+            {"../x", "", "", "C|"_s}};
+        for (const auto &[all, messages, language, variants] : rows) {
+            const ScopedEnvironment first("LC_ALL", all), second("LC_MESSAGES", messages),
+                last("LANG", language);
+            QCOMPARE(localeVariants().join(u'|'), variants);
         }
     }
 
@@ -108,7 +122,7 @@ private slots:
                {"Size=30", -1}, // the threshold is 2
                {"Size=24\nThreshold=3", 5},
                {"Type=Fixed\nSize=32\nScale=2", 32},
-               {"Type=Scalable\nSize=9\nMaxSize=64\nScale=2", 0}, // of another scale: no match
+               {"Type=Scalable\nSize=1\nMaxSize=64\nScale=2", 0}, // of another scale: no match
                {"Size=2147483647\nScale=2147483647", 4611686009837453283}};
         for (const auto &[group, distance] : groups) {
             const IconThemeIndex theme = parseIconThemeIndex(

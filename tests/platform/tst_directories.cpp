@@ -1,4 +1,5 @@
 #include "freedesktop/dataroot.h"
+#include "platform/finddpi.h"
 #include "platform/getqazdir.h"
 #include "platform/qazinit.h"
 #include "tests/support/temporaryhome.h"
@@ -76,25 +77,43 @@ private slots:
     void theSessionSuffixTakesSafeNamesOnly()
     {
         QByteArray suffixes;
-        for (const char *session : {static_cast<const char *>(nullptr), "", "aZ0_.-", "../x", "a b", "ä"}) {
+        for (const char *session :
+             {static_cast<const char *>(nullptr), "", "aZ0_.-", "../x", "a b", "a\n", "ä"}) {
             const ScopedEnvironment name("QAZ_SESSION", session);
-            suffixes.append(std::unique_ptr<char[]>(qazSessionConfigSuffix(0)).get()).append('|');
+            for (const int kind : {0, 1})
+                suffixes.append(std::unique_ptr<char[]>(qazSessionConfigSuffix(kind)).get()).append('|');
         }
-        QCOMPARE(suffixes, QByteArray("||-aZ0_.-||||"));
+        QCOMPARE(suffixes, QByteArray("||||-aZ0_.-||||||||||"));
     }
 
-    void initMakesThePersonalDirectoryOnly()
+    void initNamesTheProgramAndItsResources()
     {
         const TemporaryHome home;
-        QVERIFY(qazInit("1.2-3", "A title"));
+        QLocale::setDefault(QLocale("de_AT"_s));
+        for (const auto &[chosen, theme] :
+             {std::pair("hicolor"_s, "qaz-tirsk"_s), {"Chosen"_s, "Chosen"_s}}) {
+            QIcon::setThemeName(chosen);
+            QVERIFY(qazInit("1.2-3", "A title"));
+            QCOMPARE(QIcon::themeName(), theme);
+        }
+        QLocale::setDefault(QLocale::system());
+        const QStringList named{QCoreApplication::organizationName(),
+                                QCoreApplication::applicationName(),
+                                QCoreApplication::applicationVersion(),
+                                QIcon::fallbackThemeName(),
+                                QCoreApplication::translate("QPlatformTheme", "Cancel"),
+                                QCoreApplication::translate("Help", "Search:")};
+        QCOMPARE(named.join(u' '), "qaz qaz-admin-theme 1.2-3 qaz-tirsk Abbrechen Suchen:"_s);
+        QCOMPARE(QIcon::themeSearchPaths().constLast(), dataRoot() + "/icons"_s);
         QCOMPARE(home.mode(".config/qaz"_s), 0700U);
-        QCOMPARE(QDir(home.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
-                 QStringList{".config"_s});
-        QCOMPARE(QCoreApplication::applicationVersion(), "1.2-3"_s);
+        QCOMPARE(home.names(), ".config"_s);
         for (const char *mode : {"1", "true", "yes"}) {
             const ScopedEnvironment tablet("QAZ_TABLET_MODE", mode);
             QCOMPARE(qazInTabletMode(), *mode != 'y');
         }
+        QCOMPARE(qazDpiScaled(10), 10.0);
+        QCOMPARE(qRound(FindDPI(QX11Info::display(), 0)), 96);
+        QCOMPARE(FindDPI(nullptr, 0), 0.0);
     }
 };
 

@@ -61,7 +61,7 @@ private slots:
     void everyTextSurvivesTheFile()
     {
         for (const QString &text : {QString(), " "_s, "  a b  "_s, "%1 %s %%"_s, "\\s\\\\n \\"_s,
-                                    "\ta\r\nb\n\n"_s, "Größe 字 😀"_s, QString(10000, u'x')}) {
+                                    "\ta\r\nb\n\n"_s, "Größe 字 😀"_s, "\uFEFFx"_s, QString(10000, u'x')}) {
             const TemporaryHome home;
             const QString path = home.write(file, "Key=old\nAfter=1\n");
             save(path, text);

@@ -32,9 +32,10 @@ private:
 
 QString sound(QazSoundTheme &theme, const char *name)
 {
-    char buffer[4096] = "";
-    theme.getSound(name, "", "", buffer); // leaves the buffer alone when it has none
-    return QFile::decodeName(buffer);
+    char buffer[4096] = "untouched";
+    const QString expected = QLatin1String(theme.getSound(name, "", "", buffer) ? buffer : "untouched");
+    return expected == QFile::decodeName(buffer) ? QString(expected).remove("untouched"_s)
+                                                 : "contradiction"_s;
 }
 
 QString names()
@@ -72,6 +73,7 @@ private slots:
                                     "user/a/s/x-y.ogg *user/a/s/x-y.oga",                 // oga before ogg
                                     "user/a/s/x-y user/a/s/x-y.flac *user/a/s/x-y.ogg",   // ogg before others
                                     "user/a/s/x-y.oga *user/a/more/x-y.wav",  // wav of another directory
+                                    "*user/a/s/x-y.oga user/a/more/x-y.oga",  // in the index's order
                                     "*user/a/s/x-y.oga user/a/plain/x-y.wav", // stereo before no profile
                                     "*user/a/plain/x-y.ogg",                  // no profile
                                     "user/a/surround/x-y.wav",                // another profile
@@ -83,7 +85,8 @@ private slots:
                                     "*user/a/s/x.wav user/grand/s/x-y.wav",        // general sound
                                     "*user/grand/s/x-y.wav user/second/s/x-y.wav", // a parent's parent first
                                     "*system/freedesktop/s/x-y.oga",               // common theme
-                                    "*system/x-y.wav"};                            // of no theme
+                                    "*user/x-y.oga system/x-y.wav",                // of no theme
+                                    "*own/x-y.oga"};
         for (const char *places : rows) {
             const SoundFiles files;
             files.write("user/a/index.theme", index("missing,first,second"));
@@ -108,6 +111,8 @@ private slots:
         files.write("user/dir/index.theme", index("", "Name[de]=Glänzend\nName[fr]=Autre"));
         const QString oga = files.write("user/dir/s/x.oga");
         QazSoundTheme theme("dir");
+        files.write("own/x.wav");
+        files.write("own/.wav");
         QCOMPARE(theme.getName() + sound(theme, "x").toLatin1(), "dir"); // not loaded
         QVERIFY(theme.load());
         QCOMPARE(QString::fromLocal8Bit(theme.getName()), "Glänzend"_s);
@@ -118,6 +123,9 @@ private slots:
         QCOMPARE(sound(theme, "x"), oga);
         QVERIFY(theme.load());
         QCOMPARE(sound(theme, "x"), wav);
+        files.write("user/dir/index.theme", index("a"));
+        QVERIFY(theme.load());
+        QCOMPARE(theme.getName(), "A theme");
     }
 
     void refusesBrokenThemes()
@@ -126,7 +134,9 @@ private slots:
         const QString pipe = QFileInfo(files.write("user/pipe/x.wav")).path() + "/index.theme"_s;
         QCOMPARE(::mkfifo(qPrintable(pipe), 0600), 0);
         files.write("user/directory/index.theme/x.wav");
-        for (const char *name : {"pipe", "directory", "missing", "", "..", "../sounds/a"})
+        for (const char *place : {"user/index.theme", "user/../index.theme", "user/good/index.theme"})
+            files.write(place, index(""));
+        for (const char *name : {"pipe", "directory", "missing", "", "..", "../sounds/good"})
             QVERIFY2(!QazSoundTheme(name).load(), name);
 
         files.write("user/a/s/x.wav");

@@ -1,5 +1,6 @@
 #include "platform/commandreceiver.h"
 #include "platform/sendcommandtowm.h"
+#include "tests/support/standarderror.h"
 #include "tests/support/testing.h"
 #include "tests/support/wmlistener.h"
 
@@ -23,8 +24,14 @@ private slots:
             SendCommandToWM(QX11Info::display(), (text + '\n').constData());
             QCOMPARE(listener.take(), QStringList{QString::fromLocal8Bit(text)});
         }
+        StandardError errors;
         SendCommandToWM(QX11Info::display(), QByteArray(65537, 'x').constData());
-        SendCommandToWM(nullptr, "QAZWM_RESTART\n");
+        for (int i = 0; i < 2; ++i) // which is told once
+            SendCommandToWM(nullptr, "QAZWM_RESTART\n");
+        QCOMPARE(errors.take(),
+                 QByteArray(
+                     "qaz-admin-theme: A window-manager command of 65537 bytes is too long and was not sent\n"
+                     "qaz-admin-theme: No X display: the window manager is not told of changes\n"));
         QCOMPARE(listener.take(), QStringList());
     }
 
@@ -35,11 +42,14 @@ private slots:
         XSelectInput(receiver, DefaultRootWindow(receiver), SubstructureNotifyMask);
         XSync(receiver, False);
         SendCommandToWM(QX11Info::display(), "0123456789012345678901234\n");
+        SendCommandToWM(QX11Info::display(), "012345678901234567\n"); // a whole message with its NUL
         XSync(QX11Info::display(), False);
         XSync(receiver, False);
 
-        using Message = std::tuple<Atom, int, int, QByteArray>;
-        QVector<Message> messages; // type, format, whether the window is shown, bytes
+        CommandReceiver commands(receiver);
+        QByteArray received;
+        using Message = std::tuple<Atom, QByteArray>;
+        QVector<Message> messages; // of format 8, from a window that is not shown
         while (XPending(receiver) > 0) {
             XEvent event;
             XNextEvent(receiver, &event);
@@ -47,13 +57,25 @@ private slots:
                 continue;
             XWindowAttributes attributes = {};
             QVERIFY(XGetWindowAttributes(receiver, event.xclient.window, &attributes));
-            messages.append({event.xclient.message_type, event.xclient.format, attributes.map_state,
-                             QByteArray(event.xclient.data.b, 20)});
+            QCOMPARE(attributes.map_state, IsUnmapped);
+            QCOMPARE(event.xclient.format, 8);
+            messages.append({event.xclient.message_type, QByteArray(event.xclient.data.b, 20)});
+            for (const auto &[type, format] :
+                 {std::pair(ClientMessage, 32), {PropertyNotify, 8}, {ClientMessage, 8}}) {
+                event.type = type;
+                event.xclient.format = format;
+                const QByteArray command = commands.take(event);
+                QVERIFY(command.isNull() || (type == ClientMessage && format == 8));
+                received += command;
+            }
         }
-        QCOMPARE(messages, (QVector<Message>{{XInternAtom(receiver, "_QAZWM_COMMAND_BEGIN", True), 8,
-                                              IsUnmapped, "01234567890123456789"},
-                                             {XInternAtom(receiver, "_QAZWM_COMMAND", True), 8, IsUnmapped,
-                                              QByteArray("01234\n").leftJustified(20, '\0')}}));
+        const Atom begin = XInternAtom(receiver, "_QAZWM_COMMAND_BEGIN", True);
+        QCOMPARE(messages,
+                 (QVector<Message>{{begin, "01234567890123456789"},
+                                   {XInternAtom(receiver, "_QAZWM_COMMAND", True),
+                                    QByteArray("01234\n").leftJustified(20, '\0')},
+                                   {begin, QByteArray("012345678901234567\n").leftJustified(20, '\0')}}));
+        QCOMPARE(received, QByteArray("0123456789012345678901234\n012345678901234567\n"));
         XCloseDisplay(receiver);
     }
 
@@ -66,6 +88,7 @@ private slots:
         };
         for (std::uint64_t sender = 0; sender < 65; ++sender)
             QVERIFY(begin(sender).isNull());
+        QVERIFY(begin(64).isNull()); // anew
         for (const std::uint64_t sender : {64, 1})
             QCOMPARE(finish(sender), full + QByteArray("end"));
         QVERIFY2(finish(0).isNull(), "the oldest of too many went");
