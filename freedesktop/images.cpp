@@ -63,8 +63,7 @@ QImage loadImage(const QString &path, qint64 pixelLimit)
     // Some formats state another size than they decode to, and reserve memory for that one before anybody can object.
     rlimit before = {};
     ::getrlimit(RLIMIT_AS, &before);
-    constexpr rlim_t spare = 16
-                             * largestPicture; // bytes: it takes up to 8 a pixel, twice when it is converted
+    constexpr rlim_t spare = 16 * largestPicture; // bytes: up to 8 a pixel, twice while it is converted
     rlimit during = before;
     during.rlim_cur = qMin(before.rlim_cur, usedSpace() + spare);
     ::setrlimit(RLIMIT_AS, &during);

@@ -132,6 +132,7 @@ private:
     QStringList m_lines;
     const QStringList m_leftOut = {"geometry"_s,   "minimumSize"_s, "maximumSize"_s, "gridSize"_s,
                                    "windowIcon"_s, "palette"_s,     "pixmap"_s,      "cursor"_s,
-                                   "font"_s,       "objectName"_s};
+                                   "font"_s,       "objectName"_s,  "html"_s,        "markdown"_s,
+                                   "plainText"_s};
     std::vector<std::unique_ptr<QObject>> m_plain; // without anything set, the general classes last
 };
