@@ -262,6 +262,7 @@ private slots:
         QVERIFY(XGetWindowAttributes(display.get(), owner, &window));
         char *name = nullptr;
         XFetchName(display.get(), owner, &name);
+        const std::unique_ptr<char, int (*)(void *)> nameOwner(name, XFree);
         QCOMPARE(QByteArray(name), QByteArray("qaz-wm-bridge"));
         QCOMPARE(QVector<long>({window.x, window.y, window.width, window.height, long(message.message_type),
                                 message.format, long(message.window), message.data.l[1], message.data.l[2]}),
