@@ -1,4 +1,5 @@
 #include "platform/qazsoundtheme.h"
+#include "tests/support/rows.h"
 #include "tests/support/temporaryhome.h"
 #include "tests/support/testing.h"
 
@@ -67,41 +68,22 @@ private slots:
 
     void findsSounds()
     {
-        const char *const rows[] = {// a star marks the file to find
-                                    "user/a/s/x-y.oga user/a/s/x-y.au *user/a/s/x-y.wav", // wav first
-                                    "user/a/s/x-y.oga *user/a/s/x-y.au",                  // au before oga
-                                    "user/a/s/x-y.ogg *user/a/s/x-y.oga",                 // oga before ogg
-                                    "user/a/s/x-y user/a/s/x-y.flac *user/a/s/x-y.ogg",   // ogg before others
-                                    "user/a/s/x-y.oga *user/a/more/x-y.wav",  // wav of another directory
-                                    "*user/a/s/x-y.oga user/a/more/x-y.oga",  // in the index's order
-                                    "*user/a/s/x-y.oga user/a/plain/x-y.wav", // stereo before no profile
-                                    "*user/a/plain/x-y.ogg",                  // no profile
-                                    "user/a/surround/x-y.wav",                // another profile
-                                    "user/a/else/x-y.wav user/a/x-y.wav",    // not in the theme's directories
-                                    "user/a/s/x-y.wav *user/a/s/de/x-y.oga", // localised
-                                    "*user/a/s/x-y.oga system/a/s/x-y.wav",  // the user's before the system's
-                                    "*own/a/s/x-y.wav",                      // the desktop's part of a theme
-                                    "user/a/s/x-y.oga user/a/s/x-y.disabled user/grand/s/x-y.wav", // disabled
-                                    "*user/a/s/x.wav user/grand/s/x-y.wav",        // general sound
-                                    "*user/grand/s/x-y.wav user/second/s/x-y.wav", // a parent's parent first
-                                    "*system/freedesktop/s/x-y.oga",               // common theme
-                                    "*user/x-y.oga system/x-y.wav",                // of no theme
-                                    "*own/x-y.oga"};
-        for (const char *places : rows) {
+        // Files with blanks between them; a star marks the one to find.
+        for (const QStringList &row : rowsOf("platform/sounds.json"_s)) {
             const SoundFiles files;
             files.write("user/a/index.theme", index("missing,first,second"));
             files.write("user/first/index.theme", index("a;grand"));
             for (const char *theme : {"user/second", "user/grand", "system/freedesktop"})
                 files.write(theme + QByteArray("/index.theme"), index("first"));
             QString expected;
-            for (const QByteArray &place : QByteArray(places).split(' ')) {
+            for (const QByteArray &place : row.at(1).toUtf8().split(' ')) {
                 const QString path = files.write(QByteArray(place).replace('*', ""));
                 if (place.startsWith('*'))
                     expected = path;
             }
             QazSoundTheme theme("a");
             QVERIFY(theme.load());
-            QCOMPARE(sound(theme, "x-y"), expected);
+            QVERIFY2(sound(theme, "x-y") == expected, qPrintable(row.join(u'\n')));
         }
     }
 
