@@ -143,7 +143,7 @@ QByteArray withoutHiddenRows(const QByteArray &xpm)
 QImage loadXpm(const QByteArray &path)
 {
     const QByteArray content = readRegularFile(QFile::decodeName(path)).content;
-    const QImage image = QImage::fromData(withoutHiddenRows(content), "XPM");
+    const QImage image = QImage::fromData(withoutHiddenRows(content));
     return image.isNull() ? QImage::fromData(content) : image;
 }
 

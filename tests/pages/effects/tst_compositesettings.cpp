@@ -24,15 +24,18 @@ struct Manager {
             process.start(program, {"3600"_s});
         process.waitForStarted();
     }
+    ~Manager()
+    {
+        process.kill();
+        process.waitForFinished();
+    }
 
     const FakePrograms programs{FakePrograms::Path::Instead};
     QProcess process;
 };
 
 /// The page over a theme file that names a manager, and has all else that is saved.
-class CompositePage : public PageOverFile<EffectPage>
-{
-public:
+struct CompositePage : PageOverFile<EffectPage> {
     CompositePage(const QString &manager, const QByteArray &lines)
         : m_start("CompositeManager=" + manager.toLatin1() + "\nArrangeWindowSpeed=0\nGradWindowMapSpeed=0\n")
     {
@@ -57,7 +60,6 @@ public:
             find<QWidget>(compositeBoxes[i])->setProperty("checked", state.at(i) == u'+');
     }
 
-private:
     static constexpr const char *compositeBoxes[] = {"compositeGroupBox", "transparencyCheckBox",
                                                      "shadowCheckBox"};
     const QByteArray m_start;

@@ -85,6 +85,7 @@ private slots:
         EffectPageOverFile file("");
         auto *style = file.find<QComboBox>("gradWindowMapStyleComboBox");
         const QSpinBox *speed = file.spin("GradWindowMapSpeed"_s);
+        QVERIFY(!speed->isEnabled());
         for (int i = 1; i < 9; ++i) {
             choose(style, i);
             QVERIFY(speed->value() == 15 && speed->isEnabled());

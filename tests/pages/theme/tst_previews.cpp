@@ -8,7 +8,6 @@
 namespace {
 
 const QSize canvasSize(110, 32);
-const QColor glass(255, 0, 0, 51);
 
 using Parts = QVector<std::pair<QRect, QColor>>;
 
@@ -59,14 +58,6 @@ class TestPreviews : public QObject
 {
     Q_OBJECT
 private slots:
-    void threeImagesStandSideBySide()
-    {
-        QCOMPARE(threeImagesPreview(canvasSize,
-                                    {filled(4, 7, Qt::red), filled(40, 40, Qt::green), filled(3, 4, glass)}),
-                 picture(canvasSize,
-                         {{{0, 13, 4, 7}, Qt::red}, {{36, 0, 40, 32}, Qt::green}, {{72, 14, 3, 4}, glass}}));
-    }
-
     void titleBarGeometry()
     {
         // Each button's upper half is the released one.
@@ -117,8 +108,8 @@ private slots:
         const Home home;
         makeCursorTheme(home, ".icons/b"_s, Qt::red);
         makeCursorTheme(home, ".icons/B"_s, Qt::blue);
-        makeCursorTheme(home, ".icons/B"_s, Qt::green, {"watch"_s});
-        makeCursorTheme(home, ".icons/B"_s, Qt::red, {"xterm"_s}, 16);
+        makeCursorTheme(home, ".icons/B"_s, Qt::green, {"watch"_s}, 40);
+        makeCursorTheme(home, ".icons/B"_s, QColor(51, 0, 0, 51), {"xterm"_s}, 17); // premultiplied
         makeCursorTheme(home, ".icons/half"_s, Qt::red, {"left_ptr"_s});
         makeCursorTheme(home, ".icons/garbage"_s, Qt::red);
         home.write(".icons/garbage/cursors/watch"_s, "Xcur\0\0\0garbage");
@@ -127,8 +118,8 @@ private slots:
         const QVector<ThemeEntry> entries = cursorThemeEntries(canvasSize);
         QCOMPARE(names(entries), "B|b"_s);
         QCOMPARE(shown(entries[0]), picture(canvasSize, {{{0, 4, 24, 24}, Qt::blue},
-                                                         {{36, 4, 24, 24}, Qt::green},
-                                                         {{72, 8, 16, 16}, Qt::red}}));
+                                                         {{36, 0, 40, 32}, Qt::green},
+                                                         {{72, 8, 17, 17}, QColor(255, 0, 0, 51)}}));
     }
 
     void wholeIconThemesAreListed()

