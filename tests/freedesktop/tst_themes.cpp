@@ -4,9 +4,6 @@
 #include "freedesktop/sounddirectories.h"
 #include "freedesktop/themedirectories.h"
 #include "tests/support/temporaryhome.h"
-#include "tests/support/testing.h"
-
-#include <QTest>
 
 class TestThemes : public QObject
 {
@@ -59,16 +56,16 @@ private slots:
 
     void localesAreSpelledInSeveralWays()
     {
-        const std::tuple<const char *, const char *, const char *, QString> rows[] = {
-            {"de_AT.UTF-8@euro", "fr", "es", "de_AT@euro|de_AT|de@euro|de|C|"_s},
-            {"", "fr.x", "es", "fr|C|"_s},
-            {"", "", "es_MX", "es_MX|es|C|"_s},
-            {"../x", "", "", "C|"_s}};
-        for (const auto &[all, messages, language, variants] : rows) {
-            const ScopedEnvironment first("LC_ALL", all), second("LC_MESSAGES", messages),
-                last("LANG", language);
-            QCOMPARE(localeVariants().join(u'|'), variants);
+        QStringList variants;
+        for (const QByteArrayList &names : {QByteArrayList{"de_AT.UTF-8@euro", "fr", "es"},
+                                            {"", "fr.x", "es"},
+                                            {"", "", "es_MX"},
+                                            {"../x", "", ""}}) {
+            const ScopedEnvironment all("LC_ALL", names[0]), messages("LC_MESSAGES", names[1]),
+                lang("LANG", names[2]);
+            variants += localeVariants();
         }
+        QCOMPARE(variants.join(u'|'), "de_AT@euro|de_AT|de@euro|de|C||fr|C||es_MX|es|C||C|"_s);
     }
 
     void anIndexIsOneSmallRegularFile()
@@ -114,22 +111,19 @@ private slots:
 
     void matchesSizes()
     {
-        const std::pair<const char *, qint64> groups[] // with the distance from 32 pixels; -1: a match
-            = {{"Type=Fixed\nSize=32", -1},
-               {"Type=Fixed\nSize=30", 2},
-               {"Type=Scalable\nSize=64\nMinSize=8\nMaxSize=512", -1},
-               {"Type=Scalable\nSize=64\nMinSize=40", 8},
-               {"Size=30", -1}, // the threshold is 2
-               {"Size=24\nThreshold=3", 5},
-               {"Type=Fixed\nSize=32\nScale=2", 32},
-               {"Type=Scalable\nSize=1\nMaxSize=64\nScale=2", 0}, // of another scale: no match
-               {"Size=2147483647\nScale=2147483647", 4611686009837453283}};
-        for (const auto &[group, distance] : groups) {
-            const IconThemeIndex theme = parseIconThemeIndex(
-                QByteArrayLiteral("[Icon Theme]\nDirectories=a,unknown\n[a]\n") + group);
-            QCOMPARE(theme.directories.size(), 1);
-            QCOMPARE(sizeDistance(theme.directories.first(), 32), distance);
+        QStringList distances; // from 32 pixels; -1: a match
+        for (const char *group :
+             {"Type=Fixed\nSize=32", "Type=Fixed\nSize=30", "Type=Scalable\nSize=64\nMinSize=8\nMaxSize=512",
+              "Type=Scalable\nSize=64\nMinSize=40", "Size=30" /* the threshold is 2 */,
+              "Size=24\nThreshold=3", "Type=Fixed\nSize=32\nScale=2",
+              "Type=Scalable\nSize=1\nMaxSize=64\nScale=2", "Size=2147483647\nScale=2147483647"}) {
+            const auto found = parseIconThemeIndex(QByteArray("[Icon Theme]\nDirectories=a,unknown\n[a]\n")
+                                                   + group)
+                                   .directories;
+            QCOMPARE(found.size(), 1);
+            distances += QString::number(sizeDistance(found.first(), 32));
         }
+        QCOMPARE(distances.join(u' '), "-1 2 -1 8 -1 5 32 0 4611686009837453283"_s);
     }
 };
 

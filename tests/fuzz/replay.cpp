@@ -1,24 +1,20 @@
 #include "tests/fuzz/fuzzing.h"
 
-#include <QDir>
-#include <QFile>
-
-#include <cstdio>
+#include <QDirIterator>
 
 /// Runs a fuzz target over the files of a directory: the known inputs, among them every one that once failed.
-int main(int argc, char **argv)
+int main(int /*argc*/, char **argv)
 {
-    const QDir directory(QFile::decodeName(argc == 2 ? argv[1] : ""));
-    const QStringList names = directory.entryList(QDir::Files);
-    for (const QString &name : names) {
-        QFile file(directory.filePath(name));
+    int inputs = 0;
+    for (QDirIterator files(QFile::decodeName(argv[1]), QDir::Files); files.hasNext(); ++inputs) {
+        QFile file(files.next());
+        // Names the culprit when the last line ends the process.
+        qWarning("%s", qPrintable(file.fileName()));
         if (!file.open(QIODevice::ReadOnly))
             return 1;
         const QByteArray input = file.readAll();
-        std::printf("%s\n", qPrintable(name));
-        std::fflush(stdout); // names the culprit when the next line ends the process
         LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t *>(input.constData()),
                                std::size_t(input.size()));
     }
-    return names.isEmpty() ? 1 : 0;
+    return inputs == 0;
 }
