@@ -7,6 +7,8 @@
 #include "tests/support/temporaryhome.h"
 #include "tests/support/testing.h"
 
+const QString bridgeTests = QAZ_SOURCE_DIR "/tests/bridge/"_s;
+
 /// The files and command lines that the bridge makes of values that anybody may have sent.
 class TestBridgeTexts : public QObject
 {
@@ -39,22 +41,8 @@ private slots:
 
     void openboxFileKeepsEveryOtherByte()
     {
-        const QByteArray head = "<?xml version='1.0'?>\r\n<openbox_config xmlns=\"x\">\n<!-- <theme> -->"
-                                "<a><name>no</name></a><theme>\t<!-- <name>no</name> -->";
-        const QByteArray before
-            = head
-              + "<name>Old</name><font a=\"1\" place=\"MenuItem\"><size>7</size><name/></font>"
-                "<keepBorder/>\r\n</theme><theme><name>b</name></theme></openbox_config>\n";
-        const QByteArray title
-            = "<name>Sans</name><size>9</size><weight>bold</weight><slant>normal</slant></font>";
-        const QByteArray after
-            = head
-              + "<name>qaz</name><font a=\"1\" place=\"MenuItem\"><size>12</size><name>A&amp;B</name>"
-                "<weight>normal</weight><slant>italic</slant></font><keepBorder/>\r\n"
-                "<font place=\"ActiveWindow\">"
-              + title + "<font place=\"InactiveWindow\">" + title
-              + "<font place=\"MenuHeader\"><name>A&amp;B</name><size>12</size><weight>normal</weight>"
-                "<slant>italic</slant></font></theme><theme><name>b</name></theme></openbox_config>\n";
+        const QByteArray before = m_home.read(bridgeTests + "rc.xml"_s),
+                         after = m_home.read(bridgeTests + "rc-themed.xml"_s);
         QString error;
         const auto changed = withOpenboxTheme(before, "qaz"_s, "Sans-9:bold"_s, "A&B-12:normal:italic"_s,
                                               &error);
@@ -70,51 +58,33 @@ private slots:
 
     void openboxThemeHoldsColorsOnly()
     {
-        const TemporaryHome home;
-        Values values(home.write("t"_s, "TitlebarColor=qvblue\nTitlebarColor2=#000080\nMenuActiveColor=lime\n"
-                                        "TitleStringColor=Qt\nFrameColor=red\n"));
+        Values values(m_home.write("t"_s,
+                                   "TitlebarColor=qvblue\nTitlebarColor2=#000080\nMenuActiveColor=lime\n"
+                                   "TitleStringColor=Qt\nFrameColor=red\n"));
         values.announce("MenuColor"_s, "red\nevil: 1"_s);
-        QByteArray theme = openboxTheme(values);
-        theme.replace("window.", "w.")
-            .replace("inactive.", "-")
-            .replace("active.", "+")
-            .replace(".color", "");
-        theme.replace("Flat Gradient Horizontal", ">").replace("Flat Solid", "=").replace(": ", " ");
-        QCOMPARE(theme.replace('\n', '|').constData(),
-                 "border.width 1|w.*.label.bg Parentrelative|w.*.button.*.bg Parentrelative|"
-                 "w.*.handle.bg =|w.*.grip.bg =|menu.items.+bg =|w.label.text.justify left|"
-                 "w.-label.text #ffffff|w.-button.*.image #ffffff|w.+label.text #ffffff|"
-                 "w.+button.*.image #ffffff|menu.title.text #ffffff|w.-border #ff0000|w.-client #ff0000|"
-                 "w.-title.separator #ff0000|w.-handle.bg #ff0000|w.-grip.bg #ff0000|w.+border #c0c0c0|"
-                 "w.+client #c0c0c0|w.+title.separator #c0c0c0|w.+handle.bg #c0c0c0|w.+grip.bg #c0c0c0|"
-                 "menu.border #c0c0c0|menu.items.+bg #00ff00|menu.items.text #000000|"
-                 "menu.items.+text #ffffff|w.-title.bg #000080|w.-title.bg =|w.-title.bgTo #000080|"
-                 "w.+title.bg #000080|w.+title.bg >|w.+title.bgTo #a6caf0|menu.title.bg #000080|"
-                 "menu.title.bg >|menu.title.bgTo #a6caf0|menu.items.bg #a4a3be|menu.items.bg >|"
-                 "menu.items.bgTo #fbfcfd|");
+        QCOMPARE(openboxTheme(values), m_home.read(bridgeTests + "themerc"_s));
     }
 
     void picturesAreImagesInRegularFiles()
     {
-        const TemporaryHome home;
-        home.write("a.png"_s, "no image");
-        const QString first = home.path("b.png"_s);
-        const QString second = home.path("d"_s); // the content counts
-        const QString drawing = home.write("z.svg"_s, "<svg/>");
+        m_home.write("a.png"_s, "no image");
+        const QString first = m_home.path("b.png"_s);
+        const QString second = m_home.path("d"_s); // the content counts
+        const QString drawing = m_home.write("z.svg"_s, "<svg/>");
         QVERIFY(QImage(2, 2, QImage::Format_RGB32).save(first, "PNG"));
         QVERIFY(QImage(2, 2, QImage::Format_RGB32).save(second, "JPG"));
-        home.makeFifo("c.png"_s);
-        home.write("e.bmp"_s,
-                   QByteArray::fromHex("424d3a0000000000000036000000280000000040000000c000000100180000000000")
-                       + QByteArray(24, '\0')); // three times as large as is shown
-        home.write("f.svg"_s, {});
-        home.write("g.xpm"_s, "/* XPM */\nstatic char *g[] = {\n\"1 1 1 1\",\n\"a c red\",\n\"a\"};\n");
+        m_home.makeFifo("c.png"_s);
+        m_home.write("e.bmp"_s, QByteArray::fromHex(
+                                    "424d3a0000000000000036000000280000000040000000c000000100180000000000")
+                                    + QByteArray(24, '\0')); // three times as large as is shown
+        m_home.write("f.svg"_s, {});
+        m_home.write("g.xpm"_s, "/* XPM */\nstatic char *g[] = {\n\"1 1 1 1\",\n\"a c red\",\n\"a\"};\n");
         QCOMPARE(nextPicture(first), second);
-        QCOMPARE(nextPicture(second), home.path("g.xpm"_s));
-        QCOMPARE(nextPicture(home.path("g.xpm"_s)), drawing);
+        QCOMPARE(nextPicture(second), m_home.path("g.xpm"_s));
+        QCOMPARE(nextPicture(m_home.path("g.xpm"_s)), drawing);
         QCOMPARE(nextPicture(drawing), first);
-        QCOMPARE(nextPicture(home.path("a.png"_s)), first);
-        QCOMPARE(nextPicture(home.write("x/a"_s, {})), home.path("x/a"_s));
+        QCOMPARE(nextPicture(m_home.path("a.png"_s)), first);
+        QCOMPARE(nextPicture(m_home.write("x/a"_s, {})), m_home.path("x/a"_s));
     }
 
     void commandLinesAreQuoted()
@@ -126,6 +96,9 @@ private slots:
         QCOMPARE(key + u'|' + value, "Key| a\nb "_s);
         QVERIFY(!readUpdateCommand("QAZWM_UPDATE_VAL Key\n", &key, &value));
     }
+
+private:
+    const TemporaryHome m_home;
 };
 
 QTEST_GUILESS_MAIN(TestBridgeTexts)
