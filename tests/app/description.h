@@ -1,40 +1,37 @@
 #pragma once
 
-#include "tests/support/testing.h"
+#include "tests/support/temporaryhome.h"
 
 /// All that a window shows, as lines of text: what its widgets and layouts hold that Qt's own would not. What depends on
 /// fonts, and what all widgets of a window share, is left out.
 class Description
 {
 public:
-    Description()
-    {
-        addPlain<QGridLayout, QFormLayout, QHBoxLayout, QVBoxLayout, QStackedLayout, QLabel, QSpinBox,
-                 QDoubleSpinBox, QCheckBox, QComboBox, QPushButton, QToolButton, QGroupBox, QTabWidget,
-                 QLineEdit, QListWidget, QTreeWidget, QScrollArea, QFrame, QWidget>();
-    }
     /// Tells the widgets of \a window in the order of the Tab key.
     void add(QWidget *window)
     {
         QWidget *widget = window;
         do {
             const QString name = widget->objectName();
-            const bool isPartOfAnother = name.isEmpty() && !qobject_cast<QPushButton *>(widget);
-            if (widget == window
-                || !(isPartOfAnother || name.startsWith("qt_"_s)
-                     || qobject_cast<QTabBar *>(widget->parent())))
+            const bool isPartOfAnother = (name.isEmpty() && !qobject_cast<QPushButton *>(widget))
+                                         || name.startsWith("qt_"_s)
+                                         || qobject_cast<QTabBar *>(widget->parent());
+            if (widget == window || !isPartOfAnother)
                 addWidget(widget);
             widget = widget->nextInFocusChain();
         } while (widget != window);
     }
-    QString text() const { return m_lines.join(u'\n').replace(QRegularExpression(" +\n"_s), "\n"_s) + u'\n'; }
+    /// Compares it with the file \a name below tests/. The whole text is written to the build directory, to see what
+    /// differs, and to take it over when it is meant.
+    void verify(const TemporaryHome &home, const QString &name) const
+    {
+        const QString text = m_lines.join(u'\n').replace(QRegularExpression(" +\n"_s), "\n"_s) + u'\n';
+        home.write(QAZ_BINARY_DIR "/"_s + QFileInfo(name).fileName(), text.toUtf8());
+        const QByteArray expected = home.read(QAZ_SOURCE_DIR "/tests/"_s + name);
+        QCOMPARE(text.split(u'\n'), QString::fromUtf8(expected).split(u'\n'));
+    }
 
 private:
-    template<typename... Classes>
-    void addPlain()
-    {
-        (m_plain.push_back(std::make_unique<Classes>()), ...);
-    }
     void addWidget(const QWidget *widget)
     {
         m_lines.append(described(widget));
@@ -80,8 +77,8 @@ private:
             m_lines.append(indent + "  "_s + where);
             QDebug out(&m_lines.last());
             out.noquote().nospace();
-            if (item->widget())
-                out << item->widget()->metaObject()->className() << ' ' << item->widget()->objectName();
+            if (const QWidget *widget = item->widget())
+                out << widget->metaObject()->className() << ' ' << widget->objectName();
             else
                 out << item->sizeHint() << item->expandingDirections();
         }
@@ -130,9 +127,16 @@ private:
     }
 
     QStringList m_lines;
-    const QStringList m_leftOut = {"geometry"_s,   "minimumSize"_s, "maximumSize"_s, "gridSize"_s,
-                                   "windowIcon"_s, "palette"_s,     "pixmap"_s,      "cursor"_s,
-                                   "font"_s,       "objectName"_s,  "html"_s,        "markdown"_s,
-                                   "plainText"_s};
-    std::vector<std::unique_ptr<QObject>> m_plain; // without anything set, the general classes last
+    const QStringList m_leftOut = "geometry minimumSize maximumSize gridSize windowIcon palette pixmap "
+                                  "cursor font objectName html markdown "
+                                  "plainText"_s.split(u' ');
+    // Without anything set, the general classes last.
+    const std::unique_ptr<QObject> m_plain[20] = {
+        std::make_unique<QGridLayout>(), std::make_unique<QFormLayout>(),    std::make_unique<QHBoxLayout>(),
+        std::make_unique<QVBoxLayout>(), std::make_unique<QStackedLayout>(), std::make_unique<QLabel>(),
+        std::make_unique<QSpinBox>(),    std::make_unique<QDoubleSpinBox>(), std::make_unique<QCheckBox>(),
+        std::make_unique<QComboBox>(),   std::make_unique<QPushButton>(),    std::make_unique<QToolButton>(),
+        std::make_unique<QGroupBox>(),   std::make_unique<QTabWidget>(),     std::make_unique<QLineEdit>(),
+        std::make_unique<QListWidget>(), std::make_unique<QTreeWidget>(),    std::make_unique<QScrollArea>(),
+        std::make_unique<QFrame>(),      std::make_unique<QWidget>()};
 };

@@ -50,69 +50,58 @@ private slots:
         registerResources();
     }
 
-    void settingsAreRemoved_data()
-    {
-        QTest::addColumn<QString>("depth");   // empty: cancelled
-        QTest::addColumn<QString>("answers"); // of the boxes that follow: Ok, Yes, No, Cancel
-        QTest::addColumn<QString>("left");    // of the settings, a letter each
-        QTest::addColumn<int>("backups");
-        const auto row = [](const QString &themeFile, const char *depth, const char *answers,
-                            const char *left, int backups) {
-            QTest::newRow(qPrintable(themeFile)) << QString::fromLatin1(depth) << QString::fromLatin1(answers)
-                                                 << QString::fromLatin1(left) << backups;
-        };
-        row(theme, "", "", "TDXQKO", 0);
-        row(theme, "Theme only", "Y", "-DX--O", 3);
-        row(theme, "All Qaz settings", "N", "-----O", 4);
-        row("missing <b>%1"_s, "Theme only", "ON", "TDX--O", 2);
-        row(".config/qaz/a"_s, "Theme only", "OY", "TDX--O", 2); // a directory
-        row(theme, "Theme only", "YC", "-DX--O", 3);             // closing cancelled
-    }
-
     void settingsAreRemoved()
     {
-        QFETCH(QString, depth);
-        QFETCH(QString, answers);
-        const QString themeFile = QLatin1String(QTest::currentDataTag());
-        const TemporaryHome home;
-        const QByteArray content = "[Desktop Entry]\nX-QAZ-WallPaper=a\n";
-        for (const QString &file : settings)
-            home.write(file, content);
-        WmListener listener;
-        ModalDriver driver;
-        ConfigDialog dialog(home.path(themeFile));
-        dialog.show();
-        if (answers.endsWith(u'C'))
-            dialog.findChild<QLineEdit *>("wallpaperLineEdit"_s)->setText("/edited"_s);
-        QString choice;
-        driver.then([&choice, depth](QDialog *shown) {
-            auto *input = qobject_cast<QInputDialog *>(shown);
-            choice = input->labelText() + input->comboBoxItems().join(u'|') + u'|' + input->textValue()
-                     + (input->isComboBoxEditable() ? u'!' : u'.');
-            input->setTextValue(depth);
-            input->done(depth.isEmpty() ? QDialog::Rejected : QDialog::Accepted);
-        });
-        const QString done = "Restore done|Selected settings are restored. You need to restart session. "
-                             "Do it now (recommended)?"_s;
-        const QMap<QChar, std::pair<QMessageBox::StandardButton, QString>> boxes = {
-            {u'O', {QMessageBox::Ok, "Error|Can't remove '"_s + home.path(themeFile) + u'\''}},
-            {u'Y', {QMessageBox::Yes, done}},
-            {u'N', {QMessageBox::No, done}},
-            {u'C', {QMessageBox::Cancel, "Save ?|Save changes?"_s}}};
-        QStringList seen = {"Restore|QInputDialog"_s};
-        for (const QChar answer : answers) {
-            driver.thenAnswer(boxes[answer].first);
-            seen += boxes[answer].second;
+        // The theme file, the depth (empty: cancelled), the answers to the boxes that follow (Ok, Yes, No, Cancel), what is
+        // left of the settings, and how many backups there are.
+        const std::tuple<QString, QString, QString, QString, int> rows[] = {
+            {theme, {}, {}, "TDXQKO"_s, 0},
+            {theme, "Theme only"_s, "Y"_s, "-DX--O"_s, 3},
+            {theme, "All Qaz settings"_s, "N"_s, "-----O"_s, 4},
+            {"missing <b>%1"_s, "Theme only"_s, "ON"_s, "TDX--O"_s, 2},
+            {".config/qaz/a"_s, "Theme only"_s, "OY"_s, "TDX--O"_s, 2}, // a directory
+            {theme, "Theme only"_s, "YC"_s, "-DX--O"_s, 3}};            // closing cancelled
+        for (const auto &[themeFile, depth, answers, left, backups] : rows) {
+            const TemporaryHome home;
+            const QByteArray content = "[Desktop Entry]\nX-QAZ-WallPaper=a\n";
+            for (const QString &file : settings)
+                home.write(file, content);
+            WmListener listener;
+            ModalDriver driver;
+            ConfigDialog dialog(home.path(themeFile));
+            dialog.show();
+            if (answers.endsWith(u'C'))
+                dialog.findChild<QLineEdit *>("wallpaperLineEdit"_s)->setText("/edited"_s);
+            QString choice;
+            driver.then([&choice, depth = depth](QDialog *shown) {
+                auto *input = qobject_cast<QInputDialog *>(shown);
+                choice = input->labelText() + input->comboBoxItems().join(u'|') + u'|' + input->textValue()
+                         + (input->isComboBoxEditable() ? u'!' : u'.');
+                input->setTextValue(depth);
+                input->done(depth.isEmpty() ? QDialog::Rejected : QDialog::Accepted);
+            });
+            const QString done = "Restore done|Selected settings are restored. You need to restart session. "
+                                 "Do it now (recommended)?"_s;
+            const QMap<QChar, std::pair<QMessageBox::StandardButton, QString>> boxes = {
+                {u'O', {QMessageBox::Ok, "Error|Can't remove '"_s + home.path(themeFile) + u'\''}},
+                {u'Y', {QMessageBox::Yes, done}},
+                {u'N', {QMessageBox::No, done}},
+                {u'C', {QMessageBox::Cancel, "Save ?|Save changes?"_s}}};
+            QStringList seen = {"Restore|QInputDialog"_s};
+            for (const QChar answer : answers) {
+                driver.thenAnswer(boxes[answer].first);
+                seen += boxes[answer].second;
+            }
+            dialog.restoreSlot();
+            QCOMPARE(driver.seen(), seen);
+            QCOMPARE(choice, "Are you sure?\nIf yes then select restore type and press Yes\n\nRestore type:"
+                             "Theme only|All Qaz settings|Theme only."_s);
+            QCOMPARE(dialog.isVisible(), depth.isEmpty() || answers.endsWith(u'C'));
+            QCOMPARE(unchanged(home, content), left);
+            QCOMPARE(home.read(desktop).count('\n'), depth.isEmpty() ? 2 : 1); // the key's line alone is gone
+            QCOMPARE(listener.take().join(u'|'), answers.contains(u'Y') ? "QAZWM_RESTART"_s : QString());
+            QCOMPARE(home.backups().size(), backups);
         }
-        dialog.restoreSlot();
-        QCOMPARE(driver.seen(), seen);
-        QCOMPARE(choice, "Are you sure?\nIf yes then select restore type and press Yes\n\nRestore type:"
-                         "Theme only|All Qaz settings|Theme only."_s);
-        QCOMPARE(dialog.isVisible(), depth.isEmpty() || answers.endsWith(u'C'));
-        QTEST(unchanged(home, content), "left");
-        QCOMPARE(home.read(desktop).count('\n'), depth.isEmpty() ? 2 : 1); // the key's line alone is gone
-        QCOMPARE(listener.take(), answers.contains(u'Y') ? QStringList{"QAZWM_RESTART"_s} : QStringList());
-        QTEST(home.backups().size(), "backups");
     }
 
     void whatCantBeBackedUpIsLostOnlyAtTheUsersWish()
@@ -122,10 +111,8 @@ private slots:
         for (const QString &file : settings)
             home.write(file, "precious");
         const auto question = [&home](const QString &file) {
-            return QStringLiteral(
-                       "Warning|Can't back up '%1': Can't create directory %2/.local/state/qaz/backup\n"
-                       "Remove it all the same?")
-                .arg(home.path(file), home.path());
+            return "Warning|Can't back up '%2/%1': Can't create directory %2/.local/state/qaz/backup\n"
+                   "Remove it all the same?"_s.arg(file, home.path());
         };
         const QStringList expected = {"Restore|QInputDialog"_s, question(".Xresources"_s),
                                       question(".config/qaz"_s), question(".config/Trolltech.conf"_s)};

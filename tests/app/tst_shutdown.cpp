@@ -8,64 +8,54 @@
 #include <csignal>
 #include <optional>
 
-#include <sys/stat.h>
-
-namespace {
-
-const QString ownSettings = ".config/qaz/qaz-admin-theme.conf"_s;
-
-} // namespace
-
 class TestShutdown : public QObject
 {
     Q_OBJECT
 
+    const QString ownSettings = ".config/qaz/qaz-admin-theme.conf"_s;
+
 private slots:
     void init() { m_home.emplace(); }
 
-    void aLostServerEndsItOrderly_data()
-    {
-        QTest::addColumn<QString>(
-            "title"); // of the window that the keys bring up; the rows' names are the keys
-        QTest::addColumn<bool>("closed");
-        for (const char *keys : {"", "Down", "End", "Down Down Down Tab Tab ctrl+a 5 Return"})
-            QTest::newRow(keys) << QString() << false;
-        const std::pair<const char *, const char *> dialogs[] = {
-            {"F1", "Help"},
-            {"s Tab Tab ctrl+a 5 Escape", "Save \\?"},
-            {"shift+Tab shift+Tab shift+Tab space", "^Restore$"},
-            {"Tab Tab space", "Select wallpaper"},
-            {"Tab Tab Tab space", "Select Color"},
-            {"f alt+j", "Select Font"},
-            {"f alt+n e Tab space", "Anti"}};
-        for (const auto &[keys, title] : dialogs) {
-            for (const bool closed : {false, true})
-                QTest::newRow(keys) << QString::fromLatin1(title) << closed;
-        }
-    }
-
     void aLostServerEndsItOrderly()
     {
-        QFETCH(QString, title);
-        QFETCH(bool, closed);
-        const QByteArray keys = QTest::currentDataTag();
-        PrivateServer server;
-        const QByteArray before = "ScreenSaverDelay=600\n";
-        EditorProcess editor({m_home->write("t"_s, before)});
-        QVERIFY2(editor.waitForWindow(), qPrintable(editor.errors()));
-        EditorProcess::press(keys.constData());
-        if (!title.isEmpty())
-            QVERIFY(editor.waitForWindow(title));
-        if (closed)
-            EditorProcess::press("Escape");
-        server.end();
-        const int status = editor.exitCode(); // 0 when an Apply and close was faster
-        QVERIFY2(status == 1 || (status == 0 && keys.endsWith("Return")), qPrintable(editor.errors()));
-        const QSettings stored(m_home->path(ownSettings), QSettings::IniFormat);
-        QVERIFY2(stored.value("width"_s).toInt() >= 800, m_home->read(ownSettings).constData());
-        QVERIFY(stored.value("height"_s).toInt() > 0);
-        const QByteArray after = m_home->read("t"_s);
-        QVERIFY2(after == before || after.startsWith("ScreenSaverDelay=300\n"), after.constData());
+        // Keys, and the title of the dialog that they bring up.
+        const std::pair<const char *, QString> rows[] = {
+            {"", {}},
+            {"Down", {}},
+            {"End", {}},
+            {"Down Down Down Tab Tab ctrl+a 5 Return", {}},
+            {"F1", "Help"_s},
+            {"s Tab Tab ctrl+a 5 Escape", "Save \\?"_s},
+            {"shift+Tab shift+Tab shift+Tab space", "^Restore$"_s},
+            {"Tab Tab space", "Select wallpaper"_s},
+            {"Tab Tab Tab space", "Select Color"_s},
+            {"f alt+j", "Select Font"_s},
+            {"f alt+n e Tab space", "Anti"_s}};
+        for (const auto &[keys, title] : rows) {
+            for (const bool closed : {false, true}) {
+                if (closed && title.isEmpty())
+                    continue;
+                init();
+                PrivateServer server;
+                const QByteArray before = "ScreenSaverDelay=600\n";
+                EditorProcess editor({m_home->write("t"_s, before)});
+                QVERIFY2(editor.waitForWindow(), qPrintable(editor.errors()));
+                EditorProcess::press(keys);
+                if (!title.isEmpty())
+                    QVERIFY2(editor.waitForWindow(title), keys);
+                if (closed)
+                    EditorProcess::press("Escape");
+                server.end();
+                const int status = editor.exitCode(); // 0 when an Apply and close was faster
+                QVERIFY2(status == 1 || (status == 0 && QByteArray(keys).endsWith("Return")), keys);
+                const QSettings stored(m_home->path(ownSettings), QSettings::IniFormat);
+                QVERIFY2(stored.value("width"_s).toInt() >= 800 && stored.value("height"_s).toInt() > 0,
+                         keys);
+                const QByteArray after = m_home->read("t"_s);
+                QVERIFY2(after == before || after.startsWith("ScreenSaverDelay=300\n"), after.constData());
+            }
+        }
     }
 
     void itEndsWhatItWaitsFor()
@@ -103,8 +93,8 @@ private slots:
 
     void aHangingPlayerIsEnded()
     {
-        const QByteArray device = QFile::encodeName(m_home->path("device"_s)); // nobody ever reads from it
-        QCOMPARE(::mkfifo(device.constData(), 0600), 0);
+        const QByteArray device = QFile::encodeName(
+            m_home->makeFifo("device"_s)); // nobody ever reads from it
         m_home->write(".asoundrc"_s,
                       "pcm.!default { type file slave.pcm null file \"" + device + "\" format raw }");
         PrivateServer server;
@@ -113,15 +103,11 @@ private slots:
         QVERIFY2(editor.waitForWindow(), qPrintable(editor.errors()));
         EditorProcess::press("End Tab Tab Tab Tab Tab Home Tab Tab Tab space");
         const QString children = "/proc/%1/task/%1/children"_s.arg(editor.process().processId());
-        const auto player = [&children] {
-            QFile list(children);
-            return list.open(QIODevice::ReadOnly) ? list.readAll().simplified() : QByteArray();
-        };
-        QTRY_VERIFY2(player().toInt() > 0, qPrintable(editor.errors()));
-        const pid_t pid = player().toInt();
+        pid_t player = 0;
+        QTRY_VERIFY2((player = m_home->read(children).simplified().toInt()) > 0, qPrintable(editor.errors()));
         server.end();
         QCOMPARE(editor.exitCode(), 1);
-        QTRY_VERIFY(::kill(pid, 0) != 0);
+        QTRY_VERIFY(::kill(player, 0) != 0);
     }
 
     void aTerminationStoresTheSize()
