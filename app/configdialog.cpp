@@ -22,12 +22,6 @@
 #include <QVBoxLayout>
 #include <QX11Info>
 
-namespace {
-
-constexpr int pageMargin = 9;
-
-} // namespace
-
 ConfigDialog::ConfigDialog(const QString &fileName, QWidget *parent, Qt::WindowFlags flags)
     : QDialog(parent, flags)
     , contentsWidget(new QListWidget(this))
@@ -46,7 +40,7 @@ ConfigDialog::ConfigDialog(const QString &fileName, QWidget *parent, Qt::WindowF
     restoreSize();
 
     const QString title = tr("Qaz Theme Editor");
-    setWindowIcon(contentsWidget->item(rowOf(&typeOf<ThemePage>))->icon());
+    setWindowIcon(contentsWidget->item(ThemeRow)->icon());
     setWindowIconText(title);
     QString name = QFileInfo(themeFile).fileName();
     name.replace(QLatin1String("[*]"),
@@ -61,18 +55,17 @@ ConfigDialog::~ConfigDialog()
 {
     storeSize();
     QWidgetList pages;
-    for (const PageType *type : saveOrder)
-        pages.append(pagesWidget->widget(rowOf(type)));
+    for (const PageRow row : saveOrder)
+        pages.append(pagesWidget->widget(row));
     qDeleteAll(pages);
 }
 
 void ConfigDialog::createPages()
 {
     pagesWidget->setObjectName(QStringLiteral("pagesWidget"));
-    const QMargins margins(pageMargin, pageMargin, pageMargin, pageMargin);
     for (const PageEntry &entry : pageEntries) {
-        QWidget *page = entry.type->create(pagesWidget);
-        page->layout()->setContentsMargins(margins);
+        QWidget *page = entry.create(pagesWidget);
+        page->layout()->setContentsMargins(9, 9, 9, 9);
         pagesWidget->addWidget(page);
     }
     connect(pagesWidget, &QStackedWidget::currentChanged, this, &ConfigDialog::scrollOnlyForPageInView);
@@ -93,8 +86,8 @@ void ConfigDialog::createPages()
 
 void ConfigDialog::connectPages()
 {
-    for (const PageEntry &entry : pageEntries)
-        entry.type->connectEdits(pagesWidget->widget(rowOf(entry.type)), this);
+    for (int row = 0; row < contentsWidget->count(); ++row)
+        pageEntries[row].connectEdits(pagesWidget->widget(row), this);
     connect(contentsWidget, &QListWidget::currentItemChanged, this, &ConfigDialog::changePage);
 }
 
@@ -113,7 +106,7 @@ void ConfigDialog::changePage(QListWidgetItem *current, QListWidgetItem *previou
         pagesWidget->setCurrentIndex(row);
     }
 
-    if (!pageEntries[row].type->isLoaded(pagesWidget->widget(row)))
+    if (!pageEntries[row].isLoaded(pagesWidget->widget(row)))
         loadPage(row);
 }
 
@@ -122,7 +115,7 @@ void ConfigDialog::loadPage(int row)
     m_watcher->runOwnChange([this, row] {
         QazSettings store(themeFile);
         store.sync(true);
-        pageEntries[row].type->load(pagesWidget->widget(row), &store);
+        pageEntries[row].load(pagesWidget->widget(row), &store);
     });
 }
 
@@ -141,10 +134,10 @@ void ConfigDialog::followThemeFile()
         return;
     QazSettings store(copy);
     store.sync(true);
-    for (const PageEntry &entry : pageEntries) {
-        QWidget *page = pagesWidget->widget(rowOf(entry.type));
-        if (entry.type->isLoaded(page))
-            entry.type->load(page, &store);
+    for (int row = 0; row < contentsWidget->count(); ++row) {
+        QWidget *page = pagesWidget->widget(row);
+        if (pageEntries[row].isLoaded(page))
+            pageEntries[row].load(page, &store);
     }
     setEdited(false); // the pages take what they are filled with for edits
 }
@@ -165,10 +158,10 @@ bool ConfigDialog::fileSave()
     m_watcher->runOwnChange([this] {
         QazSettings store(themeFile);
         store.sync(true);
-        for (const PageType *type : saveOrder) {
-            QWidget *page = pagesWidget->widget(rowOf(type));
-            if (type->isLoaded(page))
-                type->save(page, &store);
+        for (const PageRow row : saveOrder) {
+            QWidget *page = pagesWidget->widget(row);
+            if (pageEntries[row].isLoaded(page))
+                pageEntries[row].save(page, &store);
         }
     });
     return true;

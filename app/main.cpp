@@ -22,37 +22,22 @@ constexpr Qt::WindowFlags windowFlags = Qt::Window | Qt::CustomizeWindowHint | Q
                                         | Qt::WindowMaximizeButtonHint | Qt::WindowCloseButtonHint;
 
 /// Keeps Qt's X11 plugin from loading the GL stack, which this program never uses: half the start-up time. The
-/// environment is as before at the end of the scope: the programs that the pages start inherit it.
-class WithoutGl
-{
-public:
-    WithoutGl()
-    {
-        if (!m_wasSet)
-            qputenv(variable, "none");
-    }
-    ~WithoutGl()
-    {
-        // The plugin reads the variable when it is first asked for what GL can do.
-        QOpenGLContext::supportsThreadedOpenGL();
-        if (!m_wasSet)
-            qunsetenv(variable);
-    }
-    WithoutGl(const WithoutGl &) = delete;
-    WithoutGl &operator=(const WithoutGl &) = delete;
-
-private:
-    static constexpr char variable[] = "QT_XCB_GL_INTEGRATION";
-    const bool m_wasSet = qEnvironmentVariableIsSet(variable);
-};
-
+/// environment is as before at the end: the programs that the pages start inherit it.
 MyApplication *createApplication(int &argc, char **argv)
 {
     guardFontconfig();
-    const WithoutGl withoutGl;
+    constexpr char variable[] = "QT_XCB_GL_INTEGRATION";
+    const bool wasSet = qEnvironmentVariableIsSet(variable);
+    if (!wasSet)
+        qputenv(variable, "none");
     // Each display has an instance of its own.
     const QString id = QString::fromLocal8Bit(qgetenv("DISPLAY")) + QLatin1String("qaz-admin-theme");
-    return new MyApplication(id, argc, argv);
+    auto *application = new MyApplication(id, argc, argv);
+    // The plugin reads the variable when it is first asked for what GL can do.
+    QOpenGLContext::supportsThreadedOpenGL();
+    if (!wasSet)
+        qunsetenv(variable);
+    return application;
 }
 
 /// Everything after the check for a running instance; returns the exit status.

@@ -7,19 +7,13 @@
 
 #include <sys/stat.h>
 
-namespace {
-
-constexpr int settlingMs = 100; // a replaced file is several changes of its directory
-
-} // namespace
-
 ThemeFileWatcher::ThemeFileWatcher(const QString &path, QObject *parent)
     : QObject(parent)
     , m_path(path)
     , m_known(state())
 {
     m_timer.setSingleShot(true);
-    m_timer.setInterval(settlingMs);
+    m_timer.setInterval(100); // a replaced file is several changes of its directory
     connect(&m_timer, &QTimer::timeout, this, &ThemeFileWatcher::look);
     for (const auto signal : {&QFileSystemWatcher::fileChanged, &QFileSystemWatcher::directoryChanged})
         connect(&m_watcher, signal, &m_timer, qOverload<>(&QTimer::start));

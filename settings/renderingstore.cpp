@@ -1,6 +1,7 @@
 #include "settings/renderingstore.h"
 
 #include "settings/inifile.h"
+#include "settings/wmcommands.h"
 
 #include <QCoreApplication>
 
@@ -39,17 +40,13 @@ void storeRendering(const QMap<QString, QVariant> &values)
 
 QByteArray xftSettingsCommand(const QString &file)
 {
-    const QByteArray dpi = text(file, RenderingKey::forceFontDpi, "0").toLocal8Bit();
     const bool systemDecides = text(file, RenderingKey::dontChangeAaSettings, "true")
                                == QLatin1String("true");
-    const QByteArray antialias = systemDecides ? QByteArrayLiteral("unknown")
-                                               : text(file, RenderingKey::antialias, "false").toLocal8Bit();
-    const QByteArray subPixel = text(file, RenderingKey::subPixel, "rgb").toLocal8Bit();
-    const QByteArray hintStyle = text(file, RenderingKey::hintStyle, "full").toLocal8Bit();
-    char command[256];
-    qsnprintf(command, sizeof command, "QAZWM_UPDATE_VAL XftSettings %s %s %s %s\n", dpi.constData(),
-              antialias.constData(), subPixel.constData(), hintStyle.constData());
-    return command;
+    const QStringList values = {
+        text(file, RenderingKey::forceFontDpi, "0"),
+        systemDecides ? QStringLiteral("unknown") : text(file, RenderingKey::antialias, "false"),
+        text(file, RenderingKey::subPixel, "rgb"), text(file, RenderingKey::hintStyle, "full")};
+    return updateCommand(QStringLiteral("XftSettings"), values.join(QLatin1Char(' '))).left(255);
 }
 
 QString xftResourceLines(const QString &file)

@@ -6,12 +6,6 @@
 
 #include <array>
 
-namespace {
-
-constexpr int soundBufferSize = 4096;
-
-} // namespace
-
 SoundKind soundKind(const QString &value)
 {
     if (value.isEmpty())
@@ -23,7 +17,7 @@ SoundKind soundKind(const QString &value)
 
 QString themeSoundFile(QazSoundTheme *theme, const QString &name)
 {
-    std::array<char, soundBufferSize> buffer{};
+    std::array<char, 4096> buffer{};
     if (!theme || !theme->getSound(name.toLocal8Bit().constData(), "", "", buffer.data()))
         return {};
     return QFile::decodeName(buffer.data());

@@ -5,13 +5,6 @@
 
 #include <QFile>
 
-namespace {
-
-constexpr int pathBufferSize = 4096;
-constexpr char convertCommand[] = "qaz-svg2png -w %d -h %d -i \"%s\" -o \"%s\"";
-
-} // namespace
-
 QString wordFromFit(Fit fit)
 {
     return closedSet(themeKey("WallPaperPos")).value(int(fit));
@@ -29,8 +22,8 @@ bool isColorText(const QString &text)
 
 QString wallpaperNamed(const QString &name, const QSize &screenSize, bool mayConvert)
 {
-    char found[pathBufferSize] = "";
+    char found[4096] = "";
     FindWallPaperByName(name.toLocal8Bit().constData(), found, screenSize.width(), screenSize.height(),
-                        mayConvert ? convertCommand : "");
+                        mayConvert ? "qaz-svg2png -w %d -h %d -i \"%s\" -o \"%s\"" : "");
     return QFile::decodeName(found);
 }

@@ -36,8 +36,7 @@ private slots:
 
         for (int row = 6; --row > 0;) {
             for (int other = 0; other < 6; ++other)
-                QCOMPARE(pageEntries[other].type->isLoaded(m_stack->widget(other)),
-                         other == 0 || other > row);
+                QCOMPARE(pageEntries[other].isLoaded(m_stack->widget(other)), other == 0 || other > row);
             m_list->setCurrentRow(row);
             QCOMPARE(m_list->currentItem()->flags(), Qt::ItemIsSelectable | Qt::ItemIsEnabled);
             QCOMPARE(m_stack->currentIndex(), row);

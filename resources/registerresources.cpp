@@ -1,8 +1,0 @@
-#include "resources/registerresources.h"
-
-#include <QtGlobal>
-
-void registerResources()
-{
-    Q_INIT_RESOURCE(resources);
-}
