@@ -1,8 +1,6 @@
 #include "pages/effects/compositesettings.h"
 
-#include "base/atomicfile.h"
 #include "base/diagnostics.h"
-#include "base/editfile.h"
 #include "base/xdgdirectories.h"
 #include "pages/effects/comptonconfig.h"
 #include "platform/findfileinpath.h"
@@ -100,18 +98,6 @@ bool updateCompton(const QString &path, const CompositeState &state)
     return true;
 }
 
-void copySystemFile(const QString &from, const QString &to)
-{
-    const FileContent file = readRegularFile(from);
-    if (!QFileInfo(QFileInfo(to).path()).isDir())
-        return;
-    const auto fill = [&file](const QByteArray &content) {
-        return content.isEmpty() ? file.content : content;
-    };
-    QString error;
-    (void)editFile(to, fill, &error); // without a copy the manager's defaults are shown
-}
-
 QString managerName(const QazSettings *settings)
 {
     return storedText(settings, themeKey("CompositeManager"));
@@ -175,8 +161,8 @@ QString resolveComptonConfig(const ComptonPlaces &places)
             return path;
     }
     QString path = places.home + QLatin1String("/.config") + file;
-    if (QFileInfo::exists(places.systemFile))
-        copySystemFile(places.systemFile, path);
+    if (QFileInfo(places.systemFile).isFile())
+        QFile::copy(places.systemFile, path); // without a copy the manager's defaults are shown
     else if (!QFileInfo(path).isFile() && !QFile(path).open(QIODevice::NewOnly))
         printDiagnostic(QStringLiteral("Can't create %1").arg(path));
     return path;

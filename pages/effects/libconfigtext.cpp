@@ -13,7 +13,7 @@ constexpr int includeDepthLimit = 10; // libconfig's own
 
 // Patterns for bytes that are read as Latin-1: so a position in the text is one in the bytes.
 const QLatin1String comment(R"x(#[^\n]*+|//[^\n]*+|/\*(?s:.*?)(?:\*/|\z))x");
-const QLatin1String string(R"x("(?:[^"\\]++|\\(?s:.))*+")x");
+const QLatin1String string(R"x("(?:[^"\\]++|\\(?s:.))*+(?:"|\z))x");
 const QLatin1String signOrWord(R"x([=:;,{}()\[\]]|(?:(?!#|//|/\*)[^\s=:;,{}()\[\]"])++)x");
 const QLatin1String includeLine(R"x((?m:^)[ \t]*+\K@include[ \t]+"((?:[^"\\\n]|\\.)*+)")x");
 
@@ -37,7 +37,7 @@ QVector<Token> rootTokens(const QByteArray &text)
         const Token token{match.captured(1), match.capturedStart(1), match.capturedEnd(1)};
         if (token.text.isEmpty())
             continue; // a comment
-        if (depth > 0 || (token.isString() && tokens.last().isString()))
+        if (depth > 0 || (token.isString() && !tokens.isEmpty() && tokens.last().isString()))
             tokens.last().end = token.end;
         else
             tokens.append(token);
@@ -105,17 +105,14 @@ std::optional<QByteArray> withIncludes(const QByteArray &text, const QString &di
 QByteArray withRootBoolean(const QByteArray &text, const QByteArray &name, bool value)
 {
     const QByteArray valueText = value ? "true" : "false";
-    QByteArray result = text;
     QString setting;
     QString sign;
     for (const Token &token : rootTokens(text)) {
         if (setting == QLatin1String(name) && (sign == QLatin1Char('=') || sign == QLatin1Char(':')))
-            return result.replace(token.begin, token.end - token.begin, valueText);
+            return text.left(token.begin) + valueText + text.mid(token.end);
         setting = sign;
         sign = token.text;
     }
-    const QByteArray lineEnd = text.contains("\r\n") ? "\r\n" : "\n";
-    if (!result.isEmpty() && !result.endsWith('\n'))
-        result += lineEnd;
-    return result + name + " = " + valueText + ';' + lineEnd;
+    // In front: the text may end in an open comment.
+    return name + " = " + valueText + (text.contains("\r\n") ? ";\r\n" : ";\n") + text;
 }

@@ -4,6 +4,7 @@
 #include "pages/effects/effectpage.h"
 #include "tests/support/fakeprogram.h"
 #include "tests/support/pageoverfile.h"
+#include "tests/support/rows.h"
 #include "tests/support/standarderror.h"
 
 namespace {
@@ -45,7 +46,7 @@ struct CompositePage : PageOverFile<EffectPage> {
 
     void writeLines(const QByteArray &lines) const { home.write("t"_s, m_start + lines); }
     void loadLines(const QByteArray &lines) { load(m_start + lines); }
-    QByteArray lines() const { return content().mid(m_start.size()); }
+    QString lines() const { return QString::fromLatin1(content().mid(m_start.size())); }
     /// Whether the manager is on, transparency and shadow: "+-+".
     QString composite() const
     {
@@ -90,19 +91,12 @@ class TestCompositeSettings : public QObject
 private slots:
     void boxShowsWhetherTheManagerRuns()
     {
-        const std::tuple<bool, QByteArray, QByteArray> rows[] = {
-            {true, "UseComposite=True\n", "UseComposite=True\n"},
-            {true, "", ""},
-            {true, "UseComposite=TRUE\n", "UseComposite=true\n"},
-            {false, "UseComposite=true\n", "UseComposite=false\n"},
-            {false, "", "UseComposite=false\n"},
-            {false, "UseComposite=no\n", "UseComposite=no\n"}};
+        // What is shown, stored, and stored then.
         WmListener windowManager;
-        for (const auto &[runs, stored, after] : rows) {
-            const Manager manager(ownManager, runs);
-            const CompositePage file(ownManager, stored);
-            QCOMPARE(file.composite(), runs ? "+--"_s : "---"_s);
-            QCOMPARE(file.lines(), after);
+        for (const QStringList &row : rowsOf("pages/effects/running.json"_s)) {
+            const Manager manager(ownManager, row[1].startsWith(u'+'));
+            const CompositePage file(ownManager, row[2].toLatin1());
+            QCOMPARE(file.composite() + file.lines(), row[1] + row[3]);
         }
         QCOMPARE(windowManager.take(), QStringList());
     }
@@ -113,7 +107,7 @@ private slots:
         CompositePage file("no-%s-compton"_s, "UseComposite=true\n");
         QCOMPARE(messages.take(),
                  QByteArray("qaz-admin-wm: can't find CompositeManager='no-%s-compton' in PATH\n"));
-        QCOMPARE(file.lines(), QByteArray("UseComposite=false\n"));
+        QCOMPARE(file.lines(), "UseComposite=false\n"_s);
         file.setComposite("+-+"_s);
         file.loadLines("UseComposite=true\n");
         QCOMPARE(file.composite(), "--+"_s);
@@ -156,14 +150,6 @@ private slots:
 
     void runningManagerIsRestartedOnlyForAChangedFile()
     {
-        const QString restart = "UseComposite false|UseComposite true"_s;
-        const std::tuple<QByteArray, QString, QString, const char *> rows[] = {
-            {"true", "+-+"_s, restart, "true"},
-            {"true", "+--"_s, {}, "true"},
-            {"false", "++-"_s, "UseComposite true"_s, "true"},
-            {"true", "-++"_s, "UseComposite false"_s, "false"},
-            {"True", "+++"_s, {}, "True"},
-            {"", "+++"_s, "UseComposite true"_s, "true"}};
         const auto own = [](const QString &state) {
             return QByteArray("; mine\n[kompmgr]\nOther=\"a, b\"\n")
                    + (state.at(2) == u'+' ? "Compmode=CompClientShadows\n" : "")
@@ -173,20 +159,20 @@ private slots:
             return QByteArray("# mine\nshadow = ") + (state.at(2) == u'+' ? "true" : "false")
                    + ";\nenable-transparency = " + (state.at(1) == u'+' ? "true" : "false") + ";\n";
         };
-        for (const auto &[use, state, commands, usedThen] : rows) {
+        // What is stored and chosen, the commands, and what is stored then.
+        for (const QStringList &row : rowsOf("pages/effects/restarts.json"_s)) {
             for (const QString &name : {ownManager, compton}) {
                 const Manager manager(name, true);
-                const QByteArray line = use.isEmpty() ? QByteArray() : "UseComposite=" + use + '\n';
                 CompositePage file(name, {});
                 file.home.write(kompmgrFile, own("---"_s));
                 file.home.write(comptonFile, theirs("---"_s));
-                file.setComposite(state);
-                file.writeLines(line);
-                QCOMPARE(file.save(), commands);
-                QCOMPARE(file.lines(), QByteArray("UseComposite=") + usedThen + '\n');
-                QCOMPARE(file.home.backups().size(), state.endsWith("--"_s) ? 0 : 1);
-                QCOMPARE(file.home.read(kompmgrFile), own(name == ownManager ? state : "---"_s));
-                QCOMPARE(file.home.read(comptonFile), theirs(name == compton ? state : "---"_s));
+                file.setComposite(row[2]);
+                file.writeLines(row[1].toLatin1());
+                const QString commands = file.save();
+                QCOMPARE(commands + file.lines(), row[3] + row[4]);
+                QCOMPARE(file.home.backups().size(), row[2].endsWith("--"_s) ? 0 : 1);
+                QCOMPARE(file.home.read(kompmgrFile), own(name == ownManager ? row[2] : "---"_s));
+                QCOMPARE(file.home.read(comptonFile), theirs(name == compton ? row[2] : "---"_s));
             }
         }
     }
@@ -221,65 +207,35 @@ private slots:
 
     void comptonPlacesAreTriedInOrder()
     {
-        const QString &inConfig = comptonFile;
-        const QString dotted = ".compton.conf"_s;
-        // The configuration directory, the files, each of which holds its own name, the path and its content.
-        const std::tuple<QString, QStringList, QString, const char *> rows[] = {
-            {"xdg"_s, {"xdg/compton.conf"_s, inConfig, dotted}, "xdg/compton.conf"_s, "xdg/compton.conf"},
-            {".config"_s, {inConfig, dotted, "etc"_s}, inConfig, ".config/compton.conf"},
-            {"xdg"_s, {inConfig, dotted, "etc"_s}, dotted, ".compton.conf"},
-            {"xdg"_s, {".config/x"_s, "etc"_s}, inConfig, "etc"},
-            {"xdg"_s, {inConfig}, inConfig, ".config/compton.conf"}, // not emptied
-            {"xdg"_s, {".config/x"_s}, inConfig, ""},
-            {"xdg"_s, {inConfig + "/x"_s}, inConfig, nullptr}, // no file
-            {".config"_s, {"etc"_s}, inConfig, nullptr},
-            {".config"_s, {}, inConfig, nullptr}};
-        for (const auto &[configHome, files, resolved, content] : rows) {
+        // The configuration directory, the files, each of which holds its own name, the path, its content and what is
+        // told.
+        for (QStringList row : rowsOf("pages/effects/places.json"_s)) {
             const TemporaryHome home;
-            for (const QString &file : files)
+            for (const QString &file : row[2].split(u' '))
                 home.write(file, file.toLatin1());
             StandardError messages;
-            QCOMPARE(resolveComptonConfig({home.path(configHome), home.path(), home.path("etc"_s)}),
-                     home.path(resolved));
-            QCOMPARE(home.read(resolved), QByteArray(content));
-            QCOMPARE(messages.take(),
-                     content || files == QStringList{"etc"_s}
-                         ? QByteArray()
-                         : "qaz-admin-theme: Can't create " + QFile::encodeName(home.path(resolved)) + '\n');
+            QCOMPARE(resolveComptonConfig({home.path(row[1]), home.path(), home.path("etc"_s)}),
+                     home.path(row[3]));
+            QCOMPARE(home.exists(row[3]) ? home.read(row[3]) : "none", row[4].toLatin1());
+            QCOMPARE(QString::fromLocal8Bit(messages.take()), row[5].replace("HOME"_s, home.path()));
         }
     }
 
     void onlyTheTwoValuesChange()
     {
-        // Before, and with transparency on, shadows off.
-        const QByteArray others
-            = "shadow-radius = 7;no-shadow = true;w : { shadow = true; };l = ( { shadow = true; } );"
-              "s = \"\\\"shadow = true;\" \"shadow = 1\";\n";
-        const QByteArray numbers
-            = "a = 0x1F; b = 10L; c = 1.23456789012345678; d = 1e-300; e = .5; f = 99999999999;\r\n";
-        const std::pair<QByteArray, QByteArray> rows[] = {
-            {"", "enable-transparency = true;\nshadow = false;\n"},
-            {"# shadow = true;\nshadow = TRUE; // shadow = true;\n/* shadow\n= 1; */ "
-             "enable-transparency: false;\n",
-             "# shadow = true;\nshadow = false; // shadow = true;\n/* shadow\n= 1; */ "
-             "enable-transparency: true;\n"},
-            {"/**/#\nshadow\r\f\t=true s=\"\"enable-transparency=false x=1",
-             "/**/#\nshadow\r\f\t=false s=\"\"enable-transparency=true x=1"},
-            {others, others + "enable-transparency = true;\nshadow = false;\n"},
-            {numbers, numbers + "enable-transparency = true;\r\nshadow = false;\r\n"},
-            {"shadow = 0;\nenable-transparency = { a = [ 1, 2 ]; };\nz = \"\xfc\";",
-             "shadow = false;\nenable-transparency = true;\nz = \"\xfc\";"},
-            {"shadow = \"n\" \"o\";enable-transparency=\"true\"", "shadow = false;enable-transparency=true"},
-            {"shadow = 1; a = 1.5; /* x", "a = 1.5;\nenable-transparency = true;\nshadow = false;\n"}};
-        for (const auto &[before, after] : rows) {
+        // Before, why it is refused, and with transparency on, shadows off.
+        for (QStringList row : rowsOf("pages/effects/compton.json"_s)) {
+            row.replaceInStrings("DEEP"_s, QString(200000, u'('));
+            row.replaceInStrings("LONG"_s, QString(million - 5, u'x'));
+            const QByteArray before = row[1].toLatin1();
             const TemporaryHome home;
-            const QString path = home.path("link"_s);
+            const QString path = home.path(".config/link"_s);
             QVERIFY(QFile::link(home.write(comptonFile, before), path));
-            QCOMPARE(update(path, true, false), QString());
-            QCOMPARE(home.read(comptonFile), after);
-            QCOMPARE(stored(path), QByteArray("true false"));
+            QCOMPARE(update(path, true, false), row[2]);
+            QCOMPARE(home.read(comptonFile), row[3].isNull() ? before : row[3].toLatin1());
+            QCOMPARE(stored(path), QByteArray(row[3].isNull() ? "unreadable" : "true false"));
             const QString whole = home.fingerprint();
-            QCOMPARE(update(path, true, false), QString());
+            QCOMPARE(update(path, true, false), row[2]);
             QCOMPARE(home.fingerprint(), whole);
         }
     }
@@ -296,14 +252,14 @@ private slots:
         const QString path = home.write(comptonFile, before + after);
         QCOMPARE(stored(path), QByteArray("- true"));
         QCOMPARE(update(path, false, true), QString());
-        QCOMPARE(home.read(comptonFile), before + after + "enable-transparency = false;\n");
+        QCOMPARE(home.read(comptonFile), "enable-transparency = false;\n" + before + after);
 
         // A value of an included file is set in the file itself.
         home.write(".config/a.conf"_s, included);
         QCOMPARE(update(path, true, false), QString());
         QCOMPARE(home.read(comptonFile),
-                 QByteArray("# mine\nshadow = false; # theirs\nratio=1.23456789012;other = 0xFF;\n\n"
-                            "# @include \"missing\"\n  b = 2;\n\nenable-transparency = true;\n"));
+                 QByteArray("enable-transparency = true;\n# mine\nshadow = false; # theirs\n"
+                            "ratio=1.23456789012;other = 0xFF;\n\n# @include \"missing\"\n  b = 2;\n\n"));
         QCOMPARE(home.read(".config/a.conf"_s), included);
     }
 
@@ -320,29 +276,6 @@ private slots:
         QCOMPARE(stored(home.write("whole"_s, twice)), QByteArray("- -"));
         QCOMPARE(stored(home.write("more"_s, twice + "@include \"byte\"\n")), QByteArray("unreadable"));
         QCOMPARE(stored(home.write("large"_s, QByteArray(million, ' '))), QByteArray("- -"));
-    }
-
-    void whatIsNoConfigurationIsLeftAlone()
-    {
-        const QByteArray contents[] = {"a : {",
-                                       "a = \"b\\",
-                                       QByteArray("shadow = true;\0", 15),
-                                       "a = 1; a = 2;",
-                                       "a = " + QByteArray(200000, '('),
-                                       "a = \"" + QByteArray(million - 5, 'x') + '"',
-                                       "@include \"missing.conf\"\n",
-                                       "@include \".\"\n",
-                                       "@include \"/dev/zero\"\n",
-                                       "@include \"compton.conf\"\n@include \"compton.conf\"\n"};
-        for (const QByteArray &content : contents) {
-            const TemporaryHome home;
-            const QString path = home.write(comptonFile, content);
-            const QString before = home.fingerprint();
-            QVERIFY2(stored(path) == "unreadable", content.left(40).constData());
-            QCOMPARE(update(path, true, true),
-                     content.size() > million ? "File too large"_s : "No configuration"_s);
-            QCOMPARE(home.fingerprint(), before);
-        }
     }
 };
 
