@@ -30,7 +30,6 @@ double readAndWrite(int round)
     timer.start();
     KXftConfig config;
     QString error;
-    config.reset();
     config.setHintStyle(round % 2 ? HintStyle::Full : HintStyle::Slight);
     config.setSubPixelType(round % 2 ? SubPixelOrder::Rgb : SubPixelOrder::Bgr);
     if (!config.changed() || !config.apply(&error))

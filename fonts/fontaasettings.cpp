@@ -81,8 +81,7 @@ bool FontAASettings::load()
         QSignalBlocker(m_ui->excludeRangeCheckBox), QSignalBlocker(m_ui->excludeFromSpinBox),
         QSignalBlocker(m_ui->excludeToSpinBox), QSignalBlocker(m_ui->useSubPixelCheckBox)};
 
-    KXftConfig config;
-    config.reset();
+    const KXftConfig config;
     showRange(config.excludePixelRange());
 
     const SubPixelOrder order = config.subPixelType();
@@ -104,7 +103,6 @@ bool FontAASettings::load()
 bool FontAASettings::save(bool useAntiAliasing, QString *error)
 {
     KXftConfig config;
-    config.reset();
     const SubPixelOrder order = m_ui->useSubPixelCheckBox->isChecked() ? SubPixelOrder(
                                     m_ui->subPixelTypeCombo->currentIndex() + int(SubPixelOrder::Rgb))
                                                                        : SubPixelOrder::None;

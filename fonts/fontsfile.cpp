@@ -130,18 +130,13 @@ FileContent readFontsFile(const QString &path)
     return file;
 }
 
-bool canMakeFile(const QString &path)
-{
-    const QFileInfo directory(QFileInfo(path).path());
-    return directory.isDir() && directory.isWritable();
-}
-
 FontsFileLock::FontsFileLock(const QString &path)
     : m_target(QFile::encodeName(linkTarget(path)))
     , m_atomic(m_target.isEmpty() ? nullptr
                                   : FcAtomicCreate(reinterpret_cast<const FcChar8 *>(m_target.constData())))
 {
-    if (!m_atomic || !canMakeFile(QFile::decodeName(m_target))) {
+    const QFileInfo directory(QFileInfo(QFile::decodeName(m_target)).path());
+    if (!m_atomic || !directory.isDir() || !directory.isWritable()) {
         m_error = QStringLiteral("No file can be made in its directory");
         return;
     }

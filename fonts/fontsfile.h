@@ -36,9 +36,6 @@ QString chooseFontsFile(const QStringList &configFiles);
 /// Reads a fontconfig file. One that is too big for a configuration and a link to nothing are Unreadable.
 FileContent readFontsFile(const QString &path);
 
-/// Whether a file can be made at \a path: its directory exists and is writable.
-bool canMakeFile(const QString &path);
-
 /// fontconfig's own lock on one of its files, for which it waits up to two seconds; one that a program left behind when
 /// it was killed is removed. Symbolic links are followed.
 class FontsFileLock

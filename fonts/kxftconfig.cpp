@@ -41,9 +41,9 @@ bool truthOf(const FontsItem &item, bool fallback)
 
 KXftConfig::KXftConfig()
     : m_file(chooseFontsFile(fontconfigFiles()))
-    , m_refusal(QStringLiteral("It was not read"))
 {
     printDiagnostic(QStringLiteral("user fontconfig file to use: %1").arg(m_file));
+    reset();
 }
 
 void KXftConfig::reset()
@@ -69,8 +69,6 @@ void KXftConfig::read()
     FontsDocument &document = m_document.emplace();
     if (!document.setContent(file.content, &error))
         m_refusal = error;
-    else if (file.state == FileState::Missing && !canMakeFile(m_file))
-        m_refusal = QStringLiteral("It does not exist and can't be made");
     m_settings = {FontRendering::subPixelOrder(document.item(Kind::SubPixel).text),
                   document.item(Kind::ExcludePoints).range,
                   document.item(Kind::ExcludePixels).range,

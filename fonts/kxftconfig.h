@@ -8,7 +8,7 @@ class FontsFileLock;
 class KXftConfig
 {
 public:
-    /// Chooses the user's file. It is read by reset().
+    /// Chooses and reads the user's file.
     KXftConfig();
 
     /// Forgets every change and reads the file. A range of sizes to exclude is brought into agreement in both units,

@@ -8,6 +8,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QImageWriter>
+#include <QTextStream>
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -17,11 +18,6 @@ namespace {
 // The text chunk of the file that holds what it was made from.
 const QString originKey = QStringLiteral("Origin");
 
-QString sizeText(const QSize &size)
-{
-    return QStringLiteral("%1x%2").arg(size.width()).arg(size.height());
-}
-
 /// Empty for what is no image for sure: what does not exist, and the kernel's own files, which state no size.
 QString originOf(const QString &image, const PreviewLook &look)
 {
@@ -29,17 +25,13 @@ QString originOf(const QString &image, const PreviewLook &look)
     ::stat(QFile::encodeName(image).constData(), &status);
     if (status.st_size == 0)
         return {};
-    const QStringList parts = {QString::number(status.st_dev),
-                               QString::number(status.st_ino),
-                               QString::number(status.st_size),
-                               QString::number(status.st_mtim.tv_sec),
-                               QString::number(status.st_mtim.tv_nsec),
-                               wordFromFit(look.fit),
-                               look.fill.name(),
-                               sizeText(look.label),
-                               sizeText(look.screen),
-                               image};
-    return parts.join(QLatin1Char(' '));
+    QString origin;
+    QTextStream(&origin) << status.st_dev << ' ' << status.st_ino << ' ' << status.st_size << ' '
+                         << status.st_mtim.tv_sec << ' ' << status.st_mtim.tv_nsec << ' '
+                         << wordFromFit(look.fit) << ' ' << look.fill.name() << ' ' << look.label.width()
+                         << 'x' << look.label.height() << ' ' << look.screen.width() << 'x'
+                         << look.screen.height() << ' ' << image;
+    return origin;
 }
 
 bool isUsersAlone(const QString &path, mode_t type)

@@ -158,7 +158,7 @@ private slots:
             Config config;
             config.setSubPixelType(SubPixelOrder::Bgr);
             QVERIFY(!config.apply());
-            QVERIFY(standardError.take().contains("qaz-admin-theme: Can't use "));
+            QVERIFY(standardError.take().contains("qaz-admin-theme: Can't "));
             QCOMPARE(home.fingerprint(), before);
         };
         const TemporaryHome fileInTheWay;
