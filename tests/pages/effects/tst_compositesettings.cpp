@@ -223,7 +223,7 @@ private slots:
 
     void onlyTheTwoValuesChange()
     {
-        // Before, why it is refused, and with transparency on, shadows off.
+        // Before, why it is refused, with transparency on and shadows off, and what is read of it else.
         for (QStringList row : rowsOf("pages/effects/compton.json"_s)) {
             row.replaceInStrings("DEEP"_s, QString(200000, u'('));
             row.replaceInStrings("LONG"_s, QString(million - 5, u'x'));
@@ -233,7 +233,7 @@ private slots:
             QVERIFY(QFile::link(home.write(comptonFile, before), path));
             QCOMPARE(update(path, true, false), row[2]);
             QCOMPARE(home.read(comptonFile), row[3].isNull() ? before : row[3].toLatin1());
-            QCOMPARE(stored(path), QByteArray(row[3].isNull() ? "unreadable" : "true false"));
+            QCOMPARE(stored(path), row.value(4, "true false"_s).toLatin1());
             const QString whole = home.fingerprint();
             QCOMPARE(update(path, true, false), row[2]);
             QCOMPARE(home.fingerprint(), whole);
