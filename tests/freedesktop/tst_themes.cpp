@@ -96,8 +96,8 @@ private slots:
         // The file before, the name (empty: none), and the file after.
         const std::tuple<QByteArray, QByteArray, QByteArray> rows[] = {
             {"", "A", "[Icon Theme]\nInherits=A\n"},
-            {"# c\r\n[Icon Theme]\r\n Inherits = B, C\r\nX=1\r\n[Other]\r\nInherits=z\r\n", "A",
-             "# c\r\n[Icon Theme]\r\n Inherits = A\r\nX=1\r\n[Other]\r\nInherits=z\r\n"},
+            {"# c\r\n[Icon Theme]\r\n Inherits = B, C\r\nX=1\r\n[Other]\r\nInherits=z\r\nInherits=y\r\n", "A",
+             "# c\r\n[Icon Theme]\r\n Inherits = A\r\nX=1\r\n[Other]\r\nInherits=z\r\nInherits=y\r\n"},
             {"[Icon Theme]\nInherits=B\nName=D\nInherits=C\n", "A", "[Icon Theme]\nName=D\nInherits=A\n"},
             {"[Icon Theme]\nInherits=B\nName=D\nInherits=C\n", "", "[Icon Theme]\nName=D\n"}};
         for (const auto &[before, name, after] : rows) {
