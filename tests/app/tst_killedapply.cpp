@@ -13,17 +13,14 @@
 
 namespace {
 
+// Copies of a process can't share its connection to an X server.
+const ScopedEnvironment offscreen("QT_QPA_PLATFORM", "offscreen");
+
 struct File {
     QString path; // below the home
     QByteArray before;
     QByteArray after;
 };
-
-/// Remarks that make a file long enough to be caught half written.
-QByteArray remarks(const char *line)
-{
-    return QByteArray(line).repeated(10000);
-}
 
 } // namespace
 
@@ -33,7 +30,7 @@ class TestKilledApply : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase()
+    void everyFileIsOldOrNew()
     {
         for (const char *name : {"compton", "xrdb"})
             m_programs.add(QLatin1String(name));
@@ -47,30 +44,27 @@ private slots:
             list->setCurrentRow(row);
         for (File &file : m_files)
             file.before = m_home.read(file.path); // loading notes there that no compositing manager runs
-
         // On each page whose settings go to a file of its own.
-        set("minutesToStartSpinBox", "value", 5);
-        set("shadowCheckBox", "checked", true);
-        set("dpiSpinBox", "value", 120);
-        set("aaComboBox", "currentIndex", 0);
+        const std::tuple<const char *, const char *, QVariant> edits[] = {
+            {"minutesToStartSpinBox", "value", 5},
+            {"shadowCheckBox", "checked", true},
+            {"dpiSpinBox", "value", 120},
+            {"aaComboBox", "currentIndex", 0},
+            {"wallpaperForCurrDesktopCheckBox", "checked", true},
+            {"wallpaperLineEdit", "text", "#204060"_s}};
+        for (const auto &[name, property, value] : edits)
+            m_dialog->findChild<QWidget *>(QLatin1String(name))->setProperty(property, value);
         emit m_dialog->findChild<QComboBox *>("aaComboBox"_s)->activated(0);
-        set("wallpaperForCurrDesktopCheckBox", "checked", true);
-        set("wallpaperLineEdit", "text", "#204060"_s);
         m_dialog->changedSlot();
-    }
 
-    void everyFileIsOldOrNew()
-    {
         int status = -1;
-        int duration = 0;
+        QElapsedTimer timer;
         for (int i = 0; i < 2; ++i) { // the second time with everything in memory
-            QElapsedTimer timer;
             timer.start();
-            putBack();
             QVERIFY(::waitpid(applyInAnotherProcess(), &status, 0) > 0);
             QCOMPARE(status, 0);
-            duration = int(timer.elapsed()) + 1;
         }
+        const int duration = int(timer.elapsed()) + 1;
         for (File &file : m_files) {
             file.after = m_home.read(file.path);
             QVERIFY2(file.after != file.before, qPrintable(file.path)); // else it would prove nothing
@@ -80,7 +74,6 @@ private slots:
         constexpr int rounds = 150;
         int finished = 0;
         for (int round = 0; round < rounds; ++round) {
-            putBack();
             const pid_t process = applyInAnotherProcess();
             QVERIFY(process > 0);
             ::poll(nullptr, 0, random.bounded(duration * 5 / 4)); // some rounds reach the end
@@ -97,10 +90,6 @@ private slots:
     }
 
 private:
-    void set(const char *name, const char *property, const QVariant &value)
-    {
-        m_dialog->findChild<QWidget *>(QLatin1String(name))->setProperty(property, value);
-    }
     void putBack() const
     {
         for (const File &file : m_files)
@@ -109,6 +98,7 @@ private:
     /// A copy of this process presses Apply and ends.
     pid_t applyInAnotherProcess()
     {
+        putBack();
         const pid_t process = ::fork();
         if (process != 0)
             return process;
@@ -118,6 +108,8 @@ private:
         m_dialog->buttonBox()->button(QDialogButtonBox::Apply)->click();
         ::_exit(0);
     }
+    /// Remarks that make a file long enough to be caught half written.
+    static QByteArray remarks(const char *line) { return QByteArray(line).repeated(10000); }
 
     TemporaryHome m_home;
     FakePrograms m_programs;
@@ -136,13 +128,5 @@ private:
     // clang-format on
 };
 
-int main(int argc, char **argv)
-{
-    // Copies of a process can't share its connection to an X server.
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application(argc, argv);
-    TestKilledApply test;
-    return QTest::qExec(&test, argc, argv);
-}
-
+QTEST_MAIN(TestKilledApply)
 #include "tst_killedapply.moc"

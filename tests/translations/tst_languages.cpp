@@ -1,6 +1,5 @@
 #include "tests/support/programprocess.h"
 #include "tests/support/temporaryhome.h"
-#include "tests/support/testing.h"
 
 /// The program in each of its languages.
 class TestLanguages : public QObject
@@ -22,10 +21,6 @@ private slots:
             QCOMPARE(editor.exitCode(), 1);
             QCOMPARE(editor.process().readAllStandardOutput(), line);
         }
-    }
-
-    void theWindowSpeaksTheLanguage()
-    {
         const ScopedEnvironment preferred("LANGUAGE", "de");
         EditorProcess editor;
         QVERIFY2(editor.waitForWindow("Qaz-Designeditor - current.themerc"_s), qPrintable(editor.errors()));
