@@ -17,7 +17,6 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScrollArea>
-#include <QShortcut>
 #include <QTemporaryDir>
 #include <QVBoxLayout>
 #include <QX11Info>

@@ -21,9 +21,7 @@
 
 namespace {
 
-constexpr int narrowestLabel = 64;
 constexpr int iconExtent = 64;
-constexpr int defaultWidth = 800;
 constexpr int largestExtent = 32767; // an X window can't be larger
 // What Qt, too, takes for the frame of a window that is not shown yet.
 constexpr QSize frame(10, 40);
@@ -56,7 +54,7 @@ void ConfigDialog::fillContents()
     QFont font = contentsWidget->font();
     font.setWeight(QFont::Bold);
     contentsWidget->setFont(font);
-    int listItemWidth = narrowestLabel;
+    int listItemWidth = 64;
     const QFontMetrics metrics(font);
     for (const PageEntry &entry : pageEntries) {
         auto *item = new QListWidgetItem(iconNamed(QLatin1String(entry.iconName)), tr(entry.text),
@@ -128,7 +126,7 @@ void ConfigDialog::createShortcuts()
 void ConfigDialog::restoreSize()
 {
     // Seven rows of the list: its six entries and one to spare. All pages are seen whole.
-    const QSize usual(defaultWidth, gridRowHeight(QFontMetrics(contentsWidget->font())) * 7);
+    const QSize usual(800, gridRowHeight(QFontMetrics(contentsWidget->font())) * 7);
     m_pageArea->setMinimumSize(pagesWidget->minimumSizeHint());
     const QSize atFirst = usual.expandedTo(layout()->minimumSize());
     m_wantedSize = {storedExtent("width", atFirst.width()), storedExtent("height", atFirst.height())};

@@ -13,10 +13,6 @@
 
 namespace {
 
-constexpr char version[] = "2.2.5-12";
-constexpr char title[] = "Qaz theme editor";
-constexpr int messageTimeoutMs = 5000;
-
 constexpr Qt::WindowFlags windowFlags = Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint
                                         | Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint
                                         | Qt::WindowMaximizeButtonHint | Qt::WindowCloseButtonHint;
@@ -44,7 +40,7 @@ MyApplication *createApplication(int &argc, char **argv)
 int runEditor(int argc, char **argv)
 {
     registerResources();
-    qazInit(version, title);
+    qazInit("2.2.5-12", "Qaz theme editor");
     if (const QString first = MyApplication::arguments().value(1);
         first == QLatin1String("--help") || first == QLatin1String("-h")) {
         // Only a catalogue has the whole line: the call's comment is its source.
@@ -72,7 +68,7 @@ int main(int argc, char *argv[])
     myApp = createApplication(argc, argv);
     int result = 0;
     if (myApp->isRunning())
-        myApp->sendMessage(QStringLiteral("show"), messageTimeoutMs);
+        myApp->sendMessage(QStringLiteral("show"), 5000);
     else
         result = runEditor(argc, argv);
     delete std::exchange(myApp, nullptr);

@@ -7,11 +7,6 @@
 
 namespace {
 
-QString storedText(const QazSettings *store, const QString &key, const QString &defaultText)
-{
-    return store->value(key, defaultText).toString();
-}
-
 bool storeAndAnnounce(QazSettings *store, const QString &key, const QString &text)
 {
     store->setValue(key, text);
@@ -23,23 +18,23 @@ bool storeAndAnnounce(QazSettings *store, const QString &key, const QString &tex
 
 QString storedText(const QazSettings *store, const ThemeKey &key)
 {
-    return storedText(store, QLatin1String(key.name), QLatin1String(key.defaultText));
+    return store->value(QLatin1String(key.name), QLatin1String(key.defaultText)).toString();
 }
 
 bool updateBoolValue(QazSettings *store, const QString &key, const QString &defaultText, bool value)
 {
-    return countsAsTrue(storedText(store, key, defaultText)) != value
+    return countsAsTrue(store->value(key, defaultText).toString()) != value
            && storeAndAnnounce(store, key, boolText(value));
 }
 
 bool updateIntValue(QazSettings *store, const QString &key, const QString &defaultText, int value)
 {
-    return storedText(store, key, defaultText).toInt() != value
+    return store->value(key, defaultText).toString().toInt() != value
            && storeAndAnnounce(store, key, QString::number(value));
 }
 
 bool updateStringValue(QazSettings *store, const QString &key, const QString &defaultText,
                        const QString &value)
 {
-    return storedText(store, key, defaultText) != value && storeAndAnnounce(store, key, value);
+    return store->value(key, defaultText).toString() != value && storeAndAnnounce(store, key, value);
 }

@@ -21,21 +21,31 @@ QString unchanged(const TemporaryHome &home, const QByteArray &content)
     return letters;
 }
 
-/// Restores "All Qaz settings" without the window manager's restart; returns the dialogs that came up.
-/// The questions before that are answered with \a answers.
-QStringList restoreAll(const TemporaryHome &home, const QList<QMessageBox::StandardButton> &answers = {})
+/// Restores to \a depth (empty: cancels), and answers the boxes that follow by Ok, Yes, No and Cancel as the letters of
+/// \a answers say. Returns the texts of the first dialog, then all that came up.
+QStringList restored(ConfigDialog *dialog, const QString &depth, const QString &answers)
 {
     ModalDriver driver;
-    driver.then([](QDialog *shown) {
-        qobject_cast<QInputDialog *>(shown)->setTextValue("All Qaz settings"_s);
-        shown->accept();
+    QStringList choice;
+    driver.then([&](QDialog *shown) {
+        auto *input = qobject_cast<QInputDialog *>(shown);
+        choice << input->labelText() << input->comboBoxItems() << input->textValue();
+        input->setTextValue(depth);
+        input->done(depth.isEmpty() || input->isComboBoxEditable() ? QDialog::Rejected : QDialog::Accepted);
     });
-    for (const QMessageBox::StandardButton answer : answers)
-        driver.thenAnswer(answer);
-    driver.thenAnswer(QMessageBox::No);
+    constexpr QMessageBox::StandardButton buttons[] = {QMessageBox::Ok, QMessageBox::Yes, QMessageBox::No,
+                                                       QMessageBox::Cancel};
+    for (const QChar answer : answers)
+        driver.thenAnswer(buttons["OYNC"_s.indexOf(answer)]);
+    dialog->restoreSlot();
+    return choice + driver.seen();
+}
+
+/// Restores all settings below \a home; returns the boxes that came up, without the last one.
+QStringList restoredAll(const TemporaryHome &home, const QString &answers = {})
+{
     ConfigDialog dialog(home.path(theme));
-    dialog.restoreSlot();
-    return driver.seen();
+    return restored(&dialog, "All Qaz settings"_s, answers + u'N').mid(5, answers.size());
 }
 
 } // namespace
@@ -67,35 +77,20 @@ private slots:
             for (const QString &file : settings)
                 home.write(file, content);
             WmListener listener;
-            ModalDriver driver;
             ConfigDialog dialog(home.path(themeFile));
             dialog.show();
             if (answers.endsWith(u'C'))
                 dialog.findChild<QLineEdit *>("wallpaperLineEdit"_s)->setText("/edited"_s);
-            QString choice;
-            driver.then([&choice, depth = depth](QDialog *shown) {
-                auto *input = qobject_cast<QInputDialog *>(shown);
-                choice = input->labelText() + input->comboBoxItems().join(u'|') + u'|' + input->textValue()
-                         + (input->isComboBoxEditable() ? u'!' : u'.');
-                input->setTextValue(depth);
-                input->done(depth.isEmpty() ? QDialog::Rejected : QDialog::Accepted);
-            });
             const QString done = "Restore done|Selected settings are restored. You need to restart session. "
                                  "Do it now (recommended)?"_s;
-            const QMap<QChar, std::pair<QMessageBox::StandardButton, QString>> boxes = {
-                {u'O', {QMessageBox::Ok, "Error|Can't remove '"_s + home.path(themeFile) + u'\''}},
-                {u'Y', {QMessageBox::Yes, done}},
-                {u'N', {QMessageBox::No, done}},
-                {u'C', {QMessageBox::Cancel, "Save ?|Save changes?"_s}}};
-            QStringList seen = {"Restore|QInputDialog"_s};
-            for (const QChar answer : answers) {
-                driver.thenAnswer(boxes[answer].first);
-                seen += boxes[answer].second;
-            }
-            dialog.restoreSlot();
-            QCOMPARE(driver.seen(), seen);
-            QCOMPARE(choice, "Are you sure?\nIf yes then select restore type and press Yes\n\nRestore type:"
-                             "Theme only|All Qaz settings|Theme only."_s);
+            const QString boxes[] = {"Error|Can't remove '"_s + home.path(themeFile) + u'\'', done, done,
+                                     "Save ?|Save changes?"_s};
+            QStringList seen
+                = "Are you sure?\nIf yes then select restore type and press Yes\n\nRestore type:!"
+                  "Theme only!All Qaz settings!Theme only!Restore|QInputDialog"_s.split(u'!');
+            for (const QChar answer : answers)
+                seen += boxes["OYNC"_s.indexOf(answer)];
+            QCOMPARE(restored(&dialog, depth, answers), seen);
             QCOMPARE(dialog.isVisible(), depth.isEmpty() || answers.endsWith(u'C'));
             QCOMPARE(unchanged(home, content), left);
             QCOMPARE(home.read(desktop).count('\n'), depth.isEmpty() ? 2 : 1); // the key's line alone is gone
@@ -114,11 +109,11 @@ private slots:
             return "Warning|Can't back up '%2/%1': Can't create directory %2/.local/state/qaz/backup\n"
                    "Remove it all the same?"_s.arg(file, home.path());
         };
-        const QStringList expected = {"Restore|QInputDialog"_s, question(".Xresources"_s),
-                                      question(".config/qaz"_s), question(".config/Trolltech.conf"_s)};
-        QCOMPARE(restoreAll(home, {QMessageBox::No, QMessageBox::No, QMessageBox::Yes}).mid(0, 4), expected);
+        const QStringList expected = {question(".Xresources"_s), question(".config/qaz"_s),
+                                      question(".config/Trolltech.conf"_s)};
+        QCOMPARE(restoredAll(home, "NNY"_s), expected);
         QCOMPARE(unchanged(home, "precious"), "TDX-KO"_s);
-        QCOMPARE(restoreAll(home, {QMessageBox::Yes, QMessageBox::Yes}).mid(0, 3), expected.mid(0, 3));
+        QCOMPARE(restoredAll(home, "YY"_s), expected.mid(0, 2));
         QCOMPARE(unchanged(home, "precious"), "----KO"_s);
     }
 
@@ -141,7 +136,7 @@ private slots:
             home.write("kept/file"_s, "precious");
             home.makeDirectory(QFileInfo(link).path());
             QVERIFY(QFile::link(home.path("kept"_s), home.path(link)));
-            QCOMPARE(restoreAll(home).size(), 2);
+            restoredAll(home);
             QVERIFY(!home.exists(".config/qaz"_s));
             QCOMPARE(home.read("kept/file"_s), QByteArray("precious"));
         }
@@ -151,7 +146,7 @@ private slots:
         const ScopedEnvironment config("XDG_CONFIG_HOME", QFile::encodeName(around.path("link"_s)));
         around.write("config/qaz/file"_s, "precious");
         QVERIFY(QFile::link("config"_s, around.path("link"_s)));
-        QCOMPARE(restoreAll(around, {QMessageBox::Ok}).mid(1, 1),
+        QCOMPARE(restoredAll(around, "O"_s),
                  QStringList{"Error|Can't remove '%1/link/qaz'"_s.arg(around.path())});
         QCOMPARE(around.read("config/qaz/file"_s), QByteArray("precious"));
     }
