@@ -10,40 +10,6 @@
 
 #include <tuple>
 
-namespace {
-
-SoundCandidate::Rank rankOf(const QString &ending)
-{
-    static const QStringList endings{QStringLiteral("disabled"), QStringLiteral("wav"), QStringLiteral("au"),
-                                     QStringLiteral("oga"),
-                                     QStringLiteral("ogg")}; // in the order of the ranks
-    const int rank = endings.indexOf(ending);
-    return rank < 0 ? SoundCandidate::Other : SoundCandidate::Rank(rank);
-}
-
-QHash<QString, SoundCandidate> listSounds(const QString &directory)
-{
-    QHash<QString, SoundCandidate> sounds;
-    // System files, too: a pipe may be played like any other sound.
-    QDirIterator files(directory, QDir::Files | QDir::System | QDir::Hidden);
-    while (files.hasNext()) {
-        files.next();
-        const QString fileName = files.fileName();
-        const int dot = fileName.lastIndexOf(QLatin1Char('.'));
-        if (dot <= 0)
-            continue;
-        const SoundCandidate candidate{rankOf(fileName.mid(dot + 1)),
-                                       directory + QLatin1Char('/') + fileName};
-        const auto known = sounds.constFind(fileName.left(dot));
-        if (known == sounds.constEnd()
-            || std::tie(candidate.rank, candidate.path) < std::tie(known->rank, known->path))
-            sounds.insert(fileName.left(dot), candidate);
-    }
-    return sounds;
-}
-
-} // namespace
-
 QStringList soundBaseDirectories()
 {
     QStringList directories = xdgDataDirectories();
@@ -73,11 +39,26 @@ QStringList localeVariants()
     return variants << QString();
 }
 
-std::optional<SoundCandidate> SoundDirectories::find(const QString &directory, const QString &name)
+QHash<QString, SoundCandidate> soundsIn(const QString &directory)
 {
-    auto sounds = m_sounds.constFind(directory);
-    if (sounds == m_sounds.constEnd())
-        sounds = m_sounds.insert(directory, listSounds(directory));
-    const auto sound = sounds->constFind(name);
-    return sound == sounds->constEnd() ? std::nullopt : std::make_optional(*sound);
+    const QStringList endings{QStringLiteral("disabled"), QStringLiteral("wav"), QStringLiteral("au"),
+                              QStringLiteral("oga"), QStringLiteral("ogg")}; // in the order of the ranks
+    QHash<QString, SoundCandidate> sounds;
+    // System files, too: a pipe may be played like any other sound.
+    QDirIterator files(directory, QDir::Files | QDir::System | QDir::Hidden);
+    while (files.hasNext()) {
+        files.next();
+        const QString fileName = files.fileName();
+        const int dot = fileName.lastIndexOf(QLatin1Char('.'));
+        if (dot <= 0)
+            continue;
+        const int rank = endings.indexOf(fileName.mid(dot + 1));
+        const SoundCandidate candidate{rank < 0 ? SoundCandidate::Other : SoundCandidate::Rank(rank),
+                                       directory + QLatin1Char('/') + fileName};
+        const auto known = sounds.constFind(fileName.left(dot));
+        if (known == sounds.constEnd()
+            || std::tie(candidate.rank, candidate.path) < std::tie(known->rank, known->path))
+            sounds.insert(fileName.left(dot), candidate);
+    }
+    return sounds;
 }

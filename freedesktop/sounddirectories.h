@@ -4,8 +4,6 @@
 #include <QString>
 #include <QStringList>
 
-#include <optional>
-
 /// The directories that hold sound themes, the user's first and the desktop's own last; absolute, each once.
 QStringList soundBaseDirectories();
 
@@ -23,13 +21,5 @@ struct SoundCandidate {
     QString path;
 };
 
-/// Directories of sound files, each listed once in the life of the object.
-class SoundDirectories
-{
-public:
-    /// The best file for the sound \a name in \a directory; nothing without one or without the directory.
-    std::optional<SoundCandidate> find(const QString &directory, const QString &name);
-
-private:
-    QHash<QString, QHash<QString, SoundCandidate>> m_sounds; ///< by directory and name
-};
+/// The best file of each sound in \a directory, by the sounds' names.
+QHash<QString, SoundCandidate> soundsIn(const QString &directory);

@@ -85,77 +85,83 @@ std::optional<ThemeIndex> loadIndex(const QString &name, const QStringList &base
     return index;
 }
 
-/// The sound for stereo, else for no profile, each in the first of \a locales that \a theme has it for.
-std::optional<SoundCandidate> findInTheme(const ThemeIndex &theme, const QString &name,
-                                          const QStringList &locales, SoundDirectories *files)
-{
-    std::optional<SoundCandidate> best;
-    const auto findBetter = [&](const QString &path) {
-        const std::optional<SoundCandidate> candidate = files->find(QDir::cleanPath(path), name);
-        if (candidate && (!best || candidate->rank < best->rank))
-            best = candidate;
-    };
-    for (const QString &profile : {QStringLiteral("stereo"), QString()}) {
-        const QStringList directories = theme.directoriesOfProfile.value(profile);
-        for (const QString &locale : locales) {
-            for (const QString &placement : theme.placements) {
-                for (const QString &directory : directories)
-                    findBetter(placement + QLatin1Char('/') + directory + QLatin1Char('/') + locale);
-                if (best)
-                    return best;
-            }
-        }
-    }
-    return std::nullopt;
-}
-
 } // namespace
 
 struct QazSoundTheme::Lookup {
     QStringList baseDirectories = soundBaseDirectories();
     QVector<ThemeIndex> chain; // the theme itself, then those it inherits from; empty unless loaded
-    SoundDirectories files;
+    QHash<QString, QHash<QString, SoundCandidate>>
+        sounds; // by directory and name, each directory listed once
 
-    void loadChain(const QString &themeName);
-    QString findSound(const QString &name);
+    void loadChain(const QString &themeName)
+    {
+        QSet<QString> seen;
+        // The standard's order: each parent is followed by its own parents; the common theme stands behind all.
+        QStringList waiting{themeName, QStringLiteral("freedesktop")};
+        while (!waiting.isEmpty()) {
+            const QString name = waiting.takeFirst();
+            if (seen.contains(name))
+                continue;
+            seen.insert(name);
+            const std::optional<ThemeIndex> index = loadIndex(name, baseDirectories);
+            if (!index && chain.isEmpty())
+                return;
+            if (!index)
+                continue;
+            chain.append(*index);
+            waiting = index->parents + waiting;
+        }
+    }
+
+    std::optional<SoundCandidate> findInDirectory(const QString &directory, const QString &name)
+    {
+        if (!sounds.contains(directory))
+            sounds.insert(directory, soundsIn(directory));
+        const auto sound = sounds[directory].constFind(name);
+        return sound == sounds[directory].constEnd() ? std::nullopt : std::make_optional(*sound);
+    }
+
+    /// The sound for stereo, else for no profile, each in the first of \a locales that \a theme has it for.
+    std::optional<SoundCandidate> findInTheme(const ThemeIndex &theme, const QString &name,
+                                              const QStringList &locales)
+    {
+        std::optional<SoundCandidate> best;
+        const auto findBetter = [&](const QString &path) {
+            const std::optional<SoundCandidate> candidate = findInDirectory(QDir::cleanPath(path), name);
+            if (candidate && (!best || candidate->rank < best->rank))
+                best = candidate;
+        };
+        for (const QString &profile : {QStringLiteral("stereo"), QString()}) {
+            const QStringList directories = theme.directoriesOfProfile.value(profile);
+            for (const QString &locale : locales) {
+                for (const QString &placement : theme.placements) {
+                    for (const QString &directory : directories)
+                        findBetter(placement + QLatin1Char('/') + directory + QLatin1Char('/') + locale);
+                    if (best)
+                        return best;
+                }
+            }
+        }
+        return std::nullopt;
+    }
+
+    QString findSound(const QString &name)
+    {
+        const QStringList locales = localeVariants();
+        std::optional<SoundCandidate> found;
+        for (const ThemeIndex &theme : qAsConst(chain)) {
+            // Dashes separate levels of detail; a theme's own general sound fits better than another theme's special one.
+            for (QString level = name; !found && !level.isEmpty();
+                 level.truncate(level.lastIndexOf(QLatin1Char('-'))))
+                found = findInTheme(theme, level, locales);
+        }
+        for (const QString &base : qAsConst(baseDirectories)) {
+            if (!found)
+                found = findInDirectory(base, name); // a sound of no theme
+        }
+        return found && found->rank != SoundCandidate::Disabled ? found->path : QString();
+    }
 };
-
-void QazSoundTheme::Lookup::loadChain(const QString &themeName)
-{
-    QSet<QString> seen;
-    // The standard's order: each parent is followed by its own parents; the common theme stands behind all.
-    QStringList waiting{themeName, QStringLiteral("freedesktop")};
-    while (!waiting.isEmpty()) {
-        const QString name = waiting.takeFirst();
-        if (seen.contains(name))
-            continue;
-        seen.insert(name);
-        const std::optional<ThemeIndex> index = loadIndex(name, baseDirectories);
-        if (!index && chain.isEmpty())
-            return;
-        if (!index)
-            continue;
-        chain.append(*index);
-        waiting = index->parents + waiting;
-    }
-}
-
-QString QazSoundTheme::Lookup::findSound(const QString &name)
-{
-    const QStringList locales = localeVariants();
-    std::optional<SoundCandidate> found;
-    for (const ThemeIndex &theme : qAsConst(chain)) {
-        // Dashes separate levels of detail; a theme's own general sound fits better than another theme's special one.
-        for (QString level = name; !found && !level.isEmpty();
-             level.truncate(level.lastIndexOf(QLatin1Char('-'))))
-            found = findInTheme(theme, level, locales, &files);
-    }
-    for (const QString &base : qAsConst(baseDirectories)) {
-        if (!found)
-            found = files.find(base, name); // a sound of no theme
-    }
-    return found && found->rank != SoundCandidate::Disabled ? found->path : QString();
-}
 
 QazSoundTheme::QazSoundTheme(const char *themeName, const char * /*firstDirectory*/)
     : m_themeName(themeName)

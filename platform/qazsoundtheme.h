@@ -15,8 +15,6 @@ public:
     /// desktop's interface and has no effect here.
     explicit QazSoundTheme(const char *themeName, const char *firstDirectory = nullptr);
     ~QazSoundTheme();
-    QazSoundTheme(const QazSoundTheme &) = delete;
-    QazSoundTheme &operator=(const QazSoundTheme &) = delete;
 
     /// Appends the names of all installed themes that do not ask to be hidden, sorted and each once. False when
     /// there is none.
