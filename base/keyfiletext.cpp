@@ -2,13 +2,9 @@
 
 #include <algorithm>
 
-namespace {
-
 constexpr std::string_view signature("\xEF\xBB\xBF"); // of UTF-8
 constexpr std::string_view blanks(" \t");
 constexpr std::string_view lineEnds("\r\n");
-
-} // namespace
 
 KeyFileText::KeyFileText(const QByteArray &content, const KeyFileFormat &format)
     : m_content(content)

@@ -8,16 +8,6 @@
 
 #include <X11/Xcursor/Xcursor.h>
 
-namespace {
-
-void appendOnce(QByteArrayList &list, const QByteArray &path)
-{
-    if (!list.contains(path))
-        list.append(path);
-}
-
-} // namespace
-
 QByteArrayList cursorClientPath()
 {
     const QByteArray path = qEnvironmentVariableIsSet("XCURSOR_PATH") ? qgetenv("XCURSOR_PATH")
@@ -28,8 +18,8 @@ QByteArrayList cursorClientPath()
             directory = QFile::encodeName(homeDirectory()) + directory.mid(1);
         while (directory.size() > 1 && directory.endsWith('/'))
             directory.chop(1);
-        if (!directory.isEmpty())
-            appendOnce(result, directory);
+        if (!directory.isEmpty() && !result.contains(directory))
+            result.append(directory);
     }
     return result;
 }
@@ -37,8 +27,10 @@ QByteArrayList cursorClientPath()
 QByteArrayList cursorSearchPath()
 {
     QByteArrayList result = cursorClientPath();
-    appendOnce(result, QFile::encodeName(xdgDirectory("XDG_DATA_HOME", "/.local/share")) + "/icons");
-    appendOnce(result, QFile::encodeName(dataRoot()) + "/icons");
+    for (const QString &data : {xdgDirectory("XDG_DATA_HOME", "/.local/share"), dataRoot()}) {
+        if (const QByteArray icons = QFile::encodeName(data) + "/icons"; !result.contains(icons))
+            result.append(icons);
+    }
     return result;
 }
 

@@ -5,11 +5,7 @@
 
 #include <X11/Xlib.h>
 
-namespace {
-
 constexpr int mostUnfinished = 64;
-
-} // namespace
 
 CommandReceiver::CommandReceiver(Display *display)
 {

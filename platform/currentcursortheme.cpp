@@ -95,20 +95,11 @@ bool makeReachable(const QByteArray &name, QString *made)
     return true;
 }
 
-/// \a text as the value of an X resource: blanks in front and line breaks would be lost.
-QByteArray resourceValue(const QByteArray &text)
+/// \a value as that of an X resource: blanks in front and line breaks would be lost.
+QByteArray resourceValue(QByteArray value)
 {
-    QByteArray value = text;
     value.replace('\\', "\\\\").replace('\n', "\\n");
     return value.startsWith(' ') || value.startsWith('\t') ? '\\' + value : value;
-}
-
-bool mergeIntoServer(const QByteArray &line)
-{
-    if (runXrdb({QStringLiteral("-quiet"), QStringLiteral("-merge"), QStringLiteral("-nocpp")}, line))
-        return true;
-    printDiagnostic(QStringLiteral("Can't merge the cursor theme into the X server"));
-    return false;
 }
 
 /// Gives the file at \a path its content of \a before again, unless it is no longer what we wrote there.
@@ -171,7 +162,12 @@ bool QazIconTheme::setCurrentCursorThemeName(const char *name)
     if (setXrdbParameterInFile(QFile::encodeName(path).constData(), resource, " ", value.constData(),
                                false)) {
         const QByteArray written = readRegularFile(path).content;
-        if (mergeIntoServer(resource + QByteArrayLiteral(" ") + value + '\n') && writeDefaultTheme(name)) {
+        const bool isMerged = runXrdb(
+            {QStringLiteral("-quiet"), QStringLiteral("-merge"), QStringLiteral("-nocpp")},
+            resource + QByteArrayLiteral(" ") + value + '\n');
+        if (!isMerged)
+            printDiagnostic(QStringLiteral("Can't merge the cursor theme into the X server"));
+        if (isMerged && writeDefaultTheme(name)) {
             if (QX11Info::isPlatformX11())
                 showCursorTheme(QX11Info::display(), name);
             return true;

@@ -105,26 +105,22 @@ QStringList candidates(const QString &name, int width, int height)
     return paths;
 }
 
-QString findWallpaper(const QString &name, int width, int height, const char *convertCommand)
-{
-    if (name.isEmpty() || name.contains(QLatin1Char('/')))
-        return {};
-    for (const QString &path : candidates(name, width, height)) {
-        if (!QFileInfo(path).isFile())
-            continue;
-        QString image = isSvg(path) ? convertSvg(path, width, height, convertCommand) : path;
-        if (!image.isEmpty())
-            return image;
-    }
-    return {};
-}
-
 } // namespace
 
 void FindWallPaperByName(const char *name, char *result, int width, int height, const char *convertCommand)
 {
-    const QByteArray path = QFile::encodeName(
-        findWallpaper(QString::fromLocal8Bit(name), width, height, convertCommand));
-    const bool fits = path.size() < resultSize;
-    std::strcpy(result, fits ? path.constData() : "");
+    *result = '\0';
+    const QString wanted = QString::fromLocal8Bit(name);
+    if (wanted.isEmpty() || wanted.contains(QLatin1Char('/')))
+        return;
+    for (const QString &path : candidates(wanted, width, height)) {
+        if (!QFileInfo(path).isFile())
+            continue;
+        const QByteArray image = QFile::encodeName(
+            isSvg(path) ? convertSvg(path, width, height, convertCommand) : path);
+        if (!image.isEmpty() && image.size() < resultSize) {
+            std::strcpy(result, image.constData());
+            return;
+        }
+    }
 }

@@ -12,12 +12,8 @@
 
 #include <functional>
 
-namespace {
-
 constexpr int smallestZoom = -6;
 constexpr int largestZoom = 20;
-
-} // namespace
 
 HelpWindow::HelpWindow()
     : m_bar(new QWidget(this))

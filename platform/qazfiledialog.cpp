@@ -3,6 +3,7 @@
 #include "freedesktop/images.h"
 #include "freedesktop/soundinfo.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QFileSystemModel>
 #include <QLabel>
@@ -20,78 +21,70 @@ constexpr int restMs = 250;
 constexpr QSize pictureSize(192, 160);
 constexpr qint64 largestPreview = 16 * 1024 * 1024; // pixels; decoding more keeps the user waiting
 
-} // namespace
-
 /// Shows what is in an image or a sound file: the picture and its size in pixels, or the sound's format and length.
 class FilePreview : public QWidget
 {
-    Q_OBJECT
+    Q_DECLARE_TR_FUNCTIONS(FilePreview)
 public:
-    explicit FilePreview(QWidget *parent);
+    explicit FilePreview(QWidget *parent)
+        : QWidget(parent)
+    {
+        m_picture->setObjectName(QStringLiteral("previewPicture"));
+        m_picture->setFixedSize(pictureSize);
+        m_picture->setAlignment(Qt::AlignCenter);
+        m_text->setObjectName(QStringLiteral("previewText"));
+        m_text->setTextFormat(Qt::PlainText); // names of files may look like markup
+        m_text->setWordWrap(true);
+        m_text->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+        auto *layout = new QVBoxLayout(this);
+        layout->addWidget(m_picture, 0, Qt::AlignCenter);
+        layout->addWidget(m_text, 1);
+    }
 
     /// Shows the file at \a path once nothing else was asked for during a moment: who goes through a list by the
     /// keyboard doesn't wait for pictures.
-    void showFile(const QString &path);
+    void showFile(const QString &path)
+    {
+        m_path = path;
+        m_picture->clear();
+        m_text->clear();
+        QTimer::singleShot(restMs, this, [this, path] {
+            if (path == m_path)
+                draw();
+        });
+    }
 
 private:
-    void draw();
+    void draw()
+    {
+        const QString name = QFileInfo(m_path).fileName() + QLatin1Char('\n');
+        const QSize size = imageSize(m_path);
+        if (size.isEmpty()) {
+            if (const std::optional<SoundInfo> sound = soundInfo(m_path))
+                m_text->setText(name
+                                + tr("%1, %2 Hz, %3 × %4 bit\nLength: %5 s")
+                                      .arg(sound->format, QString::number(sound->rate),
+                                           QString::number(sound->channels), QString::number(sound->bits),
+                                           QLocale().toString(sound->seconds, 'f', 1)));
+            return;
+        }
+        m_text->setText(name + tr("%1 × %2 pixels").arg(size.width()).arg(size.height()));
+        const QImage image = loadImage(m_path, largestPreview);
+        if (image.isNull())
+            return;
+        const QSize room = pictureSize * devicePixelRatioF();
+        QPixmap picture = QPixmap::fromImage(
+            image.scaled(room.boundedTo(image.size()), Qt::KeepAspectRatio, Qt::SmoothTransformation));
+        picture.setDevicePixelRatio(devicePixelRatioF());
+        m_picture->setPixmap(picture);
+    }
 
-    QLabel *m_picture;
-    QLabel *m_text;
+    QLabel *m_picture = new QLabel(this);
+    QLabel *m_text = new QLabel(this);
     QString m_path;
 };
 
-FilePreview::FilePreview(QWidget *parent)
-    : QWidget(parent)
-    , m_picture(new QLabel(this))
-    , m_text(new QLabel(this))
-{
-    m_picture->setObjectName(QStringLiteral("previewPicture"));
-    m_picture->setFixedSize(pictureSize);
-    m_picture->setAlignment(Qt::AlignCenter);
-    m_text->setObjectName(QStringLiteral("previewText"));
-    m_text->setTextFormat(Qt::PlainText); // names of files may look like markup
-    m_text->setWordWrap(true);
-    m_text->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
-    auto *layout = new QVBoxLayout(this);
-    layout->addWidget(m_picture, 0, Qt::AlignCenter);
-    layout->addWidget(m_text, 1);
-}
-
-void FilePreview::showFile(const QString &path)
-{
-    m_path = path;
-    m_picture->clear();
-    m_text->clear();
-    QTimer::singleShot(restMs, this, [this, path] {
-        if (path == m_path)
-            draw();
-    });
-}
-
-void FilePreview::draw()
-{
-    const QString name = QFileInfo(m_path).fileName() + QLatin1Char('\n');
-    const QSize size = imageSize(m_path);
-    if (size.isEmpty()) {
-        if (const std::optional<SoundInfo> sound = soundInfo(m_path))
-            m_text->setText(name
-                            + tr("%1, %2 Hz, %3 × %4 bit\nLength: %5 s")
-                                  .arg(sound->format, QString::number(sound->rate),
-                                       QString::number(sound->channels), QString::number(sound->bits),
-                                       QLocale().toString(sound->seconds, 'f', 1)));
-        return;
-    }
-    m_text->setText(name + tr("%1 × %2 pixels").arg(size.width()).arg(size.height()));
-    const QImage image = loadImage(m_path, largestPreview);
-    if (image.isNull())
-        return;
-    const QSize room = pictureSize * devicePixelRatioF();
-    QPixmap picture = QPixmap::fromImage(
-        image.scaled(room.boundedTo(image.size()), Qt::KeepAspectRatio, Qt::SmoothTransformation));
-    picture.setDevicePixelRatio(devicePixelRatioF());
-    m_picture->setPixmap(picture);
-}
+} // namespace
 
 QazFileDialog::QazFileDialog(QWidget *parent, const QString &caption, const QString &location,
                              const QString &filter)
@@ -154,5 +147,3 @@ QString QazFileDialog::getOpenFileName(QWidget *parent, const QString &caption, 
     QazFileDialog dialog(parent, caption, location, filter);
     return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
-
-#include "qazfiledialog.moc"

@@ -32,8 +32,6 @@ QazIconTheme::QazIconTheme(const char *name, const QazIconTheme * /*parent*/, bo
     : m_name(name)
 {}
 
-QazIconTheme::~QazIconTheme() = default;
-
 bool QazIconTheme::load()
 {
     m_directories = sharedDirectories();

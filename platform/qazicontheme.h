@@ -19,7 +19,6 @@ public:
     /// The theme \a name; nothing is read before load(). \a parent and \a isFallback are part of the desktop's
     /// interface: a theme of this implementation finds its parents itself.
     QazIconTheme(const char *name, const QazIconTheme *parent, bool isFallback);
-    ~QazIconTheme();
 
     /// Reads the theme's index. False when no directory of this name has one with icon directories.
     bool load();

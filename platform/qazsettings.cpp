@@ -5,11 +5,7 @@
 #include "base/editfile.h"
 #include "platform/themefiletext.h"
 
-namespace {
-
 constexpr qint64 sizeLimit = 16 * 1024 * 1024; // bytes
-
-} // namespace
 
 QazSettings::QazSettings(const QString &path)
     : m_path(path)

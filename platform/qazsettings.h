@@ -17,8 +17,6 @@ public:
     /// Writes the file when a set value differs from what the file holds now. Other programs' changes
     /// to other keys stay. A failure leaves the old file whole and is one line on standard error.
     ~QazSettings();
-    QazSettings(const QazSettings &) = delete;
-    QazSettings &operator=(const QazSettings &) = delete;
 
     /// With \a read, reads the file's current content; values set before stay set.
     void sync(bool read);

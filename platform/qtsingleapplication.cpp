@@ -67,48 +67,38 @@ QtSingleApplication::QtSingleApplication(const QString &id, int &argc, char **ar
     , m_directory(openDirectory())
 {}
 
-QtSingleApplication::~QtSingleApplication()
-{
-    // Before the lock: afterwards the socket of that name belongs to the next owner.
-    delete m_server;
-}
+QtSingleApplication::~QtSingleApplication() = default;
 
 bool QtSingleApplication::isRunning()
 {
-    // Without a place for a lock there is no other instance to be found, either.
-    return !m_lock && m_directory.isOpen() && !takeLock();
-}
-
-bool QtSingleApplication::takeLock()
-{
     const QByteArray name = m_name + ".lock";
-    for (;;) {
+    // Without a place for a lock there is no other instance to be found, either.
+    while (!m_lock && m_directory.isOpen()) {
         struct stat opened = {};
         auto file = std::make_unique<Descriptor>(
             ::openat(m_directory.get(), name.constData(),
                      O_RDWR | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, 0600));
         ::fstat(file->get(), &opened);
-        if (!S_ISREG(opened.st_mode)) {
-            if (!clearAway(m_directory.get(), name))
-                return true; // no place for a lock
-            continue;
+        if (S_ISREG(opened.st_mode)) {
+            ::fchmod(file->get(), 0600);
+            if (::flock(file->get(), LOCK_EX | LOCK_NB) != 0)
+                return true;
+            m_lock = std::move(file);
+            listen();
+        } else if (!clearAway(m_directory.get(), name)) {
+            break;
         }
-        ::fchmod(file->get(), 0600);
-        if (::flock(file->get(), LOCK_EX | LOCK_NB) != 0)
-            return false;
-        m_lock = std::move(file);
-        listen();
-        return true;
     }
+    return false;
 }
 
 void QtSingleApplication::listen()
 {
     // What stands there belongs to a dead owner: the lock is ours.
     clearAway(m_directory.get(), m_name);
-    m_server = new QLocalServer(this);
+    m_server = std::make_unique<QLocalServer>();
     m_server->setSocketOptions(QLocalServer::UserAccessOption);
-    connect(m_server, &QLocalServer::newConnection, this, &QtSingleApplication::acceptConnection);
+    connect(m_server.get(), &QLocalServer::newConnection, this, &QtSingleApplication::acceptConnection);
     m_server->listen(socketPath(m_directory, m_name));
 }
 

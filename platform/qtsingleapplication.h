@@ -44,16 +44,15 @@ signals:
     void messageReceived(const QString &message);
 
 private:
-    bool takeLock();
     void listen();
     void acceptConnection();
     void readMessage(QLocalSocket *socket);
 
     QString m_id;
-    QByteArray m_name;                  // of the socket; the lock file's has ".lock" appended
-    Descriptor m_directory;             // of both
-    std::unique_ptr<Descriptor> m_lock; // while it is held
-    QLocalServer *m_server = nullptr;
+    QByteArray m_name;                      // of the socket; the lock file's has ".lock" appended
+    Descriptor m_directory;                 // of both
+    std::unique_ptr<Descriptor> m_lock;     // while it is held
+    std::unique_ptr<QLocalServer> m_server; // ends before the lock: afterwards its name is the next owner's
     QPointer<QWidget> m_activationWindow;
 };
 

@@ -1,44 +1,29 @@
 #include "platform/wallpapersizeforscreen.h"
 
-#include <QtGlobal>
+#include <QSize>
 
 #include <algorithm>
 #include <cmath>
-#include <iterator>
-
-namespace {
-
-struct StandardSize {
-    int ratioWidth;
-    int ratioHeight;
-    int width;
-    int height;
-};
-
-// clang-format off
-constexpr StandardSize standardSizes[] = {
-    { 5,  4, 1280, 1024},
-    { 4,  3, 1600, 1200},
-    { 3,  2, 2160, 1440},
-    {16, 10, 1920, 1200},
-    {16,  9, 1920, 1080},
-    {21,  9, 2560, 1080},
-};
-// clang-format on
-
-} // namespace
 
 void WallpaperSizeForScreen(int width, int height, int *w1, int *h1, int *w2, int *h2)
 {
-    const auto distance = [ratio = double(qMax(1, width)) / qMax(1, height)](const StandardSize &size) {
-        return std::abs(double(size.ratioWidth) / size.ratioHeight - ratio);
+    struct StandardSize {
+        QSize ratio;
+        QSize pixels;
     };
-    const auto nearer = [distance](const auto &size, const auto &other) {
-        return distance(size) < distance(other);
+    static constexpr StandardSize standardSizes[] = {{{5, 4}, {1280, 1024}},  {{4, 3}, {1600, 1200}},
+                                                     {{3, 2}, {2160, 1440}},  {{16, 10}, {1920, 1200}},
+                                                     {{16, 9}, {1920, 1080}}, {{21, 9}, {2560, 1080}}};
+    const double wanted = double(qMax(1, width)) / qMax(1, height);
+    const auto distance = [wanted](const QSize &ratio) {
+        return std::abs(double(ratio.width()) / ratio.height() - wanted);
     };
-    const StandardSize &size = *std::min_element(std::begin(standardSizes), std::end(standardSizes), nearer);
-    *w1 = size.width;
-    *h1 = size.height;
-    *w2 = size.ratioWidth;
-    *h2 = size.ratioHeight;
+    const auto *size = std::min_element(std::begin(standardSizes), std::end(standardSizes),
+                                        [distance](const StandardSize &one, const StandardSize &other) {
+                                            return distance(one.ratio) < distance(other.ratio);
+                                        });
+    *w1 = size->pixels.width();
+    *h1 = size->pixels.height();
+    *w2 = size->ratio.width();
+    *h2 = size->ratio.height();
 }
