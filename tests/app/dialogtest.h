@@ -25,6 +25,8 @@ private slots:
     {
         m_dialog.reset();
         m_home.reset();
+        QLocale::setDefault(QLocale::system());
+        qDeleteAll(qApp->findChildren<QTranslator *>()); // which takes them out of use
     }
 
 protected:

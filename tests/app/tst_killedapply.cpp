@@ -34,7 +34,8 @@ private slots:
     {
         for (const char *name : {"compton", "xrdb"})
             m_programs.add(QLatin1String(name));
-        putBack();
+        for (const File &file : qAsConst(m_files))
+            m_home.write(file.path, file.before);
         registerResources();
         qazInit("1", "title");
         m_dialog = std::make_unique<ConfigDialog>(m_home.path(m_files.first().path));
@@ -90,15 +91,11 @@ private slots:
     }
 
 private:
-    void putBack() const
-    {
-        for (const File &file : m_files)
-            m_home.write(file.path, file.before);
-    }
-    /// A copy of this process presses Apply and ends.
+    /// Puts the files back. A copy of this process presses Apply and ends.
     pid_t applyInAnotherProcess()
     {
-        putBack();
+        for (const File &file : qAsConst(m_files))
+            m_home.write(file.path, file.before);
         const pid_t process = ::fork();
         if (process != 0)
             return process;

@@ -16,8 +16,7 @@ private slots:
     void itOpensCleanAndLoadsPagesWhenFirstShown()
     {
         open();
-        QCOMPARE(m_list->currentRow(), 0);
-        QCOMPARE(m_stack->currentIndex(), 0);
+        QCOMPARE(QPoint(m_list->currentRow(), m_stack->currentIndex()), QPoint(0, 0));
         QCOMPARE(m_dialog->windowIcon().name(), "preferences-desktop-theme"_s);
         verifyEdited(false);
         QCOMPARE(m_dialog->requestToSave(true), int(QMessageBox::No));
@@ -103,16 +102,12 @@ private slots:
             open("ScreenSaverDelay=600\n");
             editTheDelay(5);
             ModalDriver driver;
-            if (answer == QMessageBox::Cancel)
-                driver.then([](QDialog *box) { QTest::keyClick(box, Qt::Key_Escape); });
-            else
-                driver.thenAnswer(answer);
+            driver.thenAnswer(answer);
             QTest::keyClick(m_dialog.get(), Qt::Key_Escape);
             QVERIFY(driver.isDone());
             QCOMPARE(driver.seen(), QStringList{"Save ?|Save changes?"_s});
             QCOMPARE(m_dialog->isVisible(), answer == QMessageBox::Cancel);
-            QCOMPARE(m_home->read("t"_s), QByteArray(answer == QMessageBox::Yes ? "ScreenSaverDelay=300\n"
-                                                                                : "ScreenSaverDelay=600\n"));
+            QCOMPARE(m_home->read("t"_s).contains("=300\n"), answer == QMessageBox::Yes);
         }
 
         ModalDriver driver;

@@ -8,7 +8,6 @@
 
 #include <functional>
 #include <optional>
-#include <vector>
 
 class TestProgram : public QObject
 {
@@ -70,16 +69,15 @@ private slots:
 
     void ofManyStartsOneRuns()
     {
-        std::vector<std::unique_ptr<EditorProcess>> editors(30);
-        for (auto &editor : editors)
-            editor = std::make_unique<EditorProcess>();
-        const auto isRunning = [](const auto &editor) {
-            editor->process().waitForFinished(0);
-            return editor->process().state() != QProcess::NotRunning;
+        EditorProcess editors[30];
+        const auto isRunning = [](EditorProcess &editor) {
+            editor.process().waitForFinished(0);
+            return editor.process().state() != QProcess::NotRunning;
         };
-        QTRY_COMPARE_WITH_TIMEOUT(std::count_if(editors.cbegin(), editors.cend(), isRunning), 1, 120000);
-        for (const auto &editor : editors)
-            QVERIFY(isRunning(editor) ? editor->waitForWindow() : editor->exitCode() == 0);
+        QTRY_COMPARE_WITH_TIMEOUT(std::count_if(std::begin(editors), std::end(editors), isRunning), 1,
+                                  120000);
+        for (EditorProcess &editor : editors)
+            QVERIFY(isRunning(editor) ? editor.waitForWindow() : editor.exitCode() == 0);
     }
 
     void whateverStandsInPlaceOfTheLockBlocksNothing()
@@ -88,7 +86,7 @@ private slots:
         const ScopedEnvironment directory("XDG_RUNTIME_DIR", QFile::encodeName(own.path()));
         const QString precious = m_home->write("precious"_s, "mine");
         const std::function<bool(const QString &)> rows[] = {
-            [](const QString &) { return true; }, // nothing
+            nullptr, // what the killed one left
             [&](const QString &path) { return QFile::copy(precious, path); },
             [&](const QString &path) { return QFile::link(precious, path); },
             [](const QString &path) { return QFile::link("/nowhere/at/all"_s, path); },
@@ -103,12 +101,11 @@ private slots:
                 QCOMPARE(second.exitCode(), 0);
                 files = QDir(own.path())
                             .entryInfoList({"qtsingleapp-*[0-9k]"_s}, QDir::AllEntries | QDir::System);
-                QCOMPARE(files.size(), 2); // the socket and the lock
             }
+            QCOMPARE(files.size(), 2); // the socket and the lock
             for (const QFileInfo &file : qAsConst(files)) {
                 QCOMPARE(int(file.permissions()) & 0x77, 0);
-                QFile::remove(file.filePath());
-                QVERIFY(place(file.filePath()));
+                QVERIFY(!place || (QFile::remove(file.filePath()) && place(file.filePath())));
             }
         }
         EditorProcess last;

@@ -1,9 +1,6 @@
-#include "app/configdialog.h"
+#include "tests/app/dialogtest.h"
+
 #include "fonts/fontaasettings.h"
-#include "platform/qazinit.h"
-#include "platform/slidingstackedwidget.h"
-#include "resources/registerresources.h"
-#include "tests/support/temporaryhome.h"
 
 namespace {
 
@@ -46,7 +43,7 @@ int neededWidth(const QWidget *widget)
 } // namespace
 
 /// What must hold for everything that a user meets: each page, each tab of it, the dialogs, in every language.
-class TestViews : public QObject
+class TestViews : public DialogTest
 {
     Q_OBJECT
 
@@ -61,30 +58,21 @@ private slots:
     void everyViewCanBeReadAndUsed()
     {
         QFETCH(QString, close);
-        registerResources();
         QLocale::setDefault(QLocale(QString::fromLatin1(QTest::currentDataTag(), 2)));
         qazInit("1", "title");
-        const TemporaryHome home;
-        ConfigDialog dialog(home.path("a.themerc"_s));
-        dialog.show();
-        dialog.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&dialog));
-        QCOMPARE(dialog.buttonBox()->button(QDialogButtonBox::Close)->text().remove(u'&'), close);
-        auto *list = dialog.findChild<QListWidget *>("contentsWidget"_s);
-        for (int row = 0; row < list->count(); ++row) {
-            list->setCurrentRow(row);
-            auto *tabs
-                = dialog.findChild<SlidingStackedWidget *>()->currentWidget()->findChild<QTabWidget *>();
+        open();
+        QCOMPARE(button(QDialogButtonBox::Close)->text().remove(u'&'), close);
+        onEachPage([this](QWidget *page) {
+            auto *tabs = page->findChild<QTabWidget *>();
             for (int i = 0; i < (tabs ? tabs->count() : 1); ++i) {
                 if (tabs)
                     tabs->setCurrentIndex(i);
-                verifyView(&dialog);
+                verifyView(m_dialog.get());
             }
-        }
-        auto *antiAliasing = dialog.findChild<FontAASettings *>();
+        });
+        auto *antiAliasing = find<FontAASettings>();
         antiAliasing->show();
         verifyView(antiAliasing);
-        qDeleteAll(qApp->findChildren<QTranslator *>()); // which takes them out of use
     }
 
 private:

@@ -1,10 +1,7 @@
-#include "app/configdialog.h"
 #include "fonts/fontaasettings.h"
 #include "platform/qazhelp.h"
-#include "platform/qazinit.h"
-#include "platform/slidingstackedwidget.h"
-#include "resources/registerresources.h"
 #include "tests/app/description.h"
+#include "tests/app/dialogtest.h"
 #include "tests/support/modaldriver.h"
 
 namespace {
@@ -51,18 +48,11 @@ QTextBrowser *helpWindow()
 } // namespace
 
 /// The user guide in each language, and the window that shows it.
-class TestGuide : public QObject
+class TestGuide : public DialogTest
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase() { registerResources(); }
-    void cleanup()
-    {
-        QLocale::setDefault(QLocale::system());
-        qDeleteAll(qApp->findChildren<QTranslator *>()); // which takes them out of use
-    }
-
     void everyLanguageHasItsGuide_data()
     {
         QTest::addColumn<QString>("language"); // and the ending of its file
@@ -80,19 +70,17 @@ private slots:
         const QString text = QString::fromUtf8(guide.readAll());
         verifyLinks(text);
 
-        ConfigDialog dialog(m_home.path("a.themerc"_s));
-        dialog.show();
-        auto *list = dialog.findChild<QListWidget *>("contentsWidget"_s);
+        open();
         QTextBrowser *help = nullptr;
         int lastPosition = -1;
-        for (int row = 0; row < list->count(); ++row) {
-            list->setCurrentRow(row);
-            dialog.activateWindow();
-            QVERIFY(QTest::qWaitForWindowActive(&dialog));
-            dialog.helpSlot();
+        for (int row = 0; row < m_list->count(); ++row) {
+            m_list->setCurrentRow(row);
+            m_dialog->activateWindow();
+            QVERIFY(QTest::qWaitForWindowActive(m_dialog.get()));
+            m_dialog->helpSlot();
             help = helpWindow();
             QVERIFY(help);
-            const QWidget *page = dialog.findChild<SlidingStackedWidget *>()->currentWidget();
+            const QWidget *page = m_stack->currentWidget();
             const QString name
                 = QString::fromLatin1(page->metaObject()->className()).toLower().remove("page"_s);
             QCOMPARE(help->source().toString(), "qrc"_s + guide.fileName() + u'#' + name);
@@ -123,7 +111,7 @@ private slots:
         QPointer<QTextBrowser> help = shownHelp();
         Description description;
         description.add(help);
-        description.verify(m_home, "resources/helpwindow.txt"_s);
+        description.verify(*m_home, "resources/helpwindow.txt"_s);
         QCOMPARE(help->size(), QSize(760, 640));
         QCOMPARE(help->windowIcon().name(), "help-contents"_s);
         const auto *row = help->findChild<QHBoxLayout *>();
@@ -215,8 +203,6 @@ private slots:
     }
 
 private:
-    const TemporaryHome m_home;
-
     /// A new window, with the keyboard's focus, at the topic of no page.
     static QTextBrowser *shownHelp()
     {

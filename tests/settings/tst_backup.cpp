@@ -45,11 +45,9 @@ private slots:
         QCOMPARE(home.read(copy + "/a"_s) + home.read(copy + "/sub/.hidden"_s), QByteArray("12"));
         QCOMPARE(QFile::symLinkTarget(copy + "/link"_s), home.path("outside"_s));
         QVERIFY(QFileInfo(copy + "/dangling"_s).isSymLink());
-        for (const char *name : {".local", ".local/state/qaz", ".local/state/qaz/backup"})
-            QCOMPARE(home.mode(QLatin1String(name)), 0700U);
-        for (const QString &path :
-             {copy, copy + "/sub"_s, copy + "/a"_s, copy + "/sub/.hidden"_s, home.path(manifest)})
-            QCOMPARE(home.mode(path), QFileInfo(path).isDir() ? 0700U : 0600U);
+        for (const QString &path : {".local"_s, ".local/state/qaz"_s, directory, copy, copy + "/sub"_s,
+                                    copy + "/a"_s, copy + "/sub/.hidden"_s, manifest})
+            QCOMPARE(home.mode(path), QFileInfo(home.path(path)).isDir() ? 0700U : 0600U);
     }
 
     void theFirstAndTheNineNewestOfEachOriginalAreKept()

@@ -45,7 +45,7 @@ private slots:
         QCOMPARE(int(QFile::permissions(home.path("ours"_s))), 0x6600); // the owner's
     }
 
-    void aFailureIsOneLine()
+    void theFilesAreThoseOfQSettingsAndRegularOnes()
     {
         const TemporaryHome home;
         const QString fifo = home.makeFifo("fifo"_s);
@@ -54,11 +54,6 @@ private slots:
         writeIniValues(fifo, "G", {{"k"_s, 1}});
         QCOMPARE(QString::fromUtf8(errors.take()),
                  "qaz-admin-theme: Can't write %1: Not a regular file\n"_s.arg(fifo));
-    }
-
-    void theFilesAreThoseOfQSettings()
-    {
-        const TemporaryHome home;
         QCOMPARE(iniFile("Trolltech"_s), QSettings("Trolltech"_s).fileName());
         QCOMPARE(iniFile("qaz"_s, "qaz-admin-theme"_s), QSettings("qaz"_s, "qaz-admin-theme"_s).fileName());
         const ScopedEnvironment relative("XDG_CONFIG_HOME", "relative");

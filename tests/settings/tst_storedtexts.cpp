@@ -27,38 +27,34 @@ private slots:
     void storedTextsAreRead()
     {
         // Stored, its form, and family, size, weight and italic of the font; "Default 7" when none is read.
-        const std::tuple<QString, const char *, QString> rows[] = {
-            {"Verdana-10:bold:italic"_s, "role", "Verdana 10 75 1"_s},
-            {"Verdana-10"_s, "role", "Verdana 10 50 0"_s},
-            {"Verdana-9:Bold:Italic"_s, "role", "Verdana 9 50 0"_s},
-            {"Noto-Sans-10:bold:"_s, "role", "Noto 12 75 0"_s}, // no size: the toolkit's
-            {"a*b::"_s, "role", "a*b 12 50 0"_s},
-            {"Noto-Sans-10:normal"_s, "", "Default 7 50 0"_s},
-            {"Verdana*"_s, "", "Default 7 50 0"_s},
-            {""_s, "", "Default 7 50 0"_s},
-            {"Verdana-*"_s, "xlfd", "Default 7 50 0"_s},
-            {"-misc-fixed-medium-r-normal--13-120-75-75-c-70-iso8859-1"_s, "xlfd", "Default 7 50 0"_s}};
-        for (const auto &[text, form, read] : rows) {
-            QCOMPARE(QByteArray(isXlfdName(text) ? "xlfd" : "") + (isFontText(text) ? "role" : ""),
-                     QByteArray(form));
+        const QString rows
+            = "Verdana-10:bold:italic role Verdana 10 75 1|Verdana-10 role Verdana 10 50 0|"
+              "Verdana-9:Bold:Italic role Verdana 9 50 0|Noto-Sans-10:bold: role Noto 12 75 0|" // no size: the toolkit's
+              "a*b:: role a*b 12 50 0|Noto-Sans-10:normal  Default 7 50 0|Verdana*  Default 7 50 0|"
+              "  Default 7 50 0|Verdana-* xlfd Default 7 50 0|"
+              "-misc-fixed-medium-r-normal--13-120-75-75-c-70-iso8859-1 xlfd Default 7 50 0"_s;
+        for (const QString &row : rows.split(u'|')) {
+            const QString text = row.section(u' ', 0, 0);
+            const QString form = "xlfd"_s.repeated(isXlfdName(text)) + "role"_s.repeated(isFontText(text));
             const QFont font = storedRoleFont(text, QFont("Default"_s, 7));
-            QCOMPARE("%1 %2 %3 %4"_s.arg(font.family())
-                         .arg(font.pointSize())
-                         .arg(font.weight())
-                         .arg(font.italic()),
-                     read);
+            QCOMPARE(text + u' ' + form + u' ' + font.family()
+                         + " %1 %2 %3"_s.arg(font.pointSize()).arg(font.weight()).arg(font.italic()),
+                     row);
         }
     }
 
     void writtenTextsTellTheResolvedFont()
     {
-        const QString sans = "DejaVu Sans"_s, mono = "DejaVu Sans Mono"_s;
-        QCOMPARE(fontToText(QFont(sans, 10)), "DejaVu Sans-10:normal"_s);
-        QCOMPARE(fontToText(QFont(mono, 9, QFont::Bold, true)), "DejaVu Sans Mono-9:bold:italic"_s);
-        // Too large to resolve: the request is kept.
-        QCOMPARE(fontToText(QFont(sans, 100000)), "DejaVu Sans-100000:normal"_s);
         const QFont missing("No such family"_s, 11, QFont::Bold);
-        QCOMPARE(fontToText(missing), QFontInfo(missing).family() + QLatin1String("-11:bold"));
+        QString texts;
+        for (const QFont &font :
+             {QFont("DejaVu Sans"_s, 10), QFont("DejaVu Sans Mono"_s, 9, QFont::Bold, true), missing,
+              QFont("DejaVu Sans"_s, 100000)}) // too large to resolve: the request is kept
+            texts += fontToText(font) + u'|';
+        QCOMPARE(
+            texts,
+            "DejaVu Sans-10:normal|DejaVu Sans Mono-9:bold:italic|%1-11:bold|DejaVu Sans-100000:normal|"_s
+                .arg(QFontInfo(missing).family()));
     }
 
     void familiesAreShownWithTheirFoundry()
