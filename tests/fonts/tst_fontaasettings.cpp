@@ -1,6 +1,7 @@
 #include "fonts/fontaasettings.h"
 #include "tests/fonts/elements.h"
 #include "tests/support/modaldriver.h"
+#include "tests/support/rows.h"
 #include "tests/support/temporaryhome.h"
 #include "tests/support/testing.h"
 
@@ -17,22 +18,13 @@ class DialogOverFile
 {
 public:
     explicit DialogOverFile(const QByteArray &elements)
-    {
-        write(elements);
-        QCoreApplication::setOrganizationName("qaz"_s);
-        dialog = std::make_unique<FontAASettings>(nullptr);
-    }
+        : path(home.write(place, fontsFile(elements)))
+    {}
 
-    void write(const QByteArray &elements) { home.write(place, fontsFile(elements)); }
-    bool save(bool useAntiAliasing) const
-    {
-        QString error;
-        return dialog->save(useAntiAliasing, &error) || !error.isEmpty();
-    }
     template<typename Widget>
     Widget *find(const char *name) const
     {
-        return dialog->findChild<Widget *>(QLatin1String(name));
+        return dialog.findChild<Widget *>(QLatin1String(name));
     }
     QPushButton *ok() const { return find<QDialogButtonBox>("buttonBox")->button(QDialogButtonBox::Ok); }
     /// All that the widgets show, brackets around what is disabled.
@@ -45,7 +37,34 @@ public:
             const QString text = widget->property(widget->metaObject()->userProperty().name()).toString();
             texts += widget->isEnabled() ? text : u'(' + text + u')';
         }
-        return texts.join(u' ');
+        return texts.join(u' ') + (ok()->isEnabled() ? " OK"_s : QString());
+    }
+    /// What comes of a step: a widget that is clicked or typed into, or what the page does with the dialog.
+    QString outcome(const QString &step)
+    {
+        const QString what = step.section(u' ', 0, 0), text = step.section(u' ', 1);
+        QString error;
+        if (what == "file"_s)
+            return QString::fromUtf8(home.read(place) == fontsFile(text.toUtf8()) ? "yes" : home.read(place));
+        if (what == "save"_s) {
+            const bool isNew = dialog.save(text == "true"_s, &error);
+            return (isNew ? "changed: "_s : "same: "_s) + stored() + error;
+        }
+        if (what == "load"_s)
+            home.write(place, fontsFile(text.toUtf8()));
+        if (what.endsWith("load"_s)) {
+            canFilter = what != "unfilteredReload"_s;
+            const bool isOn = dialog.load();
+            return (isOn ? "on: "_s : "off: "_s) + shown();
+        }
+        if (what == "defaults"_s)
+            dialog.defaults();
+        else if (auto *box = dialog.findChild<QCheckBox *>(what))
+            box->click();
+        else if (auto *spinBox = dialog.findChild<QDoubleSpinBox *>(what))
+            spinBox->selectAll();
+        QTest::keyClicks(dialog.findChild<QWidget *>(what), text);
+        return shown();
     }
     /// The sub-pixel order, the anti-aliasing and the hint style of the program's own settings.
     static QString stored()
@@ -55,7 +74,8 @@ public:
     }
 
     const TemporaryHome home;
-    std::unique_ptr<FontAASettings> dialog;
+    const QString path;
+    FontAASettings dialog{nullptr};
 };
 
 } // namespace
@@ -70,10 +90,11 @@ class TestFontAASettings : public QObject
 {
     Q_OBJECT
 private slots:
-    void emptyFileShowsTheDefaults()
+    void initTestCase() { QCoreApplication::setOrganizationName("qaz"_s); }
+
+    void itemsHaveAPicture()
     {
-        DialogOverFile file({});
-        QCOMPARE(file.shown(), "false false (0) (14) (RGB) Medium"_s);
+        const DialogOverFile file({});
         QCOMPARE(file.find<QWidget>("buttonBox")->contentsMargins(), QMargins(10, 0, 10, 10));
         // A style that is not set is stored at once, the file stays.
         QCOMPARE(DialogOverFile::stored(), "- - hintmedium"_s);
@@ -89,80 +110,18 @@ private slots:
         QCOMPARE(stripes, "ee22111122eeee22111122ee"_s); // the first digits of red, green and blue
     }
 
-    void fileIsShown()
+    void stepsShowAndSave()
     {
-        DialogOverFile file("pixelsize=8-15 rgba=vbgr hintstyle=hintslight antialias=false");
-        QCOMPARE(file.shown(), "true true 8 15 Vertical BGR Slight"_s);
-        QVERIFY(!file.dialog->load());
-        QCOMPARE(DialogOverFile::stored(), "- - -"_s);
-
-        file.write("antialias=true");
-        QVERIFY(file.dialog->load());
-        QCOMPARE(file.shown(), "false false (0) (14) (Vertical BGR) Medium"_s);
-        QVERIFY(!file.ok()->isEnabled()); // what was read is no edit
-        canFilter = false;
-        file.write("rgba=bgr");
-        file.dialog->load();
-        QCOMPARE(file.shown(), "false (false) (0) (14) (BGR) Medium"_s);
-        canFilter = true;
-
-        file.write("rgba=vbgr");
-        file.dialog->load();
-        file.dialog->defaults();
-        QCOMPARE(file.shown(), "true false 0 14 (Vertical BGR) Medium"_s);
-
-        file.write("pixelsize=0-14.04"); // shows as the default's 14, which is meant exactly
-        file.dialog->load();
-        file.dialog->defaults();
-        QVERIFY(file.save(true) && file.home.read(place).contains("<double>14</double>"));
-    }
-
-    void editsAreSaved()
-    {
-        for (const char *name : {"excludeRangeCheckBox", "useSubPixelCheckBox", "excludeFromSpinBox",
-                                 "excludeToSpinBox", "subPixelTypeCombo", "hintStyleCombo"}) {
-            const DialogOverFile other("rgba=bgr pixelsize=2-9");
-            auto *widget = other.find<QWidget>(name);
-            QTest::keyClick(widget, qobject_cast<QCheckBox *>(widget) ? Qt::Key_Space : Qt::Key_Down);
-            QVERIFY2(other.ok()->isEnabled(), name);
+        // The file, then steps with what comes of each.
+        for (const QStringList &row : rowsOf("fonts/dialog.json"_s)) {
+            DialogOverFile file(row[1].toUtf8());
+            QStringList steps = row.mid(0, 2);
+            for (int i = 2; i < row.size(); ++i) {
+                const QString step = row[i].section(" = "_s, 0, 0);
+                steps += step + " = "_s + file.outcome(step);
+            }
+            QCOMPARE(steps, row);
         }
-        DialogOverFile file({});
-        file.find<QCheckBox>("excludeRangeCheckBox")->click();
-        file.find<QDoubleSpinBox>("excludeToSpinBox")->setValue(9.5);
-        file.find<QCheckBox>("useSubPixelCheckBox")->click();
-        QTest::keyClick(file.find<QComboBox>("subPixelTypeCombo"), Qt::Key_Down);
-        QTest::keyClick(file.find<QComboBox>("hintStyleCombo"), Qt::Key_End);
-        QVERIFY(file.save(true));
-        QCOMPARE(file.home.read(place), fontsFile("rgba=bgr hinting=true hintstyle=hintfull antialias=true "
-                                                  "size=0-7 pixelsize=0-9.5"));
-        QCOMPARE(DialogOverFile::stored(), "bgr true hintfull"_s);
-        QVERIFY(!file.save(true)); // nothing new
-
-        file.find<QCheckBox>("useSubPixelCheckBox")->click();
-        file.find<QCheckBox>("excludeRangeCheckBox")->click();
-        QVERIFY(file.save(false));
-        QCOMPARE(file.home.read(place), fontsFile("hinting=true hintstyle=hintfull antialias=false"));
-        QCOMPARE(DialogOverFile::stored(), "none false hintfull"_s);
-    }
-
-    void rangeThatWasNotEditedStays()
-    {
-        DialogOverFile file("pixelsize=8.35-60 hintstyle=hintfull antialias=true");
-        auto *fromBox = file.find<QDoubleSpinBox>("excludeFromSpinBox");
-        auto *toBox = file.find<QDoubleSpinBox>("excludeToSpinBox");
-        QCOMPARE(toBox->value(), 48.0);
-        QVERIFY(file.save(true)); // the hint style is new to the store
-        QVERIFY(!file.save(true));
-        QVERIFY(file.home.read(place).contains("<double>8.35</double>"));
-
-        fromBox->setValue(5);
-        file.dialog->load();
-        QVERIFY(!file.save(true)); // the edit was taken back
-        toBox->selectAll();
-        QTest::keyClicks(toBox, "48"_s); // what is shown already, but now on purpose
-        QVERIFY(file.save(true));
-        QCOMPARE(file.home.read(place), fontsFile("pixelsize=8.3-48 hintstyle=hintfull antialias=true "
-                                                  "hinting=true size=6-36"));
     }
 
     void rejectedDialogShowsTheFileAgain()
@@ -174,13 +133,12 @@ private slots:
             file.find<QDoubleSpinBox>("excludeToSpinBox")->setValue(20);
             file.find<QDialogButtonBox>("buttonBox")->button(QDialogButtonBox::Cancel)->click();
         });
-        const QString before = file.shown();
-        QCOMPARE(file.dialog->exec(), 0);
-        QCOMPARE(file.shown(), before);
+        QCOMPARE(file.dialog.exec(), 0);
+        QCOMPARE(file.shown(), "false false (0) (14) (RGB) Slight OK"_s);
 
         // One edit counts for ever, also one that was rejected.
         driver.then([&file](QDialog *) { file.ok()->click(); });
-        QCOMPARE(file.dialog->exec(), 1);
+        QCOMPARE(file.dialog.exec(), 1);
         QVERIFY(driver.isDone());
     }
 };

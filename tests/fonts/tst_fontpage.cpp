@@ -15,19 +15,9 @@ const QString messageBox
 const QString place = ".config/fontconfig/fonts.conf"_s, toolkitsFile = ".config/Trolltech.conf"_s;
 const QFont mono("DejaVu Sans Mono"_s, 12, QFont::Bold);
 
-constexpr const char *roles[] = {"DefaultFont",      "TitleFont",  "StartMenuFont", "CascadeMenuFont",
-                                 "CtrlMenuFont",     "DialogFont", "TaskbarFont",   "TaskbarBoldFont",
-                                 "TaskbarClockFont", "IconFont",   "TooltipFont"};
+struct Editor : PageOverFile<FontPage> {
+    explicit Editor(const QByteArray &theme = "") { load(theme); }
 
-class Editor : public PageOverFile<FontPage>
-{
-public:
-    /// With \a content in the file \a path of its home.
-    explicit Editor(const QByteArray &theme = {}, const QString &path = "x"_s, const QByteArray &content = {})
-    {
-        home.write(path, content);
-        load(theme);
-    }
     void loadAgain() { load(content()); }
     QString stored(const char *key) const { return QSettings().value(QLatin1String(key)).toString(); }
     /// Saves; a message box must come up. Its texts.
@@ -63,17 +53,19 @@ private slots:
 
     void rolesAreShownAndSavedInTheirOrder()
     {
+        Editor editor;
         QByteArray theme;
         QByteArrayList stored, shown, saved;
-        for (const QByteArray role : roles) {
-            const QByteArray size = QByteArray::number(stored.size() + 6);
+        const auto items = editor.page.findChildren<FontUseItem *>();
+        for (const FontUseItem *item : items) {
+            const QByteArray role = item->objectName().toUtf8(), size = QByteArray::number(stored.size() + 6);
             theme += role + "=DejaVu Sans-" + size + ":bold\n";
             stored += role + " DejaVu Sans " + size;
             saved += role + " DejaVu Sans-10:" + (role == "TaskbarBoldFont" ? "bold" : "normal");
         }
-        Editor editor(theme);
+        editor.load(theme);
         QCOMPARE(editor.save(), QString());
-        for (FontUseItem *item : editor.page.findChildren<FontUseItem *>()) {
+        for (FontUseItem *item : items) {
             shown += (item->objectName() + u' ' + item->findChild<QLabel *>()->text()).toUtf8();
             item->restoreDefault();
         }
@@ -91,21 +83,18 @@ private slots:
         Editor editor("DefaultFont=DejaVu Sans-10:normal\n");
         QSignalSpy changed(&editor.page, &FontPage::changedSignal);
         QSignalSpy edited(&editor.page, &KFonts::changed);
-        editor.role("IconFont")->applyChosenFont(mono);
-        editor.dpi()->setValue(80);
-        editor.chooseAntiAliasing(0);
         {
             ModalDriver driver;
             driver.then([](QDialog *dialog) {
                 dialog->findChild<QCheckBox *>("excludeRangeCheckBox"_s)->click();
                 dialog->accept();
             });
+            editor.chooseAntiAliasing(0);
             editor.find<QPushButton>("configureButton")->click();
         }
-        QCOMPARE(edited.count({true}), 4);
+        QCOMPARE(edited.count({true}), 2);
         editor.loadAgain();
         QCOMPARE(changed.size(), edited.size());
-        QCOMPARE(edited.last().value(0).toBool(), false);
 
         editor.chooseAntiAliasing(0);
         editor.role("TitleFont")->applyChosenFont(mono);
@@ -118,7 +107,6 @@ private slots:
         editor.dpi()->setValue(80);
         editor.chooseAntiAliasing(2);
         editor.page.resetToDefaults();
-        QCOMPARE(edited.last().value(0).toBool(), true);
         QVERIFY(editor.antiAliasing()->currentIndex() == 1 && editor.dpi()->value() == 0);
         QVERIFY(editor.find<QCheckBox>("excludeRangeCheckBox")->isChecked());
         QCOMPARE(editor.role("IconFont")->font(), editor.role("TitleFont")->font());
@@ -141,8 +129,8 @@ private slots:
     void dpiIsForcedAndNoLongerForced()
     {
         const QString file = ".Xresources"_s, xrdb = "xrdb"_s;
-        Editor editor({}, file, "A.a: 1\n");
-        editor.save();
+        Editor editor;
+        editor.home.write(file, "A.a: 1\n");
         QSignalSpy changed(&editor.page, &KFonts::changed);
         auto *line = editor.dpi()->findChild<QLineEdit *>();
         line->selectAll();
@@ -150,8 +138,7 @@ private slots:
         QVERIFY2(changed.value(0).value(0).toBool(), "typing is an edit before the field is left");
         QCOMPARE(editor.saveAndAnswer(), messageBox);
         QCOMPARE(editor.home.read(file), QByteArray("A.a: 1\nXft.dpi: 120\n"));
-        QCOMPARE(editor.stored("forceFontDPI"), "120"_s);
-        QCOMPARE(editor.commands, "XftSettings 120 unknown rgb hintmedium"_s);
+        QCOMPARE(editor.commands.section(u'|', -1), "XftSettings 120 unknown rgb hintmedium"_s);
         QCOMPARE(editor.save(), QString());
 
         QProcess::execute(xrdb, {"-merge"_s, editor.home.write("server"_s, "Xft.dpi: 119.9\n")});
@@ -180,7 +167,9 @@ private slots:
     {
         const QString file = ".Xresources"_s;
         for (const bool isOurs : {true, false}) {
-            Editor editor({}, isOurs ? "x"_s : file);
+            Editor editor;
+            if (!isOurs)
+                editor.home.write(file, {});
             for (const int dpi : {120, 0}) {
                 editor.loadAgain();
                 editor.dpi()->setValue(dpi);
@@ -258,8 +247,8 @@ private slots:
             QVERIFY(driver.isDone());
             QCOMPARE(changed.count({true}), button == ofIcons ? 1 : 13); // of each role, and once for all
         }
-        for (const char *role : roles)
-            QCOMPARE(editor.role(role)->findChild<QLabel *>()->text(), "DejaVu Sans Mono 12"_s);
+        for (const auto *label : editor.page.findChildren<QLabel *>("previewLabel"_s))
+            QCOMPARE(label->text(), "DejaVu Sans Mono 12"_s);
     }
 };
 
