@@ -13,7 +13,6 @@ const QString comptonFile = ".config/compton.conf"_s;
 // Another run of this test on the same machine must not pass for this one's managers.
 const QString ownManager = "qaz-kompmgr-%1"_s.arg(QCoreApplication::applicationPid());
 const QString compton = "compton-%1"_s.arg(QCoreApplication::applicationPid());
-const QString kompmgrFile = ".config/qaz/kompmgrrc"_s;
 
 /// A compositing manager that is installed in PATH.
 struct Manager {
@@ -37,33 +36,49 @@ struct Manager {
 
 /// The page over a theme file that names a manager, and has all else that is saved.
 struct CompositePage : PageOverFile<EffectPage> {
-    CompositePage(const QString &manager, const QByteArray &lines)
-        : m_start("CompositeManager=" + manager.toLatin1() + "\nArrangeWindowSpeed=0\nGradWindowMapSpeed=0\n")
+    /// What comes of a step of composite.json.
+    QString outcome(const QString &step)
     {
-        home.makeDirectory(".config/qaz"_s);
-        loadLines(lines);
+        const QString what = step.section(u' ', 0, 0), text = step.section(u' ', 1);
+        const QString path = text.section(u' ', 0, 0), rest = text.section(u' ', 1);
+        if (what == "manager"_s)
+            start = "CompositeManager=%1\nArrangeWindowSpeed=0\nGradWindowMapSpeed=0\n"_s.arg(text);
+        else if (what == "theme"_s)
+            home.write("t"_s, (start + text).toLatin1());
+        else if (what == "write"_s)
+            home.write(path, rest.toLatin1());
+        else if (what == "fifo"_s && QFile::remove(home.path(path)))
+            home.makeFifo(path);
+        else if (what == "read"_s)
+            return QString::fromLatin1(home.read(path));
+        else if (what == "backups"_s)
+            return QString::fromLatin1(home.backups().join('|'));
+        else if (what == "told"_s)
+            return QString::fromLocal8Bit(messages.take()).replace(home.path(), "HOME"_s);
+        else if (const QString result = changed(what, text); what != "set"_s)
+            return result;
+        return {};
+    }
+    /// Sets the manager's boxes, or has them loaded or saved; then what is shown, "+" for a checked box, or the commands.
+    QString changed(const QString &what, const QString &state)
+    {
+        WmListener windowManager;
+        if (what == "save"_s)
+            return QStringList{save(), QString::fromLatin1(content()).remove(start)}.join(u' ');
+        if (what == "load"_s)
+            load(content());
+        QString shown;
+        for (const char *name : {"compositeGroupBox", "transparencyCheckBox", "shadowCheckBox"}) {
+            auto *box = find<QWidget>(name);
+            if (what == "set"_s)
+                box->setProperty("checked", state.at(shown.size()) == u'+');
+            shown += box->property("checked").toBool() ? u'+' : u'-';
+        }
+        return shown + windowManager.take().join(u'|') + u' ' + QString::fromLatin1(content()).remove(start);
     }
 
-    void writeLines(const QByteArray &lines) const { home.write("t"_s, m_start + lines); }
-    void loadLines(const QByteArray &lines) { load(m_start + lines); }
-    QString lines() const { return QString::fromLatin1(content().mid(m_start.size())); }
-    /// Whether the manager is on, transparency and shadow: "+-+".
-    QString composite() const
-    {
-        QString state;
-        for (const char *name : compositeBoxes)
-            state += find<QWidget>(name)->property("checked").toBool() ? u'+' : u'-';
-        return state;
-    }
-    void setComposite(const QString &state) const
-    {
-        for (int i = 0; i < 3; ++i)
-            find<QWidget>(compositeBoxes[i])->setProperty("checked", state.at(i) == u'+');
-    }
-
-    static constexpr const char *compositeBoxes[] = {"compositeGroupBox", "transparencyCheckBox",
-                                                     "shadowCheckBox"};
-    const QByteArray m_start;
+    StandardError messages;
+    QString start;
 };
 
 constexpr int million = 1024 * 1024;
@@ -89,120 +104,20 @@ class TestCompositeSettings : public QObject
 {
     Q_OBJECT
 private slots:
-    void boxShowsWhetherTheManagerRuns()
+    void managersAreFollowedAndTold()
     {
-        // What is shown, stored, and stored then.
-        WmListener windowManager;
-        for (const QStringList &row : rowsOf("pages/effects/running.json"_s)) {
-            const Manager manager(ownManager, row[1].startsWith(u'+'));
-            const CompositePage file(ownManager, row[2].toLatin1());
-            QCOMPARE(file.composite() + file.lines(), row[1] + row[3]);
-        }
-        QCOMPARE(windowManager.take(), QStringList());
-    }
-
-    void managerThatIsNotFoundIsSwitchedOff()
-    {
-        StandardError messages;
-        CompositePage file("no-%s-compton"_s, "UseComposite=true\n");
-        QCOMPARE(messages.take(),
-                 QByteArray("qaz-admin-wm: can't find CompositeManager='no-%s-compton' in PATH\n"));
-        QCOMPARE(file.lines(), "UseComposite=false\n"_s);
-        file.setComposite("+-+"_s);
-        file.loadLines("UseComposite=true\n");
-        QCOMPARE(file.composite(), "--+"_s);
-        // Which compton file would be edited is not known.
-        file.setComposite("+++"_s);
-        file.writeLines("UseComposite=true\n");
-        QCOMPARE(file.save(), QString());
-        QVERIFY(!file.home.exists(comptonFile));
-
-        // A save to a theme that still says on tells the window manager; kompmgrrc is overwritten, but kept.
-        const QByteArray kompmgr = "[kompmgr]\nIgnoreTransparency=false\n";
-        file.home.write(kompmgrFile, kompmgr);
-        file.home.write(
-            "t"_s, "CompositeManager=gone\nArrangeWindowSpeed=0\nGradWindowMapSpeed=0\nUseComposite=true\n");
-        file.setComposite("---"_s);
-        QCOMPARE(file.save(), "UseComposite false"_s);
-        QCOMPARE(file.home.read(kompmgrFile), QByteArray("[kompmgr]\nIgnoreTransparency=true\n"));
-        QCOMPARE(file.home.backups(), QByteArrayList{kompmgr});
-    }
-
-    void kompmgrFileIsReadAsNegations()
-    {
-        const std::pair<QByteArray, QString> rows[] = {
-            {"[other]\nCompmode=CompClientShadows\n", "---"_s},
-            {"[kompmgr]\nIgnoreTransparency=TRUE\nCompmode=compsimple\n", "-++"_s},
-            {"[kompmgr]\nIgnoreTransparency=untrue\nCompmode=CompSimple2\n", "---"_s}};
-        const Manager manager(ownManager, false);
-        for (const auto &[content, state] : rows) {
-            CompositePage file(ownManager, {});
-            file.home.write(kompmgrFile, content);
-            file.setComposite(state == "---"_s ? "+++"_s : "+--"_s);
-            file.loadLines("UseComposite=no\n");
-            QCOMPARE(file.composite(), state);
-            // What was loaded is saved without a trace, whatever its text.
-            const QString before = file.home.fingerprint();
-            QCOMPARE(file.save(), QString());
-            QCOMPARE(file.home.fingerprint(), before);
-        }
-    }
-
-    void runningManagerIsRestartedOnlyForAChangedFile()
-    {
-        const auto own = [](const QString &state) {
-            return QByteArray("; mine\n[kompmgr]\nOther=\"a, b\"\n")
-                   + (state.at(2) == u'+' ? "Compmode=CompClientShadows\n" : "")
-                   + (state.at(1) == u'+' ? "IgnoreTransparency=false\n" : "") + "\n[more]\nkey=1\n";
-        };
-        const auto theirs = [](const QString &state) {
-            return QByteArray("# mine\nshadow = ") + (state.at(2) == u'+' ? "true" : "false")
-                   + ";\nenable-transparency = " + (state.at(1) == u'+' ? "true" : "false") + ";\n";
-        };
-        // What is stored and chosen, the commands, and what is stored then.
-        for (const QStringList &row : rowsOf("pages/effects/restarts.json"_s)) {
-            for (const QString &name : {ownManager, compton}) {
-                const Manager manager(name, true);
-                CompositePage file(name, {});
-                file.home.write(kompmgrFile, own("---"_s));
-                file.home.write(comptonFile, theirs("---"_s));
-                file.setComposite(row[2]);
-                file.writeLines(row[1].toLatin1());
-                const QString commands = file.save();
-                QCOMPARE(commands + file.lines(), row[3] + row[4]);
-                QCOMPARE(file.home.backups().size(), row[2].endsWith("--"_s) ? 0 : 1);
-                QCOMPARE(file.home.read(kompmgrFile), own(name == ownManager ? row[2] : "---"_s));
-                QCOMPARE(file.home.read(comptonFile), theirs(name == compton ? row[2] : "---"_s));
+        // The installed manager, whether it runs, then steps with what comes of each.
+        for (QStringList row : rowsOf("pages/effects/composite.json"_s)) {
+            row.replaceInStrings("KOMPMGR"_s, ownManager).replaceInStrings("COMPTON"_s, compton);
+            const Manager manager(row[1], row[2] == "runs"_s);
+            CompositePage page;
+            QStringList steps = row.mid(0, 3);
+            for (int i = 3; i < row.size(); ++i) {
+                const QString step = row[i].section(" -> "_s, 0, 0);
+                steps += step + " -> "_s + page.outcome(step);
             }
+            QCOMPARE(steps, row);
         }
-    }
-
-    void comptonFileIsResolvedOnceAndMissingValuesAreWritten()
-    {
-        const Manager manager(compton, true);
-        CompositePage file(QString(), {});
-        file.home.write(".compton.conf"_s, {});
-        file.setComposite("-++"_s);
-        file.load("CompositeManager=" + compton.toLatin1() + '\n');
-        QCOMPARE(file.composite(), "+--"_s);
-        file.home.write(comptonFile, "shadow = true;\n");
-        file.load(file.content());
-        QCOMPARE(file.composite(), "+--"_s);
-        file.save();
-        QCOMPARE(file.home.read(".compton.conf"_s),
-                 QByteArray("enable-transparency = false;\nshadow = false;\n"));
-
-        // What is no file any more is told and left.
-        QVERIFY(QFile::remove(file.home.path(".compton.conf"_s)));
-        const QString path = file.home.makeFifo(".compton.conf"_s);
-        StandardError messages;
-        file.setComposite("-++"_s);
-        file.load(file.content());
-        QCOMPARE(file.composite(), "+++"_s);
-        QCOMPARE(file.save(), QString());
-        const QByteArray message = "qaz-admin-theme: Can't read " + QFile::encodeName(path) + '\n';
-        QCOMPARE(messages.take(), message + message);
-        QVERIFY(QFileInfo::exists(path) && !QFileInfo(path).isFile());
     }
 
     void comptonPlacesAreTriedInOrder()
