@@ -199,12 +199,10 @@ private slots:
         QVERIFY(m_dialog->messageReceived(QString()) && m_dialog->isVisible());
         // Above the window, what it waits for.
         QWidget other;
-        other.setGeometry(m_dialog->geometry());
         ModalDriver driver;
         driver.then([this, &other](QDialog *box) {
             other.show();
             QVERIFY(QTest::qWaitForWindowExposed(&other));
-            other.raise();
             m_dialog->messageReceived(QString());
             QTRY_VERIFY(box->isActiveWindow());
             box->reject();

@@ -49,8 +49,7 @@ private slots:
                 const QString comment = message.firstChildElement("comment"_s).text();
                 const QDomElement element = message.firstChildElement("translation"_s);
                 const QString translation = element.text();
-                const QByteArray all
-                    = QStringList({language, context, source, translation}).join(": "_s).toLocal8Bit();
+                const QByteArray all = (language + u' ' + source + ": "_s + translation).toLocal8Bit();
                 QVERIFY2(!element.hasAttribute("type"_s) && !translation.isEmpty(), all.constData());
                 if (lookedUp.match(context + ": "_s + source).hasMatch())
                     names.append(context + u'|' + translation);
