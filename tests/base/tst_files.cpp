@@ -10,14 +10,10 @@
 #include <sys/xattr.h>
 #include <unistd.h>
 
-namespace {
-
-FileEdit append(const QByteArray &text)
+static FileEdit append(const QByteArray &text)
 {
     return [text](const QByteArray &content) { return content + text; };
 }
-
-} // namespace
 
 class TestFiles : public QObject
 {

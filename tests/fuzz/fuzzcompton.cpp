@@ -2,25 +2,19 @@
 #include "tests/fuzz/fuzzing.h"
 #include "tests/support/temporaryhome.h"
 
-#include <QFile>
-
 // A switch that was set in a file that can be read is read back as it was set. A file whose text can't be edited, such as
 // one with a name right behind a number, stands as it was.
 int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     static const TemporaryHome home; // locks are kept in the home, too
-    static const QString path = home.path(QStringLiteral("compton.conf"));
     const FuzzInput input(data, size);
-    QFile file(path);
-    require(file.open(QIODevice::WriteOnly) && file.write(input.content) == input.content.size());
-    file.close();
-
+    const QString path = home.write(QStringLiteral("compton.conf"), input.content);
     if (!readComptonFile(path))
         return 0;
     const bool shadow = input.argument.isEmpty();
     QString error;
     if (!updateComptonFile(path, false, shadow, &error)) {
-        require(!error.isEmpty() && file.open(QIODevice::ReadOnly) && file.readAll() == input.content);
+        require(!error.isEmpty() && home.read(QStringLiteral("compton.conf")) == input.content);
         return 0;
     }
 

@@ -1,3 +1,4 @@
+#include "base/chandle.h"
 #include "platform/qazicontheme.h"
 #include "tests/support/fakeprogram.h"
 #include "tests/support/rows.h"
@@ -18,14 +19,12 @@ const QString defaultIndex = ".icons/default/index.theme"_s;
 const QString resources = ".Xresources"_s;
 const QString far = ".icons/Far"_s;
 
-struct CloseDisplay {
-    void operator()(Display *display) const { XCloseDisplay(display); }
-};
+using DisplayPtr = std::unique_ptr<Display, Release<XCloseDisplay>>;
 
 /// What a program that starts now takes for its cursor theme.
 QByteArray themeOfNewClient()
 {
-    const std::unique_ptr<Display, CloseDisplay> display(XOpenDisplay(nullptr));
+    const DisplayPtr display(XOpenDisplay(nullptr));
     return QByteArray(XcursorGetTheme(display.get()));
 }
 
@@ -127,7 +126,7 @@ private slots:
         const QStringList names = {"left_ptr"_s, "hand2"_s};
         makeCursorTheme(home, ".icons/Green"_s, Qt::green, names);
         makeCursorTheme(home, ".icons/Blue"_s, Qt::blue, names);
-        const std::unique_ptr<Display, CloseDisplay> other(XOpenDisplay(nullptr));
+        const DisplayPtr other(XOpenDisplay(nullptr));
         XcursorSetTheme(other.get(), "Green");
         const Window root = DefaultRootWindow(other.get());
         const Window window = XCreateSimpleWindow(other.get(), root, 0, 0, 100, 100, 0, 0, 0);

@@ -1,9 +1,6 @@
 #include "platform/qazsoundtheme.h"
 #include "tests/support/rows.h"
 #include "tests/support/temporaryhome.h"
-#include "tests/support/testing.h"
-
-#include <sys/stat.h>
 
 namespace {
 
@@ -14,21 +11,14 @@ QByteArray index(const QByteArray &inherits, const QByteArray &more = {})
            + "\n[s]\nOutputProfile=stereo\n[more]\nOutputProfile=stereo\n[surround]\nOutputProfile=5.1\n";
 }
 
-/// Sounds directories of the user, the system and the desktop's own.
-class SoundFiles
-{
-public:
-    /// Writes a file at a \a place that begins with "user/", "system/" or "own/"; returns its absolute path.
-    QString write(QByteArray place, const QByteArray &content = "sound") const
+struct SoundHome : TemporaryHome {
+    QString write(const QString &path, const QByteArray &content = "sound") const
     {
-        place.replace("user/", ".local/share/sounds/").replace("system/", "system/share/sounds/");
-        return m_home.write(QString::fromUtf8(place.replace("own/", "data/sounds/")), content);
+        return TemporaryHome::write(path, content);
     }
 
-private:
-    const TemporaryHome m_home;
-    const ScopedEnvironment m_dataRoot{"QAZ_DATA_DIR", QFile::encodeName(m_home.path("data"_s))};
-    const ScopedEnvironment m_locale{"LC_ALL", "de_AT.UTF-8"};
+    const ScopedEnvironment user{"XDG_DATA_HOME", QFile::encodeName(path("user"_s))},
+        own{"QAZ_DATA_DIR", QFile::encodeName(path("data"_s))}, locale{"LC_ALL", "de_AT.UTF-8"};
 };
 
 QString sound(QazSoundTheme &theme, const char *name)
@@ -56,13 +46,13 @@ class TestQazSoundTheme : public QObject
 private slots:
     void listsInstalledThemes()
     {
-        const SoundFiles files;
+        const SoundHome home;
         QCOMPARE(names(), "none"_s);
-        for (const char *shown : {"own/zebra", "user/ähre", "user/both"})
-            files.write(shown + QByteArray("/index.theme"), index(""));
-        for (const char *hidden : {"system/both", "system/hidden"})
-            files.write(hidden + QByteArray("/index.theme"), index("", "Hidden=true"));
-        files.write("user/no index/x.wav");
+        for (const QString &shown : {"data/sounds/zebra"_s, "user/sounds/ähre"_s, "user/sounds/both"_s})
+            home.write(shown + "/index.theme"_s, index(""));
+        for (const QString &hidden : {"system/share/sounds/both"_s, "system/share/sounds/hidden"_s})
+            home.write(hidden + "/index.theme"_s, index("", "Hidden=true"));
+        home.write("user/sounds/no index/x.wav"_s);
         QCOMPARE(names(), "both zebra ähre "_s);
     }
 
@@ -70,16 +60,16 @@ private slots:
     {
         // Files with blanks between them; a star marks the one to find.
         for (const QStringList &row : rowsOf("platform/sounds.json"_s)) {
-            const SoundFiles files;
-            files.write("user/a/index.theme", index("missing,first,second"));
-            files.write("user/first/index.theme", index("a;grand"));
-            for (const char *theme : {"user/second", "user/grand", "system/freedesktop"})
-                files.write(theme + QByteArray("/index.theme"), index("first"));
+            const SoundHome home;
+            home.write("user/sounds/a/index.theme"_s, index("missing,first,second"));
+            home.write("user/sounds/first/index.theme"_s, index("a;grand"));
+            for (const QString &theme :
+                 {"user/sounds/second"_s, "user/sounds/grand"_s, "system/share/sounds/freedesktop"_s})
+                home.write(theme + "/index.theme"_s, index("first"));
             QString expected;
-            for (const QByteArray &place : row.at(1).toUtf8().split(' ')) {
-                const QString path = files.write(QByteArray(place).replace('*', ""));
-                if (place.startsWith('*'))
-                    expected = path;
+            for (const QString &place : row[1].split(u' ')) {
+                const QString path = home.write(QString(place).remove(u'*'), "sound");
+                expected = place.startsWith(u'*') ? path : expected;
             }
             QazSoundTheme theme("a");
             QVERIFY(theme.load());
@@ -89,45 +79,45 @@ private slots:
 
     void namesAreKnownOnceLoaded()
     {
-        const SoundFiles files;
-        files.write("user/dir/index.theme", index("", "Name[de]=Glänzend\nName[fr]=Autre"));
-        const QString oga = files.write("user/dir/s/x.oga");
+        const SoundHome home;
+        home.write("user/sounds/dir/index.theme"_s, index("", "Name[de]=Glänzend\nName[fr]=Autre"));
+        const QString oga = home.write("user/sounds/dir/s/x.oga"_s);
         QazSoundTheme theme("dir");
-        files.write("own/x.wav");
-        files.write("own/.wav");
+        home.write("data/sounds/x.wav"_s);
+        home.write("data/sounds/.wav"_s);
         QCOMPARE(theme.getName() + sound(theme, "x").toLatin1(), "dir"); // not loaded
         QVERIFY(theme.load());
         QCOMPARE(QString::fromLocal8Bit(theme.getName()), "Glänzend"_s);
         QCOMPARE(theme.getThemeName(), "dir");
         QCOMPARE(QFile::decodeName(theme.getPath()) + "/s/x.oga"_s, oga);
         QCOMPARE(sound(theme, "") + sound(theme, "../s/x"), QString());
-        const QString wav = files.write("user/dir/s/x.wav");
+        const QString wav = home.write("user/sounds/dir/s/x.wav"_s);
         QCOMPARE(sound(theme, "x"), oga);
         QVERIFY(theme.load());
         QCOMPARE(sound(theme, "x"), wav);
-        files.write("user/dir/index.theme", index("a"));
+        home.write("user/sounds/dir/index.theme"_s, index("a"));
         QVERIFY(theme.load());
         QCOMPARE(theme.getName(), "A theme");
     }
 
     void refusesBrokenThemes()
     {
-        const SoundFiles files;
-        const QString pipe = QFileInfo(files.write("user/pipe/x.wav")).path() + "/index.theme"_s;
-        QCOMPARE(::mkfifo(qPrintable(pipe), 0600), 0);
-        files.write("user/directory/index.theme/x.wav");
-        for (const char *place : {"user/index.theme", "user/../index.theme", "user/good/index.theme"})
-            files.write(place, index(""));
+        const SoundHome home;
+        home.makeDirectory("user/sounds/pipe"_s);
+        home.makeFifo("user/sounds/pipe/index.theme"_s);
+        home.write("user/sounds/directory/index.theme/x.wav"_s);
+        for (const QString &place : {"sounds"_s, "."_s, "sounds/good"_s})
+            home.write("user/"_s + place + "/index.theme"_s, index(""));
         for (const char *name : {"pipe", "directory", "missing", "", "..", "../sounds/good"})
             QVERIFY2(!QazSoundTheme(name).load(), name);
 
-        files.write("user/a/s/x.wav");
+        home.write("user/sounds/a/s/x.wav"_s);
         for (const QByteArray &content :
              {QByteArray(), QByteArray("[Icon Theme]\nDirectories=s\n"),
               QByteArray("[Sound Theme]\nName=a\nDirectories= , ;\n"),
               QByteArray("Directories=s\n[Sound Theme\nDirectories=x\n"),
               QByteArrayLiteral("\x00\xff[\xfe]\n=\n[Sound Theme]=Directories\n")}) {
-            files.write("user/a/index.theme", content);
+            home.write("user/sounds/a/index.theme"_s, content);
             QazSoundTheme theme("a");
             QVERIFY2(!theme.load(), content.constData());
             QCOMPARE(sound(theme, "x"), QString());

@@ -8,8 +8,6 @@
 
 #include <X11/Xlib.h>
 
-static constexpr char full[] = "aaaaaaaaaaaaaaaaaaaa"; // one message
-
 class TestSendCommandToWm : public QObject
 {
     Q_OBJECT
@@ -72,21 +70,19 @@ private slots:
 
     void interleavedSendersAreKeptApart()
     {
+        constexpr char full[] = "aaaaaaaaaaaaaaaaaaaa", last[20] = "end";
         CommandReceiver receiver;
-        const auto begin = [&](std::uint64_t sender) { return receiver.take(sender, true, full); };
-        const auto finish = [&](std::uint64_t sender) {
-            return receiver.take(sender, false, "end\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0");
-        };
         for (std::uint64_t sender = 0; sender < 65; ++sender)
-            QVERIFY(begin(sender).isNull());
-        QVERIFY(begin(64).isNull()); // anew
-        for (const std::uint64_t sender : {64, 1})
-            QCOMPARE(finish(sender), full + QByteArray("end"));
-        QVERIFY2(finish(0).isNull(), "the oldest of too many went");
-        QVERIFY2(finish(1).isNull(), "a following message without a first one");
+            QVERIFY(receiver.take(sender, true, full).isNull());
+        QVERIFY(receiver.take(64, true, full).isNull()); // anew
+        QByteArrayList finished;
+        for (const std::uint64_t sender :
+             {64, 1, 0, 1}) // of too many the oldest went; a last one without a first one
+            finished += receiver.take(sender, false, last);
+        QCOMPARE(finished.join('|'), full + QByteArray("end|") + full + "end||");
         for (int bytes = 0; bytes <= longestCommand; bytes += 20)
             QVERIFY(receiver.take(3, bytes == 0, full).isNull());
-        QVERIFY2(finish(3).isNull(), "too long a command is dropped");
+        QVERIFY2(receiver.take(3, false, last).isNull(), "too long a command is dropped");
     }
 };
 

@@ -12,15 +12,12 @@ class TestSingleApplication : public QObject
 {
     Q_OBJECT
 private slots:
-    void initTestCase()
-    {
-        QVERIFY(!m_app->isRunning());
-        QCOMPARE(m_app->id(), "tst_singleapplication"_s); // the program's name
-    }
+    void initTestCase() { QVERIFY(!m_app->isRunning()); }
 
     void everyMessageIsHeardAndAcknowledged()
     {
         QSignalSpy heard(m_app, &QtSingleApplication::messageReceived);
+        QCOMPARE(m_app->id(), "tst_singleapplication"_s); // the program's name
         QVERIFY(!m_app->sendMessage("to itself"_s));
         for (const QString &message : {"show"_s, QString(), QString(30000, u'ä')}) {
             QCOMPARE(exitCodeOfSender(message, 60000), 0);
@@ -47,8 +44,7 @@ private slots:
     {
         const QTemporaryDir directory;
         const ScopedEnvironment runtime("XDG_RUNTIME_DIR", QFile::encodeName(directory.path()));
-        const QString lock = directory.filePath(QFileInfo(ownFile("*.lock"_s)).fileName());
-        QFile owner(lock);
+        QFile owner(directory.filePath(QFileInfo(ownFile("*.lock"_s)).fileName()));
         QVERIFY(owner.open(QIODevice::WriteOnly));
         QCOMPARE(::flock(owner.handle(), LOCK_EX), 0);
         QCOMPARE(exitCodeOfSender("show"_s, 100), 1);

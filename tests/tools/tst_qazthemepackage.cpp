@@ -1,8 +1,4 @@
 #include "base/chandle.h"
-#include "tests/support/programprocess.h"
-#include "tests/support/temporaryhome.h"
-#include "tests/support/testing.h"
-#include "tests/support/wmlistener.h"
 #include "tests/tools/toolrun.h"
 
 #include <archive.h>
@@ -36,11 +32,11 @@ void writeArchive(const QString &path, const QVector<Member> &members, const cha
             archive_entry_set_symlink_utf8(entry.get(), member.content.constData());
         else if (member.type == hardLink)
             archive_entry_set_hardlink_utf8(entry.get(), member.content.constData());
-        const bool hasContent = member.type == AE_IFREG;
-        archive_entry_set_size(entry.get(), hasContent ? member.content.size() : 0);
+        else
+            archive_entry_set_size(entry.get(), member.content.size());
         archive_write_header(writer.get(), entry.get());
-        if (hasContent)
-            archive_write_data(writer.get(), member.content.constData(), std::size_t(member.content.size()));
+        archive_write_data(writer.get(), member.content.constData(),
+                           std::size_t(member.content.size())); // of files
     }
 }
 
@@ -126,12 +122,12 @@ private slots:
         const Member theme = {"theme.themerc", "PagingSpeed=5\n"};
         QVector<QVector<Member>> packages{{},
                                           {{"themes", "a"}},
-                                          {{"theme.themerc", "PagingSpeed=500\n"}},
-                                          {{"theme.themerc", "WallPaper=wallpapers/a\n"}},
-                                          {{"theme.themerc", "/etc/passwd", AE_IFLNK}},
                                           {theme, {"../evil", {}, AE_IFDIR}},
+                                          {{"theme.themerc", "/etc/passwd", AE_IFLNK}},
                                           {theme, {"sounds", "/tmp", AE_IFLNK}, {"sounds/a", "x"}},
                                           {theme, {"sounds/a", "1"}, {"sounds/a", "2"}}};
+        for (const char *text : {"PagingSpeed=500\n", "WallPaper=wallpapers/a\n"})
+            packages.append(QVector<Member>{{"theme.themerc", text}});
         for (const char *name :
              {"../evil", "wallpapers/../../evil", "/tmp/evil", "wallpapers/..", "sounds/a/b", "other",
               "other/a", "sounds/.hidden", "wallpapers//a", "wallpapers/a\nb", "./../evil", ""})

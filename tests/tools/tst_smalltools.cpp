@@ -3,12 +3,8 @@
 
 #include <X11/Xlib.h>
 
-namespace {
-
-const QByteArray svg
+static const QByteArray svg
     = "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 4 2'><path fill='#f00' d='M0 0h2v2h-2z'/></svg>";
-
-} // namespace
 
 /// qaz-svg2png, qaz-wm-listen and render-icons.
 class TestSmallTools : public QObject

@@ -1,11 +1,46 @@
+#include "platform/findfileinpath.h"
+#include "platform/findinps.h"
 #include "platform/findwallpaperbyname.h"
 #include "platform/wallpapersizeforscreen.h"
 #include "tests/support/fakeprogram.h"
 #include "tests/support/standarderror.h"
 #include "tests/support/temporaryhome.h"
-#include "tests/support/testing.h"
+
+#include <csignal>
+#include <filesystem>
+
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 namespace {
+
+/// A copy of sleep with \a argument0 in the place of its name, which it runs as soon as the constructor returns; killed
+/// and reaped at the end of the scope.
+struct SpawnedProcess {
+    SpawnedProcess(const QString &program, QByteArray argument0)
+    {
+        QByteArray time = "3600";
+        char *argv[] = {argument0.data(), time.data(), nullptr};
+        if (posix_spawn(&id, QFile::encodeName(program).constData(), nullptr, nullptr, argv, environ) != 0)
+            qFatal("Can't start %s", qPrintable(program));
+    }
+    ~SpawnedProcess()
+    {
+        ::kill(id, SIGKILL);
+        ::waitpid(id, nullptr, 0);
+    }
+    Q_DISABLE_COPY(SpawnedProcess)
+
+    pid_t id = -1;
+};
+
+QString inPath(const QString &name)
+{
+    char buffer[PATH_MAX] = "untouched";
+    const bool found = FindFileInPATH(QFile::encodeName(name).constData(), buffer);
+    return found == (buffer[0] != '\0') ? QFile::decodeName(buffer) : "contradiction"_s;
+}
 
 const char command[] = "qaz-svg2png -w %d -h %d -i \"%s\" -o \"%s\"";
 const QString converter = "qaz-svg2png"_s;
@@ -18,20 +53,58 @@ QString find(const QString &name, const char *convertCommand = command)
     return QFile::decodeName(result);
 }
 
-bool makeOlder(const QString &path, int seconds)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadWrite)
-           && file.setFileTime(QDateTime::currentDateTime().addSecs(-seconds),
-                               QFileDevice::FileModificationTime);
-}
-
 } // namespace
 
-class TestWallpaperSearch : public QObject
+/// Programs and wallpapers by their names.
+class TestSearches : public QObject
 {
     Q_OBJECT
 private slots:
+    void firstExecutableFileInPathIsFound()
+    {
+        const TemporaryHome home;
+        home.write("a/manager"_s, "not executable");
+        home.makeDirectory("b/manager"_s);
+        const QString program = home.path("c d/manager"_s);
+        for (const char *directory : {"c d", "e"})
+            QVERIFY(home.makeDirectory(QLatin1String(directory))
+                    && QFile::copy("/bin/sleep"_s, home.path(QLatin1String(directory) + "/manager"_s)));
+        const ScopedEnvironment search("PATH", QFile::encodeName("%1/a:%1/b:%1/c d:%1/e"_s.arg(home.path())));
+        // A name with a slash stands for itself, wherever PATH leads.
+        for (const QString &name : {"manager"_s, program, QDir().relativeFilePath(program)})
+            QCOMPARE(inPath(name), program);
+        for (const QString &name : {QString(), "anager"_s, home.path("a/manager"_s), home.path("b/manager"_s),
+                                    "../c d/manager"_s, u'/' + QString(2 * PATH_MAX, u'x')})
+            QCOMPARE(inPath(name), QString());
+    }
+
+    void runningProcessIsFoundByName()
+    {
+        // Longer than the fifteen characters that the kernel keeps, and made to mislead a reader of its tables.
+        const QByteArray file = "qaz) Z (test-manager-" + QByteArray::number(::getpid());
+        const QByteArray alias = "qaz-test-alias-" + QByteArray::number(::getpid());
+        // argv[0], a name, and whether it is found.
+        const std::tuple<QByteArray, QByteArray, bool> cases[] = {
+            {"something else", file, true}, {"/opt/x/" + alias, alias, true},   {file, file.mid(4), false},
+            {file, file.left(15), false},   {'/' + alias + "/x", alias, false}, {{}, "", false},
+            {file, "3600", false}};
+        const TemporaryHome home;
+        const QString program = home.path(QFile::decodeName(file));
+        QVERIFY(QFile::copy("/bin/sleep"_s, program));
+        for (const auto &[argument0, name, found] : cases) {
+            QVERIFY(!findInPS(name.constData()));
+            const SpawnedProcess process(program, argument0);
+            QVERIFY2(findInPS(name.constData()) == found, (argument0 + ' ' + name).constData());
+        }
+        const SpawnedProcess removed(program, "x");
+        QVERIFY(QFile::remove(program));
+        QVERIFY(findInPS(file.constData()));
+        siginfo_t info = {};
+        ::kill(removed.id, SIGKILL);
+        ::waitid(P_PID, id_t(removed.id), &info, WEXITED | WNOWAIT);
+        QVERIFY2(!findInPS(file.constData()), "a zombie");
+    }
+
     void standardSizeIsTheNearestRatios()
     {
         const int rows[][6] = {{1280, 1024, 1280, 1024, 5, 4}, {1024, 768, 1600, 1200, 4, 3},
@@ -74,7 +147,9 @@ private slots:
                      "cat; while [ $# -gt 1 ]; do [ \"$1\" = -o ] && echo png > \"$2\"; shift 2; done");
         const QString name = "a \"quoted\" $(touch x)"_s;
         const QString source = home.write(own + name + ".svg"_s, "<svg/>");
-        QVERIFY(makeOlder(source, 60));
+        const QByteArray sourceName = QFile::encodeName(source);
+        const auto now = std::filesystem::file_time_type::clock::now();
+        std::filesystem::last_write_time(sourceName.constData(), now - std::chrono::minutes(1));
         const QString converted = find(name);
         QVERIFY2(converted.startsWith(home.path(".cache/qaz/wallpapers/svg_1366x768_"_s))
                      && converted.endsWith(".png"_s),
@@ -84,7 +159,7 @@ private slots:
         QCOMPARE(programs.calls(converter), calls);
         QCOMPARE(find(name), converted);
         QCOMPARE(programs.calls(converter), calls);
-        QVERIFY(makeOlder(source, -60));
+        std::filesystem::last_write_time(sourceName.constData(), now + std::chrono::minutes(1));
         QCOMPARE(find(name), converted);
         QCOMPARE(programs.calls(converter), calls + calls);
         home.write(own + "packed.svgz"_s, "x");
@@ -97,10 +172,10 @@ private slots:
                  QStringList({"1366"_s, "768"_s, "%d"_s, source, converted, "%s"_s}));
         for (const char *none : {"", "missing-program -x"})
             QCOMPARE(find(name, none), QString());
-        QCOMPARE(errors.take(), "why\nqaz-admin-theme: Can't convert " + QFile::encodeName(source)
+        QCOMPARE(errors.take(), "why\nqaz-admin-theme: Can't convert " + sourceName
                                     + ": missing-program is not installed\n");
     }
 };
 
-QTEST_GUILESS_MAIN(TestWallpaperSearch)
-#include "tst_wallpapersearch.moc"
+QTEST_GUILESS_MAIN(TestSearches)
+#include "tst_searches.moc"
