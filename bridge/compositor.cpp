@@ -16,11 +16,6 @@ Compositor::Compositor(const Session &session)
     m_session.x.watchSelection(selection);
 }
 
-void Compositor::take(bool isOn)
-{
-    m_wasOff = m_wasOff || !isOn;
-}
-
 void Compositor::apply()
 {
     const bool isWanted = countsAsTrue(m_session.values.text("UseComposite", "false"));

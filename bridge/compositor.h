@@ -13,7 +13,7 @@ public:
     explicit Compositor(const Session &session);
 
     /// A command says that compositing is on or off: off and on again restarts a manager that runs.
-    void take(bool isOn);
+    void take(bool isOn) { m_wasOff = m_wasOff || !isOn; }
     void apply();
     /// Somebody took or left a selection: it may be the compositing manager's.
     void selectionChanged();

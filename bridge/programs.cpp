@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <csignal>
 #include <cstdio>
+#include <utility>
 
 #include <sys/prctl.h>
 
@@ -20,14 +21,10 @@ namespace {
 constexpr int hangMs = 10000;
 constexpr int endMs = 2000;
 
-struct Tool {
-    const char *name;
-    const char *package;
-};
-
-constexpr Tool tools[] = {{"aplay", "alsa-utils"},       {"feh", "feh"},
-                          {"openbox", "openbox"},        {"qaz-svg2png", "qaz-admin-theme"},
-                          {"xset", "x11-xserver-utils"}, {"xsettingsd", "xsettingsd"}};
+constexpr std::pair<const char *, const char *> packages[] // of the tools
+    = {{"aplay", "alsa-utils"},       {"feh", "feh"},
+       {"openbox", "openbox"},        {"qaz-svg2png", "qaz-admin-theme"},
+       {"xset", "x11-xserver-utils"}, {"xsettingsd", "xsettingsd"}};
 
 /// Ends with the bridge, however that ends: a settings manager that stayed would keep the next one from its place.
 class Child : public QProcess
@@ -163,10 +160,10 @@ void Programs::complain(const QString &tool, const QString &what)
     if (m_complained.contains(tool))
         return;
     m_complained.insert(tool);
-    const auto *known = std::find_if(std::begin(tools), std::end(tools),
-                                     [&tool](const Tool &each) { return tool == QLatin1String(each.name); });
-    // A compositing manager may be of any package.
-    tell(known == std::end(tools)
-             ? what.arg(tool)
-             : QStringLiteral("%1 (Debian package %2)").arg(what.arg(tool), QLatin1String(known->package)));
+    QString line = what.arg(tool);
+    for (const auto &[name, package] : packages) { // a compositing manager may be of any
+        if (tool == QLatin1String(name))
+            line += QStringLiteral(" (Debian package %1)").arg(QLatin1String(package));
+    }
+    tell(line);
 }

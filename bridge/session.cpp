@@ -10,21 +10,6 @@ Values::Values(const QString &themeFile)
     refresh();
 }
 
-void Values::refresh()
-{
-    m_file.sync(true);
-}
-
-void Values::announce(const QString &key, const QString &value)
-{
-    m_announced.insert(key, value);
-}
-
-void Values::forgetAnnounced()
-{
-    m_announced.clear();
-}
-
 QString Values::text(const char *key, const char *defaultText) const
 {
     return m_announced.value(QLatin1String(key), fileText(key, defaultText));

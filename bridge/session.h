@@ -26,9 +26,9 @@ public:
     explicit Values(const QString &themeFile);
 
     /// Reads the file again; what was announced stands.
-    void refresh();
-    void announce(const QString &key, const QString &value);
-    void forgetAnnounced();
+    void refresh() { m_file.sync(true); }
+    void announce(const QString &key, const QString &value) { m_announced.insert(key, value); }
+    void forgetAnnounced() { m_announced.clear(); }
 
     /// The announced text of \a key, else the file's, else \a defaultText.
     QString text(const char *key, const char *defaultText = "") const;

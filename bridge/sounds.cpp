@@ -10,13 +10,6 @@
 #include <QProcess>
 #include <QTimer>
 
-namespace {
-
-constexpr int mostAtOnce = 3;
-constexpr int longestMs = 10000;
-
-} // namespace
-
 Sounds::Sounds(const Session &session)
     : m_session(session)
 {}
@@ -47,6 +40,8 @@ QString Sounds::fileOf(const char *key)
 
 void Sounds::play(const char *key)
 {
+    constexpr int mostAtOnce = 3;
+    constexpr int longestMs = 10000;
     if (m_playing >= mostAtOnce || !countsAsTrue(m_session.values.text("EnableSound", "false")))
         return;
     const QString file = fileOf(key);

@@ -27,9 +27,11 @@ QString renderedName(const QString &path, const QSize &size)
              QString::fromLatin1(digest.toHex()));
 }
 
-bool isNewer(const QString &path, const QString &other)
+QStringList showCommand(const QString &path, Fit fit, const QColor &background)
 {
-    return QFileInfo(path).isFile() && QFileInfo(path).lastModified() > QFileInfo(other).lastModified();
+    constexpr const char *options[] = {"--bg-center", "--bg-tile", "--bg-scale"};
+    return {QStringLiteral("feh"), QStringLiteral("--no-fehbg"),           QStringLiteral("--image-bg"),
+            background.name(),     QString::fromLatin1(options[int(fit)]), path};
 }
 
 } // namespace
@@ -108,7 +110,7 @@ QVector<QStringList> Wallpaper::commandsFor(const QString &wallpaper, Fit fit) c
     const QSize size = m_session.x.screenSize();
     const QString rendered = ownFile(renderedName(path, size));
     const QStringList show = showCommand(rendered, fit, background);
-    if (isNewer(rendered, path))
+    if (QFileInfo(rendered).isFile() && QFileInfo(rendered).lastModified() > QFileInfo(path).lastModified())
         return {show};
     return {{QStringLiteral("qaz-svg2png"), QStringLiteral("-w"), QString::number(size.width()),
              QStringLiteral("-h"), QString::number(size.height()), QStringLiteral("-i"), path,
@@ -118,9 +120,9 @@ QVector<QStringList> Wallpaper::commandsFor(const QString &wallpaper, Fit fit) c
 
 QVector<QStringList> Wallpaper::colorCommands(const QColor &color) const
 {
-    const QColor shown = color.isValid() ? color : QColor(Qt::black);
-    const QString path = ownFile(QLatin1String("color-") + shown.name().mid(1) + QLatin1String(".ppm"));
+    const QString path = ownFile(QLatin1String("color-") + color.name().mid(1) + QLatin1String(".ppm"));
     if (!QFileInfo::exists(path))
-        m_session.write(path, oneColorPicture(shown));
-    return {showCommand(path, Fit::Tile, shown)};
+        m_session.write(path, "P6 1 1 255\n" + QByteArray(1, char(color.red())) + char(color.green())
+                                  + char(color.blue()));
+    return {showCommand(path, Fit::Tile, color)};
 }

@@ -22,8 +22,6 @@ constexpr Format formats[] = {{"png", "\x89PNG"},  {"jpeg", "\xff\xd8\xff"}, {"x
                               {"webp", "WEBP", 8}, {"gif", "GIF8"},          {"bmp", "BM"},
                               {"tiff", "II*"},     {"tiff", "MM"},           {"ppm", "P6"}};
 
-constexpr const char *fitOptions[] = {"--bg-center", "--bg-tile", "--bg-scale"};
-
 } // namespace
 
 bool isImageFile(const QString &path)
@@ -55,19 +53,4 @@ QString nextPicture(const QString &path)
         return isImageFile(directory.filePath(name));
     });
     return next == names.cend() ? path : directory.filePath(*next);
-}
-
-QStringList showCommand(const QString &path, Fit fit, const QColor &background)
-{
-    return {QStringLiteral("feh"),
-            QStringLiteral("--no-fehbg"),
-            QStringLiteral("--image-bg"),
-            background.isValid() ? background.name() : QStringLiteral("#000000"),
-            QString::fromLatin1(fitOptions[int(fit)]),
-            path};
-}
-
-QByteArray oneColorPicture(const QColor &color)
-{
-    return "P6 1 1 255\n" + QByteArray(1, char(color.red())) + char(color.green()) + char(color.blue());
 }

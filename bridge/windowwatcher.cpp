@@ -29,7 +29,7 @@ QVector<unsigned long> WindowWatcher::clients() const
 
 void WindowWatcher::add(XConnection::Window window)
 {
-    m_x.watchProperties(window);
+    XSelectInput(m_x.display(), window, PropertyChangeMask);
     m_windows.insert(window, stateOf(window));
 }
 

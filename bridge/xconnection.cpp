@@ -11,12 +11,6 @@
 #include <X11/extensions/Xfixes.h>
 #include <poll.h>
 
-namespace {
-
-constexpr int takeOverMs = 15000;
-
-} // namespace
-
 XConnection::XConnection()
     : m_display(XOpenDisplay(nullptr))
 {
@@ -27,7 +21,13 @@ XConnection::XConnection()
     XSetIOErrorHandler([](Display *) { return Success; });
     // The default ends the process on the spot, without its children.
     XSetIOErrorExitHandler(
-        m_display, [](Display *, void *self) { static_cast<XConnection *>(self)->lose(); }, this);
+        m_display,
+        [](Display *, void *data) {
+            auto *self = static_cast<XConnection *>(data);
+            if (!std::exchange(self->m_isLost, true))
+                emit self->serverLost();
+        },
+        this);
     // Whoever sees the selection taken may send at once.
     XSelectInput(m_display, rootWindow(), SubstructureNotifyMask | PropertyChangeMask);
     int firstError{};
@@ -38,12 +38,6 @@ XConnection::~XConnection()
 {
     if (m_display && !std::exchange(m_isLost, true))
         XCloseDisplay(m_display);
-}
-
-void XConnection::lose()
-{
-    if (!std::exchange(m_isLost, true))
-        emit serverLost();
 }
 
 int XConnection::screenNumber() const
@@ -144,7 +138,7 @@ bool XConnection::claimSelection(const char *name, bool replace)
 
 bool XConnection::waitForOldOwner(Window window) const
 {
-    const QDeadlineTimer deadline(takeOverMs);
+    const QDeadlineTimer deadline(15000);
     pollfd server = {ConnectionNumber(m_display), POLLIN, {}};
     XEvent event;
     while (!XCheckTypedWindowEvent(m_display, window, DestroyNotify, &event)) {
@@ -179,11 +173,6 @@ QByteArray XConnection::text(Window window, const char *name) const
 {
     const QVector<char> characters = property<char>(window, name, 8);
     return {characters.constData(), characters.size()};
-}
-
-void XConnection::watchProperties(Window window) const
-{
-    XSelectInput(m_display, window, PropertyChangeMask);
 }
 
 QByteArray XConnection::windowManager() const

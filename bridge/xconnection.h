@@ -43,7 +43,6 @@ public:
     /// The text in a window's property.
     QByteArray text(Window window, const char *property) const;
     unsigned long atom(const char *name) const;
-    void watchProperties(Window window) const;
 
     /// The name of the running EWMH window manager; empty without one.
     QByteArray windowManager() const;
@@ -57,7 +56,6 @@ signals:
 
 private:
     void readEvents();
-    void lose();
     unsigned long selectionAtom(const char *name) const;
     template<typename Item>
     QVector<Item> property(Window window, const char *name, int format) const;

@@ -69,7 +69,7 @@ private:
     const QIcon &icon()
     {
         if (m_icon.isNull())
-            m_icon = QIcon(QPixmap::fromImage(m_draw()));
+            m_icon = QPixmap::fromImage(m_draw());
         return m_icon;
     }
 
@@ -84,11 +84,6 @@ QStringList sortedNames(const List<char> &list)
         names.append(QFile::decodeName(list.at(i)));
     names.sort();
     return names;
-}
-
-QIcon iconOf(const QImage &preview)
-{
-    return QIcon(QPixmap::fromImage(preview));
 }
 
 /// The cursor \a shape of a theme at the display's default cursor size; null when there is none.
@@ -174,7 +169,7 @@ QVector<ThemeEntry> cursorThemeEntries(const QSize &size)
         for (const char *shape : {"left_ptr", "watch", "xterm"})
             cursors += loadCursorImage(shape, name, directories);
         if (std::none_of(cursors.cbegin(), cursors.cend(), std::mem_fn(&QImage::isNull)))
-            entries.append({name, iconOf(threeImagesPreview(size, cursors))});
+            entries.append({name, QPixmap::fromImage(threeImagesPreview(size, cursors))});
     }
     return entries;
 }
@@ -220,7 +215,7 @@ QVector<ThemeEntry> decorThemeEntries(const QSize &size)
         if (name.startsWith('.'))
             continue;
         if (const std::optional<DecorImages> images = loadDecorImages(root + '/' + name))
-            entries.append({QFile::decodeName(name), iconOf(decorPreview(size, *images))});
+            entries.append({QFile::decodeName(name), QPixmap::fromImage(decorPreview(size, *images))});
     }
     return entries;
 }
