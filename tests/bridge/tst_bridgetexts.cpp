@@ -4,6 +4,7 @@
 #include "bridge/wallpaperpicture.h"
 #include "bridge/xsettings.h"
 #include "settings/wmcommands.h"
+#include "tests/support/rows.h"
 #include "tests/support/temporaryhome.h"
 #include "tests/support/testing.h"
 
@@ -16,38 +17,18 @@ class TestBridgeTexts : public QObject
 private slots:
     void settingsFileHoldsOneLineAValue()
     {
-        QCOMPARE(xsettingsFile({"Noto Sans-11:bold:italic"_s, "tirsk"_s, "arrow"_s, "120 true rgb full"_s}),
-                 "Gtk/FontName \"Noto Sans Bold Italic 11\"\nNet/IconThemeName \"tirsk\"\n"
-                 "Gtk/CursorThemeName \"arrow\"\nXft/DPI 122880\nXft/Antialias 1\nXft/RGBA \"rgb\"\n"
-                 "Xft/Hinting 1\nXft/HintStyle \"hintfull\"\n");
-        QCOMPARE(
-            xsettingsFile(
-                {"a\"\nEvil 1\\:normal:x"_s, "b\nEvil 1"_s, "c\\"_s, "x false RGB\nEvil hintnone"_s}),
-            "Gtk/FontName \"a\\\" Evil 1\\\\ 12\"\nNet/IconThemeName \"b Evil 1\"\n"
-            "Gtk/CursorThemeName \"c\\\\\"\nXft/Antialias 0\nXft/Hinting 0\nXft/HintStyle \"hintnone\"\n");
-        QCOMPARE(xsettingsFile({"Verdana"_s, {}, {}, "0 unknown rgb full"_s}), QByteArray());
-        QByteArray all;
-        for (const char *words : {"401 1 none none", "-1 yes bgr hintslight", "x true vrgb medium",
-                                  "1 true vbgr hintfull", "", "9"})
-            all += xsettingsFile({{}, {}, {}, QLatin1String(words)}).replace("Xft/", "").replace('\n', ' ')
-                   + '|';
-        QCOMPARE(
-            all,
-            QByteArray("DPI 409600 Antialias 1 RGBA \"none\" Hinting 0 HintStyle \"hintnone\" |"
-                       "Antialias 0 RGBA \"bgr\" Hinting 1 HintStyle \"hintslight\" |"
-                       "Antialias 1 RGBA \"vrgb\" Hinting 1 HintStyle \"hintmedium\" |"
-                       "DPI 1024 Antialias 1 RGBA \"vbgr\" Hinting 1 HintStyle \"hintfull\" ||DPI 9216 |"));
+        for (const QStringList &row : rowsOf("bridge/xsettings.json"_s))
+            QCOMPARE(xsettingsFile({row[0], row[1], row[2], row[3]}).replace('\n', '|'), row[4].toUtf8());
     }
 
     void openboxFileKeepsEveryOtherByte()
     {
-        const QByteArray before = m_home.read(bridgeTests + "rc.xml"_s),
-                         after = m_home.read(bridgeTests + "rc-themed.xml"_s);
+        const QByteArray after = m_home.read(bridgeTests + "rc-themed.xml"_s);
         QString error;
-        const auto changed = withOpenboxTheme(before, "qaz"_s, "Sans-9:bold"_s, "A&B-12:normal:italic"_s,
-                                              &error);
-        QCOMPARE(changed.value_or(error.toUtf8()), after);
-        QCOMPARE(withOpenboxTheme(after, "qaz"_s, {}, "Verdana"_s, &error).value_or(""), after);
+        QCOMPARE(withOpenboxTheme(m_home.read(bridgeTests + "rc.xml"_s), "qaz"_s, "Sans-9:bold"_s,
+                                  "A&B-12:normal:italic"_s, &error),
+                 after);
+        QCOMPARE(withOpenboxTheme(after, "qaz"_s, {}, "Verdana"_s, &error), after);
         for (const char *other :
              {"", "<theme><name>a</name></theme>", "<openbox_config><theme/></openbox_config>",
               "<openbox_config><theme></theme>"})
