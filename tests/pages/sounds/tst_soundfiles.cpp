@@ -17,23 +17,19 @@ private slots:
     {
         const TemporaryHome home;
         const QString themes = QFileInfo("/usr/share/sounds"_s).isDir() ? "/usr/share/sounds"_s : QString();
-        const QString used = home.write("used.wav"_s, "sound"), directory = home.path("d"_s),
-                      built = home.write("d/built.wav"_s, "sound");
-        const QString rows[][4] = {// value, sounds directory, start with a theme and without
-                                   {used, directory, used, used},
-                                   {home.path("gone.wav"_s), directory, home.path(), home.path()},
-                                   {"built.wav"_s, directory, built, built},
-                                   {"x.wav"_s, directory, directory, directory},
-                                   {"x.wav"_s, "/missing"_s, themes, {}},
-                                   {{}, directory, themes, directory},
-                                   {"one"_s, directory, themes, directory},
-                                   {"/missing/x.wav"_s, directory, themes, directory}};
-        for (const auto &[value, sounds, withTheme, alone] : rows) {
-            QCOMPARE(startOfChoice(value, true, sounds), withTheme);
-            QCOMPARE(startOfChoice(value, false, sounds), alone);
-        }
+        const QString directory = home.path("d"_s), link = home.path("link"_s),
+                      used = home.write("used.wav"_s, "sound"), built = home.write("d/built.wav"_s, "sound");
+        QString starts;
+        for (const QString &value : {used, home.path("gone.wav"_s), "built.wav"_s, "x.wav"_s, QString(),
+                                     "one"_s, "/missing/x.wav"_s})
+            starts += startOfChoice(value, true, directory) + u' ' + startOfChoice(value, false, directory)
+                      + u'|';
+        QCOMPARE(starts.replace(home.path(), "~"_s),
+                 "~/used.wav ~/used.wav|~ ~|~/d/built.wav ~/d/built.wav|~/d ~/d|%1 ~/d|%1 ~/d|%1 ~/d|"_s.arg(
+                     themes));
+        QCOMPARE(startOfChoice("x.wav"_s, true, "/missing"_s) + startOfChoice("x.wav"_s, false, "/missing"_s),
+                 themes);
 
-        const QString link = home.path("link"_s);
         QVERIFY(QFile::link(directory, link));
         QCOMPARE(assignmentForFile(built, link), "built.wav"_s);
         for (const QString &end : {"-more/a.wav"_s, "/sub/a.wav"_s, "/name"_s}) // would mean a theme's sound
@@ -60,20 +56,18 @@ private slots:
                                     "$(x);.ogg"_s, "a b/c.wav"_s, "empty dir/x/y"_s})
             home.write("t/"_s + safe, {});
         QCOMPARE(unsafeForConversion(directory) + unsafeForConversion(directory + "/empty dir"_s), QString());
-        for (const QString &unsafe :
-             {"a -o x.ogg"_s, "d -o y/x.oga"_s, "it's.ogg"_s, "a\"b.ogg"_s, "a`b.oga"_s, "a\\b.ogg"_s,
-              "a\tb.ogg"_s, "a\nb.ogg"_s, "a\x1b.ogg"_s, "a\u00a0b.ogg"_s, ".hidden one.ogg"_s}) {
-            const QString path = home.write("t/"_s + unsafe, {});
+        for (const char *unsafe : {"a -o x.ogg", "d -o y/x.oga", "it's.ogg", "a\"b.ogg", "a`b.oga",
+                                   "a\\b.ogg", "a\nb.ogg", "a\x1b.ogg", "a\u00a0b.ogg", ".hidden one.ogg"}) {
+            const QString path = home.write("t/"_s + QString::fromUtf8(unsafe), {});
             QCOMPARE(unsafeForConversion(directory), path);
             QVERIFY(QFile::remove(path));
         }
         const QString unsafe = directory + "/dir \n.ogg"_s; // directories count, too
         QVERIFY(QDir().mkdir(unsafe));
-        for (const QString &start : {directory, unsafe})
-            QCOMPARE(unsafeForConversion(start), unsafe);
+        QCOMPARE(unsafeForConversion(directory), unsafe);
         // What can't be looked into may hold anything.
-        for (const QString &unknown : {home.path("missing"_s), "-d"_s})
-            QCOMPARE(unsafeForConversion(unknown), unknown);
+        for (const QString &self : {unsafe, home.path("missing"_s), "-d"_s})
+            QCOMPARE(unsafeForConversion(self), self);
     }
 
     void leavesALongConversionAlone()

@@ -2,6 +2,7 @@
 #include "tests/support/fakeprogram.h"
 #include "tests/support/modaldriver.h"
 #include "tests/support/pageoverfile.h"
+#include "tests/support/rows.h"
 
 #include <sys/stat.h>
 
@@ -47,23 +48,19 @@ struct Page : PageOverFile<SoundPage> {
     QString assignments() const
     {
         QStringList result;
-        for (int row = 0; row < 14; ++row) {
-            if (const QString text = list->topLevelItem(row)->text(1); !text.isEmpty())
-                result += QString::number(row) + u'=' + text;
-        }
-        return result.join(u' ').replace(home.path(), "HOME"_s);
+        for (int row = 0; row < 14; ++row)
+            result += QString::number(row) + u'=' + list->topLevelItem(row)->text(1);
+        return result.filter(QRegularExpression("=."_s)).join(u' ').replace(home.path(), "HOME"_s);
     }
     /// The beginnings of the enabled controls' names.
     QString enabled() const
     {
-        QStringList result;
-        for (const char *name :
-             {"soundThemeCombo", "defaultSoundsButton", "clearSoundsButton", "soundListView",
-              "selectSoundButton", "removeSoundButton", "playButton", "stopButton"}) {
-            if (find<QWidget>(name)->isEnabled())
-                result << QString::fromLatin1(name).remove("sound"_s).left(4);
-        }
-        return result.join(u' ');
+        QString result;
+        for (const QString &name : "soundThemeCombo defaultSoundsButton clearSoundsButton soundListView "
+                                   "selectSoundButton removeSoundButton playButton stopButton"_s.split(u' '))
+            if (page.findChild<QWidget *>(name)->isEnabled())
+                result += QString(name).remove("sound"_s).left(4) + u' ';
+        return result.trimmed();
     }
     QString focused() const { return page.focusWidget()->objectName(); }
 
@@ -97,9 +94,8 @@ private slots:
         QCOMPARE(over.save(), QString());
         QCOMPARE(over.content(), content);
         QCOMPARE(over.changed.count(), 2);
-        QVERIFY(over.page.loaded && !QGuiApplication::overrideCursor());
-        QVERIFY(over.list->isColumnHidden(2) && over.list->columnWidth(0) > 100);
-        QVERIFY(over.find<QWidget>("mixerButton")->isHidden());
+        QVERIFY(over.list->isColumnHidden(2) && over.list->columnWidth(0) > 100
+                && over.find<QWidget>("mixerButton")->isHidden());
     }
 
     void savesEveryEvent()
@@ -142,40 +138,25 @@ private slots:
 
     void tellsWhatIsWrongWithATheme()
     {
-        const QString attention = "Attention|Not all files in theme 'Fine sounds' are in wav format\n"_s;
-        const QString question = "Would you like to convert them to wav now?"_s;
-        const QString refusal = "Warning|File 'HOME/data/sounds/au/menu-popup.au' is not wav.\nSelect other "
-                                "theme or conver to wav,\n"
-                                "for example ogg/oga to wav by oggdev utility."_s;
-        const QString unsafe
-            = "They can't be converted: 'HOME/data/sounds/x.ogg/a -o x.ogg' has to be renamed first.\n"
-              "Blanks, quotation marks, backslashes and control characters are not safe."_s;
-        const std::tuple<QString, QMessageBox::StandardButton, QString> rows[] = {
-            {"broken"_s, QMessageBox::Ok, "Warning|Can't load sound theme 'broken'"_s},
-            {"au"_s, QMessageBox::Ok, refusal}, // at the play
-            {"flac"_s, QMessageBox::Ok, attention + "You should convert them to wav."_s},
-            {"x.ogg"_s, QMessageBox::Ok, attention + unsafe},
-            {"oga"_s, QMessageBox::No, attention + question},
-            {"oga"_s, QMessageBox::Yes, attention + question}};
-        for (const auto &[theme, answer, message] : rows) {
+        for (const QStringList &row : rowsOf("pages/sounds/themes.json"_s)) {
+            const QString theme = row[0];
+            const bool converted = row[1] == "Yes"_s;
             FakePrograms programs;
             programs.add("qaz-su"_s, "exec sh \"$@\"");
             programs.add("oggdec"_s, "for file; do cp \"$file\" \"${file%.oga}.wav\"; done");
             Page over("EnableSound=true\nCloseSound=/own.wav\n");
             ModalDriver driver;
-            driver.thenAnswer(answer);
+            driver.thenAnswer(converted ? QMessageBox::Yes : QMessageBox::No);
             over.choose(theme);
             QVERIFY(over.changed.count() > 0); // the choice is an edit, also when no row changes
-            QCOMPARE(over.assignments(),
-                     theme == "broken"_s ? "3=/own.wav"_s : "0=menu-popup 3=/own.wav 8=desktop-login"_s);
-            const bool converted = answer == QMessageBox::Yes;
+            QCOMPARE(over.assignments(), row[2]);
             const QString command = "-c find %1/data/sounds/oga -name \"*.og[ga]\" | xargs oggdec"_s;
             QCOMPARE(programs.calls("qaz-su"_s).value(0).join(u' '),
                      converted ? command.arg(over.home.path()) : QString());
             if (converted || theme == "au"_s)
                 over.click("playButton");
             QCOMPARE(over.enabled() == "stop"_s, converted);
-            QCOMPARE(driver.seen().join(u'\n').replace(over.home.path(), "HOME"_s), message);
+            QCOMPARE(driver.seen().join(u'\n').replace(over.home.path(), "HOME"_s), row[3]);
             QVERIFY(driver.isDone());
         }
     }
@@ -263,29 +244,27 @@ private slots:
 
     void tellsWhatCannotBePlayed()
     {
-        const QString rows[][3] = {// theme, assignment, what is missing
-                                   {"No theme"_s, "menu-popup"_s, "HOME/data/sounds/menu-popup"_s},
-                                   {"wav"_s, "x.wav"_s, "HOME/data/sounds/x.wav"_s},
-                                   {"wav"_s, "/x"_s, "/x"_s},
-                                   {"wav"_s, "seven"_s, "seven"_s}};
-        for (const auto &[theme, assignment, missing] : rows) {
-            Page over("EnableSound=true\n");
-            QVERIFY(QTest::qWaitForWindowActive(&over.page));
-            over.choose(theme);
-            over.assign(0, assignment);
-            FakePrograms programs(FakePrograms::Path::Instead);
-            ModalDriver driver;
-            driver.thenAnswer(QMessageBox::Ok);
+        Page over("EnableSound=true\n");
+        QVERIFY(QTest::qWaitForWindowActive(&over.page));
+        FakePrograms programs(FakePrograms::Path::Instead);
+        ModalDriver driver;
+        for (const char *sound : {"No theme menu-popup", "wav x.wav", "wav /x", "wav seven"}) {
+            const QString text = QLatin1String(sound);
+            over.choose(text.section(u' ', 0, -2));
+            over.assign(0, text.section(u' ', -1));
             driver.thenAnswer(QMessageBox::Ok);
             over.click("playButton");
             QCOMPARE(over.enabled() + u' ' + over.focused(), "Them defa clea List sele remo soundListView"_s);
-            over.find<QPushButton>("mixerButton")->click();
-            QCOMPARE(driver.seen().join(u'|').replace(over.home.path(), "HOME"_s),
-                     "Error|Sound '%1' doesn't exist|Error|Can't start 'qasmixer'"_s.arg(missing));
-            programs.add("qasmixer"_s);
-            over.find<QPushButton>("mixerButton")->click();
-            QTRY_COMPARE(programs.calls("qasmixer"_s).size(), 1);
         }
+        driver.thenAnswer(QMessageBox::Ok);
+        over.find<QPushButton>("mixerButton")->click();
+        QCOMPARE(driver.seen().join(u' ').replace(over.home.path() + "/data"_s, "DATA"_s),
+                 "Error|Sound 'DATA/sounds/menu-popup' doesn't exist Error|Sound 'DATA/sounds/x.wav' doesn't "
+                 "exist Error|Sound '/x' doesn't exist Error|Sound 'seven' doesn't exist "
+                 "Error|Can't start 'qasmixer'"_s);
+        programs.add("qasmixer"_s);
+        over.find<QPushButton>("mixerButton")->click();
+        QTRY_COMPARE(programs.calls("qasmixer"_s).size(), 1);
     }
 
     void keysActOnTheSelectedRow()
