@@ -1,4 +1,3 @@
-#include "pages/theme/previews.h"
 #include "pages/theme/swatches.h"
 #include "pages/theme/themelists.h"
 #include "tests/support/samplethemes.h"
@@ -58,34 +57,6 @@ class TestPreviews : public QObject
 {
     Q_OBJECT
 private slots:
-    void titleBarGeometry()
-    {
-        // Each button's upper half is the released one.
-        const DecorImages images = {picture({5, 20}, {{{0, 0, 5, 20}, Qt::gray}, {{1, 0, 1, 1}, Qt::white}}),
-                                    filled(3, 4, Qt::yellow),
-                                    filled(6, 10, Qt::cyan),
-                                    filled(7, 10, Qt::magenta),
-                                    filled(2, 9, Qt::white),
-                                    filled(3, 9, Qt::white),
-                                    picture({8, 13}, {{{0, 0, 8, 6}, Qt::red}}),
-                                    picture({9, 14}, {{{0, 0, 9, 7}, Qt::green}}),
-                                    picture({10, 12}, {{{0, 0, 10, 6}, Qt::blue}})};
-        Parts parts = {{{0, 0, 6, 10}, Qt::cyan},   {{103, 0, 7, 10}, Qt::magenta},
-                       {{2, 4, 106, 20}, Qt::gray}, // 110 - 3 - 1 pixels wide
-                       {{6, 0, 97, 4}, Qt::yellow}, {{95, 4, 10, 6}, Qt::blue},
-                       {{84, 4, 9, 7}, Qt::green},  {{76, 4, 8, 6}, Qt::red}};
-        for (int x = 6; x < 108; x += 5) // tiles are laid out from the canvas's origin
-            parts += {{x, 20, 1, 1}, Qt::white};
-        QCOMPARE(decorPreview(canvasSize, images), picture(canvasSize, parts));
-    }
-
-    void buttonsOfOnePixelAreNotDrawn()
-    {
-        const QImage red = filled(1, 1, Qt::red);
-        QCOMPARE(decorPreview(canvasSize, {red, red, red, red, red, red, red, red, red}),
-                 picture(canvasSize, {{{0, 0, 110, 1}, Qt::red}, {{1, 1, 108, 1}, Qt::red}}));
-    }
-
     void swatchesAreSharp()
     {
         QImage swatch = colorButtonPixmap(Qt::red, Qt::blue, 4, 2).toImage();
@@ -169,17 +140,37 @@ private slots:
         home.write("data/themes/tall/titleAT.xpm"_s,
                    "/* XPM */\nstatic char *t[] = {\"1 9000 1 1\", \"a c blue\""
                        + QByteArray(", \"a\"").repeated(2048) + "};\n");
-        QVERIFY(filled(9, 5, Qt::green).save(theme("Wood/titleAT.xpm"_s), "PNG"));
+        // Each button's upper half is the released one.
+        const std::pair<QString, QImage> images[] = {
+            {"titleAT"_s, picture({5, 20}, {{{0, 0, 5, 20}, Qt::gray}, {{1, 0, 1, 1}, Qt::white}})},
+            {"frameAT"_s, filled(3, 4, Qt::yellow)},
+            {"frameATL"_s, filled(6, 10, Qt::cyan)},
+            {"frameATR"_s, filled(7, 10, Qt::magenta)},
+            {"frameAL"_s, filled(2, 9, Qt::white)},
+            {"frameAR"_s, filled(3, 9, Qt::white)},
+            {"minimizeA"_s, picture({8, 13}, {{{0, 0, 8, 6}, Qt::red}})},
+            {"maximizeA"_s, picture({9, 14}, {{{0, 0, 9, 7}, Qt::green}})},
+            {"closeA"_s, picture({10, 12}, {{{0, 0, 10, 6}, Qt::blue}})}};
+        for (const auto &[name, image] : images) {
+            QVERIFY(image.save(theme("Wood/%1.xpm"_s.arg(name)), "PNG"));
+            QVERIFY(filled(1, 1, Qt::red).save(theme("none/%1.xpm"_s.arg(name)), "PNG"));
+        }
         const QVector<ThemeEntry> entries = decorThemeEntries(canvasSize);
         QCOMPARE(names(entries), "Wood|none|tall"_s);
-        const Parts frame = {{{0, 0, 110, 8}, Qt::red}};
-        const Parts buttons = {{{91, 8, 8, 4}, Qt::red}, {{101, 8, 4, 4}, Qt::red}};
-        const auto withTitle = [&](int height, const QColor &color) {
-            return picture(canvasSize, frame + Parts{{{4, 8, 105, height}, color}} + buttons);
-        };
-        QCOMPARE(shown(entries[0]), withTitle(5, Qt::green));
-        QCOMPARE(shown(entries[1]), withTitle(8, Qt::red));
-        QCOMPARE(shown(entries[2]), withTitle(24, Qt::blue));
+        Parts parts = {{{0, 0, 6, 10}, Qt::cyan},   {{103, 0, 7, 10}, Qt::magenta},
+                       {{2, 4, 106, 20}, Qt::gray}, // 110 - 3 - 1 pixels wide
+                       {{6, 0, 97, 4}, Qt::yellow}, {{95, 4, 10, 6}, Qt::blue},
+                       {{84, 4, 9, 7}, Qt::green},  {{76, 4, 8, 6}, Qt::red}};
+        for (int x = 6; x < 108; x += 5) // tiles are laid out from the canvas's origin
+            parts += {{x, 20, 1, 1}, Qt::white};
+        QCOMPARE(shown(entries[0]), picture(canvasSize, parts));
+        // Buttons of one pixel have no half.
+        QCOMPARE(shown(entries[1]),
+                 picture(canvasSize, {{{0, 0, 110, 1}, Qt::red}, {{1, 1, 108, 1}, Qt::red}}));
+        QCOMPARE(shown(entries[2]), picture(canvasSize, {{{0, 0, 110, 8}, Qt::red},
+                                                         {{4, 8, 105, 24}, Qt::blue},
+                                                         {{91, 8, 8, 4}, Qt::red},
+                                                         {{101, 8, 4, 4}, Qt::red}}));
     }
 };
 
