@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 
 void WallpaperSizeForScreen(int width, int height, int *w1, int *h1, int *w2, int *h2)
 {
