@@ -48,10 +48,8 @@ private slots:
         QString read;
         QVector<FontsItem> none;
         for (const FontsItem &item : items) {
-            const FontsItem found = document.item(item.kind);
-            read += found.text
-                    + (found.range.isZero() ? ""_s : "%1-%2"_s.arg(found.range.from).arg(found.range.to))
-                    + u'|';
+            const auto [kind, text, range] = document.item(item.kind);
+            read += text + (range.isZero() ? ""_s : "%1-%2"_s.arg(range.from).arg(range.to)) + u'|';
             none.append({item.kind});
         }
         QCOMPARE(read.toUtf8() + '\n', fileContent(path + ".read"_s));

@@ -81,8 +81,7 @@ private slots:
             FontUseItem item(nullptr, {}, {}, storedRoleFont(text, QFont(sans, 7)));
             item.restoreDefault();
             QCOMPARE(fontToText(item.font()), text);
-            const QFontInfo shown(item.findChild<QLabel *>()->font());
-            QVERIFY(shown.bold() == style.contains("bold"_s) && shown.italic() == style.contains("italic"_s));
+            QCOMPARE(fontToText(item.findChild<QLabel *>()->font()), text);
         }
     }
 
@@ -98,11 +97,8 @@ private slots:
         for (const auto &[chosen, text] : rows) {
             FontUseItem item(nullptr, {}, {}, {});
             item.setFont(QFont(sans, 10), false);
-            QSignalSpy selected(&item, &FontUseItem::fontSelected);
             item.applyChosenFont(chosen);
             QCOMPARE(fontToText(item.font()), "DejaVu Sans Mono-"_s + QLatin1String(text));
-            QCOMPARE(selected.size(), 1);
-
             item.setFont(chosen, true); // a role for fixed fonts keeps its family
             item.applyChosenFont(QFont(sans, 20));
             QCOMPARE(fontToText(item.font()), "DejaVu Sans Mono-20:normal"_s);

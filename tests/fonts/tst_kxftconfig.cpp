@@ -138,7 +138,9 @@ private slots:
             KXftConfig config;
             config.setSubPixelType(SubPixelOrder::Bgr);
             QVERIFY(!applies(&config));
-            QVERIFY(standardError.take().contains("qaz-admin-theme: Can't write "));
+            const QByteArray told = standardError.take();
+            QVERIFY(told.contains("qaz-admin-theme: Can't write "));
+            QVERIFY(told.contains("qaz-admin-theme: Can't use ") == (&obstacle != obstacles));
             QCOMPARE(home.fingerprint(), before);
         }
         QCOMPARE(FontsFileLock(path).error(), "No file can be made in its directory"_s);
@@ -159,8 +161,6 @@ private slots:
                  fontsFile("<alias/> hinting=true hintstyle=hintfull antialias=true size=2-8 "
                            "pixelsize=3-10"));
         QCOMPARE(summary(config), "none 4 1 1 3-10"_s);
-        QVERIFY(!config.changed());
-
         // The merge has read the file again: the next change needs none.
         config.setSubPixelType(SubPixelOrder::Rgb);
         QVERIFY(QFile::remove(home.path(place))); // nor when the file is gone
@@ -243,9 +243,8 @@ private slots:
         const TemporaryHome home;
         const QString own = home.write(place, "<fontconfig/>\n");
         loadFontconfig();
-        QVERIFY(fontconfigFiles().contains(own));
         const QStringList loaded = fontconfigFiles();
-        QVERIFY(FcInitReinitialize());
+        QVERIFY(loaded.contains(own) && FcInitReinitialize());
         QCOMPARE(fontconfigFiles(), loaded);
     }
 
