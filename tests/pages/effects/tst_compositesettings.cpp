@@ -55,7 +55,7 @@ struct CompositePage : PageOverFile<EffectPage> {
             return QString::fromLatin1(home.backups().join('|'));
         else if (what == "told"_s)
             return QString::fromLocal8Bit(messages.take()).replace(home.path(), "HOME"_s);
-        else if (const QString result = changed(what, text); what != "set"_s)
+        else if (QString result = changed(what, text); what != "set"_s)
             return result;
         return {};
     }
