@@ -96,6 +96,32 @@ private slots:
                  "WallPaperPos|OpaqueMove|DecorTheme|XftSettings|EnableSound|EnableAlsa|ScreenSaverDelay"_s);
     }
 
+    void everyControlsEditCanBeApplied()
+    {
+        FakePrograms programs;
+        open();
+        QStringList pages;
+        onEachPage([&](const QWidget *page) {
+            for (auto *control : page->findChildren<QWidget *>()) {
+                auto *spinBox = qobject_cast<QSpinBox *>(control);
+                if (control->window() != m_dialog.get()
+                    || !(spinBox || qobject_cast<QCheckBox *>(control)
+                         || control->property("checkable").toBool()))
+                    continue;
+                control->setEnabled(true);
+                m_dialog->setWindowModified(false);
+                if (spinBox)
+                    spinBox->stepBy(spinBox->value() < spinBox->maximum() ? 1 : -1);
+                else
+                    QTest::mouseClick(control, Qt::LeftButton, {}, QPoint(8, 8));
+                QVERIFY2(m_dialog->isWindowModified(), qPrintable(control->objectName()));
+                pages.append(QLatin1String(page->metaObject()->className()));
+            }
+        });
+        pages.removeDuplicates(); // the theme page has colours and sizes to choose instead
+        QCOMPARE(pages.join(u' '), "WallpaperPage FontPage ScreensaverPage EffectPage SoundPage"_s);
+    }
+
     void unsavedEditsAreGuarded()
     {
         for (const auto answer : {QMessageBox::Yes, QMessageBox::No, QMessageBox::Cancel}) {
