@@ -2,8 +2,6 @@
 
 #include "tests/support/environment.h"
 
-#include <QProcess>
-
 #include <memory>
 
 /// A second X server, which a test may end; the programs started meanwhile use it.
@@ -13,8 +11,8 @@ public:
     PrivateServer()
     {
         // A reset, which the last client's end would start, refuses those who connect meanwhile.
-        const QString arguments = QStringLiteral("-displayfd 1 -noreset -nolisten tcp -screen 0 1024x768x24");
-        m_process.start(QStringLiteral("/usr/bin/Xvfb"), arguments.split(QLatin1Char(' ')));
+        m_process.start("/usr/bin/Xvfb"_s,
+                        "-displayfd 1 -noreset -nolisten tcp -screen 0 1024x768x24"_s.split(u' '));
         if (!m_process.waitForReadyRead(60000))
             qFatal("Can't start a server");
         m_display = std::make_unique<ScopedEnvironment>("DISPLAY", ':' + m_process.readLine().trimmed());
