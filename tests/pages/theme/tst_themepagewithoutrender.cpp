@@ -14,7 +14,6 @@ private slots:
         test.load("");
         const auto *cursors = test.find<QComboBox>("cursorThemeCombo");
         QVERIFY(cursors->count() == 0 && !cursors->isEnabled());
-        QVERIFY(test.find<QComboBox>("decorThemeCombo")->isEnabled()); // to choose none
         QCOMPARE(test.find<QComboBox>("sizeComboBox")->itemText(0), "64,   Desktop icon size"_s);
     }
 };
