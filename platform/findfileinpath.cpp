@@ -10,8 +10,8 @@
 bool FindFileInPATH(const char *name, char *buffer)
 {
     QString program = QFile::decodeName(name);
-    if (program.contains(
-            QLatin1Char('/'))) // a relative path would be looked for below each directory of PATH, too
+    // The kit would look for a relative path below each directory of PATH, too.
+    if (program.contains(QLatin1Char('/')))
         program = QFileInfo(program).absoluteFilePath();
     const QByteArray path = QFile::encodeName(QStandardPaths::findExecutable(program));
     const bool isFound = !path.isEmpty() && path.size() < PATH_MAX;

@@ -12,6 +12,8 @@ class QazDesktopEntry
 public:
     /// Binds the entry to the file at \a path (local 8-bit encoding); nothing is read before load().
     explicit QazDesktopEntry(const char *path);
+    QazDesktopEntry(const QazDesktopEntry &) = delete; // its end writes the file
+    QazDesktopEntry &operator=(const QazDesktopEntry &) = delete;
 
     /// Reads the file. False when there is no regular file to read.
     bool load();
