@@ -171,7 +171,6 @@ private slots:
         const QString picture = m_home->path("a.png"_s);
         for (const char *name : {"a.png", "b.png"})
             QVERIFY(QImage(2, 2, QImage::Format_RGB32).save(m_home->path(QLatin1String(name))));
-        const QString drawing = m_home->write("drawn/c.svg"_s, "<svg/>");
         m_programs->add("qaz-svg2png"_s, "/bin/mkdir -p \"${8%/*}\"; : >\"$8\"");
         Values values(m_home->write(themeFile,
                                     "WallPaperPeriod=99999\nWallPaper=" + QFile::encodeName(picture) + '\n'));
@@ -193,7 +192,7 @@ private slots:
         wallpaper.apply();
         QTRY_COMPARE(m_programs->calls("feh"_s).last()[2], "#010203"_s);
         QVERIFY(m_programs->calls("feh"_s).last().last().endsWith("b.png"_s)); // goes on with the slide
-        values.announce("WallPaper"_s, drawing);
+        values.announce("WallPaper"_s, m_home->write("drawn/c.svg"_s, "<svg/>"));
         values.announce("WallPaperPeriod"_s, "0"_s);
         for (int i = 0; i < 2; ++i) {
             wallpaper.apply();

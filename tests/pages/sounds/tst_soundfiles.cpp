@@ -71,11 +71,10 @@ private slots:
     void leavesALongConversionAlone()
     {
         FakePrograms programs(FakePrograms::Path::Instead);
-        constexpr int hour = 3600000;
-        convertToWav("/a"_s, hour); // nothing to run it
+        convertToWav("/a"_s, 3600000); // nothing to run it
         QVERIFY(!QGuiApplication::overrideCursor());
         programs.add("qaz-su"_s);
-        convertToWav("/a"_s, hour);
+        convertToWav("/a"_s, 3600000);
 
         const TemporaryHome home;
         QFile go(home.makeFifo("go"_s));
