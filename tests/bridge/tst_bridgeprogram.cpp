@@ -115,7 +115,7 @@ private slots:
         QTRY_VERIFY(m_programs->calls("feh"_s).value(4).join(u' ').endsWith("color-204060.ppm"_s));
         for (const char *told : {"Not for this program: QAZWM_UPDATE_VAL TaskbarHeight? 50\n", "xset s 39\n",
                                  "The wallpaper '--help' is no image file\n"})
-            QVERIFY2(bridge.errors().contains("qaz-wm-bridge: "_s + QLatin1String(told)), told);
+            QTRY_VERIFY2(bridge.errors().contains("qaz-wm-bridge: "_s + QLatin1String(told)), told);
     }
 
     void theManagerComesFromTheFileAndRestarts()
@@ -217,11 +217,15 @@ private slots:
             bridge.errors(),
             "qaz-wm-bridge: Can't change %1: it is no configuration file of Openbox with a theme\n"_s.arg(
                 file));
-        m_home->write("rc.xml"_s, "<openbox_config><theme></theme></openbox_config>");
+        const QByteArray plain = "<openbox_config><theme></theme></openbox_config>";
+        m_home->write("rc.xml"_s, plain);
         announce("TitleFont", "Sans-9:bold"_s);
         QTRY_COMPARE(m_programs->calls("openbox"_s).size(), 2);
         QVERIFY(m_home->read("rc.xml"_s)
                     .contains("<name>qaz</name><font place=\"ActiveWindow\"><name>Sans</name>"));
+        m_home->write("rc.xml"_s, plain);
+        QCOMPARE(BridgeProcess({"--once"_s, "--replace"_s}).exitCode(), 0);
+        QCOMPARE(m_home->read("rc.xml"_s), plain); // nobody allowed a change
         output("/usr/bin/xprop"_s, {"-root"_s, "-remove"_s, "_NET_SUPPORTING_WM_CHECK"_s});
     }
 
