@@ -121,7 +121,7 @@ private slots:
         EditorProcess editor;
         QVERIFY(editor.waitForWindow());
         const QString told = "qaz-admin-theme: %1/shared is not the user's alone; using %1/.cache/qaz\n"_s;
-        QVERIFY2(editor.errors().contains(told.arg(m_home->path())), qPrintable(editor.errors()));
+        QTRY_VERIFY2(editor.errors().contains(told.arg(m_home->path())), qPrintable(editor.errors()));
         EditorProcess second;
         QCOMPARE(second.exitCode(), 0);
         QVERIFY(QDir(shared).isEmpty());
