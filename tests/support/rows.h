@@ -8,8 +8,8 @@ inline QVector<QStringList> rowsOf(const QString &path)
     QFile file(QAZ_SOURCE_DIR "/tests/"_s + path);
     QVector<QStringList> rows;
     if (file.open(QIODevice::ReadOnly))
-        for (const QJsonValue &row : QJsonDocument::fromJson(file.readAll()).array())
-            rows.append(QVariant(row.toArray().toVariantList()).toStringList());
+        for (const QVariant &row : QJsonDocument::fromJson(file.readAll()).toVariant().toList())
+            rows.append(row.toStringList());
     if (rows.isEmpty())
         qFatal("No rows in %s", qPrintable(path));
     return rows;

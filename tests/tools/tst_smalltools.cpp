@@ -17,8 +17,8 @@ private slots:
         const ScopedEnvironment display("DISPLAY", {});
         const auto rendered = [&home](const QString &in, const QByteArray &content, const QString &out) {
             home.write(in, content);
-            ToolRun("qaz-svg2png"_s, {"-w"_s, "40"_s, "-h"_s, "30"_s, "-i"_s, in, "-o"_s, out});
-            return QImage(home.path(out));
+            const ToolRun run("qaz-svg2png"_s, {"-w"_s, "40"_s, "-h"_s, "30"_s, "-i"_s, in, "-o"_s, out});
+            return run.status == 0 ? QImage(home.path(out)) : QImage();
         };
         for (const auto &[in, out, format] : {std::tuple("a.svg"_s, "b.jpg"_s, "jpeg"),
                                               {"a"_s, "b"_s, "png"},
