@@ -14,7 +14,7 @@ namespace {
 bool applies(KXftConfig *config)
 {
     QString error;
-    return config->apply(&error) && error.isEmpty();
+    return config->apply(&error) || error.isEmpty(); // who fails tells why
 }
 
 /// A home with a fontconfig file.
