@@ -229,6 +229,21 @@ private slots:
         output("/usr/bin/xprop"_s, {"-root"_s, "-remove"_s, "_NET_SUPPORTING_WM_CHECK"_s});
     }
 
+    void aWindowThatWantsAttentionIsHeard()
+    {
+        const QString sound = m_home->write("a.wav"_s, "sound");
+        m_home->write(themeFile,
+                      "EnableSound=true\nForceTrayMessageSound=" + QFile::encodeName(sound) + '\n');
+        m_programs->add("aplay"_s);
+        setOnRoot("_NET_CLIENT_LIST"_s, "32c"_s, QString::number(QX11Info::appRootWindow()));
+        BridgeProcess bridge;
+        QTRY_COMPARE(m_programs->calls("xset"_s).size(), 2);
+        setOnRoot("_NET_WM_STATE"_s, "32a"_s, "_NET_WM_STATE_DEMANDS_ATTENTION"_s);
+        QTRY_COMPARE(m_programs->calls("aplay"_s).value(0).value(1), sound);
+        for (const char *property : {"_NET_CLIENT_LIST", "_NET_WM_STATE"})
+            XDeleteProperty(QX11Info::display(), QX11Info::appRootWindow(), atom(property));
+    }
+
     void oneBridgeServesAScreen()
     {
         const std::unique_ptr<Display, int (*)(Display *)> display(XOpenDisplay(nullptr), XCloseDisplay);
