@@ -164,6 +164,7 @@ private slots:
                                   "qaz-wm-bridge: xsettingsd is not installed (Debian package xsettingsd)\n"
                                   "qaz-wm-bridge: xset is not installed (Debian package x11-xserver-utils)\n"
                                   "qaz-wm-bridge: broken failed or took too long\n"_s);
+        QCOMPARE(BridgeProcess({"--once"_s}).exitCode(), 0);
     }
 
     void slidesAndDrawingsAreShown()
