@@ -149,7 +149,8 @@ void EffectPage::connectEdits()
     for (const QSpinBox *box : findChildren<QSpinBox *>())
         connect(box, qOverload<int>(&QSpinBox::valueChanged), this, &EffectPage::changedSignal);
     for (const QCheckBox *box : findChildren<QCheckBox *>())
-        connect(box, &QCheckBox::clicked, this, &EffectPage::changedSignal);
+        connect(box, box == m_ui->smartPlacementCheckBox ? &QCheckBox::toggled : &QCheckBox::clicked, this,
+                &EffectPage::changedSignal);
     const QComboBox *style = m_ui->gradWindowMapStyleComboBox;
     connect(style, qOverload<int>(&QComboBox::activated), this, &EffectPage::changedSignal);
     connect(style, qOverload<int>(&QComboBox::activated), this, &EffectPage::mapAnimationSlot);

@@ -91,6 +91,10 @@ private slots:
         const QSignalSpy changed(&file.page, &EffectPage::changedSignal);
         QTest::keyClick(style, Qt::Key_Down); // to one of the same speed
         QCOMPARE(changed.count(), 1);
+        file.find<QCheckBox>("opaqueMoveCheckBox")->toggle(); // there only a click is an edit
+        QCOMPARE(changed.count(), 1);
+        file.find<QCheckBox>("smartPlacementCheckBox")->toggle();
+        QCOMPARE(changed.count(), 2);
     }
 
     void autopagingIsOffExactlyWithoutABelt()
