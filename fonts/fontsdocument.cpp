@@ -1,7 +1,7 @@
 #include "fonts/fontsdocument.h"
 
-#include <QRegularExpression>
 #include <QTextCodec>
+#include <QXmlStreamReader>
 
 #include <algorithm>
 
@@ -52,15 +52,12 @@ bool FontsDocument::understand(const QByteArray &content, QString *error)
 
 bool FontsDocument::decode(const QByteArray &content, QString *error)
 {
-    static const QRegularExpression declared(
-        QStringLiteral("^<\\?xml\\s[^>]*?encoding\\s*=\\s*[\"']([^\"']*)[\"']"));
-    const auto match = declared.match(QString::fromLatin1(content.left(content.indexOf('>'))));
-    const QByteArray name = match.hasMatch() ? match.captured(1).toLatin1() : QByteArray("UTF-8");
-    m_codec = QTextCodec::codecForUtfText(content, QTextCodec::codecForName(name));
-    if (!m_codec) {
-        *error = QStringLiteral("unknown encoding %1").arg(QString::fromLatin1(name));
-        return false;
-    }
+    QXmlStreamReader declaration(QString::fromLatin1(content.left(content.indexOf('>') + 1)));
+    declaration.readNext();
+    // Nothing is found of an encoding that Qt does not know; the error is left to who reads on.
+    const QByteArray declared = declaration.documentEncoding().toLatin1();
+    m_codec = QTextCodec::codecForUtfText(content,
+                                          QTextCodec::codecForName(declared.isEmpty() ? "UTF-8" : declared));
     QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
     m_text = m_codec->toUnicode(content.constData(), content.size(), &state);
     const QChar mark(QChar::ByteOrderMark);
