@@ -9,9 +9,10 @@
 #include <QIcon>
 #include <QLibraryInfo>
 #include <QLocale>
-#include <QRegularExpression>
 #include <QScreen>
 #include <QTranslator>
+
+#include <cstring>
 
 namespace {
 
@@ -50,9 +51,11 @@ bool qazInit(const char *version, const char * /*title*/)
 
 char *qazSessionConfigSuffix(int kind)
 {
-    const QString session = kind == 0 ? qEnvironmentVariable("QAZ_SESSION") : QString();
-    const bool isSafe = session.contains(QRegularExpression(QStringLiteral("\\A[A-Za-z0-9_.-]+\\z")));
-    return qstrdup(isSafe ? qPrintable(QLatin1Char('-') + session) : "");
+    const QByteArray session = kind == 0 ? qgetenv("QAZ_SESSION") : QByteArray();
+    constexpr char safe[] = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789_.-";
+    const bool isSafe = !session.isEmpty()
+                        && std::strspn(session.constData(), safe) == size_t(session.size());
+    return qstrdup(isSafe ? ('-' + session).constData() : "");
 }
 
 bool qazInTabletMode()
