@@ -10,7 +10,7 @@ install(DIRECTORY data/icons data/sounds data/themes DESTINATION ${data} PATTERN
 install(DIRECTORY ${QAZ_STAGED_DATA}/icons/qaz-tirsk/16x16 ${QAZ_STAGED_DATA}/icons/qaz-tirsk/64x64
     DESTINATION ${data}/icons/qaz-tirsk FILES_MATCHING PATTERN "*.png")
 install(DIRECTORY data/wallpapers DESTINATION ${data} PATTERN sources EXCLUDE)
-install(FILES ${QAZ_STAGED_DATA}/wallpapers/qaz-default.jpg DESTINATION ${data}/wallpapers)
+install(DIRECTORY ${QAZ_STAGED_DATA}/wallpapers DESTINATION ${data} FILES_MATCHING PATTERN "qaz-default.jpg")
 install(DIRECTORY ${QAZ_STAGED_DATA}/translations DESTINATION ${data} OPTIONAL FILES_MATCHING PATTERN "*.qm")
 
 install(DIRECTORY packaging/hicolor DESTINATION share/icons)
