@@ -96,7 +96,7 @@ void QtSingleApplication::listen()
 {
     // What stands there belongs to a dead owner: the lock is ours.
     clearAway(m_directory.get(), m_name);
-    m_server = std::make_unique<QLocalServer>();
+    m_server = std::make_unique<QLocalServer>(this);
     m_server->setSocketOptions(QLocalServer::UserAccessOption);
     connect(m_server.get(), &QLocalServer::newConnection, this, &QtSingleApplication::acceptConnection);
     m_server->listen(socketPath(m_directory, m_name));

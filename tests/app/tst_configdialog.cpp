@@ -5,6 +5,8 @@
 #include "tests/support/modaldriver.h"
 #include "tests/support/wmlistener.h"
 
+#include <QX11Info>
+
 /// The window: its size, its keys, and how it behaves around the pages.
 class TestConfigDialog : public DialogTest
 {
@@ -194,7 +196,9 @@ private slots:
     {
         open();
         m_dialog->showMinimized();
+        QX11Info::setAppUserTime(1);
         QVERIFY(m_dialog->messageReceived("anything"_s) && !m_dialog->isMinimized());
+        QVERIFY(QX11Info::appUserTime() > 1);
         m_dialog->hide();
         QVERIFY(m_dialog->messageReceived(QString()) && m_dialog->isVisible());
         // Above the window, what it waits for.

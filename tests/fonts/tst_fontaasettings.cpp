@@ -104,8 +104,13 @@ private slots:
         for (int i = 0; i < 4; ++i) {
             const QImage image = file.find<QComboBox>("subPixelTypeCombo")->itemIcon(i).pixmap(12).toImage();
             QCOMPARE(image.size(), QSize(12, 12));
-            for (const int at : {0, 3, 4, 7, 8, 11})
-                stripes += (i > 1 ? image.pixelColor(3, at) : image.pixelColor(at, 3)).name().at(1);
+            for (const int at : {0, 3, 4, 7, 8, 11}) {
+                const auto digit = [&](int along) {
+                    return (i > 1 ? image.pixelColor(along, at) : image.pixelColor(at, along)).name().at(1);
+                };
+                stripes += digit(3);
+                QCOMPARE(digit(9), digit(3));
+            }
         }
         QCOMPARE(stripes, "ee22111122eeee22111122ee"_s); // the first digits of red, green and blue
     }

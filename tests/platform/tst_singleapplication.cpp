@@ -2,10 +2,12 @@
 #include "tests/support/environment.h"
 #include "tests/support/testing.h"
 
+#include <QLocalServer>
 #include <QLocalSocket>
 
 #include <fcntl.h>
 #include <sys/file.h>
+#include <unistd.h>
 
 /// The running instance; the others are this program in processes of their own, which send their argument.
 class TestSingleApplication : public QObject
@@ -30,7 +32,7 @@ private slots:
     void aMessageMayComeInPieces()
     {
         QLocalSocket sender;
-        sender.connectToServer(ownFile("*[0-9]"_s));
+        sender.connectToServer(ownFile({}));
         for (const QByteArray &piece : {QByteArray("\0\0\0", 3), QByteArray("\5he"), QByteArray("llo")}) {
             QCOMPARE(sender.bytesAvailable(), 0);
             sender.write(piece);
@@ -40,14 +42,19 @@ private slots:
         QCOMPARE(sender.readAll(), QByteArray("ack"));
     }
 
-    void anOwnerWhoDoesNotListenIsGivenUp()
+    void anOwnerWhoDoesNotListenIsWaitedFor()
     {
         const QTemporaryDir directory;
+        QFile owner(directory.filePath(QFileInfo(ownFile(".lock"_s)).fileName()));
         const ScopedEnvironment runtime("XDG_RUNTIME_DIR", QFile::encodeName(directory.path()));
-        QFile owner(directory.filePath(QFileInfo(ownFile("*.lock"_s)).fileName()));
         QVERIFY(owner.open(QIODevice::WriteOnly));
         QCOMPARE(::flock(owner.handle(), LOCK_EX), 0);
         QCOMPARE(exitCodeOfSender("show"_s, 100), 1);
+        QLocalServer late;
+        connect(&late, &QLocalServer::newConnection, this,
+                [&late] { late.nextPendingConnection()->write("ack"); });
+        QTimer::singleShot(500, &late, [&] { late.listen(owner.fileName().chopped(5)); });
+        QCOMPARE(exitCodeOfSender("show"_s, 60000), 0);
     }
 
     void messagesActivateTheWindow()
@@ -66,11 +73,12 @@ private slots:
     }
 
 private:
-    static QString ownFile(const QString &pattern)
+    static QString ownFile(const QString &ending)
     {
         const QDir directory(qEnvironmentVariable("XDG_RUNTIME_DIR"));
-        return directory.filePath(
-            directory.entryList({"qtsingleapp-"_s + pattern}, QDir::Files | QDir::System).value(0));
+        const QString pattern = "qtsingleapp-"_s + QString(12, u'?') + u'-' + QString::number(::getuid())
+                                + ending;
+        return directory.filePath(directory.entryList({pattern}, QDir::Files | QDir::System).value(0));
     }
     static int exitCodeOfSender(const QString &message, int timeout)
     {
