@@ -222,8 +222,7 @@ bool ConfigDialog::messageReceived(const QString & /*message*/)
     else
         show();
     // A window manager refuses the focus to a window that the user left long ago.
-    if (QX11Info::isPlatformX11())
-        QX11Info::setAppUserTime(QX11Info::getTimestamp());
+    QX11Info::setAppTime(QX11Info::getTimestamp());
     QWidget *modal = QApplication::activeModalWidget();
     for (QWidget *window : {static_cast<QWidget *>(this), modal ? modal : this}) {
         window->raise();

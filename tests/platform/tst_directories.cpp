@@ -36,10 +36,11 @@ private slots:
         QCOMPARE(QFile::decodeName(personal), config);
         QCOMPARE(directory(2), "/elsewhere/qaz"_s);
         for (const char *value : {static_cast<const char *>(nullptr), "", "relative"}) {
-            const ScopedEnvironment variable("XDG_CONFIG_HOME", value), dataHome("XDG_DATA_HOME", value);
-            QCOMPARE(directory(2) + directory(21), config + home.path(".local/share/wallpapers"_s));
+            const ScopedEnvironment variable("XDG_CONFIG_HOME", value), dataHome("XDG_DATA_HOME", value),
+                cacheHome("XDG_CACHE_HOME", value);
+            QCOMPARE(directory(2) + directory(21) + directory(1),
+                     config + home.path(".local/share/wallpapers"_s) + home.path(".cache/qaz/wallpapers"_s));
         }
-        QCOMPARE(directory(1), home.path(".cache/qaz/wallpapers"_s));
         QCOMPARE(home.mode(directory(1)), 0700U);
         const ScopedEnvironment cache("XDG_CACHE_HOME", QFile::encodeName(home.write("file"_s, "")));
         QCOMPARE(directory(1), QString());
