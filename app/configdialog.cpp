@@ -222,7 +222,8 @@ bool ConfigDialog::messageReceived(const QString & /*message*/)
     else
         show();
     // A window manager refuses the focus to a window that the user left long ago.
-    QX11Info::setAppTime(QX11Info::getTimestamp());
+    if (QX11Info::isPlatformX11())
+        QX11Info::setAppTime(QX11Info::getTimestamp());
     QWidget *modal = QApplication::activeModalWidget();
     for (QWidget *window : {static_cast<QWidget *>(this), modal ? modal : this}) {
         window->raise();

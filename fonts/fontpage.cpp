@@ -20,8 +20,9 @@ bool FontPage::loadValues(QazSettings *settings)
     return true;
 }
 
-void FontPage::saveValues(QazSettings *settings)
+bool FontPage::saveValues(QazSettings *settings)
 {
     if (saveSettings(settings))
         sendToWindowManager(xftSettingsCommand(ownSettingsFile()));
+    return true;
 }

@@ -17,6 +17,6 @@ signals:
 public slots:
     /// Fills the page from \a settings, which is not kept.
     bool loadValues(QazSettings *settings);
-    /// Saves the page, and tells the window manager about rendering choices that changed.
-    void saveValues(QazSettings *settings);
+    /// Saves the page, and tells the window manager about rendering choices that changed; always true.
+    bool saveValues(QazSettings *settings);
 };

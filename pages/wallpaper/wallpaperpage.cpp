@@ -109,12 +109,14 @@ void WallpaperPage::connectWidgets()
     connect(checkBox, &QCheckBox::stateChanged, this, &WallpaperPage::slotCurrDesktop, unique);
 }
 
-void WallpaperPage::saveValues(QazSettings *settings)
+bool WallpaperPage::saveValues(QazSettings *settings)
 {
     const QString text = m_ui->wallpaperLineEdit->text();
     const QString wallpaper = text.isEmpty() ? m_color.name() : text;
-    if (m_ui->wallpaperForCurrDesktopCheckBox->isChecked())
-        return setCurrentDesktopWallpaper(wallpaper);
+    if (m_ui->wallpaperForCurrDesktopCheckBox->isChecked()) {
+        setCurrentDesktopWallpaper(wallpaper);
+        return true;
+    }
     // No desktop keeps a wallpaper of its own over the new one of all.
     removeDesktopWallpapers();
     const auto fit = Fit(m_ui->wallpaperPositionCombo->currentIndex());
@@ -124,6 +126,7 @@ void WallpaperPage::saveValues(QazSettings *settings)
                       wordFromFit(fit));
     updateIntValue(settings, QLatin1String(periodKey.name), QLatin1String(periodKey.defaultText),
                    m_ui->SlideShowSpinBox->value());
+    return true;
 }
 
 void WallpaperPage::selectWallpaperFile()

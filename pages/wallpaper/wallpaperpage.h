@@ -40,8 +40,8 @@ public slots:
     void clearWallpaper();
     /// Fills the form; always true. \a settings stays the caller's and is not kept.
     bool loadValues(QazSettings *settings);
-    /// Stores and announces what changed.
-    void saveValues(QazSettings *settings);
+    /// Stores and announces what changed; always true.
+    bool saveValues(QazSettings *settings);
 
 private:
     void loadDesktopValues(QString wallpaper);

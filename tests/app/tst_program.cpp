@@ -58,9 +58,18 @@ private slots:
     {
         EditorProcess first;
         QVERIFY(first.waitForWindow());
+        const QByteArray id = qgetenv("DISPLAY") + "qaz-admin-theme";
+        const QByteArray digest = QCryptographicHash::hash(id, QCryptographicHash::Sha1).toHex().left(12);
+        const QString files = "*"_s + QString::fromLatin1(digest) + "*"_s;
+        QVERIFY(!QDir(qEnvironmentVariable("XDG_RUNTIME_DIR")).entryList({files}, QDir::Files).isEmpty());
+        QWidget other;
+        other.show();
+        other.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&other));
         EditorProcess second({"--help"_s});
         QCOMPARE(second.exitCode(), 0);
         QCOMPARE(second.process().readAllStandardOutput(), QByteArray());
+        QTRY_VERIFY2(!other.isActiveWindow(), "the first has taken the focus");
         const PrivateServer server;
         EditorProcess elsewhere;
         QVERIFY2(elsewhere.waitForWindow(), "another display has an instance of its own");

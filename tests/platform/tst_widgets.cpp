@@ -92,6 +92,7 @@ private slots:
         QCOMPARE(dialog.findChild<QLineEdit *>("fileNameEdit"_s)->text(), "first.png"_s);
         QCOMPARE(shown->textFormat(), Qt::PlainText);
         QVERIFY(shown->wordWrap() && dialog.testOption(QFileDialog::DontUseNativeDialog));
+        QCOMPARE(dialog.fileMode(), QFileDialog::ExistingFile);
         QCOMPARE(picture->size(), QSize(192, 160));
         QCOMPARE(picture->geometry().center().x(), shown->geometry().center().x());
         QCOMPARE(picture->alignment(), Qt::AlignCenter);

@@ -27,7 +27,10 @@ public:
         WmListener windowManager;
         QazSettings store(home.path("t"_s));
         store.sync(true);
-        page.saveValues(&store);
+        if constexpr (std::is_void_v<decltype(page.saveValues(&store))>)
+            page.saveValues(&store);
+        else if (!page.saveValues(&store))
+            qFatal("A save fails never");
         return windowManager.takeUpdates();
     }
     QByteArray content() const { return home.read("t"_s); }

@@ -129,7 +129,7 @@ private slots:
             QDir(page.home.path(".cache/qaz/wallpapers"_s)).entryList(QDir::Files).join(u'|'),
             "Stretch_#102030_red image.xpm.png|Tile_#102030_my paper.png|Tile_#102030_red image.xpm.png"_s);
         QCOMPARE(page.save(), "WallPaper #abcdef|WallPaperPos Tile"_s);
-        page.lineEdit->setText("file:///a%20b.png"_s); // typed, or pasted with the mouse
+        page.lineEdit->setText("file:///a%20b.png\nfile:///c"_s); // typed, or pasted with the mouse
         QCOMPARE(page.lineEdit->text(), "/a b.png"_s);
     }
 
@@ -226,11 +226,13 @@ private slots:
             QWidget *const targets[] = {&page.page, page.lineEdit, page.find<QWidget>("qt_spinbox_lineedit")};
             for (QWidget *target : targets) {
                 page.lineEdit->setText("/x"_s);
-                QDragEnterEvent enter({1, 1}, Qt::MoveAction, mime, Qt::LeftButton, {});
-                QDropEvent drop({1, 1}, Qt::MoveAction, mime, Qt::LeftButton, {});
+                const auto actions = Qt::CopyAction | Qt::MoveAction;
+                QDragEnterEvent enter({1, 1}, actions, mime, Qt::LeftButton, Qt::ShiftModifier);
+                QDropEvent drop({1, 1}, actions, mime, Qt::LeftButton, Qt::ShiftModifier);
                 for (QDropEvent *event : {static_cast<QDropEvent *>(&enter), &drop}) {
                     QCoreApplication::sendEvent(target, event);
                     QCOMPARE(event->isAccepted(), !taken.isEmpty());
+                    QVERIFY(taken.isEmpty() || event->dropAction() == Qt::CopyAction);
                 }
                 QTRY_COMPARE(page.lineEdit->text(), taken.isEmpty() ? "/x"_s : taken);
             }
