@@ -48,6 +48,12 @@ private slots:
         QCOMPARE(home.read("d/a/b"_s), QByteArray("1"));
         QCOMPARE(home.names() + u' ' + home.names("d"_s), ".local d a"_s);
         QCOMPARE(run("backups"_s).out.count('\n'), 2);
+        // What holds the backups themselves can't be replaced.
+        home.write(".local/state/qaz/backup/20260102T030405.678Z-x/f"_s, {});
+        home.write(".local/state/qaz/backup/manifest"_s,
+                   "20260102T030405.678Z-x\t" + QFile::encodeName(home.path(".local"_s)) + '\n');
+        QCOMPARE(run("restore 1"_s).status, 3);
+        QCOMPARE(home.names(".local"_s), "state"_s);
     }
 };
 
