@@ -4,7 +4,6 @@
 #include "tools/qaz-theme/output.h"
 
 #include <QCoreApplication>
-#include <QTextCodec>
 
 #include <clocale>
 #include <cstring>
@@ -19,7 +18,6 @@ void takeTextsForUtf8InTheCLocale()
     if (std::strcmp(::nl_langinfo(CODESET), "ANSI_X3.4-1968") != 0)
         return;
     std::setlocale(LC_CTYPE, "C.UTF-8");
-    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
 }
 
 } // namespace
