@@ -193,7 +193,10 @@ private slots:
         wallpaper.apply();
         QTRY_COMPARE(m_programs->calls("feh"_s).last()[2], "#010203"_s);
         QVERIFY(m_programs->calls("feh"_s).last().last().endsWith("b.png"_s)); // goes on with the slide
-        values.announce("WallPaper"_s, m_home->write("drawn/c.svg"_s, "<svg/>"));
+        QFile drawing(m_home->write("drawn/c.svg"_s, "<svg/>"));
+        QVERIFY(drawing.open(QFile::ReadOnly) // older than what is drawn of it at once
+                && drawing.setFileTime(QDateTime::fromSecsSinceEpoch(1e9), QFile::FileModificationTime));
+        values.announce("WallPaper"_s, drawing.fileName());
         values.announce("WallPaperPeriod"_s, "0"_s);
         for (int i = 0; i < 2; ++i) {
             wallpaper.apply();
