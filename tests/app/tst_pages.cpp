@@ -144,6 +144,12 @@ private slots:
         });
         QCOMPARE(m_dialog->requestToSave(false), int(QMessageBox::No));
         QVERIFY(driver.isDone());
+
+        driver.thenAnswer(QMessageBox::No);
+        QTimer::singleShot(0, button(QDialogButtonBox::Close), &QPushButton::click);
+        QTimer::singleShot(60000, m_dialog.get(), [] { QCoreApplication::exit(1); });
+        QCOMPARE(QCoreApplication::exec(), 0);
+        QVERIFY(driver.isDone() && m_dialog->fileOpen() && m_dialog->fileSave());
     }
 };
 
