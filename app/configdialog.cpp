@@ -21,11 +21,24 @@
 #include <QVBoxLayout>
 #include <QX11Info>
 
+namespace {
+
+/// As large as its page in view: another one's size is no reason to scroll, and takes long to find.
+class PageStack final : public SlidingStackedWidget
+{
+public:
+    using SlidingStackedWidget::SlidingStackedWidget;
+    QSize sizeHint() const override { return currentWidget()->sizeHint(); }
+    QSize minimumSizeHint() const override { return currentWidget()->minimumSizeHint(); }
+};
+
+} // namespace
+
 ConfigDialog::ConfigDialog(const QString &fileName, QWidget *parent, Qt::WindowFlags flags)
     : QDialog(parent, flags)
     , contentsWidget(new QListWidget(this))
     , m_pageArea(new QScrollArea(this))
-    , pagesWidget(new SlidingStackedWidget(m_pageArea))
+    , pagesWidget(new PageStack(m_pageArea))
     , themeFile(fileName)
     , m_watcher(new ThemeFileWatcher(fileName, this))
 {
@@ -67,7 +80,7 @@ void ConfigDialog::createPages()
         page->layout()->setContentsMargins(9, 9, 9, 9);
         pagesWidget->addWidget(page);
     }
-    connect(pagesWidget, &QStackedWidget::currentChanged, this, &ConfigDialog::scrollOnlyForPageInView);
+    connect(pagesWidget, &QStackedWidget::currentChanged, pagesWidget, &QWidget::updateGeometry);
     m_pageArea->setObjectName(QStringLiteral("pageArea"));
     m_pageArea->setFrameShape(QFrame::NoFrame);
     m_pageArea->setFocusPolicy(Qt::NoFocus);

@@ -59,7 +59,8 @@ private:
     void createLayout();
     void createShortcuts();
     void restoreSize();
-    void scrollOnlyForPageInView();
+    /// That of a first start.
+    QSize usualSize();
     void connectPages();
     /// Loads the page of \a row from the theme file as it is now.
     void loadPage(int row);

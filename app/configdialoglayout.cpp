@@ -39,10 +39,11 @@ QIcon iconNamed(const QString &name)
     return icon.isNull() ? QIcon(QStringLiteral(":/fallback/%1.svg").arg(name)) : icon;
 }
 
-int storedExtent(const char *key, int defaultExtent)
+/// 0 when none is stored that can be shown.
+int storedExtent(const char *key)
 {
     const int extent = iniValue(ownSettingsFile(), QLatin1String(key)).toInt();
-    return extent > 0 && extent <= largestExtent ? extent : defaultExtent;
+    return extent > 0 && extent <= largestExtent ? extent : 0;
 }
 
 } // namespace
@@ -125,23 +126,27 @@ void ConfigDialog::createShortcuts()
 
 void ConfigDialog::restoreSize()
 {
-    // Seven rows of the list: its six entries and one to spare. All pages are seen whole.
-    const QSize usual(800, gridRowHeight(QFontMetrics(contentsWidget->font())) * 7);
-    m_pageArea->setMinimumSize(pagesWidget->minimumSizeHint());
-    const QSize atFirst = usual.expandedTo(layout()->minimumSize());
-    m_wantedSize = {storedExtent("width", atFirst.width()), storedExtent("height", atFirst.height())};
-    m_pageArea->setMinimumSize(0, 0);
-    scrollOnlyForPageInView();
+    m_wantedSize = {storedExtent("width"), storedExtent("height")};
+    if (m_wantedSize.isEmpty()) {
+        const QSize usual = usualSize();
+        m_wantedSize = {m_wantedSize.width() ? m_wantedSize.width() : usual.width(),
+                        m_wantedSize.height() ? m_wantedSize.height() : usual.height()};
+    }
     resize(m_wantedSize.boundedTo(screen()->availableSize() - frame));
     m_firstSize = size();
 }
 
-void ConfigDialog::scrollOnlyForPageInView()
+QSize ConfigDialog::usualSize()
 {
-    for (int i = 0; i < pagesWidget->count(); ++i) {
-        const auto policy = i == pagesWidget->currentIndex() ? QSizePolicy::Preferred : QSizePolicy::Ignored;
-        pagesWidget->widget(i)->setSizePolicy(policy, policy);
-    }
+    // Seven rows of the list: its six entries and one to spare. All pages are seen whole.
+    const QSize usual(800, gridRowHeight(QFontMetrics(contentsWidget->font())) * 7);
+    QSize largestPage;
+    for (int i = 0; i < pagesWidget->count(); ++i)
+        largestPage = largestPage.expandedTo(pagesWidget->widget(i)->minimumSizeHint());
+    m_pageArea->setMinimumSize(largestPage);
+    const QSize needed = layout()->minimumSize();
+    m_pageArea->setMinimumSize(0, 0);
+    return usual.expandedTo(needed);
 }
 
 void ConfigDialog::storeSize() const
