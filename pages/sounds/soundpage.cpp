@@ -78,7 +78,6 @@ void SoundPage::setUpList()
         new QTreeWidgetItem(list, {title, QString(), QLatin1String(event.key->name)});
     }
     list->hideColumn(KeyColumn);
-    list->resizeColumnToContents(EventColumn);
     connect(list, &QTreeWidget::itemChanged, this, &SoundPage::changedSignal);
     connect(list, &QTreeWidget::itemChanged, this, &SoundPage::itemSelected);
     connect(list, &QTreeWidget::itemSelectionChanged, this, &SoundPage::itemSelected);
@@ -105,6 +104,8 @@ bool SoundPage::loadValues(QazSettings *settings)
     m_ui->wmSoundsGroupBox->setChecked(countsAsTrue(storedText(settings, enableKey)));
     for (QTreeWidgetItem *item : rows())
         item->setText(FileColumn, settings->value(item->text(KeyColumn), QString()).toString());
+    if (!loaded)
+        m_ui->soundListView->resizeColumnToContents(EventColumn);
     m_ui->soundListView->setCurrentItem(rows().first());
     soundEnabled(m_ui->wmSoundsGroupBox->isChecked());
     loaded = true;
@@ -114,6 +115,8 @@ bool SoundPage::loadValues(QazSettings *settings)
 void SoundPage::fillThemes(const QazSettings *settings)
 {
     QComboBox *combo = m_ui->soundThemeCombo;
+    // Makes the box's list, which no start needs.
+    combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     combo->clear();
     combo->addItem(tr("No theme"));
     List<char> names;

@@ -57,8 +57,6 @@ protected:
 PreviewComboBox::PreviewComboBox(QWidget *parent)
     : QComboBox(parent)
 {
-    setSizeAdjustPolicy(AdjustToContents);
-    setIconSize(QSize(110, 32));
     connect(this, qOverload<int>(&QComboBox::currentIndexChanged), this, [this] { updateGeometry(); });
 }
 

@@ -65,7 +65,6 @@ ThemePage::ThemePage(QWidget *parent)
     m_ui->color2Button->setSizePolicy(policy);
     m_ui->sizeButton->setIcon(
         ellipsisPixmap(palette().color(QPalette::ButtonText), int(qazDpiScaled(16)), devicePixelRatioF()));
-    m_ui->elementComboBox->outlineIcons();
     const auto setMain = [this](const QColor &color) { setColor(0, color); };
     takeColors(m_ui->elementComboBox, setMain);
     takeColors(m_ui->color1Button, setMain);
@@ -90,8 +89,12 @@ bool ThemePage::loadValues(QazSettings *settings)
     const QSignalBlocker blocker(m_ui->elementComboBox); // until the entries have their colours
     for (QComboBox *combo : findChildren<QComboBox *>()) {
         combo->clear();
-        combo->setIconSize(QSize(combo->iconSize().width(), int(qazDpiScaled(comboIconHeight))));
+        // Both make the box's list, which no start needs.
+        combo->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+        combo->setIconSize(QSize(combo == m_ui->sizeComboBox ? 32 : 110, int(qazDpiScaled(comboIconHeight))));
     }
+    if (!loaded)
+        m_ui->elementComboBox->outlineIcons();
     loadCursorThemes();
     loadIconThemes(settings);
     loadDecorThemes(settings);
