@@ -29,7 +29,8 @@ int main(int argc, char **argv)
         painter.end();
         const QString file = directory.filePath(QFileInfo(drawing).completeBaseName()
                                                 + QLatin1String(".png"));
-        if (!renderer.isValid() || !picture.save(file)) {
+        // Not compressed: every start of a program reads some.
+        if (!renderer.isValid() || !picture.save(file, nullptr, 100)) {
             std::fprintf(stderr, "render-icons: can't draw %s as %s\n", qPrintable(drawing),
                          qPrintable(file));
             return 1;
