@@ -25,4 +25,4 @@ endif()
 add_library(qaz-platform INTERFACE)
 add_library(Qaz::Platform ALIAS qaz-platform)
 target_link_libraries(qaz-platform INTERFACE
-    Qaz::SingleApplication Qaz::Freedesktop Qaz::Base ${found} Qt5::Network Qt5::Widgets Qt5::X11Extras PkgConfig::X11)
+    Qaz::SingleApplication Qaz::Freedesktop Qaz::Base ${found} Qt5::Widgets Qt5::X11Extras PkgConfig::X11)

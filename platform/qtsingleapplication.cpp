@@ -8,13 +8,17 @@
 #include <QDeadlineTimer>
 #include <QFile>
 #include <QFileInfo>
-#include <QLocalServer>
-#include <QLocalSocket>
+#include <QSocketNotifier>
 #include <QThread>
 
+#include <cerrno>
+
 #include <fcntl.h>
+#include <poll.h>
 #include <sys/file.h>
+#include <sys/socket.h>
 #include <sys/stat.h>
+#include <sys/un.h>
 #include <unistd.h>
 
 namespace {
@@ -38,10 +42,29 @@ QByteArray socketName(const QString &id)
     return "qtsingleapp-" + digest + '-' + QByteArray::number(::getuid());
 }
 
-/// A path that fits into a socket's address however long the directory's own is.
-QString socketPath(const Descriptor &directory, const QByteArray &name)
+/// Calls ::bind or ::connect with a path that fits into an address however long the directory's own is.
+template<typename Call>
+bool reach(Call call, const Descriptor &socket, const Descriptor &directory, const QByteArray &name)
 {
-    return QStringLiteral("/proc/self/fd/%1/%2").arg(directory.get()).arg(QLatin1String(name));
+    const QByteArray path = "/proc/self/fd/" + QByteArray::number(directory.get()) + '/' + name;
+    sockaddr_un address = {};
+    address.sun_family = AF_UNIX;
+    qstrncpy(address.sun_path, path.constData(), sizeof address.sun_path);
+    return call(socket.get(), reinterpret_cast<const sockaddr *>(&address), sizeof address) == 0;
+}
+
+int openSocket()
+{
+    return ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
+}
+
+/// False when the other side has gone.
+bool receive(const Descriptor &socket, QByteArray *received)
+{
+    char piece[4096];
+    const ssize_t size = ::recv(socket.get(), piece, sizeof piece, 0);
+    received->append(piece, int(qMax<ssize_t>(size, 0)));
+    return size > 0 || (size < 0 && errno == EAGAIN);
 }
 
 /// Takes what stands at \a name out of the way; a directory, which may hold something, is renamed.
@@ -67,7 +90,12 @@ QtSingleApplication::QtSingleApplication(const QString &id, int &argc, char **ar
     , m_directory(openDirectory())
 {}
 
-QtSingleApplication::~QtSingleApplication() = default;
+QtSingleApplication::~QtSingleApplication()
+{
+    // Before the lock ends: afterwards the name is the next owner's.
+    if (m_socket)
+        ::unlinkat(m_directory.get(), m_name.constData(), 0);
+}
 
 bool QtSingleApplication::isRunning()
 {
@@ -96,32 +124,35 @@ void QtSingleApplication::listen()
 {
     // What stands there belongs to a dead owner: the lock is ours.
     clearAway(m_directory.get(), m_name);
-    m_server = std::make_unique<QLocalServer>(this);
-    m_server->setSocketOptions(QLocalServer::UserAccessOption);
-    connect(m_server.get(), &QLocalServer::newConnection, this, &QtSingleApplication::acceptConnection);
-    m_server->listen(socketPath(m_directory, m_name));
+    m_socket = std::make_unique<Descriptor>(openSocket());
+    ::fchmod(m_socket->get(), 0600);
+    if (!reach(::bind, *m_socket, m_directory, m_name) || ::listen(m_socket->get(), SOMAXCONN) != 0)
+        return;
+    const auto *arrival = new QSocketNotifier(m_socket->get(), QSocketNotifier::Read, this);
+    connect(arrival, &QSocketNotifier::activated, this, &QtSingleApplication::acceptConnection);
 }
 
 void QtSingleApplication::acceptConnection()
 {
-    while (QLocalSocket *socket = m_server->nextPendingConnection()) {
-        connect(socket, &QLocalSocket::readyRead, this, [this, socket] { readMessage(socket); });
-        connect(socket, &QLocalSocket::disconnected, socket, &QLocalSocket::deleteLater);
-    }
-}
-
-void QtSingleApplication::readMessage(QLocalSocket *socket)
-{
-    QDataStream stream(socket);
-    stream.startTransaction();
-    QByteArray message;
-    stream >> message;
-    // What has not arrived yet comes with a later readyRead().
-    if (!stream.commitTransaction())
+    const auto sender = std::make_shared<Descriptor>(
+        ::accept4(m_socket->get(), nullptr, nullptr, SOCK_CLOEXEC | SOCK_NONBLOCK));
+    if (!sender->isOpen())
         return;
-    socket->write(acknowledgement);
-    socket->flush();
-    emit messageReceived(QString::fromUtf8(message));
+    auto *arrival = new QSocketNotifier(sender->get(), QSocketNotifier::Read, this);
+    connect(arrival, &QSocketNotifier::activated, this, [=, received = QByteArray()]() mutable {
+        if (!receive(*sender, &received)) {
+            arrival->setEnabled(false);
+            return arrival->deleteLater();
+        }
+        QDataStream stream(received);
+        QByteArray message;
+        stream >> message;
+        if (stream.status() != QDataStream::Ok)
+            return; // what has not arrived yet comes later
+        received.clear();
+        ::send(sender->get(), acknowledgement, qstrlen(acknowledgement), MSG_NOSIGNAL);
+        emit messageReceived(QString::fromUtf8(message));
+    });
 }
 
 bool QtSingleApplication::sendMessage(const QString &message, int timeout)
@@ -129,20 +160,28 @@ bool QtSingleApplication::sendMessage(const QString &message, int timeout)
     if (!isRunning())
         return false;
     const QDeadlineTimer deadline(timeout);
-    const auto left = [&deadline] { return int(deadline.remainingTime()); };
-    QLocalSocket socket;
+    const Descriptor socket(openSocket());
     // The owner takes its lock a moment before it listens.
-    const QString path = socketPath(m_directory, m_name);
-    for (socket.connectToServer(path); !socket.waitForConnected(left()); socket.connectToServer(path)) {
+    while (!reach(::connect, socket, m_directory, m_name)) {
         if (deadline.hasExpired())
             return false;
         QThread::msleep(20);
     }
-    QDataStream stream(&socket);
+    const auto isReady = [&](short event) {
+        pollfd wanted = {socket.get(), event, 0};
+        return ::poll(&wanted, 1, int(deadline.remainingTime())) == 1;
+    };
+    QByteArray unsent;
+    QDataStream stream(&unsent, QIODevice::WriteOnly);
     stream << message.toUtf8();
+    while (!unsent.isEmpty() && isReady(POLLOUT)) {
+        const ssize_t size = ::send(socket.get(), unsent.constData(), size_t(unsent.size()), MSG_NOSIGNAL);
+        if (size < 0)
+            return false;
+        unsent.remove(0, int(size));
+    }
     QByteArray answer;
-    while (answer != acknowledgement && socket.waitForReadyRead(left()))
-        answer += socket.readAll();
+    while (answer != acknowledgement && isReady(POLLIN) && receive(socket, &answer)) {}
     return answer == acknowledgement;
 }
 

@@ -12,9 +12,6 @@
 
 #include <memory>
 
-class QLocalServer;
-class QLocalSocket;
-
 /// An application that runs once for each id and user. Whoever holds the id's lock is the running instance;
 /// the others can send it messages. The lock ends with its owner, whatever becomes of the file.
 class QtSingleApplication : public QApplication
@@ -46,13 +43,12 @@ signals:
 private:
     void listen();
     void acceptConnection();
-    void readMessage(QLocalSocket *socket);
 
     QString m_id;
-    QByteArray m_name;                      // of the socket; the lock file's has ".lock" appended
-    Descriptor m_directory;                 // of both
-    std::unique_ptr<Descriptor> m_lock;     // while it is held
-    std::unique_ptr<QLocalServer> m_server; // ends before the lock: afterwards its name is the next owner's
+    QByteArray m_name;                    // of the socket; the lock file's has ".lock" appended
+    Descriptor m_directory;               // of both
+    std::unique_ptr<Descriptor> m_lock;   // while it is held
+    std::unique_ptr<Descriptor> m_socket; // of the running instance
     QPointer<QWidget> m_activationWindow;
 };
 
