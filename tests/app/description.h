@@ -36,7 +36,8 @@ private:
     {
         m_lines.append(described(widget));
         if (const auto *label = qobject_cast<const QLabel *>(widget); label && label->buddy())
-            m_lines.append("  buddy "_s + label->buddy()->objectName());
+            for (QWidget *buddy = label->buddy(); buddy; buddy = buddy->focusProxy())
+                m_lines.append("  buddy "_s + buddy->objectName());
         if (const auto *tabs = qobject_cast<const QTabWidget *>(widget))
             for (int i = 0; i < tabs->count(); ++i)
                 m_lines.append("  tab %1 \"%2\""_s.arg(tabs->widget(i)->objectName(), tabs->tabText(i)));

@@ -4,7 +4,6 @@
 
 #include <QLocalServer>
 #include <QLocalSocket>
-#include <QSocketNotifier>
 
 #include <fcntl.h>
 #include <sys/file.h>
