@@ -69,8 +69,6 @@ void HelpWindow::createBar()
     m_result->setObjectName(QStringLiteral("resultLabel"));
     row->addWidget(m_result);
 
-    back->setEnabled(false);
-    forward->setEnabled(false);
     connect(this, &QTextBrowser::backwardAvailable, back, &QWidget::setEnabled);
     connect(this, &QTextBrowser::forwardAvailable, forward, &QWidget::setEnabled);
     connect(back, &QToolButton::clicked, this, &QTextBrowser::backward);

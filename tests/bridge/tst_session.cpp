@@ -16,8 +16,9 @@ private slots:
     {
         QByteArray theme = "WallPaper=#204060\nScreenSaverDelay=300\nTitlebarActiveColor=#112233\n"
                            "TitlebarActiveColor2=#112233\nEnableSound=true\n";
-        for (const char *event : {"Open", "Close", "RestoreUp", "RestoreDown", "Minimize", "Maximize",
-                                  "SystemStart", "SystemExit", "Paging"}) // each has a sound called after it
+        for (const char *event :
+             {"Open", "Close", "RestoreUp", "RestoreDown", "Minimize", "Maximize", "SystemStart",
+              "SystemExit", "Paging", "ForceTrayMessage"}) // each has a sound called after it
             theme += QByteArray(event) + "Sound="
                      + QFile::encodeName(m_home.write("sounds/"_s + QLatin1String(event), "sound")) + '\n';
         m_home.write(".config/qaz/current.themerc"_s, theme);
@@ -161,6 +162,8 @@ private slots:
         other.terminate();
         other.waitForFinished();
         QTRY_VERIFY(settings().contains("DejaVu Sans 8"_s));
+        announce("XftSettings", "0 true vbgr slight"_s);
+        QTRY_VERIFY(settings().contains("Xft/RGBA \"vbgr\""_s));
     }
 
 private:

@@ -172,6 +172,9 @@ private slots:
                  QStringList({"1366"_s, "768"_s, "%d"_s, source, converted, "%s"_s}));
         for (const char *none : {"", "missing-program -x"})
             QCOMPARE(find(name, none), QString());
+        QFile::remove(source);
+        home.write(own + "1366x768/"_s + name + ".svg"_s, "<svg/>");
+        QCOMPARE(find(name, ""), home.write(own + name + ".png"_s, "x"));
         QCOMPARE(errors.take(), "why\nqaz-admin-theme: Can't convert " + sourceName
                                     + ": missing-program is not installed\n");
     }
