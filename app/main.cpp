@@ -6,7 +6,11 @@
 #include "resources/registerresources.h"
 #include "settings/directories.h"
 
+#include <QAccessible>
+#include <QFile>
 #include <QOpenGLContext>
+#include <QScopeGuard>
+#include <QStandardPaths>
 
 #include <cstdio>
 #include <utility>
@@ -17,22 +21,32 @@ constexpr Qt::WindowFlags windowFlags = Qt::Window | Qt::CustomizeWindowHint | Q
                                         | Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint
                                         | Qt::WindowMaximizeButtonHint | Qt::WindowCloseButtonHint;
 
-/// Keeps Qt's X11 plugin from loading the GL stack, which this program never uses: half the start-up time. The
-/// environment is as before at the end: the programs that the pages start inherit it.
+/// Sets what Qt reads from the environment once, where the user has not. As before when the returned guard ends: the
+/// programs that the pages start inherit the environment.
+auto setForQt(const char *variable, const char *value)
+{
+    const bool wasSet = qEnvironmentVariableIsSet(variable);
+    if (!wasSet)
+        qputenv(variable, value);
+    return qScopeGuard([=] { wasSet || qunsetenv(variable); });
+}
+
+/// Starts Qt without what costs half the time of a start and is of no use here: the GL stack, and, where no session
+/// bus is and none can be started, the child process in which the accessibility bridge looks for one.
 MyApplication *createApplication(int &argc, char **argv)
 {
     guardFontconfig();
-    constexpr char variable[] = "QT_XCB_GL_INTEGRATION";
-    const bool wasSet = qEnvironmentVariableIsSet(variable);
-    if (!wasSet)
-        qputenv(variable, "none");
+    const auto withoutGl = setForQt("QT_XCB_GL_INTEGRATION", "none");
     // Each display has an instance of its own.
     const QString id = QString::fromLocal8Bit(qgetenv("DISPLAY")) + QLatin1String("qaz-admin-theme");
     auto *application = new MyApplication(id, argc, argv);
-    // The plugin reads the variable when it is first asked for what GL can do.
+    // The X11 plugin reads the variables when it is first asked for what GL can do and for accessibility.
     QOpenGLContext::supportsThreadedOpenGL();
-    if (!wasSet)
-        qunsetenv(variable);
+    if (!QFile::exists(qEnvironmentVariable("XDG_RUNTIME_DIR") + QLatin1String("/bus"))
+        && QStandardPaths::findExecutable(QStringLiteral("dbus-launch")).isEmpty()) {
+        const auto withoutBus = setForQt("DBUS_SESSION_BUS_ADDRESS", "none:");
+        QAccessible::isActive();
+    }
     return application;
 }
 

@@ -6,6 +6,9 @@
 #include "tests/support/temporaryhome.h"
 #include "tests/support/wmlistener.h"
 
+#include <QLocalServer>
+#include <QLocalSocket>
+
 #include <functional>
 #include <optional>
 
@@ -38,20 +41,38 @@ private slots:
 
     void childrenGetTheUsersEnvironment()
     {
-        // Qt's X11 plugin is told not to load the GL stack, and nobody else.
+        // Qt's X11 plugin is told not to load the GL stack and not to look for a bus, and nobody else.
         FakePrograms programs;
-        programs.add("qaz-svg2png"_s, "echo \"GL is ${QT_XCB_GL_INTEGRATION-unset}\" >\"$HOME/seen\"");
+        programs.add("qaz-svg2png"_s,
+                     "echo ${QT_XCB_GL_INTEGRATION-unset} ${DBUS_SESSION_BUS_ADDRESS-unset} >\"$HOME/seen\"");
         m_home->write(".local/share/wallpapers/drawn.svg"_s, "<svg xmlns='http://www.w3.org/2000/svg'/>");
         const QString theme = m_home->write("t.themerc"_s, "WallPaper=drawn\n");
         for (const QByteArray &value : {QByteArray(), QByteArray("xcb_egl")}) {
             const ScopedEnvironment gl("QT_XCB_GL_INTEGRATION", value);
+            const ScopedEnvironment bus("DBUS_SESSION_BUS_ADDRESS", value);
             EditorProcess editor({theme});
             QVERIFY(editor.waitForWindow());
-            QCOMPARE(m_home->read("seen"_s), "GL is " + (value.isNull() ? "unset" : value) + '\n');
+            QCOMPARE(m_home->read("seen"_s), value.isNull() ? "unset unset\n" : "xcb_egl xcb_egl\n");
             const QByteArray loaded = m_home->read("/proc/%1/maps"_s.arg(editor.process().processId()));
             QVERIFY(loaded.contains("libqxcb"));
             QCOMPARE(loaded.contains("libEGL_") || loaded.contains("gl-integration"), !value.isNull());
         }
+    }
+
+    void theBusOfScreenReadersIsLookedFor()
+    {
+        const ScopedEnvironment bus("DBUS_SESSION_BUS_ADDRESS", QByteArray());
+        {
+            QLocalServer server;
+            QVERIFY(server.listen(qEnvironmentVariable("XDG_RUNTIME_DIR") + "/bus"_s));
+            EditorProcess editor;
+            QVERIFY2(server.waitForNewConnection(30000), "one that runs is asked");
+            delete server.nextPendingConnection();
+        }
+        FakePrograms programs;
+        programs.add("dbus-launch"_s, "echo \"$1\" >\"$HOME/launched\"");
+        EditorProcess editor;
+        QTRY_COMPARE(m_home->read("launched"_s), "--autolaunch\n");
     }
 
     void aSecondStartFindsTheFirst()
