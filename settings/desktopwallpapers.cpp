@@ -35,12 +35,12 @@ QString wallpaperIn(const QByteArray &path)
     return QString::fromLocal8Bit(stored);
 }
 
-/// Whether a reader of INI files finds the key. One value a key, one line a value.
+/// Whether a reader of INI files finds the key; as it reads by default, a key has one value and a value one line.
 bool holdsWallpaper(const QByteArray &content)
 {
-    CSimpleIniCaseA ini(true, false, false);
+    CSimpleIniCaseA ini;
     return ini.LoadData(content.constData(), std::size_t(content.size())) >= 0
-           && ini.Delete(desktopEntryGroup, wallpaperKey, false);
+           && ini.GetValue(desktopEntryGroup, wallpaperKey);
 }
 
 void removeWallpaperFrom(const QString &path)

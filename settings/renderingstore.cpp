@@ -72,11 +72,9 @@ QString xftResourceLines(const QString &file)
 
 int forcedDpi(int stored, const QByteArray &resource)
 {
-    if (stored == 0)
-        return 0;
     char *end = nullptr;
     const double number = std::strtod(resource.constData(), &end);
-    if (end == resource.constData() || !std::isfinite(number))
+    if (stored == 0 || end == resource.constData() || !std::isfinite(number))
         return stored;
     constexpr double limit = std::numeric_limits<int>::max();
     const int dpi = int(qBound(-limit, number, limit));

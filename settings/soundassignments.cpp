@@ -8,8 +8,6 @@
 
 SoundKind soundKind(const QString &value)
 {
-    if (value.isEmpty())
-        return SoundKind::None;
     if (value.startsWith(QLatin1Char('/')))
         return SoundKind::File;
     return value.contains(QLatin1Char('.')) ? SoundKind::BuiltIn : SoundKind::ThemeSound;

@@ -36,10 +36,9 @@ static_assert(std::size(soundEvents) == 14);
 
 /// The form of an event's stored text.
 enum class SoundKind {
-    None,      ///< empty
-    File,      ///< an absolute path: the user's own choice
-    BuiltIn,   ///< a name with a dot: a file in the sounds directory
-    ThemeSound ///< any other text: a sound's name in the current theme
+    ThemeSound, ///< a sound's name in the current theme, or empty
+    File,       ///< an absolute path: the user's own choice
+    BuiltIn     ///< a name with a dot: a file in the sounds directory
 };
 
 SoundKind soundKind(const QString &value);

@@ -121,7 +121,6 @@ bool writeChanges(const ThemeChanges &changes, const QString &path, QString *err
 {
     {
         QazSettings store(path);
-        store.sync(true);
         for (const ThemeChange &change : changes)
             store.setValue(change.key, change.after);
     }

@@ -38,8 +38,7 @@ bool isRoleFont(const QString &text)
     const QStringList known = {QString(), QStringLiteral("normal"), QStringLiteral("bold"),
                                QStringLiteral("normal:italic"), QStringLiteral("bold:italic")};
     const QString size = text.section(QLatin1Char(':'), 0, 0).section(QLatin1Char('-'), 1);
-    return isFontText(text) && !family.isEmpty() && !family.contains(QLatin1Char(':'))
-           && known.contains(traits) && isNumber(size, 1, 999);
+    return !family.isEmpty() && known.contains(traits) && isNumber(size, 1, 999);
 }
 
 /// A directory's name, which must not lead elsewhere.

@@ -21,11 +21,10 @@ QByteArray updateCommand(const QString &key, const QString &value)
 bool readUpdateCommand(const QByteArray &command, QString *key, QString *value)
 {
     const QString text = QString::fromLocal8Bit(command);
-    const int keyEnd = text.indexOf(QLatin1Char(' '), updateWord.size());
-    if (!text.startsWith(updateWord) || keyEnd < 0)
+    if (!text.startsWith(updateWord) || text.count(QLatin1Char(' ')) < 2)
         return false;
-    *key = text.mid(updateWord.size(), keyEnd - updateWord.size());
-    *value = text.mid(keyEnd + 1);
+    *key = text.section(QLatin1Char(' '), 1, 1);
+    *value = text.section(QLatin1Char(' '), 2);
     if (value->endsWith(QLatin1Char('\n')))
         value->chop(1);
     return true;
