@@ -60,16 +60,11 @@ public:
         const FileContent file = readRegularFile(m_themeFile);
         if (file.state == FileState::Unreadable)
             return failed(error, file.error);
-        if (!replaceFile(copy, file.content, error))
+        if (!replaceFile(copy, file.content, error) || !writeNames(error))
             return false;
-        {
-            QazSettings store(copy);
-            store.sync(true);
-            for (const ThemeValue &value : knownValues(m_themeFile))
-                takeFile(value, &store, missing);
-            if (!writeNames(store, error))
-                return false;
-        }
+        QazSettings store(copy);
+        for (const ThemeValue &value : knownValues(m_themeFile))
+            takeFile(value, &store, missing);
         m_files.prepend({namesMember, m_directory.filePath(namesMember)});
         m_files.prepend({themeMember, copy});
         return true;
@@ -117,8 +112,10 @@ private:
                            [&member](const ArchiveFile &file) { return file.name == member; });
     }
 
-    bool writeNames(const QazSettings &store, QString *error) const
+    bool writeNames(QString *error) const
     {
+        QazSettings store(m_directory.filePath(themeMember));
+        store.sync(true);
         QByteArray text;
         for (const ThemeKey &key : themeKeys) {
             if (key.kind == KeyKind::Text)
@@ -134,13 +131,12 @@ private:
     QMap<QString, QString> m_members;
 };
 
-/// Moves a file over what stands at \a to, of a link over the link itself, after a backup.
+/// Moves a file over what stands at \a to, of a link over the link itself, after a backup. A directory stays.
 bool moveOver(const QString &from, const QString &to, QString *error)
 {
     const QFileInfo old(to);
-    if (old.isDir() && !old.isSymLink())
-        return failed(error, QStringLiteral("%1: %2").arg(to, systemErrorText(EISDIR)));
-    if ((old.exists() || old.isSymLink()) && backUp(to, error).isEmpty())
+    const bool isReplaced = old.isSymLink() || (old.exists() && !old.isDir());
+    if (isReplaced && backUp(to, error).isEmpty())
         return false;
     return std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0
            || failed(error, QStringLiteral("%1: %2").arg(to, systemErrorText(errno)));
