@@ -21,7 +21,7 @@ private slots:
         QVERIFY(home.makeDirectory("Desktops/DesktopDir/.directory"_s)
                 && home.makeDirectory("Desktops/DesktopFifo"_s));
         home.makeFifo("Desktops/DesktopFifo/.directory"_s);
-        const QByteArray without = head + "# X-QAZ-WallPaper=a\r\n" + tail;
+        const QByteArray without = signature + head + "# X-QAZ-WallPaper=a\r\n" + tail;
         home.write("Desktops/Desktop2/.directory"_s, without);
         const QStringList files // the first three are those of desktops
             = "Desktop1/.directory,Desktop/.directory,Desktop 22 "

@@ -10,19 +10,19 @@ private slots:
     {
         // A group, the file before, and after with "new" as the value.
         const std::tuple<QByteArray, QByteArray, QByteArray> rows[] = {
-            {"kompmgr", "# mine\n; too\n[kompmgr]\nA = 1\n Key = old \n\n[Other]\nKey=@Size(1 2)\n",
-             "# mine\n; too\n[kompmgr]\nA = 1\n Key = new \n\n[Other]\nKey=@Size(1 2)\n"},
+            {"kompmgr", "# mine\n; too\n[kompmgr]\nA = 1\n x = old \n\n[Other\nx=@Size(1 2)\n",
+             "# mine\n; too\n[kompmgr]\nA = 1\n x = new \n\n[Other\nx=@Size(1 2)\n"},
             // the group General has three spellings, and one that looks like it is none
-            {"", "Key=1\n[Qt]\nKey=2\n", "Key=new\n[Qt]\nKey=2\n"},
-            {"", "[general]\nKey=1\n[%General]\nKey=2\n", "[general]\nKey=new\n[%General]\nKey=2\n"},
-            {"", "[Qt]\nx=1\n", "[Qt]\nx=1\n[General]\nKey=new\n"},
-            {"g", "Key=1\n[o]\nA=\"[g]\nKey=1\"", "Key=1\n[o]\nA=\"[g]\nKey=1\"\n[g]\nKey=new\n"}};
+            {"", "x=1\n[Qt]\nx=2\n", "x=new\n[Qt]\nx=2\n"},
+            {"", "[general]\nx=1\n[%General]\nx=2\n", "[general]\nx=new\n[%General]\nx=2\n"},
+            {"", "[Qt]\nA=1\n", "[Qt]\nA=1\n[General]\nx=new\n"},
+            {"g", "x=1\n[o]\nA=\"\n[g]\nx=1\"", "x=1\n[o]\nA=\"\n[g]\nx=1\"\n[g]\nx=new\n"}};
         for (const auto &[group, before, after] : rows) {
             const TemporaryHome home;
             const QString path = home.write("f"_s, before);
-            writeIniValues(path, group, {{"Key"_s, "new"_s}});
+            writeIniValues(path, group, {{"x"_s, "new"_s}});
             QCOMPARE(home.read("f"_s), after);
-            QCOMPARE(iniValue(path, QString::fromLatin1(group + "/Key")), QVariant("new"_s));
+            QCOMPARE(iniValue(path, QString::fromLatin1(group + "/x")), QVariant("new"_s));
         }
     }
 
@@ -33,7 +33,7 @@ private slots:
         QMap<QString, QVariant> values{
             {"true"_s, true}, {"number"_s, -120}, {"fraction"_s, 10.5}, {"empty"_s, QString()}};
         for (const char *text : {"Sans Serif,10", " a ", " a", "a;b", "b=c", "\"q\" \\", "@Point(1 2)",
-                                 "%1 #x", "\x01\x31\x66\a\b\t\n\v\f\r\x0e\x1f\x61z\x7f", "äa€1字g😀"})
+                                 "%1 #x", "\x01\x31\x66\a\b\t\n\v\f\r\x0e\x1f\x61z\x7f", "äa€1字g😀x"})
             values.insert("key%1"_s.arg(values.size()), QString::fromUtf8(text));
         for (auto value = values.cbegin(); value != values.cend(); ++value)
             theirs.setValue("Group/"_s + value.key(), *value);
@@ -54,8 +54,9 @@ private slots:
         writeIniValues(fifo, "G", {{"k"_s, 1}});
         QCOMPARE(QString::fromUtf8(errors.take()),
                  "qaz-admin-theme: Can't write %1: Not a regular file\n"_s.arg(fifo));
-        QCOMPARE(iniFile("Trolltech"_s), QSettings("Trolltech"_s).fileName());
         QCOMPARE(iniFile("qaz"_s, "qaz-admin-theme"_s), QSettings("qaz"_s, "qaz-admin-theme"_s).fileName());
+        const ScopedEnvironment elsewhere("XDG_CONFIG_HOME", "/elsewhere");
+        QCOMPARE(iniFile("Trolltech"_s), "/elsewhere/Trolltech.conf"_s);
         const ScopedEnvironment relative("XDG_CONFIG_HOME", "relative");
         QCOMPARE(iniFile("Trolltech"_s), home.path(".config/Trolltech.conf"_s));
     }
