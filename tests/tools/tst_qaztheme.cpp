@@ -15,6 +15,7 @@ private slots:
     void everyKeyTakesItsDefault()
     {
         const TemporaryHome home;
+        const ScopedEnvironment session("QAZ_SESSION", "work");
         const QStringList keys = QString::fromUtf8(run("complete keys"_s).out.trimmed()).split(u'\n');
         const QStringList values = QString::fromUtf8(run("get "_s + keys.join(u' ')).out).split(u'\n');
         QStringList assignments{"set"_s};
@@ -23,6 +24,9 @@ private slots:
         const ToolRun result("qaz-theme"_s, assignments);
         QVERIFY2(result.status == 0, result.errors.constData());
         QCOMPARE(run("diff"_s).status, 0);
+        QCOMPARE(home.read(".config/qaz/current.themerc-work"_s).count('\n'), 15); // new when missing
+        for (int size : {4096, 4097})
+            QCOMPARE(run("set --force A="_s + QString(size, u'a')).status, size == 4096 ? 0 : 2);
     }
 
     void meaningsAreInTheUsersLanguage()
@@ -37,23 +41,29 @@ private slots:
         replay("tools/nodisplay.txt"_s);
     }
 
-    void aDirectoryIsPutBack()
+    void filesAndDirectoriesArePutBack()
     {
         const TemporaryHome home;
-        home.write("d/a/b"_s, "1");
-        QVERIFY(!backUp(home.path("d"_s)).isEmpty());
+        const QString file = home.write("d/a/b"_s, "1");
+        QVERIFY(!backUp(file).isEmpty() && !backUp(home.path("d"_s)).isEmpty() && QFile::remove(file));
+        QCOMPARE(run("restore d/a/b"_s).status, 0);
+        QCOMPARE(home.mode("d/a/b"_s), 0600U);
         home.write("d/a/b"_s, "2");
         home.write("d/c"_s, "3");
-        QCOMPARE(run("restore "_s + home.path("d"_s)).status, 0);
+        QCOMPARE(run("restore d"_s).status, 0);
         QCOMPARE(home.read("d/a/b"_s), QByteArray("1"));
         QCOMPARE(home.names() + u' ' + home.names("d"_s), ".local d a"_s);
-        QCOMPARE(run("backups"_s).out.count('\n'), 2);
-        // What holds the backups themselves can't be replaced.
-        home.write(".local/state/qaz/backup/20260102T030405.678Z-x/f"_s, {});
-        home.write(".local/state/qaz/backup/manifest"_s,
-                   "20260102T030405.678Z-x\t" + QFile::encodeName(home.path(".local"_s)) + '\n');
-        QCOMPARE(run("restore 1"_s).status, 3);
-        QCOMPARE(home.names(".local"_s), "state"_s);
+        QCOMPARE(run("backups"_s).out.count('\n'), 3);
+        // It holds the backups themselves, can't be moved, or has too long a name.
+        home.write(".local/state/qaz/backup/x/f"_s, {});
+        for (const QString &original : {".local"_s, "d/."_s, QString(256, u'n')}) {
+            home.write(".local/state/qaz/backup/manifest"_s,
+                       "x\t" + QFile::encodeName(home.path(original)) + '\n');
+            const ToolRun result = run("restore 1"_s);
+            QCOMPARE(result.status, 3);
+            QCOMPARE(result.errors.count('\n'), original == ".local"_s ? 2 : 1);
+        }
+        QCOMPARE(home.names(".local"_s) + u' ' + home.names("d"_s), "state a"_s);
     }
 };
 
