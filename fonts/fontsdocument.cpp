@@ -52,7 +52,7 @@ bool FontsDocument::understand(const QByteArray &content, QString *error)
 
 bool FontsDocument::decode(const QByteArray &content, QString *error)
 {
-    QXmlStreamReader declaration(QString::fromLatin1(content.left(content.indexOf('>') + 1)));
+    QXmlStreamReader declaration(QString::fromLatin1(content));
     declaration.readNext();
     // Nothing is found of an encoding that Qt does not know; the error is left to who reads on.
     const QByteArray declared = declaration.documentEncoding().toLatin1();

@@ -61,9 +61,7 @@ QStringList fontconfigFiles()
     QStringList files;
     const std::unique_ptr<FcStrList, Release<FcStrListDone>> list(
         FcConfigGetConfigFiles(FcConfigGetCurrent()));
-    if (!list)
-        return files;
-    while (const FcChar8 *file = FcStrListNext(list.get()))
+    while (const FcChar8 *file = list ? FcStrListNext(list.get()) : nullptr)
         files.append(QFile::decodeName(reinterpret_cast<const char *>(file)));
     return files;
 }

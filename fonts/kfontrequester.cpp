@@ -121,8 +121,7 @@ void KFontRequester::setTitle(const QString &title)
 
 void KFontRequester::_k_buttonClicked()
 {
-    bool accepted = false;
-    const QFont chosen = QFontDialog::getFont(&accepted, d->selectedFont, window());
-    if (accepted)
-        d->select(chosen);
+    QFontDialog dialog(d->selectedFont, window());
+    if (dialog.exec() == QDialog::Accepted)
+        d->select(dialog.selectedFont());
 }

@@ -17,9 +17,6 @@ namespace {
 
 using FcPatternPtr = std::unique_ptr<FcPattern, Release<FcPatternDestroy>>;
 
-// Style names do not depend on the size; any will do to look them up.
-constexpr int lookupSize = 10;
-
 /// Asking the database for its families sorts and copies them all, too much for each of a page's fonts.
 bool isInstalled(const QString &family)
 {
@@ -64,16 +61,16 @@ QString substituteFamily()
 /// The style of the face of \a family that comes nearest to \a wanted.
 QString nearestStyle(QFontDatabase &database, const QString &family, const QFont &wanted)
 {
-    const QFont face = database.font(family, database.styleString(wanted), lookupSize);
+    const QFont face = database.font(family, database.styleString(wanted), wanted.pointSize());
     QString style = database.styleString(face);
     if (!wanted.styleName().isEmpty())
         return style;
     // Weight and slant can fit several widths of a family, of which the database takes any: a plain font of
     // "DejaVu Sans" came out condensed. The matcher knows the one of normal width.
-    QFont plain(family, lookupSize, face.weight());
+    QFont plain(family, wanted.pointSize(), face.weight());
     plain.setStyle(face.style());
     const QString normalWidth = QFontInfo(plain).styleName();
-    const QFont candidate = database.font(family, normalWidth, lookupSize);
+    const QFont candidate = database.font(family, normalWidth, wanted.pointSize());
     const bool fits = database.styles(family).contains(normalWidth) && candidate.weight() == face.weight()
                       && candidate.style() == face.style();
     return fits ? normalWidth : style;
