@@ -48,7 +48,7 @@ public:
             return QString::fromUtf8(home.read(place) == fontsFile(text.toUtf8()) ? "yes" : home.read(place));
         if (what == "save"_s) {
             const bool isNew = dialog.save(text == "true"_s, &error);
-            return (isNew ? "changed: "_s : "same: "_s) + stored() + error;
+            return (isNew ? "changed: "_s : "same: "_s) + stored() + error.remove(home.path());
         }
         if (what == "load"_s)
             home.write(place, fontsFile(text.toUtf8()));

@@ -159,14 +159,15 @@ private slots:
         QVERIFY(applies(&config));
         QVERIFY(standardError.take().startsWith(
             "qaz-admin-theme: font config file was rewritten since we last read!\n"));
-        QCOMPARE(home.read(place),
-                 fontsFile("<alias/> hinting=true hintstyle=hintfull antialias=true size=2-8 "
-                           "pixelsize=3-10"));
+        const QByteArray both
+            = "<alias/> hinting=true hintstyle=hintfull antialias=true size=2-8 pixelsize=3-10";
+        QCOMPARE(home.read(place), fontsFile(both));
         QCOMPARE(summary(config), "none 4 1 1 3-10"_s);
         // The merge has read the file again: the next change needs none.
         config.setSubPixelType(SubPixelOrder::Rgb);
         QVERIFY(QFile::remove(home.path(place))); // nor when the file is gone
         QVERIFY(applies(&config) && !standardError.take().contains("rewritten"));
+        QCOMPARE(home.read(place), fontsFile(both + " rgba=rgb"));
 
         config.setSubPixelType(SubPixelOrder::Bgr);
         home.write(place, "<fontconfig>"); // the half of it, perhaps

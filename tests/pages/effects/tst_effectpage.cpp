@@ -94,7 +94,8 @@ private slots:
         file.find<QCheckBox>("opaqueMoveCheckBox")->toggle(); // there only a click is an edit
         QCOMPARE(changed.count(), 1);
         file.find<QCheckBox>("smartPlacementCheckBox")->toggle();
-        QCOMPARE(changed.count(), 2);
+        file.find<QGroupBox>("pagingGroupBox")->setChecked(true); // which gives the belt a size, too
+        QCOMPARE(changed.count(), 4);
     }
 
     void autopagingIsOffExactlyWithoutABelt()
