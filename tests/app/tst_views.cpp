@@ -73,6 +73,10 @@ private slots:
         auto *antiAliasing = find<FontAASettings>();
         antiAliasing->show();
         verifyView(antiAliasing);
+        QCOMPARE(find<QComboBox>("subPixelTypeCombo")->itemText(3),
+                 QCoreApplication::translate("FontRendering", "Vertical BGR"));
+        QCOMPARE(find<QComboBox>("hintStyleCombo")->itemText(3),
+                 QCoreApplication::translate("FontRendering", "Full"));
     }
 
 private:

@@ -229,6 +229,10 @@ private slots:
                      told.constData());
         QCOMPARE(editor.home.backups().count(mine), 2);
         QCOMPARE(editor.stored("dontChangeAASettings"), "true"_s);
+        const ScopedEnvironment noBackups("XDG_STATE_HOME", "/dev/null");
+        editor.home.write(place, mine);
+        QCOMPARE(editor.save(), QString());
+        QVERIFY(!editor.home.exists(place) && !standardError.take().contains("Removed"));
     }
 
     void fontsAreChosen()

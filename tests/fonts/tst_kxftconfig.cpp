@@ -226,6 +226,7 @@ private slots:
         QVERIFY(!lock.replace("ours", putDirectoryInTheWay, &error));
         QCOMPARE(error, "Is a directory"_s);
         QCOMPARE(home.names(".config/fontconfig"_s), "fonts.conf fonts.conf.LCK"_s);
+        QVERIFY(home.makeDirectory(place + ".NEW"_s) && !lock.replace("ours", {}, &error));
     }
 
     void fontconfigDoesNotWaitForAFifo()
