@@ -90,15 +90,17 @@ private slots:
         QFont named(mono, 9, QFont::Bold);
         named.setStyle(QFont::StyleOblique);
         named.setStyleName("Bold"_s);
-        const QPair<QFont, const char *> rows[] = {{QFont(mono, 13, QFont::Bold, true), "13:bold:italic"},
-                                                   {QFont(mono, 8, QFont::Light), "8:normal"},
-                                                   {QFont(mono, 9, 58), "9:bold"},
-                                                   {named, "9:bold:italic"}};
+        const QPair<QFont, const char *> rows[] = {
+            {QFont(mono, 13, QFont::Bold, true), "13:bold:italic Bold Oblique"},
+            {QFont(mono, 8, QFont::Light), "8:normal Book"},
+            {QFont(mono, 9, 58), "9:bold Bold"},
+            {named, "9:bold:italic Bold Oblique"}};
         for (const auto &[chosen, text] : rows) {
             FontUseItem item(nullptr, {}, {}, {});
             item.setFont(QFont(sans, 10), true);
             item.applyChosenFont(chosen);
-            QCOMPARE(fontToText(item.font()), "DejaVu Sans Mono-"_s + QLatin1String(text));
+            QCOMPARE(fontToText(item.font()) + u' ' + item.font().styleName(),
+                     mono + u'-' + QLatin1String(text));
             item.applyChosenFont(QFont(sans, 20)); // a role for fixed fonts keeps its family
             QCOMPARE(fontToText(item.font()), "DejaVu Sans Mono-20:normal"_s);
         }
