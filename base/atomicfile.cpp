@@ -51,9 +51,9 @@ QString obstacleAt(const QByteArray &name)
 
 void copyExtendedAttributes(int from, int to)
 {
-    QByteArray names(XATTR_LIST_MAX, '\0');
+    QByteArray names(XATTR_LIST_MAX, Qt::Uninitialized);
     const ssize_t size = ::flistxattr(from, names.data(), XATTR_LIST_MAX); // -1 where there can't be any
-    QByteArray value(XATTR_SIZE_MAX, '\0');
+    QByteArray value(XATTR_SIZE_MAX, Qt::Uninitialized);
     for (const QByteArray &name : names.left(int(size)).split('\0')) {
         const ssize_t length = ::fgetxattr(from, name.constData(), value.data(), XATTR_SIZE_MAX);
         if (length >= 0)
@@ -85,14 +85,14 @@ FileContent readRegularFile(const QString &path, qint64 limit)
     const auto unreadable = [](const QString &error) {
         return FileContent{FileState::Unreadable, {}, error};
     };
-    const int descriptor = ::open(QFile::encodeName(path).constData(),
-                                  O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
-    if (descriptor < 0)
+    const Descriptor opened(
+        ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
+    if (!opened.isOpen())
         return errno == ENOENT || errno == ENOTDIR ? FileContent() : unreadable(systemErrorText(errno));
     QFile file;
-    file.open(descriptor, QIODevice::ReadOnly | QIODevice::Unbuffered, QFileDevice::AutoCloseHandle);
+    file.open(opened.get(), QIODevice::ReadOnly | QIODevice::Unbuffered);
     struct stat status = {};
-    ::fstat(descriptor, &status);
+    ::fstat(opened.get(), &status);
     if (const QString error = kindError(status.st_mode); !error.isNull())
         return unreadable(error);
 
@@ -159,13 +159,10 @@ bool replaceFile(const QString &path, const QByteArray &content, QString *error,
     const bool isReplaced = file.open() && file.write(content) == content.size() && file.flush()
                             && takeOverAttributes(file.handle(), name, newFileMode) && sync(file.handle())
                             && ::rename(QFile::encodeName(file.fileName()).constData(), name.constData())
-                                   == 0;
+                                   == 0; // which leaves nothing to remove
     if (!isReplaced)
         return failed(error,
                       file.error() != QFileDevice::NoError ? file.errorString() : systemErrorText(errno));
-    file.setAutoRemove(false);
-    const Descriptor parent(::open(QFile::encodeName(directory).constData(), O_RDONLY | O_CLOEXEC));
-    if (parent.isOpen())
-        sync(parent.get());
+    sync(Descriptor(::open(QFile::encodeName(directory).constData(), O_RDONLY | O_CLOEXEC)).get());
     return true;
 }

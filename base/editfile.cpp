@@ -45,12 +45,11 @@ int openLockFile(const QString &path, QString *error)
 }
 
 /// Whether the lock is ours now. A program that edits again and again would hardly ever let a waiting one in between;
-/// so the one that is next holds a place (the file's first byte), and only who holds it may take the lock.
+/// so the one that is next holds a place (a lock of another kind), and only who holds it may take the lock.
 bool tryLock(int file, bool *isNext)
 {
     struct flock place = {};
     place.l_type = F_WRLCK;
-    place.l_len = 1;
     *isNext = *isNext || ::fcntl(file, F_OFD_SETLK, &place) == 0;
     if (!*isNext || ::flock(file, LOCK_EX | LOCK_NB) != 0)
         return false;

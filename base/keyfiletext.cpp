@@ -95,7 +95,7 @@ bool KeyFileText::isAt(const Range &range, const QByteArray &text) const
 
 bool KeyFileText::isNamed(int group, const QByteArray &name) const
 {
-    return name.isEmpty() ? group == 0 : group > 0 && isAt(m_groups[std::size_t(group)].name, name);
+    return name.isEmpty() ? group == 0 : isAt(m_groups[std::size_t(group)].name, name);
 }
 
 const KeyFileText::Entry *KeyFileText::find(const QByteArray &group, const QByteArray &key) const
@@ -210,8 +210,7 @@ QByteArray unescaped(const QByteArray &text)
     constexpr std::string_view signs("\\nrts"), characters("\\\n\r\t ");
     QByteArray result;
     for (int i = 0; i < text.size(); ++i) {
-        const bool isEscape = text[i] == '\\' && i + 1 < text.size();
-        const std::size_t place = isEscape ? signs.find(text[i + 1]) : signs.npos;
+        const std::size_t place = text[i] == '\\' ? signs.find(text.constData()[i + 1]) : signs.npos;
         result += place == signs.npos ? text[i] : characters[place];
         i += place == signs.npos ? 0 : 1;
     }

@@ -29,7 +29,7 @@ QString homeDirectory()
     if (!home.isEmpty())
         return QFile::decodeName(home);
     const passwd *entry = ::getpwuid(::getuid());
-    return entry && entry->pw_dir ? QFile::decodeName(entry->pw_dir) : QString();
+    return entry ? QFile::decodeName(entry->pw_dir) : QString();
 }
 
 QString xdgDirectory(const char *variable, const char *fallback)

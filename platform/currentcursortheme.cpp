@@ -159,8 +159,7 @@ bool QazIconTheme::setCurrentCursorThemeName(const char *name)
     const FileContent fileBefore = readRegularFile(path);
     const std::vector<ServerResource> serverBefore = readServerResources();
     // Last what can't be put back as it was.
-    if (setXrdbParameterInFile(QFile::encodeName(path).constData(), resource, " ", value.constData(),
-                               false)) {
+    if (setXrdbParameterInFile(QFile::encodeName(path).constData(), resource, " ", value.constData())) {
         const QByteArray written = readRegularFile(path).content;
         const bool isMerged = runXrdb(
             {QStringLiteral("-quiet"), QStringLiteral("-merge"), QStringLiteral("-nocpp")},

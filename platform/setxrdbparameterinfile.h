@@ -7,4 +7,4 @@
 /// The last argument is part of the desktop's interface and has no effect here. Returns false, after one
 /// line on standard error, when the file can't be read or written: it is whole then.
 bool setXrdbParameterInFile(const char *file, const char *parameter, const char *separator, const char *value,
-                            bool reserved);
+                            bool reserved = false);

@@ -63,13 +63,18 @@ private slots:
             const QByteArray old = QFile::encodeName(home.write("old"_s, ""));
             ::chmod(old.constData(), 0604);
             ::setxattr(old.constData(), "user.note", "12", 2, 0);
-            // Not every file system keeps it.
+            ::setxattr(old.constData(), "user.none", "", 0, 0);
+            // Not every file system keeps them, and not everybody may give a file away.
+            const bool isAnothers = ::chown(old.constData(), 1234, 1234) == 0;
+            const auto listed = ::listxattr(old.constData(), nullptr, 0);
             const auto noted = ::getxattr(old.constData(), "user.note", nullptr, 0);
             ::umask(mode_t(mask));
             QString error, modes;
-            QVERIFY2(replaceFile(home.path("c/d/file"_s), "x", &error), qPrintable(error));
             QVERIFY(replaceFile(home.path("private"_s), "x", &error, 0600));
+            QVERIFY2(replaceFile(home.path("c/d/file"_s), "x", &error), qPrintable(error));
             QVERIFY(replaceFile(home.path("old"_s), "y", &error, 0600));
+            QCOMPARE(QFileInfo(home.path("old"_s)).ownerId() == 1234, isAnothers);
+            QCOMPARE(::listxattr(old.constData(), nullptr, 0), listed);
             QCOMPARE(::getxattr(old.constData(), "user.note", nullptr, 0), noted);
             for (const char *name : {"c", "c/d", "private", "old", "c/d/file"})
                 modes += QString::number(home.mode(QLatin1String(name)), 8) + u' ';
@@ -84,7 +89,7 @@ private slots:
              {".qaz-old123", ".qaz-longer12", ".qaz-pack-Abc123/a/b", ".qaz-under_12", "x.qaz-old123"})
             home.write(QLatin1String(name), "x");
         QVERIFY(QFile::link("x.qaz-old123"_s, home.path(".qaz-link12"_s)));
-        const timespec old[] = {{1000, 0}, {::time(nullptr) - 3700, 0}};
+        const timespec old[] = {{1000, 0}, {::time(nullptr) - 3601, 999000000}};
         for (const QString &name : home.names().split(u' '))
             ::utimensat(AT_FDCWD, QFile::encodeName(home.path(name)).constData(), old, AT_SYMLINK_NOFOLLOW);
         home.write(".qaz-new123"_s, "x");
@@ -111,6 +116,7 @@ private slots:
             QCOMPARE(home.mode(place + u'/' + name), 0600U);
         }
         QCOMPARE(home.mode(".cache/qaz"_s), 0700U);
+        ::chmod(QFile::encodeName(home.path(".cache/qaz"_s)).constData(), 0755); // others may look
         const ScopedEnvironment relative("XDG_RUNTIME_DIR", ".");
         QCOMPARE(privateDirectory(), home.path(".cache/qaz"_s));
         QVERIFY(QDir(home.path(".cache"_s)).removeRecursively()
@@ -168,10 +174,13 @@ private slots:
         QVERIFY(editFile(path, clear, &error, options) && !home.exists("file"_s));
         QVERIFY(editFile(path, append("x"), &error, options)); // nothing stood there
         QCOMPARE(calls, (QStringList{home.path("link"_s) + " old"_s, path + " old new"_s}));
-        QVERIFY(QFile::link("d/later"_s, home.path("dangling"_s)));
-        QVERIFY(editFile(home.path("dangling"_s), append("z"), &error, options));
+        QVERIFY(QFile::link("d/later"_s, home.path("1"_s)));
+        for (int i = 1; i <= 40; ++i)
+            QVERIFY(QFile::link(QString::number(i), home.path(QString::number(i + 1))));
+        QVERIFY(editFile(home.path("40"_s), append("z"), &error, options));
         QCOMPARE(home.read("d/later"_s), QByteArray("z"));
         QCOMPARE(error, QString());
+        QVERIFY(!editFile(home.path("41"_s), append("z"), &error, options)); // nor does the kernel go on
 
         // A limit on the file size makes the write fail half way, as a full disk would.
         rlimit usual = {};

@@ -24,9 +24,9 @@ struct SoundHome : TemporaryHome {
 QString sound(QazSoundTheme &theme, const char *name)
 {
     char buffer[4096] = "untouched";
-    const QString expected = QLatin1String(theme.getSound(name, "", "", buffer) ? buffer : "untouched");
-    return expected == QFile::decodeName(buffer) ? QString(expected).remove("untouched"_s)
-                                                 : "contradiction"_s;
+    const bool isFound = theme.getSound(name, "", "", buffer);
+    const QString path = QFile::decodeName(buffer).remove("untouched"_s);
+    return isFound == path.isEmpty() ? "contradiction"_s : path;
 }
 
 QString names()

@@ -38,7 +38,7 @@ private slots:
         const std::unique_ptr<Display, int (*)(Display *)> receiver(XOpenDisplay(nullptr), XCloseDisplay);
         XSelectInput(receiver.get(), DefaultRootWindow(receiver.get()), SubstructureNotifyMask);
         XSync(receiver.get(), False);
-        SendCommandToWM(QX11Info::display(), "0123456789012345678901234\n");
+        SendCommandToWM(QX11Info::display(), "0123456789012345678901234\n\0x");
         SendCommandToWM(QX11Info::display(), "012345678901234567\n"); // a whole message with its NUL
         XSync(QX11Info::display(), False);
         XSync(receiver.get(), False);
@@ -50,6 +50,7 @@ private slots:
             XWindowAttributes sender = {};
             QVERIFY(XGetWindowAttributes(receiver.get(), event.xclient.window, &sender));
             QCOMPARE(sender.map_state, IsUnmapped);
+            QCOMPARE(QRect(sender.x, sender.y, sender.width, sender.height), QRect(-10, -10, 1, 1));
             QCOMPARE(event.xclient.format, 8);
             const bool begins = event.xclient.message_type == begin;
             QVERIFY(begins
@@ -70,16 +71,16 @@ private slots:
 
     void interleavedSendersAreKeptApart()
     {
-        constexpr char full[] = "aaaaaaaaaaaaaaaaaaaa", last[20] = "end";
+        constexpr char full[] = "aaaaaaaaaaaaaaaaaaaa", other[] = "bbbbbbbbbbbbbbbbbbbb", last[20] = "end";
         CommandReceiver receiver;
         for (std::uint64_t sender = 0; sender < 65; ++sender)
             QVERIFY(receiver.take(sender, true, full).isNull());
-        QVERIFY(receiver.take(64, true, full).isNull()); // anew
+        QVERIFY(receiver.take(64, true, other).isNull()); // anew
         QByteArrayList finished;
         for (const std::uint64_t sender :
              {64, 1, 0, 1}) // of too many the oldest went; a last one without a first one
             finished += receiver.take(sender, false, last);
-        QCOMPARE(finished.join('|'), full + QByteArray("end|") + full + "end||");
+        QCOMPARE(finished.join('|'), other + QByteArray("end|") + full + "end||");
         for (int bytes = 0; bytes <= longestCommand; bytes += 20)
             QVERIFY(receiver.take(3, bytes == 0, full).isNull());
         QVERIFY2(receiver.take(3, false, last).isNull(), "too long a command is dropped");

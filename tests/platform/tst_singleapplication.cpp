@@ -31,15 +31,20 @@ private slots:
 
     void aMessageMayComeInPieces()
     {
+        QSignalSpy heard(m_app, &QtSingleApplication::messageReceived);
         QLocalSocket sender;
         sender.connectToServer(ownFile({}));
-        for (const QByteArray &piece : {QByteArray("\0\0\0", 3), QByteArray("\5he"), QByteArray("llo")}) {
-            QCOMPARE(sender.bytesAvailable(), 0);
-            sender.write(piece);
-            QTRY_COMPARE(sender.bytesToWrite(), 0);
+        for (const char *message : {"\5hello", "\1x"}) {
+            for (const char byte : QByteArray(3, '\0') + message) {
+                QCOMPARE(sender.bytesAvailable(), 0);
+                sender.putChar(byte);
+                QTRY_COMPARE(sender.bytesToWrite(), 0);
+                QCoreApplication::processEvents();
+            }
+            QTRY_COMPARE(sender.bytesAvailable(), 3);
+            QCOMPARE(sender.readAll(), QByteArray("ack"));
         }
-        QTRY_COMPARE(sender.bytesAvailable(), 3);
-        QCOMPARE(sender.readAll(), QByteArray("ack"));
+        QCOMPARE(QVariantList(heard.value(0) + heard.value(1)), (QVariantList{"hello"_s, "x"_s}));
     }
 
     void anOwnerWhoDoesNotListenIsWaitedFor()
@@ -47,6 +52,12 @@ private slots:
         const QTemporaryDir directory;
         QFile owner(directory.filePath(QFileInfo(ownFile(".lock"_s)).fileName()));
         const ScopedEnvironment runtime("XDG_RUNTIME_DIR", QFile::encodeName(directory.path()));
+        // What stands in the lock's place is kept, and nothing else is left.
+        QVERIFY(QDir().mkpath(owner.fileName() + "/full"_s));
+        QCOMPARE(exitCodeOfSender("to itself"_s, 100), 1);
+        const QString left = QDir(directory.path()).entryList(QDir::AllEntries | QDir::System).join(u' ');
+        const QRegularExpression expected("^. .. %1 %1\\.old-\\d+$"_s.arg(QFileInfo(owner).fileName()));
+        QVERIFY2(expected.match(left).hasMatch(), qPrintable(left));
         QVERIFY(owner.open(QIODevice::WriteOnly));
         QCOMPARE(::flock(owner.handle(), LOCK_EX), 0);
         QCOMPARE(exitCodeOfSender("show"_s, 100), 1);
@@ -60,11 +71,17 @@ private slots:
     void messagesActivateTheWindow()
     {
         auto window = std::make_unique<QWidget>();
+        QWidget other;
         for (const bool activates : {false, true, false}) {
             m_app->setActivationWindow(window.get(), activates);
             window->showMinimized();
+            other.show();
+            other.activateWindow();
+            QVERIFY(QTest::qWaitForWindowActive(&other));
             emit m_app->messageReceived({});
             QCOMPARE(window->isMinimized(), !activates);
+            QTRY_COMPARE(window->isActiveWindow() && QApplication::topLevelAt({9, 9}) == window.get(),
+                         activates);
             QCOMPARE(m_app->activationWindow(), window.get());
         }
         window.reset();
