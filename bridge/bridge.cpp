@@ -88,13 +88,12 @@ void Bridge::applyAnew()
 void Bridge::endSession()
 {
     m_sounds.play("SystemExitSound");
-    const auto quitWhenSilent = [this] {
+    connect(&m_session.programs, &Programs::ended, this, [this] {
         if (m_sounds.isSilent())
             QCoreApplication::quit();
-    };
-    connect(&m_session.programs, &Programs::ended, this, quitWhenSilent);
-    QTimer::singleShot(longestFarewellMs, QCoreApplication::instance(), &QCoreApplication::quit);
-    quitWhenSilent();
+    });
+    QTimer::singleShot(m_sounds.isSilent() ? 0 : longestFarewellMs, QCoreApplication::instance(),
+                       &QCoreApplication::quit);
 }
 
 void Bridge::take(const XEvent &event)

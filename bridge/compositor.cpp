@@ -18,21 +18,21 @@ Compositor::Compositor(const Session &session)
 
 void Compositor::apply()
 {
-    const bool isWanted = countsAsTrue(m_session.values.text("UseComposite", "false"));
-    m_waits = false;
-    if (m_manager && (m_wasOff || !isWanted)) {
-        m_waits = isWanted;
+    const bool isWanted = countsAsTrue(m_session.values.text("UseComposite"));
+    const bool isEnded = m_wasOff || !isWanted;
+    m_waits = isWanted && (isEnded || !m_manager);
+    if (m_manager && isEnded)
         m_session.programs.end(m_manager); // the server tells when its selection is free
-    } else if (!m_manager && isWanted) {
-        start();
-    }
     m_wasOff = false;
+    selectionChanged();
 }
 
-void Compositor::start()
+void Compositor::selectionChanged()
 {
-    m_waits = m_session.x.isOwned(selection);
-    if (m_waits || (m_session.options.once && !m_session.options.dryRun)) // it would have to stay
+    if (!m_waits || m_manager || m_session.x.isOwned(selection))
+        return;
+    m_waits = false;
+    if (m_session.options.once && !m_session.options.dryRun) // it would have to stay
         return;
     // Anybody on the display can send a command, so what is run is never taken from one.
     const QString manager = m_session.values.fileText("CompositeManager", "/usr/bin/qaz-kompmgr");
@@ -41,10 +41,4 @@ void Compositor::start()
             m_manager = nullptr;
             selectionChanged();
         });
-}
-
-void Compositor::selectionChanged()
-{
-    if (m_waits && !m_manager && !m_session.x.isOwned(selection))
-        start();
 }

@@ -19,8 +19,6 @@ public:
     void selectionChanged();
 
 private:
-    void start();
-
     Session m_session;
     QProcess *m_manager = nullptr;
     bool m_wasOff = false; // within this burst

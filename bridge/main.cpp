@@ -105,7 +105,7 @@ std::optional<int> refusal(XConnection *x, const Options &options)
         return refused(0, QStringLiteral("A Qaz window manager runs here and follows the theme file itself"));
     if (!options.once && !options.dryRun && !x->claimSelection("_QAZWM_BRIDGE_S", options.replace))
         return refused(1, QStringLiteral("Another bridge serves this screen already; --replace takes over"));
-    return std::nullopt;
+    return {};
 }
 
 int serve(const Options &options)

@@ -14,8 +14,8 @@ const QByteArray themePath = "/openbox_config/theme";
 
 /// An element: from its start tag to its end tag, and what lies between.
 struct Range {
-    int begin = 0;
-    int contentBegin = 0;
+    int begin;
+    int contentBegin;
     int contentEnd = 0;
     int end = 0;
 
@@ -40,7 +40,7 @@ void XMLCALL startElement(void *data, const XML_Char *name, const XML_Char **att
     const int begin = int(XML_GetCurrentByteIndex(scanner->parser.get()));
     const int end = begin + XML_GetCurrentByteCount(scanner->parser.get());
     // Of several with one path the first counts, which has got its end already.
-    const Range range = scanner->found.value(path, {begin, end, 0, 0});
+    const Range range = scanner->found.value(path, {begin, end});
     scanner->found.insert(path, range);
     scanner->paths.append(path);
 }
@@ -102,7 +102,7 @@ std::optional<QByteArray> withOpenboxTheme(const QByteArray &xml, const QString 
 {
     if (elements(xml).value(themePath).isEmptyTag()) {
         *error = QStringLiteral("it is no configuration file of Openbox with a theme");
-        return std::nullopt;
+        return {};
     }
     QByteArray text = xml;
     setElement(&text, themePath, "name", theme);

@@ -42,7 +42,7 @@ void Sounds::play(const char *key)
 {
     constexpr int mostAtOnce = 3;
     constexpr int longestMs = 10000;
-    if (m_playing >= mostAtOnce || !countsAsTrue(m_session.values.text("EnableSound", "false")))
+    if (m_playing >= mostAtOnce || !countsAsTrue(m_session.values.text("EnableSound")))
         return;
     const QString file = fileOf(key);
     if (file.isEmpty())

@@ -39,7 +39,6 @@ QStringList showCommand(const QString &path, Fit fit, const QColor &background)
 Wallpaper::Wallpaper(const Session &session)
     : m_session(session)
 {
-    m_slideTimer.setTimerType(Qt::VeryCoarseTimer);
     connect(&m_slideTimer, &QTimer::timeout, this, &Wallpaper::showNext);
 }
 

@@ -1,11 +1,12 @@
 #include "bridge/xconnection.h"
 
+#include "freedesktop/windowproperty.h"
+
 #include <QAbstractEventDispatcher>
 #include <QDeadlineTimer>
 #include <QSocketNotifier>
 
-#include <memory>
-#include <utility>
+#include <algorithm>
 
 #include <X11/Xlib.h>
 #include <X11/extensions/Xfixes.h>
@@ -21,13 +22,7 @@ XConnection::XConnection()
     XSetIOErrorHandler([](Display *) { return Success; });
     // The default ends the process on the spot, without its children.
     XSetIOErrorExitHandler(
-        m_display,
-        [](Display *, void *data) {
-            auto *self = static_cast<XConnection *>(data);
-            if (!std::exchange(self->m_isLost, true))
-                emit self->serverLost();
-        },
-        this);
+        m_display, [](Display *, void *data) { emit static_cast<XConnection *>(data)->serverLost(); }, this);
     // Whoever sees the selection taken may send at once.
     XSelectInput(m_display, rootWindow(), SubstructureNotifyMask | PropertyChangeMask);
     int firstError{};
@@ -36,7 +31,7 @@ XConnection::XConnection()
 
 XConnection::~XConnection()
 {
-    if (m_display && !std::exchange(m_isLost, true))
+    if (m_display)
         XCloseDisplay(m_display);
 }
 
@@ -68,7 +63,7 @@ void XConnection::listen(const std::function<void(const XEvent &)> &handler)
 
 void XConnection::readEvents()
 {
-    while (!m_isLost && XPending(m_display) > 0) {
+    while (XPending(m_display) > 0) {
         XEvent event;
         XNextEvent(m_display, &event);
         if (event.type == m_selectionEvent)
@@ -149,30 +144,17 @@ bool XConnection::waitForOldOwner(Window window) const
     return true;
 }
 
-template<typename Item>
-QVector<Item> XConnection::property(Window window, const char *name, int format) const
-{
-    Atom type{};
-    int actualFormat{};
-    unsigned long count{};
-    unsigned long rest{};
-    unsigned char *data = nullptr;
-    XGetWindowProperty(m_display, window, atom(name), 0, XMaxRequestSize(m_display), False, AnyPropertyType,
-                       &type, &actualFormat, &count, &rest, &data);
-    const std::unique_ptr<unsigned char, int (*)(void *)> owner(data, XFree);
-    const auto *items = reinterpret_cast<const Item *>(data);
-    return actualFormat == format ? QVector<Item>(items, items + count) : QVector<Item>();
-}
-
 QVector<unsigned long> XConnection::numbers(Window window, const char *name) const
 {
-    return property<unsigned long>(window, name, 32); // Xlib hands 32-bit items out as longs
+    const QByteArray bytes = windowProperty(m_display, window, atom(name), 32).bytes;
+    QVector<unsigned long> items(bytes.size() / int(sizeof(long)));
+    std::copy(bytes.begin(), bytes.end(), reinterpret_cast<char *>(items.begin()));
+    return items;
 }
 
 QByteArray XConnection::text(Window window, const char *name) const
 {
-    const QVector<char> characters = property<char>(window, name, 8);
-    return {characters.constData(), characters.size()};
+    return windowProperty(m_display, window, atom(name), 8).bytes;
 }
 
 QByteArray XConnection::windowManager() const

@@ -57,12 +57,9 @@ signals:
 private:
     void readEvents();
     unsigned long selectionAtom(const char *name) const;
-    template<typename Item>
-    QVector<Item> property(Window window, const char *name, int format) const;
     bool waitForOldOwner(Window window) const;
 
     _XDisplay *m_display;
-    bool m_isLost = false;
     int m_selectionEvent = -1; // of XFixes
     std::function<void(const _XEvent &)> m_handler;
 };

@@ -18,7 +18,7 @@ bool isServerLost()
 {
     if (!QX11Info::isPlatformX11())
         return false;
-    pollfd connection = {ConnectionNumber(QX11Info::display()), POLLRDHUP, 0};
+    pollfd connection = {ConnectionNumber(QX11Info::display()), POLLRDHUP, {}};
     return ::poll(&connection, 1, 0) > 0;
 }
 

@@ -43,7 +43,7 @@ std::optional<SoundInfo> wavInfo(const QByteArray &bytes)
         }
         chunk = content + size + size % 2;
     }
-    return std::nullopt;
+    return {};
 }
 
 std::optional<SoundInfo> auInfo(const QByteArray &bytes)

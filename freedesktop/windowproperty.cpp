@@ -8,14 +8,14 @@ WindowProperty windowProperty(Display *display, Window window, Atom property, in
 {
     constexpr long wholeProperty = 0x1fffffff; // in units of four bytes
     Atom type;
-    int actualFormat;
+    int actualFormat{};
     unsigned long count;
     unsigned long rest;
     unsigned char *data = nullptr;
     XGetWindowProperty(display, window, property, 0, wholeProperty, False, AnyPropertyType, &type,
                        &actualFormat, &count, &rest, &data);
     const std::unique_ptr<unsigned char, Release<XFree>> owner(data);
-    if (!data || actualFormat != format)
+    if (actualFormat != format)
         return {};
     return {type, QByteArray(reinterpret_cast<const char *>(data),
                              int(count * (format == 8 ? sizeof(char) : sizeof(long))))};
