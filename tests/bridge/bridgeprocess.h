@@ -21,6 +21,12 @@ inline void announce(const char *key, const QString &value)
     sendToWindowManager(updateCommand(QLatin1String(key), value));
 }
 
+/// Sets a property of the root window, in a format of xprop's.
+inline void setOnRoot(const QString &name, const QString &format, const QString &value)
+{
+    output("/usr/bin/xprop"_s, {"-root"_s, "-f"_s, name, format, "-set"_s, name, value});
+}
+
 /// The colour on the screen; where no window is unless told otherwise.
 inline QColor pixel(int x = 3, int y = 1020)
 {

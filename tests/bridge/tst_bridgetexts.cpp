@@ -49,19 +49,20 @@ private slots:
     void picturesAreImagesInRegularFiles()
     {
         m_home.write("a.png"_s, "no image");
-        m_home.write("z.svg"_s, "<svg/>");
+        m_home.write("z.svg"_s, "x");
         QVERIFY(QImage(2, 2, QImage::Format_RGB32).save(m_home.path("b.png"_s)));
         QVERIFY(QImage(2, 2, QImage::Format_RGB32).save(m_home.path("d"_s), "JPG")); // the content counts
         m_home.makeFifo("c.png"_s);
-        m_home.write("e.bmp"_s, QByteArray::fromHex(
-                                    "424d3a0000000000000036000000280000000040000000c000000100180000000000")
-                                    + QByteArray(24, '\0')); // three times as large as is shown
+        QByteArray bitmap = QByteArray::fromHex(
+            "424d3a0000000000000036000000280000000040000000400000010018000000000000000000");
+        m_home.write("e.bmp"_s, bitmap.leftJustified(58, '\0')); // as large as is shown at most
+        m_home.write("ee.bmp"_s, bitmap.replace(23, 1, "\xc0").leftJustified(58, '\0'));
         m_home.write("f.svg"_s, {});
         m_home.write("g.xpm"_s, "/* XPM */\nstatic char *g[] = {\n\"1 1 1 1\",\n\"a c red\",\n\"a\"};\n");
         QStringList walked("a.png"_s);
-        for (int i = 0; i < 5; ++i)
+        for (int i = 0; i < 6; ++i)
             walked += QFileInfo(nextPicture(m_home.path(walked.last()))).fileName();
-        QCOMPARE(walked.join(u' '), "a.png b.png d g.xpm z.svg b.png"_s);
+        QCOMPARE(walked.join(u' '), "a.png b.png d e.bmp g.xpm z.svg b.png"_s);
         QCOMPARE(nextPicture(m_home.write("x/a"_s, {})), m_home.path("x/a"_s));
     }
 

@@ -67,7 +67,7 @@ private slots:
         QTRY_VERIFY2(settings().contains("DejaVu Sans Bold 13"_s), qPrintable(settings()));
         QTRY_VERIFY(output("xset"_s, {"q"_s}).contains("timeout:  420"_s));
         QTRY_COMPARE(titleBar(), "#aa2244"_s);
-        QVERIFY(m_home.read(".config/openbox/rc.xml"_s).contains("<size>13</size>"));
+        QCOMPARE(m_home.read(".config/openbox/rc.xml"_s).count("<size>13</size>"), 4);
         bridge.process().terminate();
         QCOMPARE(bridge.exitCode(), 0);
         QTRY_VERIFY(settings().isEmpty()); // its settings manager is gone, too
@@ -120,6 +120,7 @@ private slots:
             {[&] { window.showMinimized(); }, "RestoreDown Minimize"_s},
             {[&] { window.showNormal(); }, "Minimize RestoreUp"_s},
             {[&] { window.close(); }, "RestoreUp Close"_s},
+            {[&] { earlier.close(); }, "Close Close"_s},
             {[&] { goToDesktop("1"); }, "Close Paging"_s},
             {[&] { goToDesktop("0"); }, "Paging Paging"_s}};
         for (const auto &[act, last] : events) {
@@ -128,8 +129,9 @@ private slots:
         }
         bridge.process().terminate();
         QCOMPARE(bridge.exitCode(), 0);
-        QCOMPARE(heard(before),
-                 "SystemStart Open Maximize RestoreDown Minimize RestoreUp Close Paging Paging SystemExit"_s);
+        QCOMPARE(
+            heard(before),
+            "SystemStart Open Maximize RestoreDown Minimize RestoreUp Close Close Paging Paging SystemExit"_s);
 
         // Three sounds at once are enough.
         const int silence = m_programs.calls("aplay"_s).size();

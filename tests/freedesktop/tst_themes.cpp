@@ -59,13 +59,14 @@ private slots:
         QStringList variants;
         for (const QByteArrayList &names : {QByteArrayList{"de_AT.UTF-8@euro", "fr", "es"},
                                             {"", "fr.x", "es"},
-                                            {"", "", "es_MX"},
+                                            {"", "", "es_MX@euro"},
                                             {"../x", "", ""}}) {
             const ScopedEnvironment all("LC_ALL", names[0]), messages("LC_MESSAGES", names[1]),
                 lang("LANG", names[2]);
             variants += localeVariants();
         }
-        QCOMPARE(variants.join(u'|'), "de_AT@euro|de_AT|de@euro|de|C||fr|C||es_MX|es|C||C|"_s);
+        QCOMPARE(variants.join(u'|'),
+                 "de_AT@euro|de_AT|de@euro|de|C||fr|C||es_MX@euro|es_MX|es@euro|es|C||C|"_s);
     }
 
     void anIndexIsOneSmallRegularFile()
