@@ -43,7 +43,7 @@ QIcon iconNamed(const QString &name)
 int storedExtent(const char *key)
 {
     const int extent = iniValue(ownSettingsFile(), QLatin1String(key)).toInt();
-    return extent > 0 && extent <= largestExtent ? extent : 0;
+    return extent <= largestExtent ? qMax(0, extent) : 0;
 }
 
 } // namespace
@@ -70,8 +70,7 @@ void ConfigDialog::fillContents()
     contentsWidget->setViewMode(QListView::IconMode);
     contentsWidget->setIconSize(QSize(iconExtent, iconExtent));
     contentsWidget->setMovement(QListView::Static);
-    contentsWidget->setMinimumWidth(listItemWidth + 20);
-    contentsWidget->setMaximumWidth(listItemWidth + 20);
+    contentsWidget->setFixedWidth(listItemWidth + 20);
     // A vertical scroll bar of a high resolution takes more than these 20 pixels; the labels have a margin.
     contentsWidget->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 }
@@ -141,8 +140,8 @@ QSize ConfigDialog::usualSize()
     // Seven rows of the list: its six entries and one to spare. All pages are seen whole.
     const QSize usual(800, gridRowHeight(QFontMetrics(contentsWidget->font())) * 7);
     QSize largestPage;
-    for (int i = 0; i < pagesWidget->count(); ++i)
-        largestPage = largestPage.expandedTo(pagesWidget->widget(i)->minimumSizeHint());
+    for (const PageRow row : saveOrder)
+        largestPage = largestPage.expandedTo(pagesWidget->widget(row)->minimumSizeHint());
     m_pageArea->setMinimumSize(largestPage);
     const QSize needed = layout()->minimumSize();
     m_pageArea->setMinimumSize(0, 0);

@@ -203,13 +203,14 @@ private slots:
         QWidget other;
         ModalDriver driver;
         driver.then([this, &other](QDialog *box) {
+            other.setGeometry(m_dialog->geometry());
             other.show();
             QVERIFY(QTest::qWaitForWindowExposed(&other));
             QTRY_VERIFY(QX11Info::getTimestamp() > QX11Info::appTime());
             const auto lastEvent = QX11Info::appTime();
             m_dialog->messageReceived(QString());
             QVERIFY(QX11Info::appTime() > lastEvent);
-            QTRY_VERIFY(box->isActiveWindow());
+            QTRY_VERIFY(box->isActiveWindow() && QApplication::topLevelAt(box->geometry().center()) == box);
             box->reject();
         });
         m_dialog->restoreSlot();
