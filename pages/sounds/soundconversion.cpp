@@ -109,16 +109,14 @@ void convertToWav(const QString &directory, int limit)
     // Without an owner: it deletes itself at its end. Its destruction before that would kill the conversion, or,
     // where it runs with other rights, wait for it in vain.
     auto *process = new QProcess;
-    const auto finished = qOverload<int, QProcess::ExitStatus>(&QProcess::finished);
+    QObject::connect(process, &QProcess::stateChanged, process, [process](QProcess::ProcessState state) {
+        if (state == QProcess::NotRunning)
+            process->deleteLater();
+    });
     QEventLoop waiting;
-    QObject::connect(process, finished, &waiting, &QEventLoop::quit);
-    QObject::connect(process, &QProcess::errorOccurred, &waiting, &QEventLoop::quit);
+    QObject::connect(process, &QObject::destroyed, &waiting, &QEventLoop::quit);
     QTimer::singleShot(limit, &waiting, &QEventLoop::quit);
     process->start(QStringLiteral("qaz-su"), {QStringLiteral("-c"), conversionCommand(directory)});
     if (process->state() != QProcess::NotRunning)
         waiting.exec(QEventLoop::ExcludeUserInputEvents);
-    if (process->state() == QProcess::NotRunning)
-        process->deleteLater();
-    else
-        QObject::connect(process, finished, process, &QObject::deleteLater);
 }

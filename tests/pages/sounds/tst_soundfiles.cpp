@@ -4,7 +4,6 @@
 #include "tests/support/fakeprogram.h"
 #include "tests/support/standarderror.h"
 #include "tests/support/temporaryhome.h"
-#include "tests/support/testing.h"
 
 /// Playing, choosing and converting, without the page.
 class TestSoundFiles : public QObject

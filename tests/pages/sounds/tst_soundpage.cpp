@@ -85,6 +85,7 @@ private slots:
         Page over(content);
         over.assign(4, "edited"_s);
         over.group->setChecked(false);
+        over.list->setColumnWidth(0, over.list->columnWidth(0) * 2); // which stays
         QCOMPARE(over.changed.count(), 2);
         over.load(content); // a repeated load is no edit
         QCOMPARE(over.themes->currentText() + " %1 "_s.arg(over.themes->count()) + over.assignments(),
@@ -92,7 +93,7 @@ private slots:
         QCOMPARE(over.save(), QString());
         QCOMPARE(over.content(), content);
         QCOMPARE(over.changed.count(), 2);
-        QVERIFY(over.list->isColumnHidden(2) && over.list->columnWidth(0) > 100
+        QVERIFY(over.list->isColumnHidden(2) && over.list->columnWidth(0) > 200
                 && over.find<QWidget>("mixerButton")->isHidden());
     }
 
