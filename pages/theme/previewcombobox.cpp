@@ -82,8 +82,8 @@ QSize PreviewComboBox::withoutPreview(QSize hint) const
         return hint;
     QStyleOptionComboBox option;
     initStyleOption(&option);
-    const QSize text(0, fontMetrics().height() + 2); // as the kit's box without icons
-    hint.setHeight(style()->sizeFromContents(QStyle::CT_ComboBox, &option, text, this).height());
+    hint.setHeight(fontMetrics().height() + 2); // as the kit's box without icons
+    hint.setHeight(style()->sizeFromContents(QStyle::CT_ComboBox, &option, hint, this).height());
     return hint;
 }
 

@@ -121,18 +121,17 @@ QString iconPath(const QazIconTheme &theme, const char *name, const char *contex
     return path;
 }
 
-/// An XPM without the rows below \a rowLimit: no preview shows them, and decoding thousands takes seconds.
+/// An XPM that states no rows below \a rowLimit: no preview shows them, and decoding thousands takes seconds.
 QByteArray withoutHiddenRows(const QByteArray &xpm)
 {
-    // Every other part is a string: four values (width, height, colours), then one for each colour and each row.
+    // Every other part is a string. The first one holds four values: width, height, colours, letters of each.
     QByteArrayList parts = xpm.split('"');
     QByteArrayList values = parts.value(1).simplified().split(' ');
     if (values.size() < 4)
-        return xpm;
+        return {};
     values[1] = QByteArray::number(qMin(values.at(1).toInt(), rowLimit));
     parts[1] = values.join(' ');
-    const int strings = 1 + values.at(2).toUShort() + rowLimit;
-    return parts.mid(0, 2 * strings + 1).join('"');
+    return parts.join('"');
 }
 
 QImage loadXpm(const QByteArray &path)

@@ -126,9 +126,7 @@ void ThemePage::loadDecorThemes(const QazSettings *settings)
 {
     QComboBox *combo = m_ui->decorThemeCombo;
     const QString configured = storedText(settings, decorThemeKey, QString());
-    QPixmap empty(combo->iconSize());
-    empty.fill(Qt::transparent);
-    combo->addItem(empty, tr("No theme"));
+    combo->addItem(fillGradient(Qt::transparent, Qt::transparent), tr("No theme"));
     addThemes(combo, decorThemeEntries(combo->iconSize()), configured);
     if (configured.isEmpty())
         combo->setCurrentIndex(0);
@@ -225,7 +223,7 @@ QPixmap ThemePage::fillGradient(const QColor &col1, const QColor &col2)
 {
     QPixmap swatch(m_ui->elementComboBox->iconSize());
     swatch.fill(Qt::transparent); // the colours may let it shine through
-    QLinearGradient gradient(0, 0, swatch.width(), 0);
+    QLinearGradient gradient(QPointF(), QRectF(swatch.rect()).topRight());
     gradient.setColorAt(0, col1);
     gradient.setColorAt(1, col2);
     QPainter(&swatch).fillRect(swatch.rect(), gradient);

@@ -135,11 +135,12 @@ private slots:
         QVERIFY(QFile::remove(theme("nameless/default.theme"_s)));
         // Not even as many rows as it states are read.
         home.write("data/themes/tall/titleAT.xpm"_s,
-                   "/* XPM */\nstatic char *t[] = {\"1 9000 1 1\", \"a c blue\""
+                   "/* XPM */\nstatic char *t[] = {\"1 9000 2 1\", \"a c blue\", \"b c red\""
                        + QByteArray(", \"a\"").repeated(2048) + "};\n");
+        const QColor glass(255, 0, 0, 51); // replaces what it covers
         // Each button's upper half is the released one.
         const std::pair<QString, QImage> images[] = {
-            {"titleAT"_s, picture({5, 20}, {{{0, 0, 5, 20}, Qt::gray}, {{1, 0, 1, 1}, Qt::white}})},
+            {"titleAT"_s, picture({5, 20}, {{{0, 0, 5, 20}, glass}, {{1, 0, 1, 1}, Qt::white}})},
             {"frameAT"_s, filled(3, 4, Qt::yellow)},
             {"frameATL"_s, filled(6, 10, Qt::cyan)},
             {"frameATR"_s, filled(7, 10, Qt::magenta)},
@@ -155,7 +156,7 @@ private slots:
         const QVector<ThemeEntry> entries = decorThemeEntries(canvasSize);
         QCOMPARE(names(entries), "Wood|none|tall"_s);
         Parts parts = {{{0, 0, 6, 10}, Qt::cyan},   {{103, 0, 7, 10}, Qt::magenta},
-                       {{2, 4, 106, 20}, Qt::gray}, // 110 - 3 - 1 pixels wide
+                       {{2, 4, 106, 20}, glass}, // 110 - 3 - 1 pixels wide
                        {{6, 0, 97, 4}, Qt::yellow}, {{95, 4, 10, 6}, Qt::blue},
                        {{84, 4, 9, 7}, Qt::green},  {{76, 4, 8, 6}, Qt::red}};
         for (int x = 6; x < 108; x += 5) // tiles are laid out from the canvas's origin

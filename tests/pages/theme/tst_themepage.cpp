@@ -83,7 +83,7 @@ class TestThemePage : public QObject
 private slots:
     void showsColorsAndSizes()
     {
-        Page test("ButtonActiveColor=#010203\nMenuColor=nonsense\nMenuColor2=red\n");
+        Page test("ButtonActiveColor=#010203\nFrameColor=#c0c0c0c0\nMenuColor=nonsense\nMenuColor2=red\n");
         QCOMPARE(test.main->palette().color(QPalette::Disabled, QPalette::Window), QColor(1, 2, 3));
         QVERIFY(test.end->isHidden() && !test.end->isEnabled());
         const QSize pageSize = test.page.minimumSizeHint();
@@ -99,7 +99,7 @@ private slots:
         QCOMPARE(test.size->icon().pixmap(1000), ellipsisPixmap(textColor, 16, 1));
         // An entry's picture has a frame in the box and in its list, though not its own.
         test.elements->setCurrentText("Frame"_s);
-        QCOMPARE(test.swatch(), "f0c0c0c0 f0c0c0c0"_s);
+        QCOMPARE(test.swatch(), "c0909090 c0909090"_s); // premultiplied
         test.elements->showPopup();
         const QAbstractItemView *view = test.elements->view();
         const QRect entry = view->visualRect(view->currentIndex().siblingAtRow(11)); // of the same colour
