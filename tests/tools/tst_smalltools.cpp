@@ -52,7 +52,8 @@ private slots:
         const TemporaryHome home;
         const ScopedEnvironment display("DISPLAY", {});
         home.write("a.b.svg"_s, svg);
-        QCOMPARE(ToolRun("render-icons"_s, "4 new/x a.b.svg a.b.svg"_s.split(u' ')).status, 0);
+        const ToolRun run("render-icons"_s, "4 new/x a.b.svg a.b.svg"_s.split(u' '));
+        QVERIFY2(run.status == 0 && run.errors.isEmpty(), run.errors.constData());
         QImage expected(4, 4, QImage::Format_ARGB32);
         for (int i = 0; i < 16; ++i)
             expected.setPixel(i % 4, i / 4, i % 4 < 2 ? 0xffff0000 : 0);
