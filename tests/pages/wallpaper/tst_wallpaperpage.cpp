@@ -67,6 +67,8 @@ private slots:
         // The theme, the desktop's own wallpaper; text, position, period, and the colour without a text.
         for (const QStringList &row : rowsOf("pages/wallpaper/values.json"_s)) {
             Page page(row[1].toUtf8(), row[2].toUtf8());
+            page.period->setValue(7);
+            page.load(row[1].toUtf8());
             QCOMPARE(page.onlyDesktop->isChecked(), !row[2].isEmpty());
             QCOMPARE(page.position->isEnabled(), row[2].isEmpty());
             QCOMPARE(page.period->isEnabled(), row[2].isEmpty());

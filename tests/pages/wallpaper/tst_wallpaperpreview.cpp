@@ -1,7 +1,6 @@
 #include "pages/wallpaper/keptpreview.h"
 #include "pages/wallpaper/wallpaperpreview.h"
 #include "tests/support/temporaryhome.h"
-#include "tests/support/testing.h"
 
 #include <functional>
 
@@ -41,7 +40,7 @@ private slots:
                                                       {Fit::Center, screen, {-5, -5, 252, 191}},
                                                       {Fit::Center, {4, 500}, {}},
                                                       {Fit::Tile, {1000, 700}, {0, 0, 100, 70}},
-                                                      {Fit::Tile, {4, 500}, {0, 0, 1, 50}},
+                                                      {Fit::Tile, {4, 4}, {0, 0, 1, 1}},
                                                       {Fit::Stretch, {}, {}}};
         for (const auto &[fit, size, place] : rows) {
             const QImage image = numbered(size);
@@ -127,7 +126,8 @@ private slots:
         const QString path = home.write("shared/preview.png"_s, "older");
         previewOfFile(image, look, path);
         QCOMPARE(QImage(path).pixelColor(241, 180), QColor(Qt::red));
-        QCOMPARE(QFileInfo(path).permissions() & 0x77, QFileDevice::Permissions());
+        QVERIFY(!(QFileInfo(path).permissions() & 0x77)
+                && QFileInfo(path).size() > 242 * 181); // uncompressed
 
         const QString link = home.path("shared/link.png"_s);
         QVERIFY(QFile::link(home.write("victim"_s, "precious"), link));
