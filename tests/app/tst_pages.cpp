@@ -140,7 +140,7 @@ private slots:
         QVector<int> choices;
         const auto sayNo = [&choices](QDialog *dialog) {
             auto *box = qobject_cast<QMessageBox *>(dialog);
-            choices += int(box->standardButtons());
+            choices += box->buttons().size();
             box->button(QMessageBox::No)->click();
         };
         driver.then(sayNo);
@@ -149,8 +149,7 @@ private slots:
         QTimer::singleShot(0, button(QDialogButtonBox::Close), &QPushButton::click);
         QTimer::singleShot(60000, m_dialog.get(), [] { QCoreApplication::exit(1); });
         QCOMPARE(QCoreApplication::exec(), 0);
-        QCOMPARE(choices, (QVector<int>{QMessageBox::Yes | QMessageBox::No,
-                                        QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel}));
+        QCOMPARE(choices, (QVector<int>{2, 3})); // Close can be cancelled, too
         QVERIFY(driver.isDone() && m_dialog->fileOpen() && m_dialog->fileSave());
     }
 };
