@@ -140,8 +140,8 @@ QSize ConfigDialog::usualSize()
     // Seven rows of the list: its six entries and one to spare. All pages are seen whole.
     const QSize usual(800, gridRowHeight(QFontMetrics(contentsWidget->font())) * 7);
     QSize largestPage;
-    for (const PageRow row : saveOrder)
-        largestPage = largestPage.expandedTo(pagesWidget->widget(row)->minimumSizeHint());
+    for (int i = 0; i < pagesWidget->count(); ++i)
+        largestPage = largestPage.expandedTo(pagesWidget->widget(i)->minimumSizeHint());
     m_pageArea->setMinimumSize(largestPage);
     const QSize needed = layout()->minimumSize();
     m_pageArea->setMinimumSize(0, 0);

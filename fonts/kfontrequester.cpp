@@ -121,7 +121,8 @@ void KFontRequester::setTitle(const QString &title)
 
 void KFontRequester::_k_buttonClicked()
 {
-    QFontDialog dialog(d->selectedFont, window());
-    if (dialog.exec() == QDialog::Accepted)
-        d->select(dialog.selectedFont());
+    bool accepted = false;
+    const QFont chosen = QFontDialog::getFont(&accepted, d->selectedFont, window());
+    if (accepted)
+        d->select(chosen);
 }

@@ -28,7 +28,7 @@ enum AntiAliasing { AaEnabled, AaSystemSettings, AaDisabled }; // indexes of the
 // A DPI from 1 to 69 snaps to one of these.
 constexpr int noDpi = 0;
 constexpr int leastDpi = 70;
-// Where the last snap went; the next one goes the other way.
+// Where the last snap went; the next one goes the other way when the value came from above it.
 int lastSnap = noDpi;
 
 QLabel *rowLabel(const QString &text, const QString &name, QWidget *buddy, QWidget *parent)
@@ -238,11 +238,12 @@ void KFonts::fontSelected()
 
 void KFonts::slotApplyFontDiff()
 {
-    QFontDialog dialog(m_fontUseItems.first()->font(), this);
-    if (dialog.exec() == QDialog::Rejected)
+    bool accepted = false;
+    const QFont chosen = QFontDialog::getFont(&accepted, m_fontUseItems.first()->font(), this);
+    if (!accepted)
         return;
     for (FontUseItem *item : qAsConst(m_fontUseItems))
-        item->applyChosenFont(dialog.selectedFont());
+        item->applyChosenFont(chosen);
     emit changed(true);
 }
 
@@ -261,7 +262,7 @@ void KFonts::slotCfgAa()
 void KFonts::slotCfgDpi(int value)
 {
     if (value > noDpi && value < leastDpi) {
-        lastSnap = lastSnap == noDpi ? leastDpi : noDpi;
+        lastSnap = value < lastSnap ? noDpi : leastDpi;
         m_dpiSpinBox->setValue(lastSnap);
     }
     emit changed(true);

@@ -4,6 +4,7 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 
+#include <climits>
 #include <cstring>
 
 bool FindFileInPATH(const char *name, char *buffer)
@@ -13,6 +14,7 @@ bool FindFileInPATH(const char *name, char *buffer)
     if (program.contains(QLatin1Char('/')))
         program = QFileInfo(program).absoluteFilePath();
     const QByteArray path = QFile::encodeName(QStandardPaths::findExecutable(program));
-    std::strcpy(buffer, path.constData()); // the system finds nothing at a path that would not fit
-    return !path.isEmpty();
+    const bool isFound = !path.isEmpty() && path.size() < PATH_MAX;
+    std::strcpy(buffer, isFound ? path.constData() : "");
+    return isFound;
 }

@@ -19,6 +19,7 @@
 
 namespace {
 
+constexpr int resultSize = 4096;
 constexpr int cacheDirectory = 1;
 constexpr int userWallpapers = 21;
 constexpr const char *endings[] = {"", ".png", ".jpg", ".jpeg", ".xpm", ".svg", ".svgz"};
@@ -117,8 +118,8 @@ void FindWallPaperByName(const char *name, char *result, int width, int height, 
             continue;
         const QByteArray image = QFile::encodeName(
             isSvg(path) ? convertSvg(path, width, height, convertCommand) : path);
-        if (!image.isEmpty()) {
-            std::strcpy(result, image.constData()); // no path that leads to a file is longer
+        if (!image.isEmpty() && image.size() < resultSize) {
+            std::strcpy(result, image.constData());
             return;
         }
     }

@@ -37,8 +37,8 @@ public:
         m_text->setWordWrap(true);
         m_text->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
         auto *layout = new QVBoxLayout(this);
-        layout->addWidget(m_picture);
-        layout->addWidget(m_text);
+        layout->addWidget(m_picture, 0, Qt::AlignCenter);
+        layout->addWidget(m_text, 1);
     }
 
     /// Shows the file at \a path once nothing else was asked for during a moment: who goes through a list by the

@@ -26,6 +26,7 @@ int main(int argc, char **argv)
         picture.fill(Qt::transparent);
         QPainter painter(&picture);
         renderer.render(&painter);
+        painter.end();
         const QString file = directory.filePath(QFileInfo(drawing).completeBaseName()
                                                 + QLatin1String(".png"));
         // Not compressed: every start of a program reads some.
