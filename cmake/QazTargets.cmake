@@ -84,7 +84,7 @@ function(qaz_add_test name)
         COMMAND ${PROJECT_SOURCE_DIR}/tests/support/with-xvfb $<TARGET_FILE:${name}>)
     # A picture that is too large is no fault: the allocator says no, as it does without ASan.
     # No test draws with OpenGL, and the software driver loses memory when it is unloaded.
-    set_tests_properties(${name} PROPERTIES TIMEOUT 240 ENVIRONMENT
+    set_tests_properties(${name} PROPERTIES ENVIRONMENT
         "QT_XCB_GL_INTEGRATION=none;QAZ_DATA_DIR=${PROJECT_BINARY_DIR}/share/qaz;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/lsan.supp;ASAN_OPTIONS=allocator_may_return_null=1;${arg_EXTRA_ENVIRONMENT}")
 endfunction()
 
