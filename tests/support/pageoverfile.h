@@ -52,11 +52,12 @@ public:
             return QString::number(changed.count());
         if (what == "see"_s)
             return shownBy(&page, text);
+        WmListener windowManager;
         if (what == "load"_s)
             load(text.isEmpty() ? content() : text.toUtf8());
         else
             operate(&page, step);
-        return shownBy(&page, view);
+        return shownBy(&page, view) + windowManager.takeUpdates();
     }
 
     const TemporaryHome home;

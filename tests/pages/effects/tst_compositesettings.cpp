@@ -4,7 +4,6 @@
 #include "pages/effects/effectpage.h"
 #include "tests/support/fakeprogram.h"
 #include "tests/support/pageoverfile.h"
-#include "tests/support/rows.h"
 #include "tests/support/standarderror.h"
 
 namespace {
@@ -34,6 +33,8 @@ struct Manager {
     QProcess process;
 };
 
+const QStringList boxes{"compositeGroupBox"_s, "transparencyCheckBox"_s, "shadowCheckBox"_s};
+
 /// The page over a theme file that names a manager, and has all else that is saved.
 struct CompositePage : PageOverFile<EffectPage> {
     /// What comes of a step of composite.json.
@@ -55,26 +56,13 @@ struct CompositePage : PageOverFile<EffectPage> {
             return QString::fromLatin1(home.backups().join('|'));
         else if (what == "told"_s)
             return QString::fromLocal8Bit(messages.take()).replace(home.path(), "HOME"_s);
-        else if (QString result = changed(what, text); what != "set"_s)
-            return result;
-        return {};
-    }
-    /// Sets the manager's boxes, or has them loaded or saved; then what is shown, "+" for a checked box, or the commands.
-    QString changed(const QString &what, const QString &state)
-    {
-        WmListener windowManager;
-        if (what == "save"_s)
-            return QStringList{save(), QString::fromLatin1(content()).remove(start)}.join(u' ');
-        if (what == "load"_s)
-            load(content());
-        QString shown;
-        for (const char *name : {"compositeGroupBox", "transparencyCheckBox", "shadowCheckBox"}) {
-            auto *box = find<QWidget>(name);
-            if (what == "set"_s)
-                box->setProperty("checked", state.at(shown.size()) == u'+');
-            shown += box->property("checked").toBool() ? u'+' : u'-';
+        else if (what != "set"_s) {
+            const QString result = PageOverFile::outcome(step, boxes.join(u' '));
+            return result + u' ' + QString::fromLatin1(content()).remove(start);
         }
-        return shown + windowManager.take().join(u'|') + u' ' + QString::fromLatin1(content()).remove(start);
+        for (int i = 0; what == "set"_s && i < boxes.size(); ++i)
+            page.findChild<QWidget *>(boxes[i])->setProperty("checked", text.at(i) == u'+');
+        return {};
     }
 
     StandardError messages;
@@ -111,12 +99,7 @@ private slots:
             row.replaceInStrings("KOMPMGR"_s, ownManager).replaceInStrings("COMPTON"_s, compton);
             const Manager manager(row[1], row[2] == "runs"_s);
             CompositePage page;
-            QStringList steps = row.mid(0, 3);
-            for (int i = 3; i < row.size(); ++i) {
-                const QString step = row[i].section(" -> "_s, 0, 0);
-                steps += step + " -> "_s + page.outcome(step);
-            }
-            QCOMPARE(steps, row);
+            playSteps(row, 3, [&page](const QString &step) { return page.outcome(step); });
         }
     }
 
