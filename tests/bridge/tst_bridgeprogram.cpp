@@ -38,6 +38,8 @@ class TestBridgeProgram : public QObject
 private slots:
     void init()
     {
+        m_bridge.reset();
+        m_calls.clear();
         m_programs.reset(); // what is put back comes before what is put in its place
         m_home.reset();
         m_home = std::make_unique<TemporaryHome>();
@@ -46,6 +48,10 @@ private slots:
         for (const char *tool : {"feh", "xset", "openbox"})
             m_programs->add(QLatin1String(tool));
         m_programs->add("xsettingsd"_s, "exec /bin/sleep 3600");
+        for (const char *property :
+             {"_NET_CLIENT_LIST", "_NET_WM_STATE", "_NET_CURRENT_DESKTOP", "_NET_SUPPORTING_WM_CHECK"})
+            XDeleteProperty(QX11Info::display(), QX11Info::appRootWindow(), atom(property));
+        XSync(QX11Info::display(), False);
         QTRY_VERIFY(!BridgeProcess::isServing());
     }
 
@@ -58,129 +64,23 @@ private slots:
         QCOMPARE(m_programs->calls("feh"_s).size(), 0);
     }
 
-    void onceStartsNothingThatStays()
+    void sessionsGoAsTheyAreWritten_data()
     {
-        m_programs->add("manager"_s);
-        m_programs->add("xset"_s, "opened=$(/bin/readlink /proc/$$/fd/0 /proc/$$/fd/1 /proc/$$/fd/2)\n"
-                                  "echo \"$opened\" >\"$HOME/opened\"");
-        m_home->write(".config/qaz/qaz-admin-theme.conf"_s,
-                      "[General]\ndontChangeAASettings=false\nXftAntialias=true\n");
-        m_home->write(themeFile,
-                      "UseComposite=true\nCompositeManager=manager\nWallPaper=#000\nIconTheme=tirsk\n"
-                      "DefaultFont=DejaVu Sans-9:bold\nCursorTheme=arrow\n");
-        QCOMPARE(BridgeProcess({"--once"_s}).exitCode(), 0);
-        QCOMPARE(m_programs->calls("feh"_s).size() + m_programs->calls("xset"_s).size(), 3);
-        QCOMPARE(m_programs->calls("xsettingsd"_s).size() + m_programs->calls("manager"_s).size(), 0);
-        QCOMPARE(m_home->read("opened"_s), QByteArray("/dev/null\n/dev/null\n/dev/null\n"));
-        QCOMPARE(
-            m_home->read(".cache/qaz/bridge/xsettingsd-%1.conf"_s.arg(qEnvironmentVariable("DISPLAY"))),
-            QByteArray("Gtk/FontName \"DejaVu Sans Bold 9\"\nNet/IconThemeName \"tirsk\"\n"
-                       "Gtk/CursorThemeName \"arrow\"\nXft/Antialias 1\nXft/RGBA \"rgb\"\nXft/Hinting 1\n"
-                       "Xft/HintStyle \"hintfull\"\n"));
-        QCOMPARE(m_home->mode(".cache/qaz/bridge/color-000000.ppm"_s), 0600U);
-        const ScopedEnvironment cache("XDG_CACHE_HOME", "/dev/null");
-        BridgeProcess full({"--once"_s});
-        QCOMPARE(full.exitCode(), 0);
-        QCOMPARE(
-            full.errors().replace(qEnvironmentVariable("DISPLAY"), "DISPLAY"_s),
-            "qaz-wm-bridge: Can't write /dev/null/qaz/bridge/color-000000.ppm: Can't create directory "
-            "/dev/null/qaz/bridge\nqaz-wm-bridge: Can't write /dev/null/qaz/bridge/xsettingsd-DISPLAY.conf: "
-            "Can't create directory /dev/null/qaz/bridge\n"_s);
+        QTest::addColumn<QString>("name");
+        for (const char *name : {"once", "nowhere", "bursts", "manager", "missing", "openbox", "sounds"})
+            QTest::newRow(name) << QString::fromLatin1(name);
     }
 
-    void aBurstIsCarriedOutOnceWithItsLastValues()
+    void sessionsGoAsTheyAreWritten()
     {
-        m_home->write(themeFile, "WallPaper=#000001\n");
-        BridgeProcess bridge({"--verbose"_s});
-        QTRY_COMPARE(m_programs->calls("xset"_s).size(), 2);
-        announce("ScreenSaverDelay", "1"_s);
-        QTimer others; // do not end
-        connect(&others, &QTimer::timeout, this, [] { announce("TitlebarColor", "#000001"_s); });
-        others.start(1);
-        QTRY_COMPARE(m_programs->calls("xset"_s).size(), 4);
-        others.stop();
-        for (int i = 10; i < 40; ++i) {
-            announce("WallPaper", "#0000%1"_s.arg(i));
-            announce("ScreenSaverDelay", QString::number(i));
-            announce("TaskbarHeight\x1b", "50"_s);
-        }
-        QTRY_COMPARE(m_programs->calls("xset"_s).value(4).join(u' '), "s 39"_s);
-        QTRY_COMPARE(m_programs->calls("feh"_s).value(1).value(2), "#000039"_s);
-
-        // The file's own values count again after both of these.
-        sendToWindowManager(restartCommand);
-        QTRY_COMPARE(m_programs->calls("feh"_s).value(2).value(2), "#000001"_s);
-        m_home->write(themeFile, "WallPaper=#000002\nDesktopColor=#204060\n");
-        ::kill(pid_t(bridge.process().processId()), SIGHUP);
-        QTRY_COMPARE(m_programs->calls("feh"_s).value(3).value(2), "#000002"_s);
-        announce("WallPaper", "--help"_s);
-        QTRY_VERIFY(m_programs->calls("feh"_s).value(4).join(u' ').endsWith("color-204060.ppm"_s));
-        for (const char *told : {"Not for this program: QAZWM_UPDATE_VAL TaskbarHeight? 50\n", "xset s 39\n"})
-            QTRY_VERIFY2(bridge.errors().contains("qaz-wm-bridge: "_s + QLatin1String(told)), told);
-    }
-
-    void theManagerComesFromTheFileAndRestarts()
-    {
-        // Ends by itself the first time, and is left so; later it fails while another one runs.
-        m_programs->add("manager"_s, "[ -e \"$HOME/ended\" ] || { : >\"$HOME/ended\"; exit; }\n"
-                                     "trap 'kill $!; wait; printf - >>\"$HOME/log\"' TERM\n"
-                                     "/usr/bin/flock -nF \"$HOME\" /bin/sleep 3600 &\n"
-                                     "printf + >>\"$HOME/log\"\nwait $!");
-        m_programs->add("xsettingsd"_s, "until [ -e \"$HOME/end\" ]; do /bin/sleep 0.01; done");
-        m_home->write(themeFile, "UseComposite=false\nCompositeManager=manager\n");
-        BridgeProcess bridge;
-        QTRY_COMPARE(m_programs->calls("xset"_s).size(), 2);
-        announce("DefaultFont", "Sans-9"_s);
-        announce("CompositeManager", "evil"_s);
-        announce("UseComposite", "true"_s);
-        QTRY_COMPARE(m_programs->calls("manager"_s).size(), 1);
-        m_home->write("end"_s, {}); // of the settings manager, before it knows the font
-        for (const char *log : {"+", "+-+"}) {
-            announce("UseComposite", "false"_s);
-            announce("UseComposite", "true"_s);
-            QTRY_COMPARE(m_home->read("log"_s), QByteArray(log));
-        }
-        // Where another one runs it waits until that has gone.
-        announce("UseComposite", "false"_s);
-        QTRY_COMPARE(m_home->read("log"_s), QByteArray("+-+-"));
-        own("_NET_WM_CM_S0", true);
-        announce("UseComposite", "true"_s);
-        announce("ScreenSaverDelay", "1"_s);
-        QTRY_COMPARE(m_programs->calls("xset"_s).size(), 4);
-        QCOMPARE(m_programs->calls("manager"_s).size(), 3);
-        own("_NET_WM_CM_S0", false);
-        QTRY_COMPARE(m_home->read("log"_s), QByteArray("+-+-+"));
-        QTRY_COMPARE(m_programs->calls("xsettingsd"_s).size(), 2);
-        bridge.process().terminate();
-        QCOMPARE(bridge.exitCode(), 0);
-        QCOMPARE(bridge.errors(), QString()); // who was asked to end has not failed
-        QCOMPARE(m_home->read("log"_s), QByteArray("+-+-+-"));
-    }
-
-    void missingToolsCostOneLineEach()
-    {
-        FakePrograms none(FakePrograms::Path::Instead);
-        const QByteArray broken = QFile::encodeName(m_home->write("broken"_s, "#!/nowhere\n"));
+        QFETCH(QString, name);
+        const QByteArray place = QFile::encodeName(m_home->path("own"_s));
+        const ScopedEnvironment data("XDG_DATA_HOME", place), configuration("XDG_CONFIG_HOME", place),
+            cache("XDG_CACHE_HOME", place);
+        m_home->write("broken"_s, "#!/nowhere\n");
         QVERIFY(QFile::setPermissions(m_home->path("broken"_s), QFile::ReadOwner | QFile::ExeOwner));
-        m_home->write(themeFile, "WallPaper=#000\nEnableSound=true\nSystemStartSound=" + broken
-                                     + "\nUseComposite=true\nCompositeManager=" + broken + '\n');
-        BridgeProcess bridge;
-        QTRY_COMPARE(bridge.errors().count(u'\n'), 5);
-        announce("TaskbarHeight", "50"_s);
-        announce("WallPaper", "none"_s);
-        QTRY_COMPARE(bridge.errors().count(u'\n'), 6);
-        bridge.process().terminate();
-        QCOMPARE(bridge.exitCode(), 0);
-        QCOMPARE(bridge.errors(), "qaz-wm-bridge: aplay is not installed (Debian package alsa-utils)\n"
-                                  "qaz-wm-bridge: feh is not installed (Debian package feh)\n"
-                                  "qaz-wm-bridge: xsettingsd is not installed (Debian package xsettingsd)\n"
-                                  "qaz-wm-bridge: xset is not installed (Debian package x11-xserver-utils)\n"
-                                  "qaz-wm-bridge: broken failed or took too long\n"
-                                  "qaz-wm-bridge: The wallpaper 'none' is no image file\n"_s);
-        none.add("qaz-svg2png"_s, "/bin/sleep 0.3"); // long enough for a look at the server
-        m_home->write(".local/share/wallpapers/drawn.svg"_s, "<svg/>");
-        m_home->write(themeFile, "WallPaper=drawn\n");
-        QCOMPARE(BridgeProcess({"--once"_s}).exitCode(), 0);
+        replay("bridge/%1.txt"_s.arg(name), nullptr, m_home.get(),
+               [this](const QString &step, const QString &expected) { return carryOut(step, expected); });
     }
 
     void slidesAndDrawingsAreShown()
@@ -222,65 +122,6 @@ private slots:
         QVERIFY(!timer->isActive());
         QCOMPARE(m_programs->calls("qaz-svg2png"_s).size(), 3);
         QCOMPARE(m_programs->calls("feh"_s).size(), 9);
-    }
-
-    void anOpenboxThatComesLaterGetsItsTheme()
-    {
-        const QByteArray place = QFile::encodeName(m_home->path("own"_s));
-        const ScopedEnvironment data("XDG_DATA_HOME", place), configuration("XDG_CONFIG_HOME", place);
-        const QString file = m_home->write("own/openbox/rc.xml"_s, "text");
-        BridgeProcess bridge({"--openbox"_s});
-        QTRY_COMPARE(m_programs->calls("xset"_s).size(), 2);
-        setOnRoot("_NET_WM_NAME"_s, "8u"_s, "Openbox"_s); // the root is as good as a window of its own
-        setOnRoot("_NET_SUPPORTING_WM_CHECK"_s, "32c"_s, QString::number(QX11Info::appRootWindow()));
-        QTRY_COMPARE(m_programs->calls("openbox"_s), QVector<QStringList>{{"--reconfigure"_s}});
-        QVERIFY(m_home->read("own/themes/qaz/openbox-3/themerc"_s).startsWith("border.width: 1\n"));
-        QTRY_COMPARE(bridge.errors(), "qaz-wm-bridge: Can't change "_s + file
-                                          + ": it is no configuration file of Openbox with a theme\n"_s);
-        const QByteArray plain = "<openbox_config><theme></theme></openbox_config>";
-        setOnRoot("_OB_CONFIG_FILE"_s, "8u"_s, m_home->write("rc.xml"_s, plain));
-        announce("TitleFont", "Sans-9:bold"_s);
-        QTRY_COMPARE(m_programs->calls("openbox"_s).size(), 2);
-        QVERIFY(m_home->read("rc.xml"_s)
-                    .contains("<name>qaz</name><font place=\"ActiveWindow\"><name>Sans</name>"));
-        m_home->write("rc.xml"_s, plain);
-        setOnRoot("_NET_SUPPORTING_WM_CHECK"_s, "32c"_s, QString::number(QX11Info::appRootWindow()));
-        announce("ScreenSaverDelay", "1"_s);
-        QTRY_COMPARE(m_programs->calls("xset"_s).size(), 4);
-        QCOMPARE(BridgeProcess({"--once"_s, "--replace"_s}).exitCode(), 0);
-        QCOMPARE(m_programs->calls("openbox"_s).size(), 3); // not told again by whom it knows
-        QCOMPARE(m_home->read("rc.xml"_s), plain);          // nobody allowed a change
-        output("/usr/bin/xprop"_s, {"-root"_s, "-remove"_s, "_NET_SUPPORTING_WM_CHECK"_s});
-    }
-
-    void aWindowThatWantsAttentionIsHeard()
-    {
-        QVector<QStringList> heard;
-        for (const QString &theme : {"old/"_s, ""_s, "new/"_s}) {
-            const QString place = ".local/share/sounds/"_s + theme;
-            m_home->write(place + "index.theme"_s, "[Sound Theme]\nName=x\nDirectories=.\n");
-            heard.append({"-q"_s, m_home->write(place + "bell.wav"_s, "sound")});
-        }
-        const QByteArray open = QFile::encodeName(heard[1][1]);
-        m_home->write(themeFile, "EnableSound=true\nSoundTheme=old\nSystemStartSound=bell\nOpenSound=" + open
-                                     + "\nPagingSound=" + open + "\nRestoreDownSound=" + open + '\n');
-        m_programs->add("aplay"_s);
-        setOnRoot("_NET_CLIENT_LIST"_s, "32c"_s, "1"_s); // a window that has gone
-        BridgeProcess bridge;
-        QTRY_COMPARE(m_programs->calls("xset"_s).size(), 2);
-        announce("SoundTheme", "new"_s);
-        announce("ForceTrayMessageSound", "bell"_s);
-        announce("ScreenSaverDelay", "1"_s);
-        QTRY_COMPARE(m_programs->calls("xset"_s).size(), 4);
-        setOnRoot("_NET_CURRENT_DESKTOP"_s, "32c"_s, "0"_s);                     // as before
-        for (const QString &state : {"DEMANDS_ATTENTION"_s, "MAXIMIZED_VERT"_s}) // of no client yet
-            setOnRoot("_NET_WM_STATE"_s, "32a"_s, "_NET_WM_STATE_"_s + state);
-        setOnRoot("_NET_CLIENT_LIST"_s, "32c"_s, QString::number(QX11Info::appRootWindow()));
-        QTRY_COMPARE(m_programs->calls("aplay"_s).size(), 2);
-        setOnRoot("_NET_WM_STATE"_s, "32a"_s, "_NET_WM_STATE_DEMANDS_ATTENTION"_s);
-        QTRY_COMPARE(m_programs->calls("aplay"_s), heard);
-        for (const char *property : {"_NET_CLIENT_LIST", "_NET_WM_STATE", "_NET_CURRENT_DESKTOP"})
-            XDeleteProperty(QX11Info::display(), QX11Info::appRootWindow(), atom(property));
     }
 
     void oneBridgeServesAScreen()
@@ -338,8 +179,71 @@ private slots:
     }
 
 private:
+    /// Carries out a step of a session and waits until what comes of it is as expected.
+    QString carryOut(QString step, const QString &expected)
+    {
+        step.replace("HOME"_s, m_home->path()).replace("DISPLAY"_s, qEnvironmentVariable("DISPLAY"));
+        const QString word = step.section(u' ', 0, 0), rest = step.section(u' ', 1);
+        const QString name = step.section(u' ', 1, 1), value = step.section(u' ', 2);
+        QTimer others; // do not end
+        connect(&others, &QTimer::timeout, this, [] { announce("TitlebarColor", "#000001"_s); });
+        if (word == "bridge"_s) {
+            m_bridge = std::make_unique<BridgeProcess>(rest.split(u' ', Qt::SkipEmptyParts));
+            m_told = 0;
+        } else if (word == "program"_s)
+            m_programs->add(name, value.toUtf8());
+        else if (word == "remove"_s)
+            QFile::remove(m_programs->directory() + u'/' + name);
+        else if (word == "root"_s)
+            setOnRoot(name, value.section(u' ', 0, 0),
+                      value.section(u' ', 1).replace("ROOT"_s, QString::number(QX11Info::appRootWindow())));
+        else if (word == "own"_s || word == "leave"_s)
+            own(name.toLatin1().constData(), word == "own"_s);
+        else if (word == "signal"_s)
+            ::kill(pid_t(m_bridge->process().processId()), name.toInt());
+        else if (word == "meanwhile"_s)
+            others.start(1);
+        if (word == "send"_s || word == "meanwhile"_s)
+            for (const QString &command : rest.split(u'|'))
+                sendToWindowManager(command.toUtf8() + '\n');
+        QMap<QString, QString> news;
+        QString actual;
+        const auto isAsExpected = [&] {
+            look(&news);
+            if (word == "mode"_s)
+                news[word] = QString::number(m_home->mode(name), 8) + u'\n';
+            else if (word == "read"_s)
+                news[word] = QString::fromUtf8(m_home->read(name)) + u'\n';
+            actual = withoutPlaces(QStringList(news.values()).join(QString()).toUtf8(), *m_home);
+            return actual == expected;
+        };
+        return QTest::qWaitFor(isAsExpected) ? expected : actual;
+    }
+    /// Adds what each stand-in was called with and what the bridge told since the last look, and how it ended.
+    void look(QMap<QString, QString> *news)
+    {
+        for (const QString &file : QDir(m_programs->directory()).entryList({"*.calls"_s})) {
+            const QString name = file.section(u'.', 0, 0);
+            const auto calls = m_programs->calls(name).mid(m_calls[name]);
+            for (const QStringList &call : calls)
+                (*news)[name] += name + u' ' + call.join(u' ') + u'\n';
+            m_calls[name] += calls.size();
+        }
+        if (!m_bridge)
+            return;
+        (*news)["!"_s] += m_bridge->errors().mid(m_told);
+        m_told = m_bridge->errors().size();
+        if (m_bridge->process().state() == QProcess::NotRunning) {
+            (*news)["status"_s] = "status %1\n"_s.arg(m_bridge->exitCode());
+            m_bridge.reset();
+        }
+    }
+
     std::unique_ptr<TemporaryHome> m_home;
     std::unique_ptr<FakePrograms> m_programs;
+    std::unique_ptr<BridgeProcess> m_bridge;
+    QMap<QString, int> m_calls; // of each stand-in, seen so far
+    int m_told = 0;
 };
 
 QTEST_MAIN(TestBridgeProgram)

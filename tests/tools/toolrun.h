@@ -4,6 +4,8 @@
 #include "tests/support/temporaryhome.h"
 #include "tests/support/wmlistener.h"
 
+#include <functional>
+
 const QString themeFile = ".config/qaz/current.themerc"_s; // below the home
 
 /// A tool of the build that has run in the home and ended.
@@ -30,8 +32,18 @@ inline ToolRun run(const QString &arguments)
     return {"qaz-theme"_s, arguments.split(u' ')};
 }
 
+/// A text without what differs between two runs.
+inline QString withoutPlaces(QByteArray text, const TemporaryHome &home)
+{
+    text.replace(home.path().toUtf8(), "HOME").replace(QAZ_BINARY_DIR, "BUILD");
+    text.replace("xsettingsd-" + qgetenv("DISPLAY"), "xsettingsd-DISPLAY");
+    return QString::fromUtf8(text)
+        .replace(QRegularExpression("[0-9a-f]{40}"_s), "DIGEST"_s)
+        .replace(QRegularExpression("\\b\\d+\\.\\d+\\.\\d+-\\d+\n"_s), "VERSION\n"_s);
+}
+
 /// What a call prints, "! " before lines on standard error, its status if that is not 0, and what it did.
-inline QByteArray answerTo(const QString &call, const TemporaryHome &home, WmListener *listener)
+inline QString answerTo(const QString &call, const TemporaryHome &home, WmListener *listener)
 {
     const QByteArray theme = home.read(themeFile);
     const QString before = home.fingerprint();
@@ -49,34 +61,35 @@ inline QByteArray answerTo(const QString &call, const TemporaryHome &home, WmLis
         text += "file: " + home.read(themeFile).replace('\n', '|') + '\n';
     if (const QString updates = listener ? listener->takeUpdates() : QString(); !updates.isEmpty())
         text += "told: " + updates.toUtf8() + '\n';
-    text.replace(home.path().toUtf8(), "HOME").replace(QAZ_BINARY_DIR, "BUILD");
-    text.replace("xsettingsd-" + qgetenv("DISPLAY"), "xsettingsd-DISPLAY");
-    return QString::fromUtf8(text)
-        .replace(QRegularExpression("[0-9a-f]{40}"_s), "DIGEST"_s)
-        .replace(QRegularExpression("\\b\\d+\\.\\d+\\.\\d+-\\d+\n"_s), "VERSION\n"_s)
-        .toUtf8();
+    return withoutPlaces(text, home);
 }
 
+/// Carries out a step that is no call, and returns what came of it, which should be \a expected.
+using OtherStep = std::function<QString(const QString &step, const QString &expected)>;
+
 /// Replays a session that is written beside the tests: "# " begins another home, "< NAME: TEXT" puts a file there, with
-/// "/" at the name's end a directory and with "|" a FIFO, "$ " is a call. What follows a call is what must come of it.
-inline void replay(const QString &name, WmListener *listener = nullptr, const TemporaryHome *given = nullptr)
+/// "/" at the name's end a directory and with "|" a FIFO, "$ " is a call, "> " what \a other does. What follows one of
+/// the latter two is what must come of it.
+inline void replay(const QString &name, WmListener *listener = nullptr, const TemporaryHome *given = nullptr,
+                   const OtherStep &other = {})
 {
     QFile session(QStringLiteral(QAZ_SOURCE_DIR "/tests/") + name);
     QFile actual(QStringLiteral(QAZ_BINARY_DIR "/") + QFileInfo(name).fileName());
     QVERIFY(session.open(QIODevice::ReadOnly) && actual.open(QIODevice::WriteOnly));
+    const QRegularExpression begin("^(?=[#<$>] )"_s, QRegularExpression::MultilineOption);
     std::unique_ptr<TemporaryHome> fresh;
     const TemporaryHome *home = given;
-    for (const QByteArray &line : session.readAll().split('\n')) {
-        const QByteArray kind = line.left(2);
-        if (kind != "# " && kind != "< " && kind != "$ ")
-            continue;
-        actual.write(line + '\n');
-        const QString text = QString::fromUtf8(line.mid(2)).replace("\\n"_s, "\n"_s).replace("\\t"_s, "\t"_s);
+    for (const QString &step : QString::fromUtf8(session.readAll()).split(begin, Qt::SkipEmptyParts)) {
+        const QString line = step.section(u'\n', 0, 0), expected = step.mid(line.size() + 1);
+        const QString text = line.mid(2).replace("\\n"_s, "\n"_s).replace("\\t"_s, "\t"_s);
         const QString file = text.section(u':', 0, 0);
-        if (kind == "# ")
+        actual.write(line.toUtf8() + '\n');
+        if (line.startsWith(u'#'))
             fresh.reset(), fresh = std::make_unique<TemporaryHome>(), home = fresh.get();
-        else if (kind == "$ ")
-            actual.write(answerTo(text, *home, listener));
+        else if (line.startsWith(u'$'))
+            actual.write(answerTo(text, *home, listener).toUtf8());
+        else if (line.startsWith(u'>'))
+            actual.write(other(text, expected).toUtf8());
         else if (file.endsWith(u'/'))
             home->makeDirectory(file);
         else if (file.endsWith(u'|'))
