@@ -26,11 +26,24 @@ public:
             button ? button->click() : dialog->reject();
         });
     }
+    /// In the next modal dialog a colour or else a text is entered, and accepted.
+    void thenEnter(const QString &text)
+    {
+        then([text](QDialog *dialog) {
+            if (auto *colors = qobject_cast<QColorDialog *>(dialog))
+                colors->setCurrentColor(text);
+            else
+                dialog->findChild<QLineEdit *>()->setText(text);
+            dialog->accept();
+        });
+    }
     /// The next modal dialog is rejected, as by Escape.
     void thenReject() { then(&QDialog::reject); }
 
     /// "title|text" of each message box, and "title|class" of each other dialog, in order.
     QStringList seen() const { return m_seen; }
+    /// The same since the last time.
+    QStringList takeSeen() { return std::exchange(m_seen, {}); }
     /// Every step ran and no unexpected dialog came up.
     bool isDone() const { return m_steps.isEmpty() && !m_wasSurprised; }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/qazsettings.h"
+#include "tests/support/modaldriver.h"
 #include "tests/support/steps.h"
 #include "tests/support/temporaryhome.h"
 #include "tests/support/wmlistener.h"
@@ -39,30 +40,56 @@ public:
     {
         return page.template findChild<Widget *>(QLatin1String(name));
     }
-    /// What comes of a step: of "load CONTENT", of "load" that reads the file again, of a user's one what \a view shows
-    /// then; of "see NAMES" what those show; of "save" the commands; of "edits" how many there were.
+    /// What comes of a step: of a user's one, and of "load CONTENT" or of "load" that reads the file "t" again, what
+    /// \a view shows then. The next dialogs are those that the steps before told how to answer.
     QString outcome(const QString &step, const QString &view)
     {
         const QString what = step.section(u' ', 0, 0), text = step.section(u' ', 1);
         if (what == "save"_s)
             return save();
-        if (what == "file"_s)
-            return QString::fromUtf8(content());
         if (what == "edits"_s)
             return QString::number(changed.count());
         if (what == "see"_s)
             return shownBy(&page, text);
+        if (what == "read"_s)
+            return QString::fromUtf8(home.read(text));
+        if (what == "names"_s)
+            return home.names(text);
+        if (what == "backups"_s)
+            return QString::fromUtf8(home.backups().join('|'));
+        if (what == "dialogs"_s)
+            return driver.takeSeen().join(u'|').replace(home.path(), "HOME"_s);
+        if (what == "write"_s)
+            home.write(text.section(u' ', 0, 0), text.section(u' ', 1).toUtf8());
+        else if (what == "remove"_s)
+            QDir(home.path(text)).removeRecursively() || QFile::remove(home.path(text));
+        else if (what == "reject"_s)
+            driver.thenReject();
+        else if (what == "answer"_s)
+            driver.thenAnswer(QMessageBox::StandardButton(
+                QMetaEnum::fromType<QMessageBox::StandardButtons>().keyToValue(text.toLatin1().constData())));
+        else if (what == "enter"_s)
+            driver.thenEnter(QString(text).replace("HOME"_s, home.path()));
+        else
+            return outcomeInView(step, view);
+        return {};
+    }
+
+    const TemporaryHome home;
+    ModalDriver driver;
+    Page page;
+    QSignalSpy changed{&page, &Page::changedSignal};
+
+private:
+    QString outcomeInView(const QString &step, const QString &view)
+    {
         WmListener windowManager;
-        if (what == "load"_s)
-            load(text.isEmpty() ? content() : text.toUtf8());
+        if (step == "load"_s || step.startsWith("load "_s))
+            load(step.size() < 5 ? content() : step.mid(5).toUtf8());
         else
             operate(&page, step);
         return shownBy(&page, view) + windowManager.takeUpdates();
     }
-
-    const TemporaryHome home;
-    Page page;
-    QSignalSpy changed{&page, &Page::changedSignal};
 };
 
 /// Plays each row of a file below tests/ on a page of its own.
@@ -72,5 +99,6 @@ void playOnPages(const QString &path, const QString &view)
     for (const QStringList &row : rowsOf(path)) {
         Page over;
         playSteps(row, 1, [&](const QString &step) { return over.outcome(step, view); });
+        QVERIFY2(over.driver.isDone(), qPrintable(row[0]));
     }
 }

@@ -41,27 +41,22 @@ struct CompositePage : PageOverFile<EffectPage> {
     QString outcome(const QString &step)
     {
         const QString what = step.section(u' ', 0, 0), text = step.section(u' ', 1);
-        const QString path = text.section(u' ', 0, 0), rest = text.section(u' ', 1);
         if (what == "manager"_s)
             start = "CompositeManager=%1\nArrangeWindowSpeed=0\nGradWindowMapSpeed=0\n"_s.arg(text);
         else if (what == "theme"_s)
             home.write("t"_s, (start + text).toLatin1());
-        else if (what == "write"_s)
-            home.write(path, rest.toLatin1());
-        else if (what == "fifo"_s && QFile::remove(home.path(path)))
-            home.makeFifo(path);
-        else if (what == "read"_s)
-            return QString::fromLatin1(home.read(path));
-        else if (what == "backups"_s)
-            return QString::fromLatin1(home.backups().join('|'));
+        else if (what == "fifo"_s && QFile::remove(home.path(text)))
+            home.makeFifo(text);
         else if (what == "told"_s)
             return QString::fromLocal8Bit(messages.take()).replace(home.path(), "HOME"_s);
-        else if (what != "set"_s) {
-            const QString result = PageOverFile::outcome(step, boxes.join(u' '));
+        else if (what == "set"_s)
+            for (int i = 0; i < boxes.size(); ++i)
+                page.findChild<QWidget *>(boxes[i])->setProperty("checked", text.at(i) == u'+');
+        else if (const QString result = PageOverFile::outcome(step, boxes.join(u' '));
+                 what == "load"_s || what == "save"_s)
             return result + u' ' + QString::fromLatin1(content()).remove(start);
-        }
-        for (int i = 0; what == "set"_s && i < boxes.size(); ++i)
-            page.findChild<QWidget *>(boxes[i])->setProperty("checked", text.at(i) == u'+');
+        else
+            return result;
         return {};
     }
 

@@ -1,6 +1,5 @@
 #include "pages/sounds/soundpage.h"
 #include "tests/support/fakeprogram.h"
-#include "tests/support/modaldriver.h"
 #include "tests/support/pageoverfile.h"
 #include "tests/support/rows.h"
 
@@ -129,8 +128,7 @@ private slots:
             programs.add("qaz-su"_s, "exec sh \"$@\"");
             programs.add("oggdec"_s, "for file; do cp \"$file\" \"${file%.oga}.wav\"; done");
             Page over("EnableSound=true\nCloseSound=/own.wav\n");
-            ModalDriver driver;
-            driver.thenAnswer(converted ? QMessageBox::Yes : QMessageBox::No);
+            over.driver.thenAnswer(converted ? QMessageBox::Yes : QMessageBox::No);
             over.choose(theme);
             QVERIFY(over.changed.count() > 0); // the choice is an edit, also when no row changes
             QCOMPARE(over.assignments(), row[2]);
@@ -140,17 +138,16 @@ private slots:
             if (converted || theme == "au"_s)
                 over.click("playButton");
             QCOMPARE(over.state() == "playing stop"_s, converted);
-            QCOMPARE(driver.seen().join(u'\n').replace(over.home.path(), "HOME"_s), row[3]);
+            QCOMPARE(over.driver.seen().join(u'\n').replace(over.home.path(), "HOME"_s), row[3]);
         }
     }
 
     void takesTheChosenFileAndKeys()
     {
         Page over("EnableSound=true\nMenuCommandSound=b.wav\n");
-        ModalDriver driver;
         QStringList found;
         for (const QString &name : {builtIn, "own a.WAV"_s}) {
-            driver.then([&](QDialog *dialog) {
+            over.driver.then([&](QDialog *dialog) {
                 auto *files = qobject_cast<QFileDialog *>(dialog);
                 auto *field = dialog->findChild<QLineEdit *>();
                 found << files->directory().path() << field->text() << files->nameFilters();
@@ -162,15 +159,15 @@ private slots:
         QCOMPARE(
             found.join(u'|').replace(over.home.path(), "HOME"_s),
             "HOME/data/sounds||Sounds (*.wav *.au)|HOME/data/sounds|x-qaz-wm-chimes.wav|Sounds (*.wav *.au)"_s);
-        driver.thenReject();
+        over.driver.thenReject();
         over.click("selectSoundButton");
-        QCOMPARE(driver.seen().last(), "Open File|QazFileDialog"_s);
+        QCOMPARE(over.driver.seen().last(), "Open File|QazFileDialog"_s);
 
         over.list->setFocus();
         over.page.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&over.page));
         for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
-            driver.thenReject();
+            over.driver.thenReject();
             QTest::keyClick(over.list, key);
         }
         QTest::keyClick(over.list, Qt::Key_Down);
@@ -180,7 +177,7 @@ private slots:
         QTest::keyClick(over.themes, Qt::Key_Delete); // is no key of the list's
         QCOMPARE(over.assignments(), "0=HOME/own a.WAV"_s);
         QCOMPARE(over.changed.count(), 3);
-        QVERIFY(driver.isDone());
+        QVERIFY(over.driver.isDone());
     }
 
     void playsUntilStopped()
@@ -218,20 +215,19 @@ private slots:
     {
         Page over("EnableSound=true\n");
         FakePrograms programs(FakePrograms::Path::Instead);
-        ModalDriver driver;
         for (const char *sound : {"No theme menu-popup", "wav x.wav", "wav /x", "wav seven"}) {
             const QString text = QLatin1String(sound);
             over.choose(text.section(u' ', 0, -2));
             over.assign(0, text.section(u' ', -1));
-            driver.thenAnswer(QMessageBox::Ok);
+            over.driver.thenAnswer(QMessageBox::Ok);
             over.page.activateWindow();
             QVERIFY(QTest::qWaitForWindowActive(&over.page));
             over.click("playButton");
             QCOMPARE(over.state() + u' ' + over.focused(), "Them defa clea List sele remo soundListView"_s);
         }
-        driver.thenAnswer(QMessageBox::Ok);
+        over.driver.thenAnswer(QMessageBox::Ok);
         over.find<QPushButton>("mixerButton")->click();
-        QCOMPARE(driver.seen().join(u' ').replace(over.home.path() + "/data"_s, "DATA"_s),
+        QCOMPARE(over.driver.seen().join(u' ').replace(over.home.path() + "/data"_s, "DATA"_s),
                  "Error|Sound 'DATA/sounds/menu-popup' doesn't exist Error|Sound 'DATA/sounds/x.wav' doesn't "
                  "exist Error|Sound '/x' doesn't exist Error|Sound 'seven' doesn't exist "
                  "Error|Can't start 'qasmixer'"_s);

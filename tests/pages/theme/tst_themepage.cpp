@@ -1,7 +1,6 @@
 #include "pages/theme/swatches.h"
 #include "pages/theme/themepage.h"
 #include "pages/theme/themesettings.h"
-#include "tests/support/modaldriver.h"
 #include "tests/support/pageoverfile.h"
 #include "tests/support/rows.h"
 #include "tests/support/samplethemes.h"
@@ -71,7 +70,6 @@ struct Page : PageOverFile<ThemePage> {
     QPushButton *const main = find<QPushButton>("color1Button");
     QPushButton *const end = find<QPushButton>("color2Button");
     QPushButton *const size = find<QPushButton>("sizeButton");
-    QSignalSpy changed{&page, &ThemePage::changedSignal};
 };
 
 } // namespace
@@ -137,10 +135,9 @@ private slots:
     {
         Page test("TitlebarColor=rgb(1,2,3)\nTitlebarColor2=red\n");
         test.elements->setCurrentText("Titlebar"_s);
-        ModalDriver driver;
         QStringList offered;
         const auto choose = [&](QPushButton *button, const QColor &color) {
-            driver.then([&, color](QDialog *dialog) {
+            test.driver.then([&, color](QDialog *dialog) {
                 auto *colors = qobject_cast<QColorDialog *>(dialog);
                 offered += colors->currentColor().name();
                 colors->setCurrentColor(color);
@@ -150,7 +147,7 @@ private slots:
         };
         choose(test.end, Qt::green);
         QCOMPARE(test.end->palette().color(QPalette::Window), QColor(Qt::green));
-        driver.thenReject();
+        test.driver.thenReject();
         test.main->click();
         QCOMPARE(test.save(), "TitlebarColor2 #00ff00"_s);
         choose(test.main, Qt::yellow);
@@ -170,8 +167,7 @@ private slots:
         const std::pair<int, int> choices[] = {{0, 22}, {0, 64}, {1, 60}, {1, 280}}; // the first is rejected
         for (const auto &choice : choices) {
             test.combo("sizeComboBox")->setCurrentIndex(choice.first);
-            ModalDriver driver;
-            driver.then([&](QDialog *dialog) {
+            test.driver.then([&](QDialog *dialog) {
                 auto *input = qobject_cast<QInputDialog *>(dialog);
                 seen += "%1 %2 %3 %4"_s.arg(input->intMinimum())
                             .arg(input->intMaximum())
@@ -184,7 +180,7 @@ private slots:
                 QVERIFY(!input->isComboBoxEditable());
             });
             test.size->click();
-            seen += driver.seen() + QStringList(test.combo("sizeComboBox")->currentText());
+            seen += test.driver.takeSeen() + QStringList(test.combo("sizeComboBox")->currentText());
         }
         // 50, the stored size of icons, is not among the choices.
         QCOMPARE(seen.join(u'|'),
@@ -265,14 +261,13 @@ private slots:
         QCOMPARE(test.save(), "IconTheme Round|DecorTheme No theme"_s);
         test.choose("decorThemeCombo", 0);
         test.choose("cursorThemeCombo", 1);
-        ModalDriver driver;
-        driver.thenAnswer(QMessageBox::Ok);
+        test.driver.thenAnswer(QMessageBox::Ok);
         test.home.makeDirectory(".Xresources"_s);
         QCOMPARE(test.save(), "DecorTheme "_s);
         QDir().rmdir(test.home.path(".Xresources"_s));
-        driver.thenAnswer(QMessageBox::Ok);
+        test.driver.thenAnswer(QMessageBox::Ok);
         QCOMPARE(test.save(), "CursorTheme b"_s);
-        QCOMPARE(driver.seen().join(u'|'),
+        QCOMPARE(test.driver.seen().join(u'|'),
                  "Error|The cursor theme 'b' can't be set.|"
                  "Warning|New cursor theme will be applied to newly started apps"_s);
         QCOMPARE(test.home.read(".Xresources"_s), QByteArray("Xcursor.theme: b\n"));

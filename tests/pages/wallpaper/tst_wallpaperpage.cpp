@@ -1,6 +1,5 @@
 #include "pages/wallpaper/wallpaperpage.h"
 #include "resources/registerresources.h"
-#include "tests/support/modaldriver.h"
 #include "tests/support/pageoverfile.h"
 #include "tests/support/rows.h"
 
@@ -38,14 +37,12 @@ struct Page : PageOverFile<WallpaperPage> {
     }
 
     const ScopedEnvironment data{"QAZ_DATA_DIR", QFile::encodeName(home.path("data"_s))};
-    ModalDriver driver;
     QLineEdit *lineEdit = find<QLineEdit>("wallpaperLineEdit");
     QComboBox *position = find<QComboBox>("wallpaperPositionCombo");
     QSpinBox *period = find<QSpinBox>("SlideShowSpinBox");
     QCheckBox *onlyDesktop = find<QCheckBox>("wallpaperForCurrDesktopCheckBox");
     QPushButton *fileButton = find<QPushButton>("wallpaperSelectionBtn");
     QLabel *label = find<QLabel>("wallpaperPixmapLabel");
-    QSignalSpy changed{&page, &WallpaperPage::changedSignal};
 };
 
 /// An image file of one colour and one pixel.
