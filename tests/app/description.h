@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tests/support/temporaryhome.h"
+#include "tests/support/textfile.h"
 
 /// All that a window shows, as lines of text: what its widgets and layouts hold that Qt's own would not. What depends on
 /// fonts, and what all widgets of a window share, is left out.
@@ -21,14 +21,9 @@ public:
             widget = widget->nextInFocusChain();
         } while (widget != window);
     }
-    /// Compares it with the file \a name below tests/. The whole text is written to the build directory, to see what
-    /// differs, and to take it over when it is meant.
-    void verify(const TemporaryHome &home, const QString &name) const
+    QByteArray text() const
     {
-        const QString text = m_lines.join(u'\n').replace(QRegularExpression(" +\n"_s), "\n"_s) + u'\n';
-        home.write(QAZ_BINARY_DIR "/"_s + QFileInfo(name).fileName(), text.toUtf8());
-        const QByteArray expected = home.read(QAZ_SOURCE_DIR "/tests/"_s + name);
-        QCOMPARE(text.split(u'\n'), QString::fromUtf8(expected).split(u'\n'));
+        return m_lines.join(u'\n').replace(QRegularExpression(" +\n"_s), "\n"_s).toUtf8() + '\n';
     }
 
 private:

@@ -40,7 +40,7 @@ private slots:
         Description description;
         description.add(m_dialog.get());
         description.add(find<QDialog>("FontAASettings"));
-        description.verify(*m_home, "app/pages.txt"_s);
+        verifyText("app/pages.txt"_s, description.text());
     }
 
     void onlyVisitedPagesAreSavedInOrderAndOnce()

@@ -58,7 +58,7 @@ private slots:
     void aDryRunPrintsAndWritesNothing()
     {
         const ScopedEnvironment cache("XDG_CACHE_HOME", {}); // ~/.cache, too
-        replay("bridge/qaz-wm-bridge.txt"_s, nullptr, m_home.get());
+        replay("bridge/qaz-wm-bridge.txt"_s, m_home.get());
         BridgeProcess staying({"--dry-run"_s});
         QTRY_VERIFY(staying.process().bytesAvailable() > 0);
         QCOMPARE(m_programs->calls("feh"_s).size(), 0);
@@ -79,7 +79,7 @@ private slots:
             cache("XDG_CACHE_HOME", place);
         m_home->write("broken"_s, "#!/nowhere\n");
         QVERIFY(QFile::setPermissions(m_home->path("broken"_s), QFile::ReadOwner | QFile::ExeOwner));
-        replay("bridge/%1.txt"_s.arg(name), nullptr, m_home.get(),
+        replay("bridge/%1.txt"_s.arg(name), m_home.get(),
                [this](const QString &step, const QString &expected) { return carryOut(step, expected); });
     }
 

@@ -108,7 +108,7 @@ private slots:
         QPointer<QTextBrowser> help = shownHelp();
         Description description;
         description.add(help);
-        description.verify(*m_home, "resources/helpwindow.txt"_s);
+        verifyText("resources/helpwindow.txt"_s, description.text());
         QCOMPARE(help->size(), QSize(760, 640));
         QCOMPARE(help->windowIcon().name(), "help-contents"_s);
         const auto *row = help->findChild<QHBoxLayout *>();
