@@ -26,14 +26,14 @@ public:
             button ? button->click() : dialog->reject();
         });
     }
-    /// In the next modal dialog a colour or else a text is entered, and accepted.
+    /// In the next modal dialog a colour or else a text is entered, and accepted; that offered is recorded, too.
     void thenEnter(const QString &text)
     {
-        then([text](QDialog *dialog) {
-            if (auto *colors = qobject_cast<QColorDialog *>(dialog))
-                colors->setCurrentColor(text);
-            else
-                dialog->findChild<QLineEdit *>()->setText(text);
+        then([this, text](QDialog *dialog) {
+            auto *colors = qobject_cast<QColorDialog *>(dialog);
+            auto *field = dialog->findChild<QLineEdit *>();
+            m_seen.last() += u'|' + (colors ? colors->currentColor().name() : field->text());
+            colors ? colors->setCurrentColor(text) : field->setText(text);
             dialog->accept();
         });
     }
