@@ -6,17 +6,26 @@
 namespace {
 
 const QString desktopFile = "Desktops/Desktop1/.directory"_s;
-const QString otherDesktop = "Desktops/Desktop2/.directory"_s;
 const QString ownPictures = ".local/share/wallpapers/1280x1024/"_s; // those made for this screen
-const QByteArray withWallpaper = "[Desktop Entry]\nX-QAZ-WallPaper=a\n";
 const QByteArray svg = "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 10 10'><path fill='#f00' d='M0 "
                        "0h5v10h-5z'/></svg>";
 
 struct Page : PageOverFile<WallpaperPage> {
-    explicit Page(const QByteArray &theme, const QByteArray &desktop = {})
+    Page() { home.write(desktopFile, "[Desktop Entry]\nX-QAZ-WallPaper="); }
+    explicit Page(const QByteArray &theme)
+        : Page()
     {
-        home.write(desktopFile, "[Desktop Entry]\nX-QAZ-WallPaper=" + desktop);
         load(theme);
+    }
+    /// What comes of a step; of "preview" the colour at its corner and its size.
+    QString outcome(const QString &step, const QString &view)
+    {
+        if (step == "clear"_s)
+            page.clearWallpaper();
+        else if (step != "preview"_s)
+            return PageOverFile::outcome(step, view);
+        const QPixmap preview = label->pixmap(Qt::ReturnByValue);
+        return "%1 %2x%3"_s.arg(shownColor()).arg(preview.width()).arg(preview.height());
     }
     QString shownColor() const { return label->pixmap(Qt::ReturnByValue).toImage().pixelColor(0, 0).name(); }
     /// Presses "File...", chooses \a path, and gives the answers.
@@ -59,49 +68,11 @@ class TestWallpaperPage : public QObject
 private slots:
     void initTestCase() { registerResources(); }
 
-    void valuesAreLoaded()
+    void valuesAreShownEditedAndSaved()
     {
-        // The theme, the desktop's own wallpaper; text, position, period, and the colour without a text.
-        for (const QStringList &row : rowsOf("pages/wallpaper/values.json"_s)) {
-            Page page(row[1].toUtf8(), row[2].toUtf8());
-            page.period->setValue(7);
-            page.load(row[1].toUtf8());
-            QCOMPARE(page.onlyDesktop->isChecked(), !row[2].isEmpty());
-            QCOMPARE(page.position->isEnabled(), row[2].isEmpty());
-            QCOMPARE(page.period->isEnabled(), row[2].isEmpty());
-            QCOMPARE(page.label->pixmap(Qt::ReturnByValue).size(), QSize(242, 181));
-            const QString text = page.lineEdit->text();
-            page.page.clearWallpaper();
-            QCOMPARE("%1|%2|%3|"_s.arg(text).arg(page.position->currentIndex()).arg(page.period->value())
-                         + page.shownColor(),
-                     row[3]);
-        }
-    }
-
-    void onlyChangesAreStored()
-    {
-        Page page("");
-        page.home.write(otherDesktop, withWallpaper);
-        QCOMPARE(page.save(), QString());
-        QCOMPARE(page.home.read(otherDesktop), QByteArray("[Desktop Entry]\n"));
-        page.load(""); // again: each edit is still told once
-        page.lineEdit->setText("/a b.png"_s);
-        QTest::keyClick(page.position, Qt::Key_Up);
-        page.period->setValue(15);
-        QCOMPARE(page.save(), "WallPaper /a b.png|WallPaperPos Tile|WallPaperPeriod 15"_s);
-        const QByteArray stored = page.content();
-        QCOMPARE(stored, QByteArray("WallPaper=/a b.png\nWallPaperPeriod=15\nWallPaperPos=Tile\n"));
-
-        page.home.write(otherDesktop, withWallpaper);
-        page.onlyDesktop->click();
-        QCOMPARE(page.changed.count(), 4);
-        QVERIFY(!page.position->isEnabled() && !page.period->isEnabled());
-        page.lineEdit->setText("#a6caf0"_s);
-        QCOMPARE(page.save(), "WallPaperLocal \"#a6caf0\""_s);
-        QCOMPARE(page.home.read(desktopFile), QByteArray("[Desktop Entry]\nX-QAZ-WallPaper=\"#a6caf0\"\n"));
-        QCOMPARE(page.home.read(otherDesktop) + page.content(), withWallpaper + stored);
-        page.onlyDesktop->click();
-        QVERIFY(page.position->isEnabled() && page.period->isEnabled());
+        playOnPages<Page>("pages/wallpaper/steps.json"_s,
+                          "wallpaperLineEdit wallpaperPositionCombo SlideShowSpinBox "
+                          "wallpaperForCurrDesktopCheckBox"_s);
     }
 
     void textsDrawTheirPreview()
@@ -194,22 +165,6 @@ private slots:
         QCOMPARE(colors.join(u' '), "#ff0000 #0000ff #ffffff"_s);
         QCOMPARE(page.home.backups().size(), 2);
         QVERIFY(page.driver.isDone());
-    }
-
-    void chosenColorIsTaken()
-    {
-        Page page("WallPaper=/x\nDesktopColor=#102030\n");
-        page.driver.then([](QDialog *dialog) {
-            auto *colors = qobject_cast<QColorDialog *>(dialog);
-            const bool isOurs = colors->currentColor() == 0x102030;
-            colors->setCurrentColor(0xa6caf0);
-            isOurs ? colors->accept() : colors->reject();
-        });
-        page.driver.thenReject();
-        for (int press = 0; press < 2; ++press) {
-            page.find<QPushButton>("colorSelectionButton")->click();
-            QCOMPARE(page.lineEdit->text() + page.shownColor(), "#a6caf0#a6caf0"_s);
-        }
     }
 
     void droppedAndPastedDataIsTaken()
