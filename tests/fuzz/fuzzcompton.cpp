@@ -4,23 +4,21 @@
 
 // A switch that was set in a file that can be read is read back as it was set. A file whose text can't be edited, such as
 // one with a name right behind a number, stands as it was.
-int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+void check(const FuzzInput &input)
 {
     static const TemporaryHome home; // locks are kept in the home, too
-    const FuzzInput input(data, size);
     const QString path = home.write(QStringLiteral("compton.conf"), input.content);
     if (!readComptonFile(path))
-        return 0;
+        return;
     const bool shadow = input.argument.isEmpty();
     QString error;
     if (!updateComptonFile(path, false, shadow, &error)) {
         require(!error.isEmpty() && home.read(QStringLiteral("compton.conf")) == input.content);
-        return 0;
+        return;
     }
 
     const std::optional<ComptonValues> written = readComptonFile(path);
     require(written.has_value());
     require(written->shadow == shadow);
     require(written->transparency == false);
-    return 0;
 }

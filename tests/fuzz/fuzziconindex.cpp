@@ -2,9 +2,8 @@
 #include "tests/fuzz/fuzzing.h"
 
 // A theme that was set as the inherited one is the inherited one, in whatever file.
-int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+void check(const FuzzInput &input)
 {
-    const FuzzInput input(data, size);
     const IconThemeIndex index = parseIconThemeIndex(input.content);
     for (const IconDirectory &directory : index.directories) {
         for (const int pixels : {0, 16, 48, 1 << 30})
@@ -16,5 +15,4 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
     require(parseIconThemeIndex(content).inherits == QByteArrayList{theme});
     require(withInherits(content, theme) == content);
     require(parseIconThemeIndex(withInherits(content, QByteArray())).inherits.isEmpty());
-    return 0;
 }

@@ -2,12 +2,21 @@
 
 #include <QByteArray>
 
-#include <cstddef>
-#include <cstdint>
 #include <cstdlib>
 
-/// What every fuzz target is: takes one input and ends the process when something about it is wrong.
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size);
+/// One input; split at the first byte 1, a file's content and what is done to it.
+struct FuzzInput {
+    explicit FuzzInput(const QByteArray &whole)
+        : bytes(whole)
+        , content(whole.left(whole.indexOf('\1')))
+        , argument(whole.mid(content.size() + 1))
+    {}
+
+    const QByteArray bytes, content, argument;
+};
+
+/// What every fuzz target is: ends the process when something about \a input is wrong.
+void check(const FuzzInput &input);
 
 /// Ends the process when a property of the code under test doesn't hold.
 inline void require(bool holds)
@@ -15,18 +24,3 @@ inline void require(bool holds)
     if (!holds)
         std::abort();
 }
-
-/// The input, split at the first byte 1: a file's content, then what is done to it.
-struct FuzzInput {
-    QByteArray content;
-    QByteArray argument;
-
-    FuzzInput(const std::uint8_t *data, std::size_t size)
-        : content(reinterpret_cast<const char *>(data), int(size))
-    {
-        if (const int split = content.indexOf('\1'); split >= 0) {
-            argument = content.mid(split + 1);
-            content.truncate(split);
-        }
-    }
-};

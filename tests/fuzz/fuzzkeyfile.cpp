@@ -7,7 +7,7 @@ constexpr char group[] = "Desktop Entry";
 constexpr char key[] = "X-QAZ-WallPaper";
 constexpr char otherKey[] = "Name";
 
-void check(const QByteArray &content, const QByteArray &value, const KeyFileFormat &format)
+void checkFormat(const QByteArray &content, const QByteArray &value, const KeyFileFormat &format)
 {
     const KeyFileText text(content, format);
     const std::optional<QByteArray> other = text.value(group, otherKey);
@@ -25,16 +25,14 @@ void check(const QByteArray &content, const QByteArray &value, const KeyFileForm
 } // namespace
 
 // A value that was set is read back; a removed key is gone; no other key's value changes.
-int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+void check(const FuzzInput &input)
 {
-    const FuzzInput input(data, size);
     QByteArray value = input.argument;
     value.replace('\n', ' ').replace('\r', ' ').replace(';', ' ').replace('"', ' ').replace('\\', ' ');
     value = value.trimmed();
-    check(input.content, value, {});
-    check(input.content, value, {"#;", false, false});
+    checkFormat(input.content, value, {});
+    checkFormat(input.content, value, {"#;", false, false});
     // A quote that nobody ends takes in all that follows, new lines, too.
     if (!input.content.contains('"') && !input.content.contains('\\'))
-        check(input.content, value, {";", true, true});
-    return 0;
+        checkFormat(input.content, value, {";", true, true});
 }

@@ -2,9 +2,8 @@
 #include "tests/fuzz/fuzzing.h"
 
 // A value that was set is read back as it was, and no other key's value changes.
-int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+void check(const FuzzInput &input)
 {
-    const FuzzInput input(data, size);
     const QString key = QStringLiteral("ScreenSaverDelay");
     const QString otherKey = QStringLiteral("TitleFont");
     const QString value = QString::fromUtf8(input.argument);
@@ -16,5 +15,4 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
     require(after.value(key) == value);
     require(after.value(otherKey) == before.value(otherKey));
     require(after.withValues({{key, value}}) == text);
-    return 0;
 }

@@ -12,9 +12,7 @@ int main(int /*argc*/, char **argv)
         qWarning("%s", qPrintable(file.fileName()));
         if (!file.open(QIODevice::ReadOnly))
             return 1;
-        const QByteArray input = file.readAll();
-        LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t *>(input.constData()),
-                               std::size_t(input.size()));
+        check(FuzzInput(file.readAll()));
     }
     return inputs == 0;
 }
