@@ -2,15 +2,10 @@
 
 #include "tests/support/fakeprogram.h"
 #include "tests/support/privateserver.h"
-#include "tests/support/programprocess.h"
-#include "tests/support/temporaryhome.h"
-#include "tests/support/wmlistener.h"
+#include "tests/tools/toolrun.h"
 
 #include <QLocalServer>
 #include <QLocalSocket>
-
-#include <functional>
-#include <optional>
 
 class TestProgram : public QObject
 {
@@ -19,45 +14,7 @@ class TestProgram : public QObject
 private slots:
     void init() { m_home.emplace(); }
 
-    void theArgumentNamesTheThemeFile()
-    {
-        m_home->write("mine"_s, "");
-        m_home->write("[*] ö.rc"_s, "");
-        m_home->makeDirectory("directory"_s);
-        const QString before = QDir::currentPath();
-        QStringList files;
-        for (const char *arguments :
-             {"", "[*] ö.rc", "-style|fusion|mine", "missing", "directory", "mine|mine", "mine|--help"}) {
-            QDir::setCurrent(m_home->path());
-            EditorProcess editor(QString::fromUtf8(arguments).split(u'|', Qt::SkipEmptyParts));
-            QDir::setCurrent(before);
-            QVERIFY2(editor.waitForWindow(), arguments);
-            files.append(editor.title().remove("Qaz Theme Editor - "_s));
-        }
-        QCOMPARE(files.join(u'|'),
-                 "current.themerc|[*] ö.rc|mine|current.themerc|current.themerc|current.themerc|"
-                 "current.themerc"_s);
-    }
-
-    void childrenGetTheUsersEnvironment()
-    {
-        // Qt's X11 plugin is told not to load the GL stack and not to look for a bus, and nobody else.
-        FakePrograms programs;
-        programs.add("qaz-svg2png"_s,
-                     "echo ${QT_XCB_GL_INTEGRATION-unset} ${DBUS_SESSION_BUS_ADDRESS-unset} >\"$HOME/seen\"");
-        m_home->write(".local/share/wallpapers/drawn.svg"_s, "<svg xmlns='http://www.w3.org/2000/svg'/>");
-        const QString theme = m_home->write("t.themerc"_s, "WallPaper=drawn\n");
-        for (const QByteArray &value : {QByteArray(), QByteArray("xcb_egl")}) {
-            const ScopedEnvironment gl("QT_XCB_GL_INTEGRATION", value);
-            const ScopedEnvironment bus("DBUS_SESSION_BUS_ADDRESS", value);
-            EditorProcess editor({theme});
-            QVERIFY(editor.waitForWindow());
-            QCOMPARE(m_home->read("seen"_s), value.isNull() ? "unset unset\n" : "xcb_egl xcb_egl\n");
-            const QByteArray loaded = m_home->read("/proc/%1/maps"_s.arg(editor.process().processId()));
-            QVERIFY(loaded.contains("libqxcb"));
-            QCOMPARE(loaded.contains("libEGL_") || loaded.contains("gl-integration"), !value.isNull());
-        }
-    }
+    void sessionsGoAsWritten() { replay("app/program.txt"_s); }
 
     void theBusOfScreenReadersIsLookedFor()
     {
@@ -143,20 +100,6 @@ private slots:
         QCOMPARE(m_home->read("precious"_s), QByteArray("mine"));
     }
 
-    void theLocksDirectoryIsTheUsersAlone()
-    {
-        const QString shared = m_home->path("shared"_s);
-        QVERIFY(QDir().mkdir(shared) && QFile(shared).setPermissions(QFile::Permissions(0x7777)));
-        const ScopedEnvironment runtime("XDG_RUNTIME_DIR", QFile::encodeName(shared));
-        EditorProcess editor;
-        QVERIFY(editor.waitForWindow());
-        const QString told = "qaz-admin-theme: %1/shared is not the user's alone; using %1/.cache/qaz\n"_s;
-        QTRY_VERIFY2(editor.errors().contains(told.arg(m_home->path())), qPrintable(editor.errors()));
-        EditorProcess second;
-        QCOMPARE(second.exitCode(), 0);
-        QVERIFY(QDir(shared).isEmpty());
-    }
-
     void withoutXItEditsAllTheSame()
     {
         const ScopedEnvironment platform("QT_QPA_PLATFORM", "offscreen");
@@ -168,41 +111,6 @@ private slots:
         QCOMPARE(editor.process().state(), QProcess::Running);
         editor.process().terminate();
         QCOMPARE(editor.exitCode(), 0);
-    }
-
-    void startHelpAndCloseWriteNothingElse()
-    {
-        const QString theme = m_home->write("t.themerc"_s, "# mine\nScreenSaverDelay=90\n");
-        const QString before = m_home->fingerprint();
-        EditorProcess editor({theme});
-        QVERIFY(editor.waitForWindow());
-        EditorProcess::press("F1");
-        QVERIFY(editor.waitForWindow("Help"_s));
-        QVERIFY(editor.waitForWindow());
-        EditorProcess::press("Escape"); // the help window doesn't keep the program alive
-        QCOMPARE(editor.exitCode(), 0);
-        QVERIFY(QFile::remove(m_home->path(".config/qaz/qaz-admin-theme.conf"_s)));
-        for (const QString &empty : {".config/qaz"_s, ".config/fontconfig"_s})
-            QVERIFY(QDir(m_home->path()).rmpath(empty));
-        QDir(m_home->path(".cache"_s)).removeRecursively(); // of the libraries
-        QCOMPARE(m_home->fingerprint(), before);
-    }
-
-    void applyWritesAndAnnouncesOneValue()
-    {
-        const QByteArray text
-            = "# mine\n\nunknown line\nScreenSaverDelay=600\n; more\n[Group]\nScreenSaverDelay=1\n";
-        WmListener listener;
-        EditorProcess editor({m_home->write("t.themerc"_s, text)});
-        QVERIFY(editor.waitForWindow());
-        // The Screensaver page by its first letter, and Tabs to its delay. Other pages are not visited, nor saved.
-        EditorProcess::press("s Tab Tab ctrl+a 5");
-        QTRY_COMPARE_WITH_TIMEOUT(editor.title(), "Qaz Theme Editor - t.themerc*"_s, 60000);
-        // Backwards from the delay: its box, the page list, then around to the last buttons.
-        EditorProcess::press("shift+Tab shift+Tab shift+Tab shift+Tab space");
-        QTRY_COMPARE_WITH_TIMEOUT(editor.title(), "Qaz Theme Editor - t.themerc"_s, 60000);
-        QCOMPARE(listener.takeUpdates(), "ScreenSaverDelay 300"_s);
-        QCOMPARE(m_home->read("t.themerc"_s), QByteArray(text).replace("=600", "=300"));
     }
 
 private:

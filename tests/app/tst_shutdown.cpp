@@ -103,22 +103,6 @@ private slots:
         QTRY_VERIFY(::kill(player, 0) != 0);
     }
 
-    void aTerminationStoresTheSize()
-    {
-        for (const char *keys : {"", "s Tab Tab ctrl+a 5 Escape"}) { // in a modal dialog, too
-            init();
-            EditorProcess editor;
-            QVERIFY2(editor.waitForWindow(), qPrintable(editor.errors()));
-            EditorProcess::press(keys);
-            QVERIFY(editor.waitForWindow(QLatin1String(*keys ? "Save \\?" : "Qaz")));
-            QVERIFY(!m_home->read(ownSettings).contains("width"));
-            editor.process().terminate();
-            QCOMPARE(editor.exitCode(), 0);
-            QVERIFY(m_home->read(ownSettings).contains("width"));
-            QVERIFY(!m_home->exists(".config/qaz/current.themerc"_s));
-        }
-    }
-
 private:
     std::optional<TemporaryHome> m_home;
 };
