@@ -1,9 +1,7 @@
-#include "app/configdialog.h"
-#include "platform/qazinit.h"
-#include "resources/registerresources.h"
+#include "tests/app/dialogtest.h"
 #include "tests/support/fakeprogram.h"
 #include "tests/support/modaldriver.h"
-#include "tests/support/temporaryhome.h"
+#include "tests/support/steps.h"
 
 #include <csignal>
 
@@ -25,38 +23,27 @@ struct File {
 } // namespace
 
 /// The program is killed while it applies: every file is whole, in its old or its new form.
-class TestKilledApply : public QObject
+class TestKilledApply : public DialogTest
 {
     Q_OBJECT
 
 private slots:
     void everyFileIsOldOrNew()
     {
+        FakePrograms programs;
         for (const char *name : {"compton", "xrdb"})
-            m_programs.add(QLatin1String(name));
+            programs.add(QLatin1String(name));
         for (const File &file : qAsConst(m_files))
-            m_home.write(file.path, file.before);
-        registerResources();
-        qazInit("1", "title");
-        m_dialog = std::make_unique<ConfigDialog>(m_home.path(m_files.first().path));
-        m_dialog->show();
-        auto *list = m_dialog->findChild<QListWidget *>("contentsWidget"_s);
-        for (int row = 0; row < list->count(); ++row)
-            list->setCurrentRow(row);
+            m_home->write(file.path, file.before);
+        open();
+        onEachPage([](const QWidget *) {});
         for (File &file : m_files)
-            file.before = m_home.read(file.path); // loading notes there that no compositing manager runs
+            file.before = m_home->read(file.path); // loading notes there that no compositing manager runs
         // On each page whose settings go to a file of its own.
-        const std::tuple<const char *, const char *, QVariant> edits[] = {
-            {"minutesToStartSpinBox", "value", 5},
-            {"shadowCheckBox", "checked", true},
-            {"dpiSpinBox", "value", 120},
-            {"aaComboBox", "currentIndex", 0},
-            {"wallpaperForCurrDesktopCheckBox", "checked", true},
-            {"wallpaperLineEdit", "text", "#204060"_s}};
-        for (const auto &[name, property, value] : edits)
-            m_dialog->findChild<QWidget *>(QLatin1String(name))->setProperty(property, value);
-        emit m_dialog->findChild<QComboBox *>("aaComboBox"_s)->activated(0);
-        m_dialog->changedSlot();
+        for (const QString &edit :
+             {"minutesToStartSpinBox 5"_s, "shadowCheckBox"_s, "dpiSpinBox 120"_s, "press aaComboBox Home"_s,
+              "wallpaperForCurrDesktopCheckBox"_s, "wallpaperLineEdit #204060"_s})
+            operate(m_dialog.get(), edit);
 
         int status = -1;
         QElapsedTimer timer;
@@ -67,7 +54,7 @@ private slots:
         }
         const int duration = int(timer.elapsed()) + 1;
         for (File &file : m_files) {
-            file.after = m_home.read(file.path);
+            file.after = m_home->read(file.path);
             QVERIFY2(file.after != file.before, qPrintable(file.path)); // else it would prove nothing
         }
 
@@ -83,7 +70,7 @@ private slots:
             QVERIFY(::waitpid(process, &status, 0) > 0);
             finished += WIFEXITED(status) ? 1 : 0;
             for (const File &file : m_files) {
-                const QByteArray content = m_home.read(file.path);
+                const QByteArray content = m_home->read(file.path);
                 QVERIFY2(content == file.before || content == file.after, content.right(300).constData());
             }
         }
@@ -95,25 +82,22 @@ private:
     pid_t applyInAnotherProcess()
     {
         for (const File &file : qAsConst(m_files))
-            m_home.write(file.path, file.before);
+            m_home->write(file.path, file.before);
         const pid_t process = ::fork();
         if (process != 0)
             return process;
         ::setpgid(0, 0);
         ModalDriver driver;
         driver.thenAnswer(QMessageBox::Ok); // "Some changes such as anti-aliasing or DPI ..."
-        m_dialog->buttonBox()->button(QDialogButtonBox::Apply)->click();
+        button(QDialogButtonBox::Apply)->click();
         ::_exit(0);
     }
     /// Remarks that make a file long enough to be caught half written.
     static QByteArray remarks(const char *line) { return QByteArray(line).repeated(10000); }
 
-    TemporaryHome m_home;
-    FakePrograms m_programs;
-    std::unique_ptr<ConfigDialog> m_dialog;
     // clang-format off
     QVector<File> m_files = {
-        {"current.themerc"_s,
+        {"t"_s,
          remarks("# mine\n") + "ScreenSaverDelay=600\nWallPaper=qaz-lagoon\nCompositeManager=compton\n[Other]\nx=1\n", {}},
         {".config/fontconfig/fonts.conf"_s,
          "<?xml version=\"1.0\"?>\n<!DOCTYPE fontconfig SYSTEM \"fonts.dtd\">\n<fontconfig>\n <dir>/fonts</dir>\n"

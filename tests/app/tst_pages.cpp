@@ -5,6 +5,7 @@
 #include "app/pagetable.h"
 #include "tests/support/fakeprogram.h"
 #include "tests/support/modaldriver.h"
+#include "tests/support/steps.h"
 #include "tests/support/wmlistener.h"
 
 /// How the dialog loads its pages, learns of their edits, and saves them.
@@ -74,18 +75,11 @@ private slots:
         onEachPage([](const QWidget *) {});
         m_dialog->applySlot();
         WmListener listener;
-        const std::function<void()> edits[] = {
-            [this] { find<QSpinBox>("minutesToStartSpinBox")->setValue(7); },
-            [this] {
-                QTest::mouseClick(find<QGroupBox>("wmSoundsGroupBox"), Qt::LeftButton, {}, QPoint(8, 8));
-            },
-            [this] { QTest::keyClick(find<QComboBox>("wallpaperPositionCombo"), Qt::Key_Up); },
-            [this] { find<QCheckBox>("opaqueMoveCheckBox")->click(); },
-            [this] { QTest::keyClick(find<QComboBox>("decorThemeCombo"), Qt::Key_Down); },
-            [this] { find<QSpinBox>("dpiSpinBox")->setValue(120); }};
-        for (const auto &edit : edits) {
+        for (const QString &edit : {"minutesToStartSpinBox 7"_s, "press wmSoundsGroupBox Space"_s,
+                                    "press wallpaperPositionCombo Up"_s, "opaqueMoveCheckBox"_s,
+                                    "press decorThemeCombo Down"_s, "dpiSpinBox 120"_s}) {
             m_dialog->setWindowModified(false);
-            edit();
+            operate(m_dialog.get(), edit);
             verifyEdited(true);
         }
         ModalDriver driver;
