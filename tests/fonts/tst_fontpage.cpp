@@ -112,20 +112,6 @@ private slots:
         QCOMPARE(edited.count({false}), 4); // the load and each save
     }
 
-    void dpiSnaps()
-    {
-        const Editor editor, other;
-        QList<int> shown;
-        // Each depends on where the last snap went, on any page.
-        for (const int entered : {50, 40, 69, 70, 1, 120, 1, 60, 70, 1, 0, 1, 30}) {
-            editor.dpi()->setValue(entered);
-            shown += editor.dpi()->value();
-        }
-        other.dpi()->setValue(30);
-        QCOMPARE(shown << other.dpi()->value(),
-                 (QList<int>{70, 0, 70, 70, 0, 120, 70, 0, 70, 70, 0, 0, 70, 0}));
-    }
-
     void dpiIsNoLongerForced()
     {
         const QString file = ".Xresources"_s, xrdb = "xrdb"_s;

@@ -1,4 +1,5 @@
 #include "settings/inifile.h"
+#include "tests/support/rows.h"
 #include "tests/support/standarderror.h"
 #include "tests/support/temporaryhome.h"
 
@@ -9,20 +10,12 @@ private slots:
     void onlyTheLinesOfSetKeysChange()
     {
         // A group, the file before, and after with "new" as the value.
-        const std::tuple<QByteArray, QByteArray, QByteArray> rows[] = {
-            {"kompmgr", "# mine\n; too\n[kompmgr]\nA = 1\n x = old \n\n[Other\nx=@Size(1 2)\n",
-             "# mine\n; too\n[kompmgr]\nA = 1\n x = new \n\n[Other\nx=@Size(1 2)\n"},
-            // the group General has three spellings, and one that looks like it is none
-            {"", "x=1\n[Qt]\nx=2\n", "x=new\n[Qt]\nx=2\n"},
-            {"", "[general]\nx=1\n[%General]\nx=2\n", "[general]\nx=new\n[%General]\nx=2\n"},
-            {"", "[Qt]\nA=1\n", "[Qt]\nA=1\n[General]\nx=new\n"},
-            {"g", "x=1\n[o]\nA=\"\n[g]\nx=1\"", "x=1\n[o]\nA=\"\n[g]\nx=1\"\n[g]\nx=new\n"}};
-        for (const auto &[group, before, after] : rows) {
+        for (const QStringList &row : rowsOf("settings/inifile.json"_s)) {
             const TemporaryHome home;
-            const QString path = home.write("f"_s, before);
-            writeIniValues(path, group, {{"x"_s, "new"_s}});
-            QCOMPARE(home.read("f"_s), after);
-            QCOMPARE(iniValue(path, QString::fromLatin1(group + "/x")), QVariant("new"_s));
+            const QString path = home.write("f"_s, row[2].toUtf8());
+            writeIniValues(path, row[1].toUtf8(), {{"x"_s, "new"_s}});
+            QCOMPARE(home.read("f"_s), row[3].toUtf8());
+            QCOMPARE(iniValue(path, row[1] + "/x"_s), QVariant("new"_s));
         }
     }
 
