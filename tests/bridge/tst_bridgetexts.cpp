@@ -1,9 +1,7 @@
-#include "bridge/openbox.h"
 #include "bridge/openboxrc.h"
 #include "bridge/programs.h"
 #include "bridge/wallpaperpicture.h"
 #include "bridge/xsettings.h"
-#include "settings/wmcommands.h"
 #include "tests/support/rows.h"
 #include "tests/support/temporaryhome.h"
 #include "tests/support/testing.h"
@@ -37,15 +35,6 @@ private slots:
                      other);
     }
 
-    void openboxThemeHoldsColorsOnly()
-    {
-        Values values(m_home.write("t"_s,
-                                   "TitlebarColor=qvblue\nTitlebarColor2=#000080\nMenuActiveColor=lime\n"
-                                   "TitleStringColor=Qt\nFrameColor=red\n"));
-        values.announce("MenuColor"_s, "red\nevil: 1"_s);
-        QCOMPARE(openboxTheme(values), m_home.read(bridgeTests + "themerc"_s));
-    }
-
     void picturesAreImagesInRegularFiles()
     {
         m_home.write("a.png"_s, "no image");
@@ -70,10 +59,6 @@ private slots:
     {
         QCOMPARE(shellLine({"feh"_s, "#0a0"_s, ""_s, "it's $x"_s, "/a/b-c_d.e:f"_s}),
                  "feh '#0a0' '' 'it'\\''s $x' /a/b-c_d.e:f"_s);
-        QString key, value;
-        QVERIFY(!readUpdateCommand("QAZWM_UPDATE_VAL Key\n", &key, &value)
-                && readUpdateCommand(updateCommand("Key"_s, " a\nb "_s), &key, &value));
-        QCOMPARE(key + u'|' + value, "Key| a\nb "_s);
     }
 
 private:

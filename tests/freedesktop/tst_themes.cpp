@@ -3,6 +3,7 @@
 #include "freedesktop/iconthemeindex.h"
 #include "freedesktop/sounddirectories.h"
 #include "freedesktop/themedirectories.h"
+#include "tests/support/rows.h"
 #include "tests/support/temporaryhome.h"
 
 class TestThemes : public QObject
@@ -56,17 +57,12 @@ private slots:
 
     void localesAreSpelledInSeveralWays()
     {
-        QStringList variants;
-        for (const QByteArrayList &names : {QByteArrayList{"de_AT.UTF-8@euro", "fr", "es"},
-                                            {"", "fr.x", "es"},
-                                            {"", "", "es_MX@euro"},
-                                            {"../x", "", ""}}) {
-            const ScopedEnvironment all("LC_ALL", names[0]), messages("LC_MESSAGES", names[1]),
-                lang("LANG", names[2]);
-            variants += localeVariants();
+        // LC_ALL, LC_MESSAGES, LANG, and the spellings.
+        for (const QStringList &row : rowsOf("freedesktop/locales.json"_s)) {
+            const ScopedEnvironment all("LC_ALL", row[0].toLatin1()),
+                messages("LC_MESSAGES", row[1].toLatin1()), lang("LANG", row[2].toLatin1());
+            QCOMPARE(localeVariants().join(u'|'), row[3]);
         }
-        QCOMPARE(variants.join(u'|'),
-                 "de_AT@euro|de_AT|de@euro|de|C||fr|C||es_MX@euro|es_MX|es@euro|es|C||C|"_s);
     }
 
     void anIndexIsOneSmallRegularFile()
@@ -94,16 +90,11 @@ private slots:
 
     void oneThemeIsInherited()
     {
-        // The file before, the name (empty: none), and the file after.
-        const std::tuple<QByteArray, QByteArray, QByteArray> rows[] = {
-            {"", "A", "[Icon Theme]\nInherits=A\n"},
-            {"# c\r\n[Icon Theme]\r\n Inherits = B, C\r\nX=1\r\n[Other]\r\nInherits=z\r\nInherits=y\r\n", "A",
-             "# c\r\n[Icon Theme]\r\n Inherits = A\r\nX=1\r\n[Other]\r\nInherits=z\r\nInherits=y\r\n"},
-            {"[Icon Theme]\nInherits=B\nName=D\nInherits=C\n", "A", "[Icon Theme]\nName=D\nInherits=A\n"},
-            {"[Icon Theme]\nInherits=B\nName=D\nInherits=C\n", "", "[Icon Theme]\nName=D\n"}};
-        for (const auto &[before, name, after] : rows) {
-            QCOMPARE(withInherits(before, name), after);
-            QCOMPARE(parseIconThemeIndex(after).inherits.join(','), name);
+        // What is special, the file before, the name (empty: none), and the file after.
+        for (const QStringList &row : rowsOf("freedesktop/inherits.json"_s)) {
+            const QByteArray after = withInherits(row[1].toUtf8(), row[2].toUtf8());
+            QCOMPARE(QString::fromUtf8(after), row[3]);
+            QCOMPARE(QString::fromUtf8(parseIconThemeIndex(after).inherits.join(',')), row[2]);
         }
         const IconThemeIndex index = parseIconThemeIndex(
             "[Icon Theme]\nInherits= , A;B x,\n[X]\nInherits=z\n");
@@ -112,19 +103,14 @@ private slots:
 
     void matchesSizes()
     {
-        QStringList distances; // from 32 pixels; -1: a match
-        for (const char *group :
-             {"Type=Fixed\nSize=32", "Type=Fixed\nSize=30", "Type=Scalable\nSize=64\nMinSize=8\nMaxSize=512",
-              "Type=Scalable\nSize=64\nMinSize=40", "Size=30" /* the threshold is 2 */,
-              "Size=24\nThreshold=3", "Type=Fixed\nSize=32\nScale=2",
-              "Type=Scalable\nSize=1\nMaxSize=64\nScale=2", "Size=2147483647\nScale=2147483647"}) {
-            const auto found = parseIconThemeIndex(QByteArray("[Icon Theme]\nDirectories=a,unknown\n[a]\n")
-                                                   + group)
+        // A directory's lines, and how far it is from 32 pixels; -1: a match.
+        for (const QStringList &row : rowsOf("freedesktop/sizes.json"_s)) {
+            const auto found = parseIconThemeIndex("[Icon Theme]\nDirectories=a,unknown\n[a]\n"
+                                                   + row[0].toUtf8())
                                    .directories;
             QCOMPARE(found.size(), 1);
-            distances += QString::number(sizeDistance(found.first(), 32));
+            QCOMPARE(QString::number(sizeDistance(found.first(), 32)), row[1]);
         }
-        QCOMPARE(distances.join(u' '), "-1 2 -1 8 -1 5 32 0 4611686009837453283"_s);
     }
 };
 

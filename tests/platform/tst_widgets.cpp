@@ -1,6 +1,7 @@
 #include "freedesktop/soundinfo.h"
 #include "platform/qazfiledialog.h"
 #include "platform/slidingstackedwidget.h"
+#include "tests/support/rows.h"
 #include "tests/support/temporaryhome.h"
 
 namespace {
@@ -62,22 +63,15 @@ private slots:
     void previewTellsWhatIsInTheFile()
     {
         // A file, what is told of it, and the size of its picture.
-        const std::tuple<QString, QString, QSize> rows[] = {
-            {"a <b>.png"_s, "300 × 20 pixels"_s, {192, 12}},
-            {"high.png"_s, "30 × 320 pixels"_s, {15, 160}},
-            {"small.png"_s, "20 × 10 pixels"_s, {20, 10}},
-            {"most.png"_s, "4096 × 4096 pixels"_s, {160, 160}},
-            {"more.png"_s, "4096 × 4097 pixels"_s, {0, 0}},
-            {"a.wav"_s, "WAV, 8000 Hz, 2 × 16 bit\nLength: 0.5 s"_s, {0, 0}},
-            {"text.png"_s, {}, {0, 0}}};
+        const QVector<QStringList> rows = rowsOf("platform/previews.json"_s);
         const TemporaryHome home;
         home.write("a.wav"_s, wav);
         home.write("text.png"_s, "text");
-        for (const auto &[name, text, size] : rows) {
-            QImage image(text.section(u' ', 0, 0).toInt(), text.section(u' ', 2, 2).toInt(),
+        for (const QStringList &row : rows) {
+            QImage image(row[1].section(u' ', 0, 0).toInt(), row[1].section(u' ', 2, 2).toInt(),
                          QImage::Format_Mono);
             image.fill(1);
-            image.save(home.path(name)); // unless it has no size
+            image.save(home.path(row[0])); // unless it has no size
         }
         const QString first = home.path("first.png"_s);
         QVERIFY(QFile::copy(home.path("a <b>.png"_s), first));
@@ -101,16 +95,17 @@ private slots:
 
         auto *list = dialog.findChild<QListView *>("listView"_s);
         const QAbstractItemModel *model = list->model();
-        QTRY_COMPARE(model->rowCount(list->rootIndex()), int(std::size(rows)) + 1);
+        QTRY_COMPARE(model->rowCount(list->rootIndex()), rows.size() + 1);
         list->setCurrentIndex(model->index(0, 0, list->rootIndex()));
-        for (const auto &[name, text, size] : rows) {
+        for (const QStringList &row : rows) {
             emit dialog.currentChanged(first);
-            emit dialog.currentChanged(home.path(name));
+            emit dialog.currentChanged(home.path(row[0]));
             QCOMPARE(shown->text(), QString()); // at rest only
             QVERIFY(picture->pixmap(Qt::ReturnByValue).isNull());
-            if (!text.isEmpty())
-                QTRY_COMPARE(shown->text(), name + u'\n' + text);
-            QCOMPARE(picture->pixmap(Qt::ReturnByValue).size(), size);
+            if (!row[1].isEmpty())
+                QTRY_COMPARE(shown->text(), row[0] + u'\n' + row[1]);
+            const QSize size = picture->pixmap(Qt::ReturnByValue).size();
+            QCOMPARE("%1 × %2"_s.arg(size.width()).arg(size.height()), row[2]);
         }
     }
 
