@@ -72,26 +72,22 @@ public:
         QElapsedTimer timer;
         timer.start();
         const QString search = "search --onlyvisible --all --pid %1 --name"_s.arg(process().processId());
-        m_window.clear();
-        while (m_window.isEmpty() && process().state() == QProcess::Running
+        QString window;
+        while (window.isEmpty() && process().state() == QProcess::Running
                && !timer.hasExpired(patienceMs)) {
-            m_window = xdotool(search.split(u' ') << title);
+            window = xdotool(search.split(u' ') << title);
             process().waitForFinished(20);
         }
-        if (!m_window.isEmpty())
-            xdotool({"windowfocus"_s, "--sync"_s, m_window});
-        return !m_window.isEmpty();
+        if (!window.isEmpty())
+            xdotool({"windowfocus"_s, "--sync"_s, window});
+        return !window.isEmpty();
     }
     /// Sends keys, in xdotool's names with blanks between them, to the window that has the focus.
     static void press(const char *keys)
     {
         xdotool((QLatin1String("key --clearmodifiers ") + QLatin1String(keys)).split(u' '));
     }
-    /// The title of the window last waited for.
-    QString title() const { return xdotool({"getwindowname"_s, m_window}); }
 
 private:
     static QString xdotool(const QStringList &arguments) { return output("xdotool"_s, arguments).trimmed(); }
-
-    QString m_window;
 };

@@ -78,15 +78,11 @@ public:
         QDirIterator files(path(), all, QDirIterator::Subdirectories);
         while (files.hasNext()) {
             const QFileInfo info(files.next());
-            lines.append(info.filePath());
-            if (info.isSymLink())
-                lines.last() += " -> "_s + info.symLinkTarget();
-            else if (info.isFile())
-                lines.last()
-                    += u' '
-                       + QLatin1String(
-                           QCryptographicHash::hash(read(info.filePath()), QCryptographicHash::Sha1).toHex())
-                       + u' ' + info.lastModified().toString(Qt::ISODateWithMs);
+            lines.append(info.filePath() + u'>' + info.symLinkTarget());
+            if (info.isFile() && !info.isSymLink())
+                lines.last() += QString::fromLatin1(
+                    QCryptographicHash::hash(read(info.filePath()), QCryptographicHash::Sha1).toHex()
+                    + info.lastModified().toString(Qt::ISODateWithMs).toLatin1());
         }
         lines.sort();
         return lines.join(u'\n');
