@@ -2,6 +2,7 @@
 #include "bridge/programs.h"
 #include "bridge/wallpaperpicture.h"
 #include "bridge/xsettings.h"
+#include "settings/wmcommands.h"
 #include "tests/support/rows.h"
 #include "tests/support/temporaryhome.h"
 #include "tests/support/testing.h"
@@ -59,6 +60,8 @@ private slots:
     {
         QCOMPARE(shellLine({"feh"_s, "#0a0"_s, ""_s, "it's $x"_s, "/a/b-c_d.e:f"_s}),
                  "feh '#0a0' '' 'it'\\''s $x' /a/b-c_d.e:f"_s);
+        QString part;
+        QVERIFY(!readUpdateCommand("QAZWM_UPDATE_VAL Key\n", &part, &part));
     }
 
 private:

@@ -80,7 +80,7 @@ private slots:
             QVERIFY(process.waitForFinished());
         }
         QProcess parent; // which never asks what became of its child
-        parent.start("/bin/bash"_s, {"-c"_s, "exec -a x \"$0\" 3600 & echo $!; exec sleep 3600"_s, program});
+        parent.start("/bin/bash"_s, {"-c"_s, "exec -a x \"$0\" 60 & echo $!; exec sleep 60"_s, program});
         QTRY_VERIFY(findInPS(file.constData()) && parent.canReadLine());
         QVERIFY(QFile::remove(program));
         QVERIFY(findInPS(file.constData()));
