@@ -3,6 +3,7 @@
 #include "platform/findwallpaperbyname.h"
 #include "platform/wallpapersizeforscreen.h"
 #include "tests/support/fakeprogram.h"
+#include "tests/support/rows.h"
 #include "tests/support/standarderror.h"
 #include "tests/support/temporaryhome.h"
 
@@ -92,15 +93,11 @@ private slots:
 
     void standardSizeIsTheNearestRatios()
     {
-        const int rows[][6] = {{1280, 1024, 1280, 1024, 5, 4}, {1024, 768, 1600, 1200, 4, 3},
-                               {3100, 2000, 2160, 1440, 3, 2}, {1440, 900, 1920, 1200, 16, 10},
-                               {1366, 768, 1920, 1080, 16, 9}, {3440, 1440, 2560, 1080, 21, 9},
-                               {1080, 1920, 1280, 1024, 5, 4}, {3840, 1080, 2560, 1080, 21, 9},
-                               {0, 0, 1280, 1024, 5, 4},       {2, 0, 1920, 1080, 16, 9}};
-        for (const auto &row : rows) {
+        // A screen's size, the standard size, and the ratio.
+        for (const QStringList &row : rowsOf("platform/screensizes.json"_s)) {
             int w1 = 0, h1 = 0, w2 = 0, h2 = 0;
-            WallpaperSizeForScreen(row[0], row[1], &w1, &h1, &w2, &h2);
-            QCOMPARE(QRect(w1, h1, w2, h2), QRect(row[2], row[3], row[4], row[5]));
+            WallpaperSizeForScreen(row[0].toInt(), row[1].toInt(), &w1, &h1, &w2, &h2);
+            QCOMPARE("%1 %2 %3 %4"_s.arg(w1).arg(h1).arg(w2).arg(h2), row.mid(2).join(u' '));
         }
     }
 
