@@ -80,7 +80,6 @@ void ConfigDialog::createPages()
         page->layout()->setContentsMargins(9, 9, 9, 9);
         pagesWidget->addWidget(page);
     }
-    connect(pagesWidget, &QStackedWidget::currentChanged, pagesWidget, &QWidget::updateGeometry);
     m_pageArea->setObjectName(QStringLiteral("pageArea"));
     m_pageArea->setFrameShape(QFrame::NoFrame);
     m_pageArea->setFocusPolicy(Qt::NoFocus);

@@ -146,6 +146,23 @@ private slots:
         QCOMPARE(choices, (QVector<int>{2, 3})); // Close can be cancelled, too
         QVERIFY(driver.isDone() && m_dialog->fileOpen() && m_dialog->fileSave());
     }
+
+    void whatCouldNotBeSavedKeepsTheWindowOpen()
+    {
+        QVERIFY(m_home->makeDirectory(".config/fontconfig/fonts.conf"_s));
+        open();
+        showPage("Fonts");
+        auto *mode = find<QComboBox>("aaComboBox");
+        mode->setFocus();
+        QTest::keyClick(mode, Qt::Key_Up);
+        verifyEdited(true);
+        ModalDriver driver;
+        driver.thenAnswer(QMessageBox::Ok);
+        driver.thenAnswer(QMessageBox::Cancel);
+        button(QDialogButtonBox::Ok)->click();
+        QVERIFY(driver.isDone() && m_dialog->isVisible());
+        QCOMPARE(driver.seen().constLast(), "Save ?|Save changes?"_s);
+    }
 };
 
 QTEST_MAIN(TestPages)
