@@ -1,7 +1,6 @@
 #include "pages/sounds/soundpage.h"
 #include "tests/support/fakeprogram.h"
 #include "tests/support/pageoverfile.h"
-#include "tests/support/rows.h"
 
 namespace {
 

@@ -2,7 +2,6 @@
 #include "pages/theme/themepage.h"
 #include "pages/theme/themesettings.h"
 #include "tests/support/pageoverfile.h"
-#include "tests/support/rows.h"
 #include "tests/support/samplethemes.h"
 
 namespace {

@@ -1,7 +1,6 @@
 #include "pages/wallpaper/wallpaperpage.h"
 #include "resources/registerresources.h"
 #include "tests/support/pageoverfile.h"
-#include "tests/support/rows.h"
 
 namespace {
 
@@ -48,8 +47,6 @@ struct Page : PageOverFile<WallpaperPage> {
     const ScopedEnvironment data{"QAZ_DATA_DIR", QFile::encodeName(home.path("data"_s))};
     QLineEdit *lineEdit = find<QLineEdit>("wallpaperLineEdit");
     QComboBox *position = find<QComboBox>("wallpaperPositionCombo");
-    QSpinBox *period = find<QSpinBox>("SlideShowSpinBox");
-    QCheckBox *onlyDesktop = find<QCheckBox>("wallpaperForCurrDesktopCheckBox");
     QPushButton *fileButton = find<QPushButton>("wallpaperSelectionBtn");
     QLabel *label = find<QLabel>("wallpaperPixmapLabel");
 };
