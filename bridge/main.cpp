@@ -67,7 +67,7 @@ bool readOptions(Options *options, QString *error)
     return error->isEmpty();
 }
 
-int signalPipe[2];
+int signalPipe[2] = {-1, -1};
 
 /// Next to nothing is safe in a signal handler: it wakes the event loop.
 void noteSignal(int number)
@@ -78,17 +78,22 @@ void noteSignal(int number)
     errno = before;
 }
 
-void handleSignals(Bridge *bridge)
+/// Signals wait for heedSignals() from now on: ended while it starts a program, the bridge would leave a child for ever.
+void catchSignals()
 {
     if (::pipe2(signalPipe, O_CLOEXEC | O_NONBLOCK) != 0)
         return;
+    for (const int number : {SIGTERM, SIGINT, SIGHUP})
+        std::signal(number, noteSignal);
+}
+
+void heedSignals(Bridge *bridge)
+{
     auto *notifier = new QSocketNotifier(signalPipe[0], QSocketNotifier::Read, bridge);
     QObject::connect(notifier, &QSocketNotifier::activated, bridge, [bridge] {
         for (char number{}; ::read(signalPipe[0], &number, 1) == 1;)
             number == SIGHUP ? bridge->applyAnew() : bridge->endSession();
     });
-    for (const int number : {SIGTERM, SIGINT, SIGHUP})
-        std::signal(number, noteSignal);
 }
 
 /// The exit status when the screen is not to be served.
@@ -110,6 +115,7 @@ std::optional<int> refusal(XConnection *x, const Options &options)
 
 int serve(const Options &options)
 {
+    catchSignals();
     XConnection x;
     if (const std::optional<int> status = refusal(&x, options))
         return *status;
@@ -123,7 +129,7 @@ int serve(const Options &options)
     Values values(options.themeFile);
     Programs programs(options);
     Bridge bridge({x, values, programs, options});
-    handleSignals(&bridge);
+    heedSignals(&bridge);
     return options.once && programs.isIdle() ? 0 : QCoreApplication::exec();
 }
 

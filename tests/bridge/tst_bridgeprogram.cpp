@@ -145,14 +145,17 @@ private slots:
                                 long(atom("_QAZWM_BRIDGE_S0")), long(owner)}));
         XSelectInput(display.get(), owner, StructureNotifyMask);
         XSync(display.get(), False);
-        BridgeProcess second({"--replace"_s});
+        for (int i = 0; i < 10; ++i) { // also while it starts its programs, a bridge ends orderly
+            BridgeProcess second({"--replace"_s});
+            QTRY_VERIFY(XPending(display.get()) > 0);
+            second.process().terminate();
+            QCOMPARE(second.exitCode(), 0);
+            XNextEvent(display.get(), &event);
+            if (i == 0)
+                QCOMPARE(event.type, DestroyNotify); // comes before the other one's announcement
+            XSync(display.get(), True);
+        }
         QCOMPARE(first.exitCode(), 0);
-        XNextEvent(display.get(), &event);
-        QCOMPARE(event.type, DestroyNotify); // comes before the other one's announcement
-        QVERIFY(XGetSelectionOwner(display.get(), atom("_QAZWM_BRIDGE_S0")) != owner);
-        own("_QAZWM_S0", true); // lets it start its programs before it ends
-        QCOMPARE(second.exitCode(), 0);
-        own("_QAZWM_S0", false);
     }
 
     void noChildOutlivesIt()
