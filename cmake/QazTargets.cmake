@@ -84,8 +84,9 @@ function(qaz_add_test name)
         COMMAND ${PROJECT_SOURCE_DIR}/tests/support/with-xvfb $<TARGET_FILE:${name}>)
     # A picture that is too large is no fault: the allocator says no, as it does without ASan.
     # No test draws with OpenGL, and the software driver loses memory when it is unloaded.
+    # Memory that nobody initialised is never by chance what was there before.
     set_tests_properties(${name} PROPERTIES ENVIRONMENT
-        "QT_XCB_GL_INTEGRATION=none;QAZ_DATA_DIR=${PROJECT_BINARY_DIR}/share/qaz;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/lsan.supp;ASAN_OPTIONS=allocator_may_return_null=1;${arg_EXTRA_ENVIRONMENT}")
+        "QT_XCB_GL_INTEGRATION=none;QAZ_DATA_DIR=${PROJECT_BINARY_DIR}/share/qaz;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/lsan.supp;ASAN_OPTIONS=allocator_may_return_null=1;MALLOC_PERTURB_=165;${arg_EXTRA_ENVIRONMENT}")
 endfunction()
 
 # qaz_add_benchmark(<name> SOURCES ... DEPENDS ...)
