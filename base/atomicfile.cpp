@@ -51,13 +51,12 @@ QString obstacleAt(const QByteArray &name)
 
 void copyExtendedAttributes(int from, int to)
 {
-    QByteArray names(XATTR_LIST_MAX, Qt::Uninitialized);
-    const ssize_t size = ::flistxattr(from, names.data(), XATTR_LIST_MAX); // -1 where there can't be any
-    QByteArray value(XATTR_SIZE_MAX, Qt::Uninitialized);
-    for (const QByteArray &name : names.left(int(size)).split('\0')) {
-        const ssize_t length = ::fgetxattr(from, name.constData(), value.data(), XATTR_SIZE_MAX);
+    char names[XATTR_LIST_MAX], value[XATTR_SIZE_MAX];
+    const ssize_t size = ::flistxattr(from, names, sizeof names); // -1 where there can't be any
+    for (const QByteArray &name : QByteArray(names, int(qMax(size, ssize_t(0)))).split('\0')) {
+        const ssize_t length = ::fgetxattr(from, name.constData(), value, sizeof value);
         if (length >= 0)
-            ::fsetxattr(to, name.constData(), value.constData(), size_t(length), 0);
+            ::fsetxattr(to, name.constData(), value, size_t(length), 0);
     }
 }
 

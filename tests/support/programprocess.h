@@ -73,8 +73,7 @@ public:
         timer.start();
         const QString search = "search --onlyvisible --all --pid %1 --name"_s.arg(process().processId());
         QString window;
-        while (window.isEmpty() && process().state() == QProcess::Running
-               && !timer.hasExpired(patienceMs)) {
+        while (window.isEmpty() && process().state() == QProcess::Running && !timer.hasExpired(patienceMs)) {
             window = xdotool(search.split(u' ') << title);
             process().waitForFinished(20);
         }

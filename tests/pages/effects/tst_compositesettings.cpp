@@ -52,7 +52,7 @@ struct CompositePage : PageOverFile<EffectPage> {
         else if (what == "set"_s)
             for (int i = 0; i < boxes.size(); ++i)
                 page.findChild<QWidget *>(boxes[i])->setProperty("checked", text.at(i) == u'+');
-        else if (const QString result = PageOverFile::outcome(step, boxes.join(u' '));
+        else if (QString result = PageOverFile::outcome(step, boxes.join(u' '));
                  what == "load"_s || what == "save"_s)
             return result + u' ' + QString::fromLatin1(content()).remove(start);
         else
